@@ -1,0 +1,19 @@
+#include "cobol/AlphanumericImpl.h"
+
+#include "cobol/DDVocabulary.h"
+#include "xml/WordTable.h"
+
+AS_DEFINE_IDENTITY2(CAlphanumericImpl, as::IAlphanumeric, CDataItemImpl)
+
+namespace {
+
+constexpr WordCode justifications[] = {{DD::right, as::IAlphanumeric::JUSTIFIED_RIGHT}};
+
+}  // namespace
+
+CAlphanumericImpl::CAlphanumericImpl(xercesc::DOMElement* element)
+    : CElementImpl(element), CDataItemImpl(element) {}
+
+CAlphanumericImpl::~CAlphanumericImpl() = default;
+
+int CAlphanumericImpl::getJustification() { return codeOfWord(justifications, wide(DD::justified), JUSTIFIED_LEFT); }

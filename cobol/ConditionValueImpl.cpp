@@ -1,0 +1,29 @@
+#include "cobol/ConditionValueImpl.h"
+
+#include "cobol/DDVocabulary.h"
+#include "xml/WordTable.h"
+
+AS_DEFINE_IDENTITY2(CConditionValueImpl, as::IConditionValue, CElementImpl)
+
+namespace {
+
+constexpr WordCode types[] = {
+    {DD::alphanumericConstant, as::IConditionValue::TYPE_CONSTANT},
+    {DD::numericConstant, as::IConditionValue::TYPE_CONSTANT},
+};
+
+}  // namespace
+
+CConditionValueImpl::CConditionValueImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
+
+CConditionValueImpl::~CConditionValueImpl() = default;
+
+int CConditionValueImpl::getType() {
+  return codeOfWord(types, getElement()->getLocalName(), TYPE_RANGE);
+}
+
+std::string CConditionValueImpl::getConstant() { return text(DD::value); }
+
+std::string CConditionValueImpl::getFrom() { return text(DD::from); }
+
+std::string CConditionValueImpl::getTo() { return text(DD::to); }

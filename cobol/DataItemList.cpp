@@ -1,0 +1,21 @@
+#include "cobol/DataItemList.h"
+
+#include "cobol/DataItemImpl.h"
+#include "xml/Assertion.h"
+
+AS_DEFINE_IDENTITY2(CDataItemList, as::IList, CList)
+
+CDataItemNodeFilter CDataItemNodeFilter::filter;
+
+CDataItemList::CDataItemList(xercesc::DOMElement* element, CGroupImpl* group)
+    : CElementImpl(element), CList(element), group_(group) {
+  setFilter(&CDataItemNodeFilter::filter);
+}
+
+CDataItemList::~CDataItemList() = default;
+
+void CDataItemList::onAddChild(CElementImpl* child) {
+  CDataItemImpl* const pDataItem = as::interface_cast<CDataItemImpl>(child);
+  AS_ASSERT(pDataItem, "DataItemImpl");
+  pDataItem->setParent(group_);
+}

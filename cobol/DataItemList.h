@@ -1,0 +1,35 @@
+// The data items of a section, a file or a group.
+#ifndef COBOL_DATAITEMLIST_H_
+#define COBOL_DATAITEMLIST_H_
+
+#include "cobol/DDVocabulary.h"
+#include "xml/List.h"
+#include "xml/LocalNameFilter.h"
+
+class CGroupImpl;
+
+// Knows neither "alphanumericEdited" nor "object": such elements are members of no list.
+class CDataItemNodeFilter
+    : public LocalNameFilter<DD::numeric, DD::alphanumeric, DD::group, DD::numericEdited,
+                             DD::pointer, DD::national, DD::cobolObject, DD::index> {
+ public:
+  static CDataItemNodeFilter filter;
+};
+
+class CDataItemList : virtual public as::IList, virtual public CList {
+ public:
+  // `group` is the group that the list belongs to, null for the list of a section or a file.
+  CDataItemList(xercesc::DOMElement* element, CGroupImpl* group);
+  ~CDataItemList() override;
+  AS_IDENTITY(CDataItemList)
+
+  // Makes the list's group the parent of the data item. Anything but a data item is a programming
+  // error that ends the process.
+  void onAddChild(CElementImpl* child) override;
+  using CList::setFilter;
+
+ private:
+  CGroupImpl* group_;
+};
+
+#endif  // COBOL_DATAITEMLIST_H_

@@ -1,0 +1,14 @@
+#include "cobol/EntryPointImpl.h"
+
+#include "cobol/DDVocabulary.h"
+
+AS_DEFINE_IDENTITY2(CEntryPointImpl, as::IEntryPoint, CList)
+
+CEntryPointImpl::CEntryPointImpl(xercesc::DOMElement* element)
+    : CElementImpl(element), CList(element) {}
+
+CEntryPointImpl::~CEntryPointImpl() = default;
+
+std::string CEntryPointImpl::getName() { return text(DD::name); }
+
+int CEntryPointImpl::getCallConv() { return integer(DD::callConvention); }

@@ -1,0 +1,26 @@
+// Builds the model of a data dictionary while its document is parsed.
+#ifndef COBOL_VORDDHANDLER_H_
+#define COBOL_VORDDHANDLER_H_
+
+#include "cobol/ProgramImpl.h"
+#include "xml/ElementHandler.h"
+
+class CVorDDHandler final : public CElementHandler {
+ public:
+  // Wraps the element by its local name alone. A name that is none of the dictionary's is a
+  // programming error that ends the process: the schema has let nothing else through.
+  void newElement(xercesc::DOMNode* node) override;
+  // Throws as::CASInvalidNamespaceException unless the root is in the dictionary namespace.
+  void startDocument(xercesc::DOMNode* root) override;
+  void endParse(xercesc::DOMDocument* document) override;
+
+  // The program, null until endParse() and when the root is none. The handler owns it until the
+  // caller takes it with takeProgram().
+  CProgramImpl* getProgram() const { return program_; }
+  std::unique_ptr<CProgramImpl> takeProgram();
+
+ private:
+  CProgramImpl* program_ = nullptr;
+};
+
+#endif  // COBOL_VORDDHANDLER_H_

@@ -1,0 +1,183 @@
+#include "frame/AgentServices.h"
+
+#include <cstdlib>
+#include <memory>
+#include <utility>
+
+#include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/TransService.hpp>
+#include <xercesc/util/XMLUniDefs.hpp>
+
+#include "as/CASException.h"
+#include "as/CASInvalidNamespaceException.h"
+#include "as/CASParseException.h"
+#include "as/Globals.h"
+#include "as/IProgram.h"
+#include "as/IService.h"
+#include "cobol/VorDDHandler.h"
+#include "frame/DelegatingHandler.h"
+#include "frame/InterfaceIdentities.h"
+#include "xml/Assertion.h"
+#include "xml/XMLParser.h"
+#include "xml/XStr.h"
+
+using xercesc::MemBufInputSource;
+using xercesc::XMLPlatformUtils;
+using xercesc::XMLTranscoder;
+using xercesc::XMLTransService;
+using xercesc::XMLUni;
+
+XMLTranscoder* gUTF8Transcoder = nullptr;
+
+// The identities first: their clean-ups must run after AtExit.
+int nXercesInitStatus = (registerInterfaceIdentities(), InitXerces());
+
+int InitXerces() {
+  try {
+    XMLPlatformUtils::Initialize();
+  } catch (...) {
+    return 0;
+  }
+  std::atexit(AtExit);
+  XMLTransService::Codes result = XMLTransService::Ok;
+  constexpr XMLSize_t blockSize = 4096;
+  gUTF8Transcoder = XMLPlatformUtils::fgTransService->makeNewTranscoderFor(
+      XMLUni::fgUTF8EncodingString, result, blockSize);
+  AS_ASSERT(result == XMLTransService::Ok, "AgentServices");
+  return 1;
+}
+
+void AtExit() {
+  delete gUTF8Transcoder;
+  gUTF8Transcoder = nullptr;
+  XMLPlatformUtils::Terminate();
+}
+
+namespace {
+
+constexpr char dictionaryFailure[] =
+    "An unexpected error occurred processing the data dictionary";
+constexpr char serviceFailure[] =
+    "An unexpected error occurred processing the service definition";
+constexpr char namespaceFailure[] =
+    "The parser encountered an unexpected or unsupported namespace";
+
+// Runs a request; whatever is thrown that is not one of the two expected failures becomes `text`.
+template <class Request>
+auto sortFailures(const char* text, const Request& request) -> decltype(request()) {
+  try {
+    return request();
+  } catch (const as::CASParseException&) {
+    throw;
+  } catch (const as::CASInvalidNamespaceException&) {
+    throw;
+  } catch (...) {
+    throw as::CASException(text);
+  }
+}
+
+}  // namespace
+
+struct CAgentServices::Source {
+  const char* id;
+  const unsigned char* buffer;  // Null for a file named id.
+  unsigned int length;
+
+  static Source file(const char* name) { return {name == nullptr ? "" : name, nullptr, 0}; }
+  static Source memory(const char* id, const unsigned char* buffer, unsigned int length) {
+    static const unsigned char nothing[1] = {0};
+    if (buffer == nullptr) return {id == nullptr ? "" : id, nothing, 0};
+    return {id == nullptr ? "" : id, buffer, length};
+  }
+
+  // Parses the source with `parser`, which drives `handler` and holds the document afterwards.
+  void parse(CXMLParser& parser, const std::string& schemaDirectory,
+             CElementHandler& handler) const {
+    parser.setSchemaLocation(schemaDirectory.c_str());
+    parser.setElementHandler(&handler);
+    CXStr name(id);
+    if (buffer == nullptr) {
+      parser.parse(static_cast<const XMLCh*>(name));
+    } else {
+      MemBufInputSource input(buffer, length, static_cast<const XMLCh*>(name));
+      parser.parse(&input);
+    }
+    // The handler goes after the request.
+    parser.setElementHandler(nullptr);
+  }
+};
+
+void CAgentServices::setSchemaLocation(const char* dir) {
+  schemaDirectory_ = dir == nullptr ? "" : dir;
+  // No character is both: a separator is appended whatever the directory ends in, and clients see
+  // it in the names of schema files. Reading the last character of nothing fails.
+  const char last = schemaDirectory_.at(schemaDirectory_.length() - 1);
+  if (last == '\\' && last == '/') return;
+  schemaDirectory_ += "/";
+}
+
+as::IProgram* CAgentServices::parseCobolDD(const char* file) {
+  return parseProgram(Source::file(file));
+}
+
+as::IProgram* CAgentServices::parseCobolDD(const char* id, const unsigned char* buf,
+                                           unsigned int len) {
+  return parseProgram(Source::memory(id, buf, len));
+}
+
+as::IService* CAgentServices::parseService(const char* file, bool loadProgram) {
+  return parseServiceDocument(Source::file(file), loadProgram);
+}
+
+as::IService* CAgentServices::parseService(const char* file, std::string& errorText,
+                                           bool loadProgram) {
+  return parseServiceDocument(Source::file(file), errorText, loadProgram);
+}
+
+as::IService* CAgentServices::parseService(const char* id, const unsigned char* buf,
+                                           unsigned int len, bool loadProgram) {
+  return parseServiceDocument(Source::memory(id, buf, len), loadProgram);
+}
+
+as::IService* CAgentServices::parseService(const char* id, const unsigned char* buf,
+                                           unsigned int len, std::string& errorText,
+                                           bool loadProgram) {
+  return parseServiceDocument(Source::memory(id, buf, len), errorText, loadProgram);
+}
+
+as::IProgram* CAgentServices::parseProgram(const Source& source) const {
+  return sortFailures(dictionaryFailure, [&]() -> as::IProgram* {
+    // The handler goes before the parser: what it releases may look at the document.
+    auto parser = std::make_unique<CXMLParser>();
+    CVorDDHandler handler;
+    source.parse(*parser, schemaDirectory_, handler);
+    std::unique_ptr<CProgramImpl> program = handler.takeProgram();
+    if (!program) return nullptr;
+    parser->keep(handler.releaseUnowned());
+    program->setParser(std::move(parser));
+    return as::interface_cast<as::IProgram>(program.release());
+  });
+}
+
+as::IService* CAgentServices::parseServiceDocument(const Source& source, bool /*loadProgram*/) {
+  return sortFailures(serviceFailure, [&]() -> as::IService* {
+    CXMLParser parser;
+    CDelegatingHandler handler;
+    source.parse(parser, schemaDirectory_, handler);
+    // Without a flavour to make one there is never a service.
+    return nullptr;
+  });
+}
+
+as::IService* CAgentServices::parseServiceDocument(const Source& source, std::string& errorText,
+                                                   bool loadProgram) {
+  try {
+    return parseServiceDocument(source, loadProgram);
+  } catch (const as::CASParseException& failure) {
+    errorText = failure.getErrorText();
+  } catch (const as::CASInvalidNamespaceException&) {
+    errorText = namespaceFailure;
+  }
+  return nullptr;
+}

@@ -1,0 +1,38 @@
+// The entry object: runs parse requests and sorts their failures.
+#ifndef FRAME_AGENTSERVICES_H_
+#define FRAME_AGENTSERVICES_H_
+
+#include <string>
+
+#include "as/IAgentServices.h"
+
+class CAgentServices : public as::IAgentServices {
+ public:
+  void setSchemaLocation(const char* dir) override;
+  as::IProgram* parseCobolDD(const char* file) override;
+  as::IService* parseService(const char* file, bool loadProgram) override;
+  as::IService* parseService(const char* file, std::string& errorText, bool loadProgram) override;
+  as::IProgram* parseCobolDD(const char* id, const unsigned char* buf, unsigned int len) override;
+  as::IService* parseService(const char* id, const unsigned char* buf, unsigned int len,
+                             bool loadProgram) override;
+  as::IService* parseService(const char* id, const unsigned char* buf, unsigned int len,
+                             std::string& errorText, bool loadProgram) override;
+
+ private:
+  // What a parse request reads: a file by name, or a buffer.
+  struct Source;
+
+  as::IProgram* parseProgram(const Source& source) const;
+  as::IService* parseServiceDocument(const Source& source, bool loadProgram);
+  as::IService* parseServiceDocument(const Source& source, std::string& errorText,
+                                     bool loadProgram);
+
+  std::string schemaDirectory_;
+};
+
+// Starts the XML parser library and creates the transcoder; 1 on success, 0 on failure.
+int InitXerces();
+// Deletes the transcoder and stops the XML parser library.
+void AtExit();
+
+#endif  // FRAME_AGENTSERVICES_H_

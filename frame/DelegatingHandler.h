@@ -1,0 +1,31 @@
+// Picks the flavour of a service document by its root's namespace and leaves the work to the
+// flavour's own handler.
+#ifndef FRAME_DELEGATINGHANDLER_H_
+#define FRAME_DELEGATINGHANDLER_H_
+
+#include <memory>
+
+#include "xml/ElementHandler.h"
+
+class CServiceImpl;
+
+class CDelegatingHandler : public CElementHandler {
+ public:
+  void newElement(xercesc::DOMNode* node) override;
+  void startElement(xercesc::DOMNode* node) override;
+  // Creates the delegate; throws as::CASInvalidNamespaceException when the root's namespace is that
+  // of no flavour. The plain service namespace is none either: a service has to say what it is.
+  void startDocument(xercesc::DOMNode* root) override;
+  void endParse(xercesc::DOMDocument* document) override;
+  virtual ~CDelegatingHandler();
+
+  // The service that the delegate built; null without a delegate.
+  CServiceImpl* getService() const;
+
+ private:
+  // Shared only so that each delegate is destroyed as what it is: handlers have no virtual
+  // destructor.
+  std::shared_ptr<CElementHandler> delegate_;
+};
+
+#endif  // FRAME_DELEGATINGHANDLER_H_

@@ -1,0 +1,18 @@
+// An alphanumeric edited item. Dictionaries hold none yet: the builder accepts no such element.
+#ifndef AS_IALPHANUMERICEDITED_H_
+#define AS_IALPHANUMERICEDITED_H_
+
+#include "as/IDataItem.h"
+
+namespace as {
+
+// Has no operations of its own.
+class AS_EXPORT IAlphanumericEdited : virtual public IDataItem {
+ public:
+  ~IAlphanumericEdited() override;
+  AS_RTTI(IAlphanumericEdited)
+};
+
+}  // namespace as
+
+#endif  // AS_IALPHANUMERICEDITED_H_

@@ -1,0 +1,58 @@
+// Dictionary documents for tests: wraps snippets into documents and parses them through the public
+// interface.
+#ifndef TESTS_SUPPORT_DICTIONARY_H_
+#define TESTS_SUPPORT_DICTIONARY_H_
+
+#include <memory>
+#include <string>
+
+#include "as/AgentServices.h"
+
+namespace test {
+
+inline constexpr char dictionaryNamespace[] =
+    "http://agentservices.example/schema/cobol/v2.0/vorcobol.xsd";
+
+// A dictionary document: the root with the namespace and the schema location, around `content`.
+inline std::string dictionary(const std::string& content) {
+  const std::string ns = dictionaryNamespace;
+  return "<program xmlns=\"" + ns +
+         "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:schemaLocation=\"" + ns +
+         " " + ns + "\" name=\"PAYROLL\">" + content + "</program>";
+}
+
+// The same around top-level data items.
+inline std::string dictionaryOf(const std::string& dataItems) {
+  return dictionary("<dataItems>" + dataItems + "</dataItems>");
+}
+
+// An entry object that validates against the shipped schemas.
+inline std::unique_ptr<as::IAgentServices> newServices() {
+  std::unique_ptr<as::IAgentServices> services(as::CAgentServicesFactory::CreateAgentServices());
+  services->setSchemaLocation(AS_SCHEMA_DIR);
+  return services;
+}
+
+// Parses `document` from memory; lets the library's exceptions through.
+inline std::unique_ptr<as::IProgram> parse(const std::string& document,
+                                           const char* id = "test.xml") {
+  return std::unique_ptr<as::IProgram>(newServices()->parseCobolDD(
+      id, reinterpret_cast<const unsigned char*>(document.data()),
+      static_cast<unsigned int>(document.size())));
+}
+
+// The member of `list` seen as T; null when there is none or it is no T.
+template <class T>
+T* itemOf(as::IList* list, int index) {
+  return as::interface_cast<T>(list->getItem(index));
+}
+
+// The program's top-level item number `index` seen as T.
+template <class T>
+T* topItem(as::IProgram& program, int index = 0) {
+  return itemOf<T>(program.getDataItems(), index);
+}
+
+}  // namespace test
+
+#endif  // TESTS_SUPPORT_DICTIONARY_H_

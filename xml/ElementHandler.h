@@ -1,0 +1,68 @@
+// What the validating parser drives while it builds a document: creates the document's wrappers.
+#ifndef XML_ELEMENTHANDLER_H_
+#define XML_ELEMENTHANDLER_H_
+
+#include <xercesc/dom/DOMDocument.hpp>
+#include <xercesc/dom/DOMNode.hpp>
+
+#include <memory>
+#include <vector>
+
+#include "xml/ElementImpl.h"
+
+// The wrappers of one parse that no model object owns.
+using WrapperPool = std::vector<std::unique_ptr<CElementImpl>>;
+
+// For a root R with children A and B the parser calls startDocument(R), startElement(R),
+// startElement(A), newElement(A), startElement(B), newElement(B), newElement(R), endParse(document):
+// wrappers are made from the leaves up, the root last.
+//
+// A handler serves one parse. It owns the wrappers that it made until the model is complete, so
+// that a parse that fails half-way releases them; what the model did not take in by then is handed
+// over with releaseUnowned(), to live as long as the document.
+class CElementHandler {
+ public:
+  CElementHandler(const CElementHandler&) = delete;
+  CElementHandler& operator=(const CElementHandler&) = delete;
+
+  // An element has ended. Creates its wrapper and binds it, if it needs one.
+  virtual void newElement(xercesc::DOMNode* node) = 0;
+  // An element has begun. Does nothing unless overridden.
+  virtual void startElement(xercesc::DOMNode* node);
+  // The root has begun: throws as::CASInvalidNamespaceException when its namespace is not the
+  // handler's. Does nothing unless overridden.
+  virtual void startDocument(xercesc::DOMNode* root);
+  // The document is complete and normalised: binds the root's wrapper to it and has the root
+  // collect its children.
+  virtual void endParse(xercesc::DOMDocument* document) = 0;
+
+ protected:
+  CElementHandler();
+  // Releases the wrappers that the model has not taken in. Not virtual: a handler is destroyed as
+  // what it is, or through CDelegatingHandler's own virtual destructor.
+  ~CElementHandler();
+
+  // Creates a wrapper of class Wrapper for `node`, an element, and binds it. The handler's until
+  // the model takes it in.
+  template <class Wrapper, class... Arguments>
+  void wrap(xercesc::DOMNode* node, Arguments... arguments) {
+    auto made = std::make_unique<Wrapper>(static_cast<xercesc::DOMElement*>(node), arguments...);
+    auto* const wrapper = as::interface_cast<CElementImpl>(made.get());
+    // The list that a wrapper may embed has bound itself in the meantime.
+    CElementImpl::bind(node, wrapper);
+    wrappers_.emplace_back(wrapper);
+    static_cast<void>(made.release());
+  }
+
+  // Binds the root's wrapper to the document and returns it; null when the root has none.
+  static CElementImpl* bindRoot(xercesc::DOMDocument* document);
+
+ public:
+  // The wrappers that the model did not take in, given away.
+  WrapperPool releaseUnowned();
+
+ private:
+  WrapperPool wrappers_;
+};
+
+#endif  // XML_ELEMENTHANDLER_H_

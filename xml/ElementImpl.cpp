@@ -1,0 +1,77 @@
+#include "xml/ElementImpl.h"
+
+#include <xercesc/dom/DOMDocument.hpp>
+#include <xercesc/util/XMLString.hpp>
+
+#include "xml/ElementChildren.h"
+#include "xml/Vocabulary.h"
+#include "xml/XStr.h"
+
+using xercesc::DOMElement;
+using xercesc::DOMNode;
+using xercesc::XMLString;
+
+AS_DEFINE_IDENTITY1(CElementImpl, as::IElement)
+
+CElementImpl::CElementImpl(DOMElement* element) : element_(element) {
+  if (element != nullptr) bind(element, this);
+}
+
+CElementImpl::~CElementImpl() = default;
+
+void* CElementImpl::getUserData() { return userData_; }
+
+void CElementImpl::setUserData(void* data) { userData_ = data; }
+
+std::string CElementImpl::getAttributeValue(const char* name) {
+  CXStr attribute(name);
+  if (attribute.isEmpty() || element_ == nullptr) return std::string();
+  return text(attribute);
+}
+
+void CElementImpl::collectChildren() {}
+
+CElementImpl* CElementImpl::getNamedChild(const XMLCh* localName) {
+  return wrapperOf(getNamedChild(element_, localName));
+}
+
+DOMNode* CElementImpl::getNamedChild(const DOMNode* node, const XMLCh* localName) {
+  if (node == nullptr) return nullptr;
+  ElementChildren children(node, nullptr);
+  while (DOMElement* const child = children.next()) {
+    if (XMLString::compareString(child->getLocalName(), localName) == 0) return child;
+  }
+  return nullptr;
+}
+
+CElementImpl* CElementImpl::getNamedParent(const XMLCh* localName) {
+  return wrapperOf(getNamedParent(element_, localName));
+}
+
+DOMNode* CElementImpl::getNamedParent(const DOMNode* /*node*/, const XMLCh* /*localName*/) {
+  return nullptr;
+}
+
+void CElementImpl::bind(DOMNode* node, CElementImpl* wrapper) {
+  node->setUserData(APIDATA_KEY, wrapper, nullptr);
+}
+
+CElementImpl* CElementImpl::wrapperOf(const DOMNode* node) {
+  return node == nullptr ? nullptr : static_cast<CElementImpl*>(node->getUserData(APIDATA_KEY));
+}
+
+CElementImpl* CElementImpl::rootOf(const DOMNode* node) {
+  return node == nullptr ? nullptr : wrapperOf(node->getOwnerDocument());
+}
+
+std::string CElementImpl::text(const XMLCh* attribute) const {
+  return CXStr(wide(attribute), false);
+}
+
+int CElementImpl::integer(const XMLCh* attribute) const { return CXStr(wide(attribute), false); }
+
+bool CElementImpl::truth(const XMLCh* attribute) const { return CXStr(wide(attribute), false); }
+
+const XMLCh* CElementImpl::wide(const XMLCh* attribute) const {
+  return element_->getAttribute(attribute);
+}

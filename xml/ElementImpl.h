@@ -1,0 +1,96 @@
+// The base of every wrapper: one model object around one DOM element.
+#ifndef XML_ELEMENTIMPL_H_
+#define XML_ELEMENTIMPL_H_
+
+#include <xercesc/dom/DOMElement.hpp>
+
+#include <string>
+
+#include "as/IElement.h"
+#include "xml/Identity.h"
+
+// Binding: a wrapped element carries its wrapper, seen as CElementImpl, as DOM user data under
+// APIDATA_KEY, and the document carries the root's wrapper. There is no user-data handler: the DOM
+// never calls back into the model.
+//
+// Ownership: a wrapper never owns DOM nodes; the document must outlive it. Its destructor leaves
+// the element's user data as it is, so wrappers are deleted only when a whole model goes.
+class CElementImpl : virtual public as::IElement {
+ public:
+  // Binds the wrapper to `element`, in place of any earlier one. A null element makes an unbound
+  // wrapper.
+  //
+  // A list that is a member of a model object wraps its owner's element and is constructed after
+  // the owner's CElementImpl: the link then points at the list. Whoever constructs a wrapper on an
+  // existing element therefore binds it once more when it is complete; see bind().
+  explicit CElementImpl(xercesc::DOMElement* element);
+  ~CElementImpl() override;
+  AS_IDENTITY(CElementImpl)
+
+  CElementImpl(const CElementImpl&) = delete;
+  CElementImpl& operator=(const CElementImpl&) = delete;
+
+  void* getUserData() override;
+  void setUserData(void* data) override;
+  std::string getAttributeValue(const char* name) override;
+
+  // Builds the lists that the object owns. Called once every wrapper of the document exists.
+  virtual void collectChildren();
+
+  // The wrapped element; null only for an unbound wrapper.
+  xercesc::DOMElement* getElement() const { return element_; }
+
+  // The wrapper of the first child element of that local name, in whatever namespace; null when
+  // there is no such child or it carries no wrapper.
+  CElementImpl* getNamedChild(const XMLCh* localName);
+  // The first child element of `node` of that local name; null when there is none.
+  static xercesc::DOMNode* getNamedChild(const xercesc::DOMNode* node, const XMLCh* localName);
+
+  // Both return null whatever they are given: the walk upwards is bounded by the node that it
+  // starts from. Kept for its callers' sake; nothing may rely on them to find an ancestor.
+  CElementImpl* getNamedParent(const XMLCh* localName);
+  static xercesc::DOMNode* getNamedParent(const xercesc::DOMNode* node, const XMLCh* localName);
+
+  // Binds `wrapper` to the node that it wraps, in place of any earlier one.
+  static void bind(xercesc::DOMNode* node, CElementImpl* wrapper);
+  // The wrapper bound to `node`; null when there is none and for a null node.
+  static CElementImpl* wrapperOf(const xercesc::DOMNode* node);
+  // The wrapper of the root of the document that `node` stands in; null when there is none.
+  static CElementImpl* rootOf(const xercesc::DOMNode* node);
+
+  // Whether some owner has taken the wrapper in. A wrapper that none did is released with its
+  // document (see CElementHandler).
+  bool isOwned() const { return owned_; }
+  void setOwned() { owned_ = true; }
+
+ protected:
+  // The value of an attribute as text, integer and truth (CXStr's conversions).
+  std::string text(const XMLCh* attribute) const;
+  int integer(const XMLCh* attribute) const;
+  bool truth(const XMLCh* attribute) const;
+  // The value as it stands in the DOM; empty, never null, for an absent attribute.
+  const XMLCh* wide(const XMLCh* attribute) const;
+
+  // Takes the list that wraps the child of that name into the caller's ownership, keeps it in
+  // `member` and has it collect its members. A missing child, or one whose wrapper is no such list,
+  // leaves `member` as it is. Doing it again finds the same list.
+  template <class List>
+  void collectNamedList(const XMLCh* localName, List*& member) {
+    CElementImpl* const child = getNamedChild(localName);
+    List* const list = as::interface_cast<List>(child);
+    if (list == nullptr) return;
+    member = list;
+    child->setOwned();
+    list->collectChildren();
+  }
+
+  // For a list that shows the children of an element without being its wrapper.
+  void pointAt(xercesc::DOMElement* element) { element_ = element; }
+
+ private:
+  void* userData_ = nullptr;
+  xercesc::DOMElement* element_;
+  bool owned_ = false;
+};
+
+#endif  // XML_ELEMENTIMPL_H_

@@ -1,0 +1,56 @@
+#include "xml/List.h"
+
+#include <algorithm>
+
+#include "xml/ElementChildren.h"
+
+using xercesc::DOMElement;
+
+AS_DEFINE_IDENTITY2(CList, as::IList, CElementImpl)
+
+CList CList::emptyList(nullptr);
+
+CList::CList(DOMElement* element) : CElementImpl(element) {}
+
+CList::~CList() {
+  // An element may be in the list more than once; its wrapper goes only once.
+  std::sort(nodes_.begin(), nodes_.end());
+  nodes_.erase(std::unique(nodes_.begin(), nodes_.end()), nodes_.end());
+  for (DOMElement* const node : nodes_) delete wrapperOf(node);
+}
+
+int CList::getLength() { return static_cast<int>(nodes_.size()); }
+
+as::IElement* CList::getItem(int index) {
+  if (index < 0 || index >= getLength() || getNode(index) == nullptr) return nullptr;
+  return as::interface_cast<as::IElement>(getElement(index));
+}
+
+void CList::collectChildren() { addChildren(); }
+
+void CList::onAddChild(CElementImpl* /*child*/) {}
+
+DOMElement* CList::getNode(int index) const { return nodes_[static_cast<std::size_t>(index)]; }
+
+CElementImpl* CList::getElement(int index) const { return wrapperOf(getNode(index)); }
+
+void CList::addChildren() {
+  ElementChildren children(getElement(), filter_);
+  while (DOMElement* const child = children.next()) {
+    nodes_.push_back(child);
+    CElementImpl* const wrapper = wrapperOf(child);
+    wrapper->setOwned();
+    onAddChild(wrapper);
+    wrapper->collectChildren();
+  }
+}
+
+void CList::addChild(DOMElement* child) {
+  getElement()->appendChild(child);
+  nodes_.push_back(child);
+  wrapperOf(child)->setOwned();
+}
+
+as::IList* CList::orEmpty(CList* list) {
+  return as::interface_cast<as::IList>(list != nullptr ? list : &emptyList);
+}

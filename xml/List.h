@@ -1,0 +1,58 @@
+// The one list of the model: those children of an element that a filter accepts.
+#ifndef XML_LIST_H_
+#define XML_LIST_H_
+
+#include <xercesc/dom/DOMNodeFilter.hpp>
+
+#include <vector>
+
+#include "as/IList.h"
+#include "xml/ElementImpl.h"
+
+// A list wraps an element, often that of the object it belongs to. It is filled once, when its
+// owner collects its children, and grows afterwards only through addChild().
+//
+// A list owns the wrappers of its members and deletes them; the elements belong to the document.
+class CList : virtual public as::IList, virtual public CElementImpl {
+ public:
+  // Empty, and with no filter: filled, it holds every child element.
+  explicit CList(xercesc::DOMElement* element);
+  ~CList() override;
+  AS_IDENTITY(CList)
+
+  int getLength() override;
+  as::IElement* getItem(int index) override;
+  void collectChildren() override;
+
+  // Called for every member as the list is filled.
+  virtual void onAddChild(CElementImpl* child);
+
+  // REQUIRES (both): 0 <= index < getLength().
+  xercesc::DOMElement* getNode(int index) const;
+  CElementImpl* getElement(int index) const;
+  using CElementImpl::getElement;
+
+  // Appends every child element that the filter accepts, in document order, each with its own
+  // children collected before the next. REQUIRES: each of them carries its wrapper.
+  // Calling it again appends them all again.
+  void addChildren();
+
+  // Appends `child` to the list's element and to the list. Its wrapper exists and has collected
+  // its children already.
+  void addChild(xercesc::DOMElement* child);
+
+  // The list that stands for an absent one. Its length is 0, it wraps nothing.
+  static CList emptyList;
+  // `list` as the interface, the empty list for null.
+  static as::IList* orEmpty(CList* list);
+
+ protected:
+  // Which children are members; null for all. Not owned.
+  void setFilter(const xercesc::DOMNodeFilter* filter) { filter_ = filter; }
+
+ private:
+  std::vector<xercesc::DOMElement*> nodes_;
+  const xercesc::DOMNodeFilter* filter_ = nullptr;
+};
+
+#endif  // XML_LIST_H_

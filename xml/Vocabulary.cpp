@@ -1,0 +1,3 @@
+#include "xml/Vocabulary.h"
+
+const XMLCh APIDATA_KEY[] = u"ASAPI";

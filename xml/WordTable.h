@@ -1,0 +1,24 @@
+// Tables of an attribute's words and their codes: how enumerations are read and written.
+#ifndef XML_WORDTABLE_H_
+#define XML_WORDTABLE_H_
+
+#include <xercesc/util/XMLString.hpp>
+
+#include <cstddef>
+
+// One row: the text in the document and the code in the interface.
+struct WordCode {
+  const XMLCh* word;
+  int code;
+};
+
+// The code of the first row whose word equals `text` exactly; `fallback` when there is none.
+template <std::size_t N>
+int codeOfWord(const WordCode (&table)[N], const XMLCh* text, int fallback) {
+  for (const WordCode& row : table) {
+    if (xercesc::XMLString::equals(row.word, text)) return row.code;
+  }
+  return fallback;
+}
+
+#endif  // XML_WORDTABLE_H_

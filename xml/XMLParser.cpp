@@ -1,0 +1,250 @@
+#include "xml/XMLParser.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <climits>
+#include <utility>
+
+#include <xercesc/framework/LocalFileInputSource.hpp>
+#include <xercesc/framework/XMLBuffer.hpp>
+#include <xercesc/framework/XMLElementDecl.hpp>
+#include <xercesc/internal/XMLScanner.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/XMLString.hpp>
+#include <xercesc/util/XMLURL.hpp>
+#include <xercesc/util/XMLUri.hpp>
+#include <xercesc/validators/DTD/DTDEntityDecl.hpp>
+
+#include "as/CASInvalidNamespaceException.h"
+#include "xml/XStr.h"
+
+using xercesc::DOMNode;
+using xercesc::DTDEntityDecl;
+using xercesc::InputSource;
+using xercesc::LocalFileInputSource;
+using xercesc::Locator;
+using xercesc::MemBufInputSource;
+using xercesc::RefVectorOf;
+using xercesc::SAXParseException;
+using xercesc::XMLAttr;
+using xercesc::XMLBuffer;
+using xercesc::XMLElementDecl;
+using xercesc::XMLErrorReporter;
+using xercesc::XMLPlatformUtils;
+using xercesc::XMLResourceIdentifier;
+using xercesc::XMLString;
+using xercesc::XMLUri;
+using xercesc::XMLURL;
+
+namespace {
+
+std::string narrow(const XMLCh* text) { return CXStr(text, false); }
+
+int position(XMLFileLoc at) {
+  return static_cast<int>(std::min<XMLFileLoc>(at, static_cast<XMLFileLoc>(INT_MAX)));
+}
+
+// What kind of place the parser would read from.
+enum class Place { network, regularFile, specialFile };
+
+Place placeOfFile(const XMLCh* path) {
+  struct stat status = {};
+  if (::stat(narrow(path).c_str(), &status) != 0) return Place::regularFile;  // Its absence is told.
+  return S_ISREG(status.st_mode) ? Place::regularFile : Place::specialFile;
+}
+
+// The path of a file URL, with its escapes (%41) resolved as the parser resolves them.
+std::basic_string<XMLCh> unescaped(const XMLCh* path) {
+  std::basic_string<XMLCh> result;
+  const auto hexDigit = [](XMLCh c) {
+    const XMLCh lower = static_cast<XMLCh>(c | 0x20);
+    if (c >= u'0' && c <= u'9') return c - u'0';
+    return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
+  };
+  for (; path != nullptr && *path != 0; ++path) {
+    const int high = *path == u'%' ? hexDigit(path[1]) : -1;
+    const int low = high < 0 ? -1 : hexDigit(path[2]);
+    if (low < 0) {
+      result += *path;
+    } else {
+      result += static_cast<XMLCh>(high * 16 + low);
+      path += 2;
+    }
+  }
+  return result;
+}
+
+// Decides as the parser does what `systemId` names in a document named `base` (null for none): a
+// URL, by itself or counted from a base that is one, or else a file.
+Place placeOf(const XMLCh* base, const XMLCh* systemId) {
+  XMLURL url(XMLPlatformUtils::fgMemoryManager);
+  if (!url.setURL(base, systemId, url) || url.isRelative()) {
+    XMLBuffer path;
+    XMLUri::normalizeURI(systemId, path);
+    if (base == nullptr) return placeOfFile(path.getRawBuffer());
+    return placeOfFile(LocalFileInputSource(base, path.getRawBuffer()).getSystemId());
+  }
+  const XMLCh* const host = url.getHost();
+  const bool local = url.getProtocol() == XMLURL::File &&
+                     (host == nullptr || *host == 0 || XMLString::equals(host, u"localhost"));
+  return local ? placeOfFile(unescaped(url.getPath()).c_str()) : Place::network;
+}
+
+// The document named by a parse request: a client may name whatever file it likes.
+bool isNetworkName(const XMLCh* systemId) { return placeOf(nullptr, systemId) == Place::network; }
+
+bool isSchemaReference(const XMLResourceIdentifier& reference) {
+  switch (reference.getResourceIdentifierType()) {
+    case XMLResourceIdentifier::SchemaGrammar:
+    case XMLResourceIdentifier::SchemaImport:
+    case XMLResourceIdentifier::SchemaInclude:
+    case XMLResourceIdentifier::SchemaRedefine:
+      return true;
+    default:
+      return false;
+  }
+}
+
+// Parses as nothing: stands in for what was refused.
+InputSource* emptySource() {
+  static const XMLByte nothing[1] = {0};
+  return new MemBufInputSource(nothing, 0, u"refused");
+}
+
+}  // namespace
+
+CXMLParser::CXMLParser() { limits_.setEntityExpansionLimit(maxEntityExpansions); }
+
+CXMLParser::~CXMLParser() = default;
+
+void CXMLParser::parse(const XMLCh* systemId) {
+  if (systemId == nullptr) systemId = u"";
+  if (isNetworkName(systemId)) {
+    const std::string name = narrow(systemId);
+    throw as::CASParseException(
+        0, 0, 0, "the document '" + name + "' is refused: documents are not read over a network",
+        std::string(), name);
+  }
+  run(systemId);
+}
+
+void CXMLParser::parse(MemBufInputSource* source) { run(*source); }
+
+template <class Source>
+void CXMLParser::run(const Source& source) {
+  setValidationScheme(Val_Always);
+  setEntityResolver(&resolver_);
+  setErrorHandler(this);
+  setDoSchema(true);
+  setDoNamespaces(true);
+  setSecurityManager(&limits_);
+  // The text of an entity counts as if it stood in its place, so that no list passes over it.
+  setCreateEntityReferenceNodes(false);
+  try {
+    XercesDOMParser::parse(source);
+  } catch (const as::CASParseException&) {
+    throw;
+  } catch (const as::CASInvalidNamespaceException&) {
+    throw;
+  } catch (...) {  // NOLINT(bugprone-empty-catch)
+    // The caller finds what the handler had built until then.
+  }
+  if (firstMessage_) throw as::CASParseException(*firstMessage_);
+}
+
+void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int uriId,
+                              const XMLCh* prefix, const RefVectorOf<XMLAttr>& attributes,
+                              XMLSize_t attributeCount, bool isEmpty, bool isRoot) {
+  // For an empty element the base class would end it from here, in front of the handler's start.
+  XercesDOMParser::startElement(declaration, uriId, prefix, attributes, attributeCount, false,
+                                isRoot);
+  DOMNode* const element = getCurrentNode();
+  if (isRoot) {
+    if (handler_ != nullptr) handler_->startDocument(element);
+    rootSeen_ = true;
+    if (firstMessage_) throw as::CASParseException(*firstMessage_);
+  }
+  // A DTD in the document, or a wildcard in a schema, may let elements in that no schema has
+  // looked at: the handlers rely on the schema.
+  if (declaration.getObjectType() != XMLElementDecl::Schema || !declaration.isDeclared()) {
+    refuse("no schema declares the element '" + narrow(element->getNodeName()) + "'");
+  }
+  if (++depth_ > maxDepth) {
+    refuse("elements are nested deeper than " + std::to_string(maxDepth) + " levels");
+  }
+  if (handler_ != nullptr) handler_->startElement(element);
+  if (isEmpty) endElement(declaration, uriId, isRoot, prefix);
+}
+
+void CXMLParser::endElement(const XMLElementDecl& declaration, unsigned int uriId, bool isRoot,
+                            const XMLCh* prefix) {
+  XercesDOMParser::endElement(declaration, uriId, isRoot, prefix);
+  --depth_;
+  if (handler_ != nullptr) handler_->newElement(getCurrentNode());
+}
+
+void CXMLParser::endDocument() {
+  XercesDOMParser::endDocument();
+  xercesc::DOMDocument* const document = getDocument();
+  document->normalize();
+  if (handler_ != nullptr) handler_->endParse(document);
+}
+
+void CXMLParser::entityDecl(const DTDEntityDecl& entity, bool isParameterEntity, bool isIgnored) {
+  if (entity.getValueLen() > maxEntityLength) {
+    refuse("the entity '" + narrow(entity.getName()) + "' is longer than " +
+           std::to_string(maxEntityLength) + " characters");
+  }
+  XercesDOMParser::entityDecl(entity, isParameterEntity, isIgnored);
+}
+
+void CXMLParser::error(unsigned int code, const XMLCh* /*domain*/,
+                       XMLErrorReporter::ErrTypes /*type*/, const XMLCh* text,
+                       const XMLCh* systemId, const XMLCh* publicId, XMLFileLoc line,
+                       XMLFileLoc column) {
+  report(as::CASParseException(static_cast<int>(code), position(line), position(column),
+                               narrow(text), narrow(publicId), narrow(systemId)));
+}
+
+InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
+  const XMLCh* const systemId = reference->getSystemId();
+  const std::string name = narrow(systemId);
+  if (!isSchemaReference(*reference)) {
+    refuse("the external entity '" + name + "' is refused: documents must be complete in themselves");
+    return emptySource();
+  }
+  if (InputSource* const local = resolver_.resolveEntity(reference->getPublicId(), systemId)) {
+    return local;
+  }
+  switch (placeOf(reference->getBaseURI(), systemId)) {
+    case Place::network:
+      refuse("the schema '" + name + "' is refused: schemas are not read over a network");
+      return emptySource();
+    case Place::specialFile:
+      refuse("the schema '" + name + "' is refused: it is no regular file");
+      return emptySource();
+    case Place::regularFile:
+      break;
+  }
+  return nullptr;
+}
+
+void CXMLParser::warning(const SAXParseException& /*exception*/) {}
+
+void CXMLParser::error(const SAXParseException& /*exception*/) {}
+
+void CXMLParser::fatalError(const SAXParseException& /*exception*/) {}
+
+void CXMLParser::resetErrors() {}
+
+void CXMLParser::report(as::CASParseException message) {
+  if (rootSeen_) throw as::CASParseException(message);
+  if (!firstMessage_) firstMessage_ = std::move(message);
+}
+
+void CXMLParser::refuse(const std::string& text) {
+  const Locator* const at = getScanner()->getLocator();
+  report(as::CASParseException(0, position(at->getLineNumber()), position(at->getColumnNumber()),
+                               text, narrow(at->getPublicId()), narrow(at->getSystemId())));
+}
