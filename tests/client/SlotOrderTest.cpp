@@ -3,7 +3,6 @@
 // built before. The lists below are the promise; the headers have to follow them.
 #include <gtest/gtest.h>
 
-#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <initializer_list>
