@@ -72,20 +72,23 @@ std::string replaceMalformed(std::string_view text) {
   return result;
 }
 
-// The XMLCh rendering of `text`, which includes its terminating zero. Throws the transcoder's
-// exception on malformed text.
+// The XMLCh rendering of `text`, which includes its terminating zero; null for malformed text.
 std::unique_ptr<XMLCh[]> transcode(std::string_view text) {
   const std::size_t capacity = 2 * text.size() + 1;
   std::unique_ptr<XMLCh[]> wide(new XMLCh[capacity]);
   Scratch<unsigned char> charSizes(capacity);
   std::size_t filled = 0;
-  // The transcoder may stop short of the end, in front of a sequence that it is going to refuse.
+  // The transcoder may stop short of a sequence that it would refuse, or refuse it at once.
   while (!text.empty()) {
     XMLSize_t eaten = 0;
-    filled += gUTF8Transcoder->transcodeFrom(reinterpret_cast<const XMLByte*>(text.data()),
-                                             text.size(), wide.get() + filled, capacity - filled,
-                                             eaten, charSizes.get());
-    if (eaten == 0) break;
+    try {
+      filled += gUTF8Transcoder->transcodeFrom(reinterpret_cast<const XMLByte*>(text.data()),
+                                               text.size(), wide.get() + filled, capacity - filled,
+                                               eaten, charSizes.get());
+    } catch (const XMLException&) {
+      return nullptr;
+    }
+    if (eaten == 0) return nullptr;
     text.remove_prefix(eaten);
   }
   wide[filled] = 0;
@@ -174,9 +177,6 @@ void CXStr::renderWide() const {
   wide_.reset();
   if (!text_) return;
   const std::string_view text(text_.get(), std::strlen(text_.get()) + 1);
-  try {
-    wide_ = transcode(text);
-  } catch (const XMLException&) {
-    wide_ = transcode(replaceMalformed(text));
-  }
+  wide_ = transcode(text);
+  if (!wide_) wide_ = transcode(replaceMalformed(text));
 }
