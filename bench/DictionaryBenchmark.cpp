@@ -2,15 +2,12 @@
 // counts are the ratios to the bare XML parser reading and validating the same document in the same
 // run, and how time and memory per item develop with size.
 #include <benchmark/benchmark.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <malloc.h>
 
 #include <chrono>
 #include <cstdlib>
 #include <memory>
 #include <string>
-
 #include <xercesc/framework/LocalFileInputSource.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
@@ -39,12 +36,13 @@ std::string dictionary(long count) {
               "\" picture=\"X(10)\" length=\"10\" offset=\"" + std::to_string(8 + 10 * field) +
               "\"/>\n";
     }
-    text += "  <numeric name=\"STATE\" picture=\"9\" length=\"1\" digits=\"1\" offset=\"68\">\n"
-            "    <numericCondition name=\"CLOSED\"><numericConstant value=\"9\"/>"
-            "</numericCondition>\n  </numeric>\n"
-            "  <numeric name=\"AMOUNT\" picture=\"S9(7)V99\" usage=\"comp-3\" sign=\"true\" "
-            "length=\"5\" digits=\"9\" alignment=\"2\" minOccurs=\"1\" maxOccurs=\"1\" "
-            "offset=\"69\"/>\n</group>\n";
+    text +=
+        "  <numeric name=\"STATE\" picture=\"9\" length=\"1\" digits=\"1\" offset=\"68\">\n"
+        "    <numericCondition name=\"CLOSED\"><numericConstant value=\"9\"/>"
+        "</numericCondition>\n  </numeric>\n"
+        "  <numeric name=\"AMOUNT\" picture=\"S9(7)V99\" usage=\"comp-3\" sign=\"true\" "
+        "length=\"5\" digits=\"9\" alignment=\"2\" minOccurs=\"1\" maxOccurs=\"1\" "
+        "offset=\"69\"/>\n</group>\n";
   }
   return text + "</dataItems>\n</program>\n";
 }
@@ -59,7 +57,7 @@ std::unique_ptr<as::IProgram> parse(const std::string& text) {
 }
 
 // The XML parser alone: the same document read into a DOM tree and validated.
-void parseBare(const std::string& text) {
+std::unique_ptr<xercesc::XercesDOMParser> parseBare(const std::string& text) {
   class Resolver : public xercesc::EntityResolver {
     xercesc::InputSource* resolveEntity(const XMLCh* /*publicId*/,
                                         const XMLCh* /*systemId*/) override {
@@ -69,40 +67,23 @@ void parseBare(const std::string& text) {
       return source;
     }
   } resolver;
-  xercesc::XercesDOMParser parser;
-  parser.setEntityResolver(&resolver);
-  parser.setValidationScheme(xercesc::XercesDOMParser::Val_Always);
-  parser.setDoNamespaces(true);
-  parser.setDoSchema(true);
+  auto parser = std::make_unique<xercesc::XercesDOMParser>();
+  parser->setEntityResolver(&resolver);
+  parser->setValidationScheme(xercesc::XercesDOMParser::Val_Always);
+  parser->setDoNamespaces(true);
+  parser->setDoSchema(true);
   const xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(text.data()),
                                           text.size(), "bare");
-  parser.parse(source);
-  if (parser.getErrorCount() != 0) std::abort();
+  parser->parse(source);
+  if (parser->getErrorCount() != 0) std::abort();
+  parser->setEntityResolver(nullptr);
+  return parser;
 }
 
-// The highest resident size, in bytes, that `work` adds in a process of its own.
-template <class Work>
-double peakMemory(const Work& work) {
-  int ends[2];
-  if (::pipe(ends) != 0) std::abort();
-  const pid_t child = ::fork();
-  if (child == 0) {
-    rusage usage = {};
-    ::getrusage(RUSAGE_SELF, &usage);
-    const long before = usage.ru_maxrss;
-    work();
-    ::getrusage(RUSAGE_SELF, &usage);
-    const double bytes = 1024.0 * static_cast<double>(usage.ru_maxrss - before);
-    const bool told = ::write(ends[1], &bytes, sizeof bytes) == sizeof bytes;
-    ::_exit(told ? 0 : 1);
-  }
-  double bytes = 0;
-  const bool read = ::read(ends[0], &bytes, sizeof bytes) == sizeof bytes;
-  ::close(ends[0]);
-  ::close(ends[1]);
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  return read ? bytes : -1;
+// What the heap holds, in bytes.
+double heap() {
+  const struct mallinfo2 info = ::mallinfo2();
+  return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
 void parseDictionary(benchmark::State& state) {
@@ -121,11 +102,13 @@ void parseDictionary(benchmark::State& state) {
     bare += std::chrono::duration<double>(end - middle).count();
     state.SetIterationTime(ownTime.count());
   }
-  state.counters["us_per_item"] =
-      1e6 * own / items / static_cast<double>(state.iterations());
+  state.counters["us_per_item"] = 1e6 * own / items / static_cast<double>(state.iterations());
   state.counters["time_to_bare"] = own / bare;
-  const double ownMemory = peakMemory([&] { parse(text); });
-  const double bareMemory = peakMemory([&] { parseBare(text); });
+  const double before = heap();
+  const std::unique_ptr<as::IProgram> program = parse(text);
+  const double ownMemory = heap() - before;
+  const std::unique_ptr<xercesc::XercesDOMParser> bareParser = parseBare(text);
+  const double bareMemory = heap() - before - ownMemory;
   state.counters["bytes_per_item"] = ownMemory / items;
   state.counters["memory_to_bare"] = ownMemory / bareMemory;
 }

@@ -16,4 +16,6 @@ CAlphanumericImpl::CAlphanumericImpl(xercesc::DOMElement* element)
 
 CAlphanumericImpl::~CAlphanumericImpl() = default;
 
-int CAlphanumericImpl::getJustification() { return codeOfWord(justifications, wide(DD::justified), JUSTIFIED_LEFT); }
+int CAlphanumericImpl::getJustification() {
+  return codeOfWord(justifications, wide(DD::justified), JUSTIFIED_LEFT);
+}

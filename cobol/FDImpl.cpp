@@ -4,8 +4,7 @@
 
 AS_DEFINE_IDENTITY2(CFDImpl, as::IFD, CElementImpl)
 
-CFDImpl::CFDImpl(xercesc::DOMElement* element)
-    : CElementImpl(element) {}
+CFDImpl::CFDImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
 
 CFDImpl::~CFDImpl() { delete dataItems_; }
 

@@ -11,6 +11,8 @@ CGroupImpl::~CGroupImpl() = default;
 
 as::IList* CGroupImpl::getChildren() { return &children_; }
 
-void CGroupImpl::collectChildren() { CDataItemImpl::collectChildren();
+void CGroupImpl::collectChildren() {
+  CDataItemImpl::collectChildren();
   children_.setFilter(&CDataItemNodeFilter::filter);
-  children_.addChildren(); }
+  children_.addChildren();
+}

@@ -16,8 +16,7 @@ constexpr WordCode byTypes[] = {
 
 }  // namespace
 
-CLinkageItemImpl::CLinkageItemImpl(xercesc::DOMElement* element)
-    : CElementImpl(element) {}
+CLinkageItemImpl::CLinkageItemImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
 
 CLinkageItemImpl::~CLinkageItemImpl() = default;
 

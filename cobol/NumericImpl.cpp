@@ -20,10 +20,8 @@ constexpr WordCode usages[] = {
 };
 
 constexpr WordCode signs[] = {
-    {DD::li, as::INumeric::SIGN_LEADING},
-    {DD::ls, as::INumeric::SIGN_LEADING_SEPARATE},
-    {DD::ti, as::INumeric::SIGN_TRAILING},
-    {DD::ts, as::INumeric::SIGN_TRAILING_SEPARATE},
+    {DD::li, as::INumeric::SIGN_LEADING},   {DD::ls, as::INumeric::SIGN_LEADING_SEPARATE},
+    {DD::ti, as::INumeric::SIGN_TRAILING},  {DD::ts, as::INumeric::SIGN_TRAILING_SEPARATE},
     {DD::true_, as::INumeric::SIGN_SIGNED},
 };
 

@@ -1,7 +1,6 @@
 #include "cobol/VorDDHandler.h"
 
 #include <utility>
-
 #include <xercesc/util/XMLString.hpp>
 
 #include "as/CASInvalidNamespaceException.h"
@@ -33,8 +32,10 @@ void CVorDDHandler::newElement(DOMNode* node) {
     const XMLCh* localName;
     void (*wrapElement)(CVorDDHandler&, DOMNode*);
   } wrappers[] = {
-#define DD_WRAPPER(name, Wrapper) \
-  {DD::name, [](CVorDDHandler& handler, DOMNode* element) { handler.wrap<Wrapper>(element); }}
+#define DD_WRAPPER(name, Wrapper)                                                              \
+  {                                                                                            \
+    DD::name, [](CVorDDHandler& handler, DOMNode* element) { handler.wrap<Wrapper>(element); } \
+  }
       DD_WRAPPER(properties, CList),
       DD_WRAPPER(property, CPropertyImpl),
       DD_WRAPPER(fileSection, CList),

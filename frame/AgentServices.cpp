@@ -3,7 +3,6 @@
 #include <cstdlib>
 #include <memory>
 #include <utility>
-
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/TransService.hpp>
@@ -56,12 +55,9 @@ void AtExit() {
 
 namespace {
 
-constexpr char dictionaryFailure[] =
-    "An unexpected error occurred processing the data dictionary";
-constexpr char serviceFailure[] =
-    "An unexpected error occurred processing the service definition";
-constexpr char namespaceFailure[] =
-    "The parser encountered an unexpected or unsupported namespace";
+constexpr char dictionaryFailure[] = "An unexpected error occurred processing the data dictionary";
+constexpr char serviceFailure[] = "An unexpected error occurred processing the service definition";
+constexpr char namespaceFailure[] = "The parser encountered an unexpected or unsupported namespace";
 
 // Runs a request; whatever is thrown that is not one of the two expected failures becomes `text`.
 template <class Request>

@@ -1,6 +1,5 @@
-#include "as/CAgentServicesFactory.h"
-
 #include "as/CASException.h"
+#include "as/CAgentServicesFactory.h"
 #include "as/Globals.h"
 #include "frame/AgentServices.h"
 #include "xml/Identity.h"

@@ -8,8 +8,8 @@
 [[noreturn]] void assertionFailed(const char* expression, const char* module, unsigned int line,
                                   const char* function) noexcept;
 
-#define AS_ASSERT(expression, module)                                                  \
-  ((expression) ? static_cast<void>(0)                                                 \
+#define AS_ASSERT(expression, module)  \
+  ((expression) ? static_cast<void>(0) \
                 : assertionFailed(#expression, module, __LINE__, __PRETTY_FUNCTION__))
 
 #endif  // XML_ASSERTION_H_

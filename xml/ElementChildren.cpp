@@ -16,8 +16,7 @@ DOMElement* ElementChildren::next() {
       upcoming_ = following(node);
       if (!rejected) return static_cast<DOMElement*>(node);
     } else {
-      const bool lookThrough =
-          !rejected && node->getNodeType() == DOMNode::ENTITY_REFERENCE_NODE;
+      const bool lookThrough = !rejected && node->getNodeType() == DOMNode::ENTITY_REFERENCE_NODE;
       DOMNode* const inside = lookThrough ? node->getFirstChild() : nullptr;
       upcoming_ = inside != nullptr ? inside : following(node);
     }

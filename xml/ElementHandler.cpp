@@ -26,11 +26,12 @@ CElementImpl* CElementHandler::bindRoot(DOMDocument* document) {
 
 WrapperPool CElementHandler::releaseUnowned() {
   // The owned ones are let go before any wrapper is deleted: its owner deletes them with itself.
-  const auto unowned =
-      std::partition(wrappers_.begin(), wrappers_.end(),
-                     [](const std::unique_ptr<CElementImpl>& wrapper) { return !wrapper->isOwned(); });
-  std::for_each(unowned, wrappers_.end(),
-                [](std::unique_ptr<CElementImpl>& wrapper) { static_cast<void>(wrapper.release()); });
+  const auto unowned = std::partition(
+      wrappers_.begin(), wrappers_.end(),
+      [](const std::unique_ptr<CElementImpl>& wrapper) { return !wrapper->isOwned(); });
+  std::for_each(unowned, wrappers_.end(), [](std::unique_ptr<CElementImpl>& wrapper) {
+    static_cast<void>(wrapper.release());
+  });
   wrappers_.erase(unowned, wrappers_.end());
   return std::exchange(wrappers_, WrapperPool());
 }

@@ -2,11 +2,10 @@
 #ifndef XML_ELEMENTHANDLER_H_
 #define XML_ELEMENTHANDLER_H_
 
-#include <xercesc/dom/DOMDocument.hpp>
-#include <xercesc/dom/DOMNode.hpp>
-
 #include <memory>
 #include <vector>
+#include <xercesc/dom/DOMDocument.hpp>
+#include <xercesc/dom/DOMNode.hpp>
 
 #include "xml/ElementImpl.h"
 
@@ -14,8 +13,8 @@
 using WrapperPool = std::vector<std::unique_ptr<CElementImpl>>;
 
 // For a root R with children A and B the parser calls startDocument(R), startElement(R),
-// startElement(A), newElement(A), startElement(B), newElement(B), newElement(R), endParse(document):
-// wrappers are made from the leaves up, the root last.
+// startElement(A), newElement(A), startElement(B), newElement(B), newElement(R),
+// endParse(document): wrappers are made from the leaves up, the root last.
 //
 // A handler serves one parse. It owns the wrappers that it made until the model is complete, so
 // that a parse that fails half-way releases them; what the model did not take in by then is handed

@@ -2,9 +2,8 @@
 #ifndef XML_ELEMENTIMPL_H_
 #define XML_ELEMENTIMPL_H_
 
-#include <xercesc/dom/DOMElement.hpp>
-
 #include <string>
+#include <xercesc/dom/DOMElement.hpp>
 
 #include "as/IElement.h"
 #include "xml/Identity.h"

@@ -16,7 +16,10 @@ const IdentityRegistration registrationOfNullType(RTTITypeinfo::null_type, "NULL
 bool RTTItypeid::designates(const RTTITypeinfo& other) const noexcept {
   if (record_ == &other) return true;
   if (record_ == nullptr || record_->name == nullptr || other.name == nullptr) return false;
-  return std::strcmp(record_->name, other.name) == 0;
+  // Casts walk whole class trees, so most comparisons fail, and most of those at the second letter.
+  const char* const name = record_->name;
+  return name[0] == other.name[0] && name[0] != '\0' && name[1] == other.name[1] &&
+         std::strcmp(name, other.name) == 0;
 }
 
 IdentityRegistration::IdentityRegistration(RTTITypeinfo& record, const char* name,

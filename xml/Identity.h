@@ -25,52 +25,52 @@ class IdentityRegistration {
 };
 
 // In the body of an implementation class: its identity members, and the walk over its bases.
-#define AS_IDENTITY(Class)                              \
-  AS_RTTI(Class)                                        \
- private:                                               \
-  template <class... Bases>                             \
-  void* castThroughBases(RTTItypeid id) {               \
-    void* found = nullptr;                              \
-    ((found = this->Bases::RTTI_cast(id)) || ...);      \
-    return found;                                       \
-  }                                                     \
-                                                        \
+#define AS_IDENTITY(Class)                         \
+  AS_RTTI(Class)                                   \
+ private:                                          \
+  template <class... Bases>                        \
+  void* castThroughBases(RTTItypeid id) {          \
+    void* found = nullptr;                         \
+    ((found = this->Bases::RTTI_cast(id)) || ...); \
+    return found;                                  \
+  }                                                \
+                                                   \
  public:
 
 // The identity members that are the same for every class.
-#define AS_DEFINE_IDENTITY_COMMON(Class)                                                    \
-  RTTITypeinfo Class::RTTI_obj = {nullptr, nullptr, 0, nullptr, 0, nullptr};                \
-  RTTItypeid Class::RTTI_vinfo() const { return RTTItypeid(&RTTI_obj); }                    \
-  void* Class::RTTI_scast(int flag, void* p) {                                              \
-    if (flag != 0 || p == nullptr) return p;                                                \
-    return static_cast<Class*>(p)->RTTI_cast(RTTItypeid(&RTTI_obj));                        \
+#define AS_DEFINE_IDENTITY_COMMON(Class)                                     \
+  RTTITypeinfo Class::RTTI_obj = {nullptr, nullptr, 0, nullptr, 0, nullptr}; \
+  RTTItypeid Class::RTTI_vinfo() const { return RTTItypeid(&RTTI_obj); }     \
+  void* Class::RTTI_scast(int flag, void* p) {                               \
+    if (flag != 0 || p == nullptr) return p;                                 \
+    return static_cast<Class*>(p)->RTTI_cast(RTTItypeid(&RTTI_obj));         \
   }
 
 // Registers Class (its name in quotes beside it) with the records given, ended by a null.
-#define AS_REGISTER_IDENTITY(Class, name, ...)                               \
-  static RTTITypeinfo* RTTI_base_##name[] = {__VA_ARGS__};                   \
-  static const IdentityRegistration registration_##name(                     \
-      Class::RTTI_obj, #name, RTTI_base_##name, &Class::RTTI_scast);
+#define AS_REGISTER_IDENTITY(Class, name, ...)                                                    \
+  static RTTITypeinfo* RTTI_base_##name[] = {__VA_ARGS__};                                        \
+  static const IdentityRegistration registration_##name(Class::RTTI_obj, #name, RTTI_base_##name, \
+                                                        &Class::RTTI_scast);
 
 // The whole identity of an implementation class with one, two or three bases. A cast asks the
 // bases in the order given, the interface first.
-#define AS_DEFINE_IDENTITY_CASTS(Class, ...)                    \
-  AS_DEFINE_IDENTITY_COMMON(Class)                              \
-  void* Class::RTTI_cast(RTTItypeid id) {                       \
-    if (id.designates(RTTI_obj)) return this;                   \
-    return castThroughBases<__VA_ARGS__>(id);                   \
+#define AS_DEFINE_IDENTITY_CASTS(Class, ...)  \
+  AS_DEFINE_IDENTITY_COMMON(Class)            \
+  void* Class::RTTI_cast(RTTItypeid id) {     \
+    if (id.designates(RTTI_obj)) return this; \
+    return castThroughBases<__VA_ARGS__>(id); \
   }
 
-#define AS_DEFINE_IDENTITY1(Class, Base)     \
-  AS_DEFINE_IDENTITY_CASTS(Class, Base)      \
+#define AS_DEFINE_IDENTITY1(Class, Base) \
+  AS_DEFINE_IDENTITY_CASTS(Class, Base)  \
   AS_REGISTER_IDENTITY(Class, Class, &Base::RTTI_obj, nullptr)
 
-#define AS_DEFINE_IDENTITY2(Class, Base1, Base2)   \
-  AS_DEFINE_IDENTITY_CASTS(Class, Base1, Base2)    \
+#define AS_DEFINE_IDENTITY2(Class, Base1, Base2) \
+  AS_DEFINE_IDENTITY_CASTS(Class, Base1, Base2)  \
   AS_REGISTER_IDENTITY(Class, Class, &Base1::RTTI_obj, &Base2::RTTI_obj, nullptr)
 
-#define AS_DEFINE_IDENTITY3(Class, Base1, Base2, Base3)   \
-  AS_DEFINE_IDENTITY_CASTS(Class, Base1, Base2, Base3)    \
+#define AS_DEFINE_IDENTITY3(Class, Base1, Base2, Base3) \
+  AS_DEFINE_IDENTITY_CASTS(Class, Base1, Base2, Base3)  \
   AS_REGISTER_IDENTITY(Class, Class, &Base1::RTTI_obj, &Base2::RTTI_obj, &Base3::RTTI_obj, nullptr)
 
 #endif  // XML_IDENTITY_H_

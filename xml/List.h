@@ -2,9 +2,8 @@
 #ifndef XML_LIST_H_
 #define XML_LIST_H_
 
-#include <xercesc/dom/DOMNodeFilter.hpp>
-
 #include <vector>
+#include <xercesc/dom/DOMNodeFilter.hpp>
 
 #include "as/IList.h"
 #include "xml/ElementImpl.h"

@@ -16,11 +16,11 @@ namespace XSDNS {
 inline constexpr XMLCh xmlURI[] = u"http://www.w3.org/2000/xmlns/";
 inline constexpr XMLCh xsiURI[] = u"http://www.w3.org/2001/XMLSchema-instance";
 
-#define AS_SCHEMA_NAMES(prefix, path, file)                                \
-  inline constexpr XMLCh prefix##URI[] = AS_SCHEMA_HOST path u"/" file;    \
+#define AS_SCHEMA_NAMES(prefix, path, file)                             \
+  inline constexpr XMLCh prefix##URI[] = AS_SCHEMA_HOST path u"/" file; \
   inline constexpr XMLCh prefix##Name[] = file;
-#define AS_SCHEMA_LOCATION(prefix, path, file)                             \
-  inline constexpr XMLCh prefix##SchemaLocation[] =                        \
+#define AS_SCHEMA_LOCATION(prefix, path, file)      \
+  inline constexpr XMLCh prefix##SchemaLocation[] = \
       AS_SCHEMA_HOST path u"/" file u" " AS_SCHEMA_HOST path u"/" file;
 
 AS_SCHEMA_NAMES(service, u"/schema/service/v2.0", u"vorservice.xsd")

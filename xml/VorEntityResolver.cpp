@@ -1,7 +1,6 @@
 #include "xml/VorEntityResolver.h"
 
 #include <string>
-
 #include <xercesc/framework/LocalFileInputSource.hpp>
 #include <xercesc/util/XMLString.hpp>
 
@@ -28,8 +27,7 @@ constexpr struct {
 void VorEntityResolver::setSchemaLocation(const char* directory) { directory_ = directory; }
 
 CXStr VorEntityResolver::getLocationForSchema(const XMLCh* fileName) {
-  return static_cast<std::string>(directory_) +
-         static_cast<std::string>(CXStr(fileName, false));
+  return static_cast<std::string>(directory_) + static_cast<std::string>(CXStr(fileName, false));
 }
 
 InputSource* VorEntityResolver::resolveEntity(const XMLCh* /*publicId*/, const XMLCh* systemId) {

@@ -2,9 +2,8 @@
 #ifndef XML_WORDTABLE_H_
 #define XML_WORDTABLE_H_
 
-#include <xercesc/util/XMLString.hpp>
-
 #include <cstddef>
+#include <xercesc/util/XMLString.hpp>
 
 // One row: the text in the document and the code in the interface.
 struct WordCode {

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <climits>
 #include <utility>
-
 #include <xercesc/framework/LocalFileInputSource.hpp>
 #include <xercesc/framework/XMLBuffer.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
@@ -50,7 +49,8 @@ enum class Place { network, regularFile, specialFile };
 
 Place placeOfFile(const XMLCh* path) {
   struct stat status = {};
-  if (::stat(narrow(path).c_str(), &status) != 0) return Place::regularFile;  // Its absence is told.
+  if (::stat(narrow(path).c_str(), &status) != 0)
+    return Place::regularFile;  // Its absence is told.
   return S_ISREG(status.st_mode) ? Place::regularFile : Place::specialFile;
 }
 
@@ -211,7 +211,8 @@ InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
   const XMLCh* const systemId = reference->getSystemId();
   const std::string name = narrow(systemId);
   if (!isSchemaReference(*reference)) {
-    refuse("the external entity '" + name + "' is refused: documents must be complete in themselves");
+    refuse("the external entity '" + name +
+           "' is refused: documents must be complete in themselves");
     return emptySource();
   }
   if (InputSource* const local = resolver_.resolveEntity(reference->getPublicId(), systemId)) {

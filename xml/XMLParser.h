@@ -2,14 +2,13 @@
 #ifndef XML_XMLPARSER_H_
 #define XML_XMLPARSER_H_
 
+#include <optional>
+#include <string>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
 #include <xercesc/sax/ErrorHandler.hpp>
 #include <xercesc/util/SecurityManager.hpp>
 #include <xercesc/util/XMLResourceIdentifier.hpp>
-
-#include <optional>
-#include <string>
 
 #include "as/CASParseException.h"
 #include "xml/ElementHandler.h"

@@ -10,7 +10,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <string_view>
-
 #include <xercesc/util/TransService.hpp>
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLString.hpp>
@@ -167,9 +166,9 @@ void CXStr::copyXMLCh(const XMLCh* text) {
   if (length == 0) return;
   Scratch<char> scratch(6 * length + 1);
   XMLSize_t eaten = 0;
-  const std::size_t bytes = gUTF8Transcoder->transcodeTo(
-      text, length, reinterpret_cast<XMLByte*>(scratch.get()), 6 * length, eaten,
-      XMLTranscoder::UnRep_RepChar);
+  const std::size_t bytes =
+      gUTF8Transcoder->transcodeTo(text, length, reinterpret_cast<XMLByte*>(scratch.get()),
+                                   6 * length, eaten, XMLTranscoder::UnRep_RepChar);
   copyChars(scratch.get(), bytes);
 }
 

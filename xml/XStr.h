@@ -3,10 +3,9 @@
 #ifndef XML_XSTR_H_
 #define XML_XSTR_H_
 
-#include <xercesc/util/XercesDefs.hpp>
-
 #include <memory>
 #include <string>
+#include <xercesc/util/XercesDefs.hpp>
 
 // Holds a text in UTF-8, which may be null (not the same as empty for the conversions to a
 // pointer), and renders it as XMLCh, number or truth on request. A pointer that a conversion hands

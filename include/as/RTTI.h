@@ -65,11 +65,11 @@ class AS_EXPORT RTTIdyntypeid : public RTTItypeid {
 // is no such thing; it never throws. RTTI_scast(flag, p) returns p unchanged for a flag other
 // than 0; for 0 it takes p for a pointer to this class and returns it adjusted to this class's
 // part of the object, null for null.
-#define AS_RTTI_MEMBERS(Class, Specifier)             \
- public:                                              \
-  virtual RTTItypeid RTTI_vinfo() const Specifier;    \
-  virtual void* RTTI_cast(RTTItypeid id) Specifier;   \
-  static void* RTTI_scast(int flag, void* p);         \
+#define AS_RTTI_MEMBERS(Class, Specifier)           \
+ public:                                            \
+  virtual RTTItypeid RTTI_vinfo() const Specifier;  \
+  virtual void* RTTI_cast(RTTItypeid id) Specifier; \
+  static void* RTTI_scast(int flag, void* p);       \
   static RTTITypeinfo RTTI_obj;
 
 // For a class that has no base with identity members ...
@@ -83,8 +83,7 @@ namespace as {
 // null for null. The result is the same object: nothing is created and nothing changes owner.
 template <class T, class From>
 T* interface_cast(From* object) {
-  return object == nullptr ? nullptr
-                           : static_cast<T*>(object->RTTI_cast(RTTItypeid(&T::RTTI_obj)));
+  return object == nullptr ? nullptr : static_cast<T*>(object->RTTI_cast(RTTItypeid(&T::RTTI_obj)));
 }
 
 }  // namespace as

@@ -36,9 +36,9 @@ inline std::unique_ptr<as::IAgentServices> newServices() {
 // Parses `document` from memory; lets the library's exceptions through.
 inline std::unique_ptr<as::IProgram> parse(const std::string& document,
                                            const char* id = "test.xml") {
-  return std::unique_ptr<as::IProgram>(newServices()->parseCobolDD(
-      id, reinterpret_cast<const unsigned char*>(document.data()),
-      static_cast<unsigned int>(document.size())));
+  return std::unique_ptr<as::IProgram>(
+      newServices()->parseCobolDD(id, reinterpret_cast<const unsigned char*>(document.data()),
+                                  static_cast<unsigned int>(document.size())));
 }
 
 // The member of `list` seen as T; null when there is none or it is no T.

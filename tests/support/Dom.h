@@ -3,11 +3,11 @@
 #define TESTS_SUPPORT_DOM_H_
 
 #include <gtest/gtest.h>
+
+#include <string>
 #include <xercesc/dom/DOM.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
-
-#include <string>
 
 #include "xml/XStr.h"
 

@@ -1,12 +1,11 @@
 // Tests of the element wrapper.
-#include "xml/ElementImpl.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "support/Dom.h"
 #include "xml/ElementChildren.h"
+#include "xml/ElementImpl.h"
 #include "xml/LocalNameFilter.h"
 #include "xml/Vocabulary.h"
 
@@ -187,8 +186,7 @@ TEST(LocalNameFilter, AcceptsTheNamesInAnyNamespaceAndRejectsTheRest) {
   const LocalNameFilter<a, b> filter;
   EXPECT_EQ(filter.acceptNode(dom.root()), xercesc::DOMNodeFilter::FILTER_ACCEPT);
   EXPECT_EQ(filter.acceptNode(dom.find(u"c")), xercesc::DOMNodeFilter::FILTER_REJECT);
-  EXPECT_EQ(filter.acceptNode(dom.root()->getFirstChild()),
-            xercesc::DOMNodeFilter::FILTER_REJECT);
+  EXPECT_EQ(filter.acceptNode(dom.root()->getFirstChild()), xercesc::DOMNodeFilter::FILTER_REJECT);
   EXPECT_EQ(filter.acceptNode(dom.document()), xercesc::DOMNodeFilter::FILTER_REJECT);
 }
 

@@ -1,6 +1,4 @@
 // Tests of the identity records: registration, casting, clean-up.
-#include "xml/Identity.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -25,6 +23,7 @@
 #include "cobol/ProgramImpl.h"
 #include "cobol/PropertyImpl.h"
 #include "support/Dom.h"
+#include "xml/Identity.h"
 #include "xml/List.h"
 
 namespace {
@@ -49,10 +48,14 @@ struct Registered {
   Names bases;
 };
 
-#define INTERFACE(name, ...) \
-  { &as::name::RTTI_obj, #name, {__VA_ARGS__} }
-#define IMPLEMENTATION(name, ...) \
-  { &name::RTTI_obj, #name, {__VA_ARGS__} }
+#define INTERFACE(name, ...)                    \
+  {                                             \
+    &as::name::RTTI_obj, #name, { __VA_ARGS__ } \
+  }
+#define IMPLEMENTATION(name, ...)           \
+  {                                         \
+    &name::RTTI_obj, #name, { __VA_ARGS__ } \
+  }
 
 // In the order of registration.
 const std::vector<Registered>& interfaces() {

@@ -1,6 +1,4 @@
 // Tests of the lists and their filters.
-#include "xml/List.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -14,6 +12,7 @@
 #include "cobol/GroupImpl.h"
 #include "cobol/NumericImpl.h"
 #include "support/Dom.h"
+#include "xml/List.h"
 
 namespace {
 
@@ -139,10 +138,18 @@ TEST(DataItemNodeFilter, AcceptsTheKindsThatListsHold) {
     const char* name;
     bool accepted;
   } rows[] = {
-      {"numeric", true},        {"alphanumeric", true}, {"group", true},
-      {"numericEdited", true},  {"pointer", true},      {"national", true},
-      {"cobolObject", true},    {"index", true},        {"alphanumericEdited", false},
-      {"object", false},        {"numericCondition", false}, {"Group", false},
+      {"numeric", true},
+      {"alphanumeric", true},
+      {"group", true},
+      {"numericEdited", true},
+      {"pointer", true},
+      {"national", true},
+      {"cobolObject", true},
+      {"index", true},
+      {"alphanumericEdited", false},
+      {"object", false},
+      {"numericCondition", false},
+      {"Group", false},
       {"program", false},
   };
   for (const auto& row : rows) {

@@ -1,10 +1,10 @@
 // Tests of the library's start-up and of what depends on it.
 #include <gtest/gtest.h>
-#include <xercesc/util/PlatformUtils.hpp>
-#include <xercesc/util/TransService.hpp>
 
 #include <memory>
 #include <string>
+#include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/TransService.hpp>
 
 #include "as/AgentServices.h"
 #include "as/Globals.h"
@@ -24,8 +24,7 @@ TEST(StartUp, NothingIsCreatedWhenTheXmlParserDidNotStart) {
   nXercesInitStatus = 0;
   std::string text;
   try {
-    std::unique_ptr<as::IAgentServices> services(
-        as::CAgentServicesFactory::CreateAgentServices());
+    std::unique_ptr<as::IAgentServices> services(as::CAgentServicesFactory::CreateAgentServices());
   } catch (const as::CASException& exception) {
     text = exception.getErrorText();
   }

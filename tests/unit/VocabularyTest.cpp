@@ -1,12 +1,11 @@
 // Pins the fixed texts: namespaces, schema files and the words of each schema.
-#include "xml/Vocabulary.h"
-
 #include <gtest/gtest.h>
 
 #include <set>
 #include <string>
 
 #include "cobol/DDVocabulary.h"
+#include "xml/Vocabulary.h"
 
 namespace {
 
@@ -60,29 +59,96 @@ TEST(Vocabulary, SharedTexts) {
 TEST(Vocabulary, DictionaryConstantsAreNamedLikeTheirText) {
   const std::set<std::string> renamed = {"comp1", "comp2", "comp3", "comp4",
                                          "comp5", "comp6", "compx", "true_"};
-#define CHECK(constant, text)                                               \
-  {                                                                         \
-    EXPECT_EQ(Text(DD::constant), u##text);                                 \
-    EXPECT_EQ(std::string(#constant) != text, renamed.count(#constant) > 0) \
-        << #constant;                                                       \
+#define CHECK(constant, text)                                                             \
+  {                                                                                       \
+    EXPECT_EQ(Text(DD::constant), u##text);                                               \
+    EXPECT_EQ(std::string(#constant) != text, renamed.count(#constant) > 0) << #constant; \
   }
   DD_WORDS(CHECK)
 #undef CHECK
 }
 
 TEST(Vocabulary, DictionaryHasTheseWords) {
-  const std::set<std::string> expected = {
-      "accessMode", "alignment", "all", "alphanumeric", "alphanumericCondition",
-      "alphanumericConstant", "alphanumericEdited", "alphanumericRange", "blankWhenZero", "byType",
-      "callConvention", "cobolObject", "comp", "comp-1", "comp-2", "comp-3", "comp-4", "comp-5",
-      "comp-6", "comp-x", "display", "externalFloat", "dataItem", "dataItems", "digits", "dynamic",
-      "entryPoint", "entryPoints", "fd", "file", "fileSection", "from", "group", "index",
-      "indexed", "isFalse", "justified", "left", "length", "li", "line", "lineSequential",
-      "linkage", "ls", "minOccurs", "maxOccurs", "name", "national", "nullConditionValue",
-      "numeric", "numericCondition", "numericConstant", "numericEdited", "numericRange", "object",
-      "odo", "offset", "parameter", "picture", "pointer", "program", "properties", "property",
-      "random", "redefines", "reference", "relative", "renames", "returning", "right",
-      "sequential", "sign", "sync", "ti", "ts", "usage", "unicode", "to", "true", "value"};
+  const std::set<std::string> expected = {"accessMode",
+                                          "alignment",
+                                          "all",
+                                          "alphanumeric",
+                                          "alphanumericCondition",
+                                          "alphanumericConstant",
+                                          "alphanumericEdited",
+                                          "alphanumericRange",
+                                          "blankWhenZero",
+                                          "byType",
+                                          "callConvention",
+                                          "cobolObject",
+                                          "comp",
+                                          "comp-1",
+                                          "comp-2",
+                                          "comp-3",
+                                          "comp-4",
+                                          "comp-5",
+                                          "comp-6",
+                                          "comp-x",
+                                          "display",
+                                          "externalFloat",
+                                          "dataItem",
+                                          "dataItems",
+                                          "digits",
+                                          "dynamic",
+                                          "entryPoint",
+                                          "entryPoints",
+                                          "fd",
+                                          "file",
+                                          "fileSection",
+                                          "from",
+                                          "group",
+                                          "index",
+                                          "indexed",
+                                          "isFalse",
+                                          "justified",
+                                          "left",
+                                          "length",
+                                          "li",
+                                          "line",
+                                          "lineSequential",
+                                          "linkage",
+                                          "ls",
+                                          "minOccurs",
+                                          "maxOccurs",
+                                          "name",
+                                          "national",
+                                          "nullConditionValue",
+                                          "numeric",
+                                          "numericCondition",
+                                          "numericConstant",
+                                          "numericEdited",
+                                          "numericRange",
+                                          "object",
+                                          "odo",
+                                          "offset",
+                                          "parameter",
+                                          "picture",
+                                          "pointer",
+                                          "program",
+                                          "properties",
+                                          "property",
+                                          "random",
+                                          "redefines",
+                                          "reference",
+                                          "relative",
+                                          "renames",
+                                          "returning",
+                                          "right",
+                                          "sequential",
+                                          "sign",
+                                          "sync",
+                                          "ti",
+                                          "ts",
+                                          "usage",
+                                          "unicode",
+                                          "to",
+                                          "true",
+                                          "value"};
   std::multiset<std::string> words;
 #define COLLECT(constant, text) words.insert(text);
   DD_WORDS(COLLECT)

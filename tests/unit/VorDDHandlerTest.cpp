@@ -1,6 +1,4 @@
 // Tests of the dictionary builder and of what every handler has in common.
-#include "cobol/VorDDHandler.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -22,6 +20,7 @@
 #include "cobol/NumericEditedImpl.h"
 #include "cobol/NumericImpl.h"
 #include "cobol/PropertyImpl.h"
+#include "cobol/VorDDHandler.h"
 #include "frame/DelegatingHandler.h"
 #include "support/Dom.h"
 #include "xml/Vocabulary.h"
@@ -87,8 +86,8 @@ TEST(VorDDHandler, WrapsEachElementByItsLocalName) {
 }
 
 TEST(VorDDHandlerDeathTest, AnUnknownElementEndsTheProcess) {
-  for (const char* name : {"alphanumericEdited", "nullConditionValue", "object", "service",
-                           "Program", "programs"}) {
+  for (const char* name :
+       {"alphanumericEdited", "nullConditionValue", "object", "service", "Program", "programs"}) {
     test::Dom dom("<" + std::string(name) + "/>");
     EXPECT_DEATH(CVorDDHandler().newElement(dom.root()),
                  "VorDDHandler:.*CVorDDHandler::newElement.*Assertion `false' failed")
@@ -100,9 +99,9 @@ TEST(VorDDHandler, AcceptsTheDictionaryNamespaceOnly) {
   CVorDDHandler handler;
   test::Dom right("<anything xmlns='" + std::string(ns) + "'/>");
   EXPECT_NO_THROW(handler.startDocument(right.root()));
-  for (const char* other :
-       {"", " xmlns='urn:x'", " xmlns='http://agentservices.example/schema/cobol/v2.0/VORCOBOL.XSD'",
-        " xmlns='http://agentservices.example/schema/java/v2.0/vorjava.xsd'"}) {
+  for (const char* other : {"", " xmlns='urn:x'",
+                            " xmlns='http://agentservices.example/schema/cobol/v2.0/VORCOBOL.XSD'",
+                            " xmlns='http://agentservices.example/schema/java/v2.0/vorjava.xsd'"}) {
     test::Dom dom("<program" + std::string(other) + "/>");
     EXPECT_THROW(handler.startDocument(dom.root()), as::CASInvalidNamespaceException) << other;
   }
@@ -130,8 +129,7 @@ TEST(VorDDHandler, ListsOfAProgramAreEmptyBeforeTheyAreCollected) {
   test::Dom dom("<program><dataItems><numeric name='N'/></dataItems></program>");
   CVorDDHandler handler;
   build(handler, dom.root());
-  auto* const program =
-      as::interface_cast<as::IProgram>(CElementImpl::wrapperOf(dom.root()));
+  auto* const program = as::interface_cast<as::IProgram>(CElementImpl::wrapperOf(dom.root()));
   ASSERT_NE(program, nullptr);
   EXPECT_EQ(program->getDataItems(), static_cast<as::IList*>(&CList::emptyList));
 }

@@ -1,6 +1,4 @@
 // Tests of the mapping of schema references onto local files.
-#include "xml/VorEntityResolver.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -8,6 +6,7 @@
 
 #include "support/Dom.h"
 #include "xml/Vocabulary.h"
+#include "xml/VorEntityResolver.h"
 
 namespace {
 
@@ -56,9 +55,9 @@ TEST(VorEntityResolver, ADoubledSeparatorStays) {
 TEST(VorEntityResolver, LeavesEverythingElseToTheParser) {
   VorEntityResolver resolver;
   resolver.setSchemaLocation("/s/");
-  for (const XMLCh* other :
-       {u"http://agentservices.example/schema/cobol/v2.0/VORCOBOL.XSD", u"other.xsd", u"",
-        u"./vorcobol.xsd", u"dir/vorcobol.xsd", u"vorcobol.xsd ", u"http://elsewhere/vorcobol.xsd"}) {
+  for (const XMLCh* other : {u"http://agentservices.example/schema/cobol/v2.0/VORCOBOL.XSD",
+                             u"other.xsd", u"", u"./vorcobol.xsd", u"dir/vorcobol.xsd",
+                             u"vorcobol.xsd ", u"http://elsewhere/vorcobol.xsd"}) {
     EXPECT_EQ(resolve(resolver, other), "(null)") << test::narrow(other);
   }
   EXPECT_EQ(resolve(resolver, nullptr), "(null)");

@@ -1,18 +1,17 @@
 // Tests of the validating parser: how it drives a handler and what it makes of messages.
-#include "xml/XMLParser.h"
-
 #include <gtest/gtest.h>
-#include <xercesc/sax/SAXParseException.hpp>
 
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
+#include <xercesc/sax/SAXParseException.hpp>
 
 #include "as/CASInvalidNamespaceException.h"
 #include "support/Dom.h"
 #include "support/TempDirectory.h"
 #include "xml/Vocabulary.h"
+#include "xml/XMLParser.h"
 
 namespace {
 
@@ -203,8 +202,7 @@ TEST_F(XMLParser, NamespaceFailureGoesBeforeEarlierMessages) {
 
 TEST_F(XMLParser, EarlierMessagesEndTheParseWhenTheRootIsAccepted) {
   const as::CASParseException message = failure("<r/>", &recorder_);
-  EXPECT_NE(message.getErrorText().find("no declaration found for element 'r'"),
-            std::string::npos)
+  EXPECT_NE(message.getErrorText().find("no declaration found for element 'r'"), std::string::npos)
       << message.getErrorText();
   EXPECT_EQ(recorder_.calls, Calls{"startDocument(r)"});
 }
@@ -306,12 +304,10 @@ TEST_F(XMLParser, ExternalEntitiesAreRefused) {
     const char* what;
     std::string document;
   } rows[] = {
-      {"general entity",
-       "<!DOCTYPE r [<!ENTITY e SYSTEM '" + file + "'>]>" + document("&e;")},
+      {"general entity", "<!DOCTYPE r [<!ENTITY e SYSTEM '" + file + "'>]>" + document("&e;")},
       {"parameter entity", "<!DOCTYPE r [<!ENTITY % e SYSTEM '" + file + "'> %e;]>" + document("")},
       {"external subset", "<!DOCTYPE r SYSTEM '" + file + "'>" + document("")},
-      {"external subset named like a schema",
-       "<!DOCTYPE r SYSTEM 'vorcobol.xsd'>" + document("")},
+      {"external subset named like a schema", "<!DOCTYPE r SYSTEM 'vorcobol.xsd'>" + document("")},
       {"external subset over a network", "<!DOCTYPE r SYSTEM 'http://x.example/'>" + document("")},
   };
   for (const auto& row : rows) {
@@ -354,8 +350,9 @@ TEST_F(XMLParser, SchemasAreNotReadFromANetworkOrADevice) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.location);
     const std::string text =
-        std::string("<r xmlns='urn:other' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
-                    "xsi:schemaLocation='urn:other ") +
+        std::string(
+            "<r xmlns='urn:other' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
+            "xsi:schemaLocation='urn:other ") +
         row.location + "'/>";
     CXMLParser parser;
     parser.setSchemaLocation((directory_.path() + "/").c_str());

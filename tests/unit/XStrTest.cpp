@@ -1,11 +1,11 @@
 // Tests of the conversion between UTF-8 and XMLCh text.
-#include "xml/XStr.h"
-
 #include <gtest/gtest.h>
 
 #include <climits>
 #include <string>
 #include <type_traits>
+
+#include "xml/XStr.h"
 
 namespace {
 
@@ -62,13 +62,24 @@ TEST(XStr, ReadsIntegersAsStrtolDoesWithinInt) {
     const char* text;
     int number;
   } rows[] = {
-      {"0", 0},          {"42", 42},          {"-42", -42},
-      {"+5", 5},         {"  12", 12},        {"12abc", 12},
-      {"007", 7},        {"abc", 0},          {"", 0},
-      {"-", 0},          {"0x10", 0},         {"1e3", 1},
-      {"2147483647", INT_MAX},                {"2147483648", INT_MAX},
-      {"-2147483648", INT_MIN},               {"-2147483649", INT_MIN},
-      {"99999999999999999999999999", INT_MAX}, {"-99999999999999999999999999", INT_MIN},
+      {"0", 0},
+      {"42", 42},
+      {"-42", -42},
+      {"+5", 5},
+      {"  12", 12},
+      {"12abc", 12},
+      {"007", 7},
+      {"abc", 0},
+      {"", 0},
+      {"-", 0},
+      {"0x10", 0},
+      {"1e3", 1},
+      {"2147483647", INT_MAX},
+      {"2147483648", INT_MAX},
+      {"-2147483648", INT_MIN},
+      {"-2147483649", INT_MIN},
+      {"99999999999999999999999999", INT_MAX},
+      {"-99999999999999999999999999", INT_MIN},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(static_cast<int>(CXStr(row.text)), row.number) << row.text;
@@ -141,14 +152,14 @@ TEST(XStr, ReplacesWhatIsNoUtf8) {
     const char* narrow;
     const char16_t* wide;
   } rows[] = {
-      {"\xFF", u"\uFFFD"},                          // never a byte of UTF-8
-      {"a\x80z", u"a\uFFFDz"},                      // a trailing byte alone
-      {"\xC3", u"\uFFFD"},                          // cut short
-      {"\xE2\x82", u"\uFFFD\uFFFD"},                // cut short
-      {"\xC0\xAF", u"\uFFFD\uFFFD"},                // overlong
-      {"\xE0\x80\x80", u"\uFFFD\uFFFD\uFFFD"},      // overlong
+      {"\xFF", u"\uFFFD"},                      // never a byte of UTF-8
+      {"a\x80z", u"a\uFFFDz"},                  // a trailing byte alone
+      {"\xC3", u"\uFFFD"},                      // cut short
+      {"\xE2\x82", u"\uFFFD\uFFFD"},            // cut short
+      {"\xC0\xAF", u"\uFFFD\uFFFD"},            // overlong
+      {"\xE0\x80\x80", u"\uFFFD\uFFFD\uFFFD"},  // overlong
       {"\xF0\x80\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},
-      {"\xED\xA0\x80", u"\uFFFD\uFFFD\uFFFD"},      // a surrogate
+      {"\xED\xA0\x80", u"\uFFFD\uFFFD\uFFFD"},            // a surrogate
       {"\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},  // beyond U+10FFFF
       {"\xF5\x80\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},
       {"ok\xC3\xA9 \xC3(", u"ok\u00E9 \uFFFD("},
