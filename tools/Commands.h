@@ -1,0 +1,25 @@
+// The commands of the tool, apart from the command line that calls them.
+#ifndef TOOLS_COMMANDS_H_
+#define TOOLS_COMMANDS_H_
+
+#include <optional>
+#include <string>
+#include <vector>
+
+// What the tool's process answers.
+inline constexpr int exitFine = 0;
+inline constexpr int exitRefused = 1;  // A document was refused, or the output failed.
+inline constexpr int exitUsage = 2;
+
+enum class ShowFormat { tree, json };
+
+// Every command returns its exit code. Results go to standard output, what is wrong to standard
+// error. `schemas` is the schema directory that the user named, if any.
+
+// Prints the document in `file`.
+int runShow(const std::string& file, ShowFormat format, const std::optional<std::string>& schemas);
+
+// Says of each file whether it is good; goes on behind a bad one.
+int runValidate(const std::vector<std::string>& files, const std::optional<std::string>& schemas);
+
+#endif  // TOOLS_COMMANDS_H_
