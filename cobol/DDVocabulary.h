@@ -25,39 +25,39 @@
                               isFalse,                                                                   \
                               "isFalse") word(justified, "justified")                                    \
                               word(left, "left") word(length, "length") word(li, "li") word(             \
-                                  line, "line") word(lineSequential,                                     \
-                                                     "lineSequential") word(linkage, "linkage")          \
-                                  word(ls, "ls") word(                                                   \
-                                      minOccurs, "minOccurs") word(maxOccurs, "maxOccurs")               \
-                                      word(name, "name") word(national, "national") word(                \
-                                          nullConditionValue,                                            \
-                                          "nullConditionValue") word(numeric, "numeric")                 \
-                                          word(numericCondition, "numericCondition") word(               \
-                                              numericConstant,                                           \
-                                              "numericConstant") word(numericEdited, "numericEdit"       \
-                                                                                     "ed")               \
-                                              word(numericRange, "numericRange") word(                   \
-                                                  object,                                                \
-                                                  "object") word(odo,                                    \
-                                                                 "odo") word(offset,                     \
-                                                                             "offset")                   \
-                                                  word(parameter, "parameter") word(                     \
-                                                      picture,                                           \
-                                                      "picture") word(pointer, "pointer")                \
-                                                      word(program, "program") word(                     \
-                                                          properties,                                    \
-                                                          "properties") word(property, "property")       \
-                                                          word(random, "random") word(                   \
-                                                              redefines, "redefines")                    \
+                                  line, "line") word(lineSequential, "lineSequential")                   \
+                                  word(linkage, "linkage") word(ls,                                      \
+                                                                "ls") word(minOccurs, "minOccurs")       \
+                                      word(maxOccurs, "maxOccurs") word(name, "name") word(              \
+                                          national, "national") word(nullConditionValue,                 \
+                                                                     "nullConditionValue")               \
+                                          word(numeric, "numeric") word(                                 \
+                                              numericCondition, "numericCondition")                      \
+                                              word(numericConstant, "numericConstant") word(             \
+                                                  numericEdited,                                         \
+                                                  "numericEdit"                                          \
+                                                  "ed") word(numericRange,                               \
+                                                             "numericRange") word(object, "objec"        \
+                                                                                          "t")           \
+                                                  word(odo, "odo") word(offset, "offset") word(          \
+                                                      parameter,                                         \
+                                                      "parameter") word(picture, "picture")              \
+                                                      word(pointer, "pointer") word(                     \
+                                                          program,                                       \
+                                                          "program") word(properties, "propertie"        \
+                                                                                      "s")               \
+                                                          word(property, "property") word(               \
+                                                              random,                                    \
+                                                              "random") word(redefines, "redefine"       \
+                                                                                        "s")             \
                                                               word(reference, "reference") word(         \
                                                                   relative, "relative")                  \
                                                                   word(renames, "renames") word(         \
-                                                                      returning,                         \
-                                                                      "returning") word(right,           \
-                                                                                        "right")         \
-                                                                      word(sequential, "sequentia"       \
-                                                                                       "l") word(        \
-                                                                          sign, "sign")                  \
+                                                                      returning, "returning")            \
+                                                                      word(right, "right") word(         \
+                                                                          sequential,                    \
+                                                                          "sequentia"                    \
+                                                                          "l") word(sign, "sign")        \
                                                                           word(sync, "sync") word(       \
                                                                               ti,                        \
                                                                               "ti") word(ts, "ts")       \

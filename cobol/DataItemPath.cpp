@@ -1,24 +1,33 @@
 #include "cobol/DataItemPath.h"
 
 #include <cstddef>
+#include <xercesc/util/XMLString.hpp>
 
 #include "as/IGroup.h"
-#include "as/IList.h"
+#include "cobol/DDVocabulary.h"
+#include "xml/List.h"
+#include "xml/XStr.h"
+
+using xercesc::XMLString;
 
 namespace {
 
-// Follows the components from number `at` on through `items`.
-as::IDataItem* follow(const std::vector<std::string>& components, std::size_t at,
-                      as::IList* items) {
-  if (items == nullptr) return nullptr;
+using Components = std::vector<CXStr>;
+
+// Follows the components from number `at` on through `items`. Names are compared where they stand
+// in the document: a service resolves thousands of paths against thousands of items.
+as::IDataItem* follow(Components& components, std::size_t at, as::IList* items) {
+  auto* const list = as::interface_cast<CList>(items);
+  if (list == nullptr) return nullptr;
   const bool isLast = at + 1 == components.size();
-  const int count = items->getLength();
+  const XMLCh* const wanted = components[at];
+  const int count = list->getLength();
   for (int i = 0; i < count; i++) {
-    auto* const item = as::interface_cast<as::IDataItem>(items->getItem(i));
-    if (item == nullptr || item->getName() != components[at]) continue;
+    if (!XMLString::equals(list->getNode(i)->getAttribute(DD::name), wanted)) continue;
+    auto* const item = as::interface_cast<as::IDataItem>(list->getElement(i));
+    if (item == nullptr) continue;
     if (isLast) return item;
     // An item that is no group cannot lead on, but one of the same name behind it may.
-    if (item->getDataType() != as::IDataItem::TYPE_GROUP) continue;
     auto* const group = as::interface_cast<as::IGroup>(item);
     if (group == nullptr) continue;
     if (as::IDataItem* const found = follow(components, at + 1, group->getChildren())) return found;
@@ -43,7 +52,8 @@ std::vector<std::string> splitDataItemPath(const std::string& path) {
 
 as::IDataItem* findDataItem(const std::string& path, as::IProgram* program) {
   if (program == nullptr) return nullptr;
-  const std::vector<std::string> components = splitDataItemPath(path);
-  if (components.empty()) return nullptr;
+  const std::vector<std::string> names = splitDataItemPath(path);
+  if (names.empty()) return nullptr;
+  Components components(names.begin(), names.end());
   return follow(components, 0, program->getDataItems());
 }

@@ -26,49 +26,38 @@ using xercesc::DOMDocument;
 using xercesc::DOMNode;
 using xercesc::XMLString;
 
+// The items of a section or a file belong to no group.
+void CVorDDHandler::wrapSection(CElementHandler& handler, DOMNode* node) {
+  static_cast<CVorDDHandler&>(handler).wrap<CDataItemList>(node, static_cast<CGroupImpl*>(nullptr));
+}
+
 void CVorDDHandler::newElement(DOMNode* node) {
-  // The order of comparison: the names have no order of their own, but containers come first.
-  static constexpr struct {
-    const XMLCh* localName;
-    void (*wrapElement)(CVorDDHandler&, DOMNode*);
-  } wrappers[] = {
-#define DD_WRAPPER(name, Wrapper)                                                              \
-  {                                                                                            \
-    DD::name, [](CVorDDHandler& handler, DOMNode* element) { handler.wrap<Wrapper>(element); } \
-  }
-      DD_WRAPPER(properties, CList),
-      DD_WRAPPER(property, CPropertyImpl),
-      DD_WRAPPER(fileSection, CList),
-      DD_WRAPPER(fd, CFDImpl),
-      {DD::dataItems,
-       [](CVorDDHandler& handler, DOMNode* element) {
-         handler.wrap<CDataItemList>(element, static_cast<CGroupImpl*>(nullptr));
-       }},
-      DD_WRAPPER(entryPoints, CList),
-      DD_WRAPPER(group, CGroupImpl),
-      DD_WRAPPER(numeric, CNumericImpl),
-      DD_WRAPPER(alphanumeric, CAlphanumericImpl),
-      DD_WRAPPER(numericEdited, CNumericEditedImpl),
-      DD_WRAPPER(pointer, CDataItemImpl),
-      DD_WRAPPER(national, CNationalImpl),
-      DD_WRAPPER(cobolObject, CDataItemImpl),
-      DD_WRAPPER(index, CDataItemImpl),
-      DD_WRAPPER(numericCondition, CConditionImpl),
-      DD_WRAPPER(alphanumericCondition, CConditionImpl),
-      DD_WRAPPER(numericRange, CConditionValueImpl),
-      DD_WRAPPER(numericConstant, CConditionValueImpl),
-      DD_WRAPPER(alphanumericRange, CConditionValueImpl),
-      DD_WRAPPER(alphanumericConstant, CConditionValueImpl),
-      DD_WRAPPER(entryPoint, CEntryPointImpl),
-      DD_WRAPPER(parameter, CLinkageItemImpl),
-      DD_WRAPPER(program, CProgramImpl),
-#undef DD_WRAPPER
+  static constexpr ElementWrapping rows[] = {
+      {DD::properties, wrapAs<CList>},
+      {DD::property, wrapAs<CPropertyImpl>},
+      {DD::fileSection, wrapAs<CList>},
+      {DD::fd, wrapAs<CFDImpl>},
+      {DD::dataItems, wrapSection},
+      {DD::entryPoints, wrapAs<CList>},
+      {DD::group, wrapAs<CGroupImpl>},
+      {DD::numeric, wrapAs<CNumericImpl>},
+      {DD::alphanumeric, wrapAs<CAlphanumericImpl>},
+      {DD::numericEdited, wrapAs<CNumericEditedImpl>},
+      {DD::pointer, wrapAs<CDataItemImpl>},
+      {DD::national, wrapAs<CNationalImpl>},
+      {DD::cobolObject, wrapAs<CDataItemImpl>},
+      {DD::index, wrapAs<CDataItemImpl>},
+      {DD::numericCondition, wrapAs<CConditionImpl>},
+      {DD::alphanumericCondition, wrapAs<CConditionImpl>},
+      {DD::numericRange, wrapAs<CConditionValueImpl>},
+      {DD::numericConstant, wrapAs<CConditionValueImpl>},
+      {DD::alphanumericRange, wrapAs<CConditionValueImpl>},
+      {DD::alphanumericConstant, wrapAs<CConditionValueImpl>},
+      {DD::entryPoint, wrapAs<CEntryPointImpl>},
+      {DD::parameter, wrapAs<CLinkageItemImpl>},
+      {DD::program, wrapAs<CProgramImpl>},
   };
-  const XMLCh* const localName = node->getLocalName();
-  for (const auto& row : wrappers) {
-    if (XMLString::equals(row.localName, localName)) return row.wrapElement(*this, node);
-  }
-  AS_ASSERT(false, "VorDDHandler");
+  if (!wrapByName(rows, node)) AS_ASSERT(false, "VorDDHandler");
 }
 
 void CVorDDHandler::startDocument(DOMNode* root) {

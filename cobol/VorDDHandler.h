@@ -20,6 +20,8 @@ class CVorDDHandler final : public CElementHandler {
   std::unique_ptr<CProgramImpl> takeProgram();
 
  private:
+  static void wrapSection(CElementHandler& handler, xercesc::DOMNode* node);
+
   CProgramImpl* program_ = nullptr;
 };
 

@@ -156,13 +156,21 @@ as::IProgram* CAgentServices::parseProgram(const Source& source) const {
   });
 }
 
-as::IService* CAgentServices::parseServiceDocument(const Source& source, bool /*loadProgram*/) {
+as::IService* CAgentServices::parseServiceDocument(const Source& source, bool loadProgram) {
   return sortFailures(serviceFailure, [&]() -> as::IService* {
-    CXMLParser parser;
+    // The handler goes before the parser: what it releases may look at the document.
+    auto parser = std::make_unique<CXMLParser>();
     CDelegatingHandler handler;
-    source.parse(parser, schemaDirectory_, handler);
-    // Without a flavour to make one there is never a service.
-    return nullptr;
+    source.parse(*parser, schemaDirectory_, handler);
+    std::unique_ptr<CServiceImpl> service = handler.takeService();
+    if (!service) return nullptr;
+    parser->keep(handler.releaseUnowned());
+    service->setParser(std::move(parser));
+    if (loadProgram) {
+      as::IProgram* const program = parseCobolDD(service->getDDFilename().c_str());
+      if (program != nullptr) service->setProgram(program);
+    }
+    return as::interface_cast<as::IService>(service.release());
   });
 }
 

@@ -1,14 +1,40 @@
 #include "frame/DelegatingHandler.h"
 
+#include <xercesc/util/XMLString.hpp>
+
 #include "as/CASInvalidNamespaceException.h"
+#include "java/VorJHandler.h"
+#include "xml/Vocabulary.h"
 
 using xercesc::DOMDocument;
 using xercesc::DOMNode;
+using xercesc::XMLString;
+
+namespace {
+
+template <class Handler>
+std::shared_ptr<CVorSHandler> makeHandler() {
+  return std::make_shared<Handler>();
+}
+
+// The flavours, in the order in which a namespace is compared with theirs.
+constexpr struct {
+  const XMLCh* namespaceURI;
+  std::shared_ptr<CVorSHandler> (*make)();
+} flavours[] = {
+    {XSDNS::javaURI, makeHandler<CVorJHandler>},
+};
+
+}  // namespace
 
 CDelegatingHandler::~CDelegatingHandler() = default;
 
-void CDelegatingHandler::startDocument(DOMNode* /*root*/) {
-  // No flavour has landed yet, so there is no namespace to accept.
+void CDelegatingHandler::startDocument(DOMNode* root) {
+  for (const auto& flavour : flavours) {
+    if (!XMLString::equals(root->getNamespaceURI(), flavour.namespaceURI)) continue;
+    delegate_ = flavour.make();
+    return;
+  }
   throw as::CASInvalidNamespaceException();
 }
 
@@ -22,4 +48,14 @@ void CDelegatingHandler::endParse(DOMDocument* document) {
   if (delegate_) delegate_->endParse(document);
 }
 
-CServiceImpl* CDelegatingHandler::getService() const { return nullptr; }
+CServiceImpl* CDelegatingHandler::getService() const {
+  return delegate_ ? delegate_->getService() : nullptr;
+}
+
+std::unique_ptr<CServiceImpl> CDelegatingHandler::takeService() {
+  return delegate_ ? delegate_->takeService() : nullptr;
+}
+
+WrapperPool CDelegatingHandler::releaseUnowned() {
+  return delegate_ ? delegate_->releaseUnowned() : WrapperPool();
+}

@@ -5,9 +5,7 @@
 
 #include <memory>
 
-#include "xml/ElementHandler.h"
-
-class CServiceImpl;
+#include "service/VorSHandler.h"
 
 class CDelegatingHandler : public CElementHandler {
  public:
@@ -21,11 +19,15 @@ class CDelegatingHandler : public CElementHandler {
 
   // The service that the delegate built; null without a delegate.
   CServiceImpl* getService() const;
+  // The same, given away.
+  std::unique_ptr<CServiceImpl> takeService();
+  // What the delegate made and the model did not take in, given away.
+  WrapperPool releaseUnowned();
 
  private:
   // Shared only so that each delegate is destroyed as what it is: handlers have no virtual
   // destructor.
-  std::shared_ptr<CElementHandler> delegate_;
+  std::shared_ptr<CVorSHandler> delegate_;
 };
 
 #endif  // FRAME_DELEGATINGHANDLER_H_

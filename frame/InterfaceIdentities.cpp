@@ -56,11 +56,17 @@ namespace as {
 
 namespace {
 
-// Asks the bases of `object` in turn, each as what it is.
+// Asks one base of `object`, as what it is there ...
+template <class Base, class Interface>
+void* castThroughBase(Interface* object, RTTItypeid id) {
+  return object->Base::RTTI_cast(id);
+}
+
+// ... or all of them in turn.
 template <class Interface, class... Bases>
 void* castThrough([[maybe_unused]] Interface* object, [[maybe_unused]] RTTItypeid id) {
   void* found = nullptr;
-  static_cast<void>(((found = object->Bases::RTTI_cast(id)) || ...));
+  static_cast<void>(((found = castThroughBase<Bases>(object, id)) || ...));
   return found;
 }
 

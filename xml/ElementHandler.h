@@ -2,10 +2,12 @@
 #ifndef XML_ELEMENTHANDLER_H_
 #define XML_ELEMENTHANDLER_H_
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/dom/DOMNode.hpp>
+#include <xercesc/util/XMLString.hpp>
 
 #include "xml/ElementImpl.h"
 
@@ -21,6 +23,17 @@ using WrapperPool = std::vector<std::unique_ptr<CElementImpl>>;
 // over with releaseUnowned(), to live as long as the document.
 class CElementHandler {
  public:
+  // A row of a builder's table: elements of that local name are wrapped so.
+  struct ElementWrapping {
+    const XMLCh* localName;
+    void (*wrap)(CElementHandler&, xercesc::DOMNode*);
+  };
+  // Wraps by class Wrapper, constructed from the element alone.
+  template <class Wrapper>
+  static void wrapAs(CElementHandler& handler, xercesc::DOMNode* node) {
+    handler.wrap<Wrapper>(node);
+  }
+
   CElementHandler(const CElementHandler&) = delete;
   CElementHandler& operator=(const CElementHandler&) = delete;
 
@@ -51,6 +64,17 @@ class CElementHandler {
     CElementImpl::bind(node, wrapper);
     wrappers_.emplace_back(wrapper);
     static_cast<void>(made.release());
+  }
+
+  // Wraps the element as the first row for its local name says; false when there is none.
+  template <std::size_t N>
+  bool wrapByName(const ElementWrapping (&rows)[N], xercesc::DOMNode* node) {
+    for (const ElementWrapping& row : rows) {
+      if (!xercesc::XMLString::equals(row.localName, node->getLocalName())) continue;
+      row.wrap(*this, node);
+      return true;
+    }
+    return false;
   }
 
   // Binds the root's wrapper to the document and returns it; null when the root has none.

@@ -75,3 +75,16 @@ bool CElementImpl::truth(const XMLCh* attribute) const { return CXStr(wide(attri
 const XMLCh* CElementImpl::wide(const XMLCh* attribute) const {
   return element_->getAttribute(attribute);
 }
+
+void CElementImpl::write(const XMLCh* attribute, const char* value) {
+  CXStr converted(value == nullptr ? "" : value);
+  write(attribute, static_cast<const XMLCh*>(converted));
+}
+
+void CElementImpl::write(const XMLCh* attribute, const std::string& value) {
+  write(attribute, value.c_str());
+}
+
+void CElementImpl::write(const XMLCh* attribute, const XMLCh* word) {
+  if (word != nullptr) element_->setAttribute(attribute, word);
+}

@@ -8,6 +8,9 @@
 #include "as/IElement.h"
 #include "xml/Identity.h"
 
+class CServiceFactory;
+class CServiceImpl;
+
 // Binding: a wrapped element carries its wrapper, seen as CElementImpl, as DOM user data under
 // APIDATA_KEY, and the document carries the root's wrapper. There is no user-data handler: the DOM
 // never calls back into the model.
@@ -57,6 +60,12 @@ class CElementImpl : virtual public as::IElement {
   // The wrapper of the root of the document that `node` stands in; null when there is none.
   static CElementImpl* rootOf(const xercesc::DOMNode* node);
 
+  // The service that the element belongs to, and its factory, which every operation that adds to a
+  // document gets its new elements from. Null outside service documents and before the root is
+  // bound to the document. (Defined with the service.)
+  CServiceImpl* getService() const;
+  CServiceFactory* getFactory() const;
+
   // Whether some owner has taken the wrapper in. A wrapper that none did is released with its
   // document (see CElementHandler).
   bool isOwned() const { return owned_; }
@@ -69,6 +78,11 @@ class CElementImpl : virtual public as::IElement {
   bool truth(const XMLCh* attribute) const;
   // The value as it stands in the DOM; empty, never null, for an absent attribute.
   const XMLCh* wide(const XMLCh* attribute) const;
+
+  // Writes an attribute. A null C text counts as an empty one; a null word writes nothing.
+  void write(const XMLCh* attribute, const char* value);
+  void write(const XMLCh* attribute, const std::string& value);
+  void write(const XMLCh* attribute, const XMLCh* word);
 
   // Takes the list that wraps the child of that name into the caller's ownership, keeps it in
   // `member` and has it collect its members. A missing child, or one whose wrapper is no such list,

@@ -25,16 +25,20 @@ class IdentityRegistration {
 };
 
 // In the body of an implementation class: its identity members, and the walk over its bases.
-#define AS_IDENTITY(Class)                         \
-  AS_RTTI(Class)                                   \
- private:                                          \
-  template <class... Bases>                        \
-  void* castThroughBases(RTTItypeid id) {          \
-    void* found = nullptr;                         \
-    ((found = this->Bases::RTTI_cast(id)) || ...); \
-    return found;                                  \
-  }                                                \
-                                                   \
+#define AS_IDENTITY(Class)                                    \
+  AS_RTTI(Class)                                              \
+ private:                                                     \
+  template <class Base>                                       \
+  void* castThrough(RTTItypeid id) {                          \
+    return this->Base::RTTI_cast(id);                         \
+  }                                                           \
+  template <class... Bases>                                   \
+  void* castThroughBases(RTTItypeid id) {                     \
+    void* found = nullptr;                                    \
+    ((found = this->template castThrough<Bases>(id)) || ...); \
+    return found;                                             \
+  }                                                           \
+                                                              \
  public:
 
 // The identity members that are the same for every class.

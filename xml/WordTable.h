@@ -20,4 +20,13 @@ int codeOfWord(const WordCode (&table)[N], const XMLCh* text, int fallback) {
   return fallback;
 }
 
+// The word of the first row whose code is `code`; null when there is none.
+template <std::size_t N>
+const XMLCh* wordOfCode(const WordCode (&table)[N], int code) {
+  for (const WordCode& row : table) {
+    if (row.code == code) return row.word;
+  }
+  return nullptr;
+}
+
 #endif  // XML_WORDTABLE_H_

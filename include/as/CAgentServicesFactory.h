@@ -1,12 +1,15 @@
-// Where a client comes in: creates the entry object.
+// Where a client comes in: creates the entry object, and writes services back.
 #ifndef AS_CAGENTSERVICESFACTORY_H_
 #define AS_CAGENTSERVICESFACTORY_H_
+
+#include <string>
 
 #include "as/RTTI.h"
 
 namespace as {
 
 class IAgentServices;
+class IService;
 
 class AS_EXPORT CAgentServicesFactory {
  public:
@@ -18,6 +21,17 @@ class AS_EXPORT CAgentServicesFactory {
   // XML parser could not be started as the library was loaded, "AgentServices: An error occurred
   // the AgentServices processor" on any other failure.
   static IAgentServices* CreateAgentServices();
+
+  // Writes the whole document of `service` to the file named `file`, in place of what that held, as
+  // indented XML in UTF-8. The indentation is put into the document itself and stays there; a
+  // second time changes nothing more. A file that cannot be opened or written is left so without a
+  // word: to handle such errors use SerializeToString() and write the text yourself.
+  // Throws as::CASException, "AgentServices: An error occurred serializing the XML to file "
+  // followed by the name, for a null service and on any failure to make the text.
+  static void Serialize(IService* service, const char* file);
+
+  // The same text, given back instead of written. Throws the same with an empty name.
+  static std::string SerializeToString(IService* service);
 };
 
 }  // namespace as

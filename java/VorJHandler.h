@@ -1,0 +1,23 @@
+// Builds the model of a Java service while its document is parsed.
+#ifndef JAVA_VORJHANDLER_H_
+#define JAVA_VORJHANDLER_H_
+
+#include "java/JavaFactory.h"
+#include "java/JavaOperationImpl.h"
+#include "java/JavaParameterImpl.h"
+#include "service/SSVocabulary.h"
+#include "service/VorSHandler.h"
+
+// What a Java service has of its own; the service element is a plain one.
+struct JavaFlavour {
+  using Factory = CJavaFactory;
+  static constexpr CElementHandler::ElementWrapping rows[] = {
+      {SS::parameter, CElementHandler::wrapAs<CJavaParameterImpl>},
+      {SS::field, CElementHandler::wrapAs<CJavaParameterImpl>},
+      {SS::operation, CElementHandler::wrapAs<CJavaOperationImpl>},
+  };
+};
+
+class CVorJHandler final : public FlavourHandler<JavaFlavour> {};
+
+#endif  // JAVA_VORJHANDLER_H_

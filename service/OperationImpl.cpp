@@ -1,0 +1,97 @@
+#include "service/OperationImpl.h"
+
+#include "as/IEntryPoint.h"
+#include "as/IService.h"
+#include "service/HiddenParameterImpl.h"
+#include "service/ParameterImpl.h"
+#include "service/SSVocabulary.h"
+#include "service/ServiceFactory.h"
+
+AS_DEFINE_IDENTITY2(COperationImpl, as::IOperation, CElementImpl)
+
+COperationImpl::COperationImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
+
+COperationImpl::~COperationImpl() {
+  delete hiddenParameters_;
+  delete parameters_;
+}
+
+std::string COperationImpl::getName() { return text(SS::name); }
+
+void COperationImpl::setName(const char* name) { write(SS::name, name); }
+
+as::IEntryPoint* COperationImpl::getEntryPoint() {
+  auto* const service = as::interface_cast<as::IService>(rootOf(getElement()));
+  if (service == nullptr) return nullptr;
+  return GetEntryPoint(service->getProgram(), text(SS::entryPoint));
+}
+
+bool COperationImpl::setEntryPoint(as::IEntryPoint* entryPoint) {
+  if (entryPoint == nullptr) return false;
+  // An operation that is bound to an entry point of its program stays bound to it.
+  if (getEntryPoint() != nullptr) return false;
+  write(SS::entryPoint, entryPoint->getName());
+  return true;
+}
+
+// The arguments have no part in it: the caller sets item and value on what is returned.
+as::IHiddenParameter* COperationImpl::addHiddenParameter(as::IDataItem* /*dataItem*/,
+                                                         const char* /*value*/) {
+  CServiceFactory* const factory = getFactory();
+  if (hiddenParameters_ == nullptr) {
+    hiddenParameters_ = factory->createList(*this, SS::hiddenParameters,
+                                            getNamedChild(getElement(), SS::parameters));
+  }
+  CHiddenParameterImpl* const hidden = factory->createHiddenParameter();
+  hiddenParameters_->addChild(hidden->getElement());
+  return hidden;
+}
+
+as::IList* COperationImpl::getHiddenParameters() { return CList::orEmpty(hiddenParameters_); }
+
+as::IParameter* COperationImpl::addParameter(as::IParameter::BY_TYPE byType, const char* name,
+                                             int occurs) {
+  CParameterImpl* const parameter = getFactory()->createParameter();
+  parameter->setName(name);
+  parameter->setByType(byType);
+  parameter->setOccurs(occurs);
+  addParameter(parameter);
+  return parameter;
+}
+
+as::IList* COperationImpl::getParameters() { return CList::orEmpty(parameters_); }
+
+int COperationImpl::getExitPoints() { return integer(SS::exitPoints); }
+
+void COperationImpl::setExitPoints(unsigned int count) {
+  write(SS::exitPoints, std::to_string(count));
+}
+
+void COperationImpl::collectChildren() {
+  collectNamedList(SS::hiddenParameters, hiddenParameters_);
+  collectNamedList(SS::parameters, parameters_);
+}
+
+void COperationImpl::addParameter(as::IParameter* parameter) {
+  auto* const wrapper = as::interface_cast<CElementImpl>(parameter);
+  if (wrapper == nullptr) return;
+  if (parameters_ == nullptr) {
+    // Behind the hidden parameters, in front of what a flavour keeps in an operation.
+    const CElementImpl* const hidden = hiddenParameters_;
+    parameters_ = getFactory()->createList(
+        *this, SS::parameters,
+        hidden == nullptr ? getElement()->getFirstChild() : hidden->getElement()->getNextSibling());
+  }
+  parameters_->addChild(wrapper->getElement());
+}
+
+as::IEntryPoint* COperationImpl::GetEntryPoint(as::IProgram* program, const std::string& name) {
+  if (program == nullptr) return nullptr;
+  as::IList* const entryPoints = program->getEntryPoints();
+  const int count = entryPoints->getLength();
+  for (int i = 0; i < count; i++) {
+    auto* const entryPoint = as::interface_cast<as::IEntryPoint>(entryPoints->getItem(i));
+    if (entryPoint != nullptr && entryPoint->getName() == name) return entryPoint;
+  }
+  return nullptr;
+}

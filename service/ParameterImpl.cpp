@@ -1,0 +1,143 @@
+#include "service/ParameterImpl.h"
+
+#include <vector>
+
+#include "as/IOperation.h"
+#include "cobol/DataItemPath.h"
+#include "service/MappingImpl.h"
+#include "service/SSVocabulary.h"
+#include "service/ServiceFactory.h"
+#include "service/ServiceImpl.h"
+#include "xml/WordTable.h"
+#include "xml/XStr.h"
+
+using xercesc::DOMNode;
+using xercesc::XMLString;
+
+AS_DEFINE_IDENTITY3(CParameterImpl, as::IParameter, as::IField, CElementImpl)
+
+namespace {
+
+constexpr WordCode byTypes[] = {
+    {SS::in, as::IParameter::BY_IN},
+    {SS::out, as::IParameter::BY_OUT},
+};
+
+}  // namespace
+
+CParameterImpl::CParameterImpl(xercesc::DOMElement* element)
+    : CElementImpl(element), fields_(element) {}
+
+CParameterImpl::~CParameterImpl() { delete mappings_; }
+
+std::string CParameterImpl::getName() { return text(SS::name); }
+
+void CParameterImpl::setName(const char* name) { write(SS::name, name); }
+
+int CParameterImpl::getOccurs() {
+  return reference_ == nullptr ? integer(SS::occurs) : reference_->integer(SS::occurs);
+}
+
+void CParameterImpl::setOccurs(int count) { write(SS::occurs, std::to_string(count)); }
+
+as::IList* CParameterImpl::getChildren() {
+  if (reference_ != nullptr) return reference_->getChildren();
+  return &fields_;
+}
+
+as::IList* CParameterImpl::getMappings() {
+  if (reference_ != nullptr) return reference_->getMappings();
+  return CList::orEmpty(mappings_);
+}
+
+as::IField* CParameterImpl::addField(const char* name, int occurs) {
+  if (reference_ != nullptr) return nullptr;
+  CParameterImpl* const field = getFactory()->createField();
+  field->setName(name);
+  field->setOccurs(occurs);
+  fields_.addChild(field->getElement());
+  return field;
+}
+
+as::IMapping* CParameterImpl::addMapping(as::IDataItem* dataItem) {
+  if (reference_ != nullptr || dataItem == nullptr) return nullptr;
+  CServiceFactory* const factory = getFactory();
+  if (mappings_ == nullptr) {
+    mappings_ = factory->createList(*this, SS::mappings, getElement()->getFirstChild());
+  }
+  CMappingImpl* const mapping = factory->createMapping();
+  mapping->setField(this);
+  mapping->setDataItem(dataItem);
+  mappings_->addChild(mapping->getElement());
+  return mapping;
+}
+
+std::string CParameterImpl::getQualifiedName() {
+  // Joined without a separator: clients use it as a key.
+  std::string name = getName();
+  const DOMNode* node = getElement()->getParentNode();
+  const auto isField = [](const DOMNode* candidate) {
+    const XMLCh* const localName = candidate->getLocalName();
+    return XMLString::equals(localName, SS::field) || XMLString::equals(localName, SS::parameter);
+  };
+  for (; node != nullptr && isField(node); node = node->getParentNode()) {
+    if (auto* const field = as::interface_cast<as::IField>(wrapperOf(node))) {
+      name.insert(0, field->getName());
+    }
+  }
+  // Compared with its prefix: a prefixed document's names end at the parameter.
+  if (node == nullptr || !XMLString::equals(node->getNodeName(), SS::parameters)) return name;
+  const DOMNode* const parent = node->getParentNode();
+  if (parent == nullptr || !XMLString::equals(parent->getNodeName(), SS::operation)) return name;
+  if (auto* const operation = as::interface_cast<as::IOperation>(wrapperOf(parent))) {
+    name.insert(0, operation->getName());
+  }
+  return name;
+}
+
+as::IParameter::BY_TYPE CParameterImpl::getByType() {
+  return static_cast<BY_TYPE>(codeOfWord(byTypes, wide(SS::byType), BY_IO));
+}
+
+void CParameterImpl::setByType(BY_TYPE byType) { write(SS::byType, ByTypeToString(byType)); }
+
+as::IParameter* CParameterImpl::getReferenceType() { return reference_; }
+
+void CParameterImpl::collectChildren() {
+  const std::string ref = text(SS::ref);
+  if (!ref.empty()) {
+    CServiceImpl* const service = getService();
+    CParameterImpl* const found = service == nullptr ? nullptr : service->getPrototypeByName(ref);
+    // A definition that leads back to itself defines nothing.
+    bool circular = false;
+    for (const CParameterImpl* at = found; at != nullptr && !circular; at = at->reference_) {
+      circular = at == this;
+    }
+    reference_ = circular ? nullptr : found;
+    return;
+  }
+  collectNamedList(SS::mappings, mappings_);
+  const int count = mappings_ == nullptr ? 0 : mappings_->getLength();
+  for (int i = 0; i < count; i++) {
+    auto* const mapping = as::interface_cast<CMappingImpl>(mappings_->getElement(i));
+    if (mapping != nullptr) mapping->setField(this);
+  }
+  fields_.collectChildren();
+}
+
+const XMLCh* CParameterImpl::ByTypeToString(BY_TYPE byType) {
+  const XMLCh* const word = wordOfCode(byTypes, byType);
+  return word == nullptr ? SS::io : word;
+}
+
+std::string CParameterImpl::GetFullyQualifiedName(const std::string& path) {
+  std::string name;
+  for (const std::string& component : splitDataItemPath(path)) {
+    name = name.empty() ? component : component + " of " + name;
+  }
+  return name;
+}
+
+as::IDataItem* CParameterImpl::GetDataItem(const std::string& path, as::IProgram* program) {
+  return findDataItem(path, program);
+}

@@ -1,0 +1,136 @@
+#include "service/ServiceImpl.h"
+
+#include <xercesc/dom/DOMDocument.hpp>
+#include <xercesc/util/XMLString.hpp>
+
+#include "as/IEntryPoint.h"
+#include "as/IOperation.h"
+#include "cobol/ProgramImpl.h"
+#include "service/OperationImpl.h"
+#include "service/ParameterImpl.h"
+#include "service/SSVocabulary.h"
+#include "xml/Assertion.h"
+#include "xml/WordTable.h"
+#include "xml/XStr.h"
+
+AS_DEFINE_IDENTITY2(CServiceImpl, as::IService, CElementImpl)
+
+namespace {
+
+constexpr WordCode implementations[] = {
+    {SS::java, as::IService::TYPE_JAVA}, {SS::xd, as::IService::TYPE_XD},
+    {SS::com, as::IService::TYPE_COM},   {SS::dotnet, as::IService::TYPE_DOTNET},
+    {SS::ws, as::IService::TYPE_WS},
+};
+
+// The part of a path or URI behind its last directory separator; all of it when nothing is left
+// there.
+std::string fileNameOf(const std::string& uri) {
+  const std::size_t base = uri.rfind('/') + 1;  // npos wraps to 0: there is no directory.
+  return base == uri.size() ? uri : uri.substr(base);
+}
+
+}  // namespace
+
+CServiceImpl::CServiceImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
+
+CServiceImpl::~CServiceImpl() {
+  delete program_;
+  delete operations_;
+  delete parameterTypeDefs_;
+  delete properties_;
+}
+
+std::string CServiceImpl::getNamespaceURI() {
+  // The document node's own, which has none: clients rely on the empty answer.
+  return CXStr(getElement()->getOwnerDocument()->getNamespaceURI(), false);
+}
+
+as::IList* CServiceImpl::getProperties() { return CList::orEmpty(properties_); }
+
+as::IList* CServiceImpl::getParameterTypeDefs() { return CList::orEmpty(parameterTypeDefs_); }
+
+as::IList* CServiceImpl::getOperations() { return CList::orEmpty(operations_); }
+
+as::IOperation* CServiceImpl::addOperation(const char* name, as::IEntryPoint* entryPoint) {
+  COperationImpl* const operation = factory_->createOperation();
+  operation->setName(name);
+  operation->setEntryPoint(entryPoint);
+  addOperation(operation);
+  return operation;
+}
+
+std::string CServiceImpl::getName() { return text(SS::name); }
+
+void CServiceImpl::setName(const char* name) { write(SS::name, name); }
+
+as::IService::TYPE CServiceImpl::getImplementation() {
+  return GetImplementation(wide(SS::implementation));
+}
+
+as::IProgram* CServiceImpl::getProgram() { return program_; }
+
+std::string CServiceImpl::getDDFilename() { return text(SS::dataDictFilename); }
+
+void CServiceImpl::setDDFilename(const char* fileName) { write(SS::dataDictFilename, fileName); }
+
+std::string CServiceImpl::getExitProgramName() { return text(SS::exitProgramName); }
+
+void CServiceImpl::setExitProgramName(const char* name) { write(SS::exitProgramName, name); }
+
+void CServiceImpl::collectChildren() {
+  // The definitions first: what follows refers to them.
+  collectNamedList(SS::parameterTypeDefs, parameterTypeDefs_);
+  collectNamedList(SS::properties, properties_);
+  collectNamedList(SS::operations, operations_);
+}
+
+void CServiceImpl::setProgram(as::IProgram* pProgram) {
+  AS_ASSERT(pProgram, "ServiceImpl");
+  if (program_ != pProgram) delete program_;
+  program_ = pProgram;
+  write(SS::programName, program_->getName());
+  auto* const wrapper = as::interface_cast<CElementImpl>(program_);
+  if (wrapper == nullptr) return;
+  const std::string uri = CXStr(wrapper->getElement()->getOwnerDocument()->getDocumentURI(), false);
+  write(SS::dataDictFilename, fileNameOf(uri));
+}
+
+void CServiceImpl::addOperation(as::IOperation* operation) {
+  auto* const wrapper = as::interface_cast<CElementImpl>(operation);
+  if (wrapper == nullptr) return;
+  if (operations_ == nullptr) operations_ = factory_->createList(*this, SS::operations, nullptr);
+  operations_->addChild(wrapper->getElement());
+}
+
+void CServiceImpl::setImplementation(TYPE type) {
+  write(SS::implementation, wordOfCode(implementations, type));
+}
+
+as::IService::TYPE CServiceImpl::GetImplementation(const XMLCh* word) {
+  return static_cast<TYPE>(codeOfWord(implementations, word, TYPE_WS));
+}
+
+CParameterImpl* CServiceImpl::getPrototypeByName(const std::string& name) {
+  CXStr wanted(name);
+  const XMLCh* const wideName = wanted;
+  const int count = parameterTypeDefs_ == nullptr ? 0 : parameterTypeDefs_->getLength();
+  for (int i = 0; i < count; i++) {
+    const XMLCh* const candidate = parameterTypeDefs_->getNode(i)->getAttribute(SS::name);
+    if (!xercesc::XMLString::equals(candidate, wideName)) continue;
+    auto* const found = as::interface_cast<CParameterImpl>(parameterTypeDefs_->getElement(i));
+    if (found != nullptr) return found;
+  }
+  return nullptr;
+}
+
+// What every wrapper of a service document reaches through its root. Declared low, with the
+// wrapper; at home here, where services are known.
+CServiceImpl* CElementImpl::getService() const {
+  return as::interface_cast<CServiceImpl>(rootOf(getElement()));
+}
+
+CServiceFactory* CElementImpl::getFactory() const {
+  CServiceImpl* const service = getService();
+  return service == nullptr ? nullptr : service->getServiceFactory();
+}

@@ -1,0 +1,69 @@
+// A service: the root element of a service definition.
+#ifndef SERVICE_SERVICEIMPL_H_
+#define SERVICE_SERVICEIMPL_H_
+
+#include <memory>
+#include <string>
+
+#include "as/IProgram.h"
+#include "as/IService.h"
+#include "service/ServiceFactory.h"
+#include "xml/List.h"
+#include "xml/XMLParser.h"
+
+class CParameterImpl;
+
+class CServiceImpl : virtual public as::IService, virtual public CElementImpl {
+ public:
+  explicit CServiceImpl(xercesc::DOMElement* element);
+  // Releases the program, the lists with every wrapper below them, the factory, and last the
+  // document.
+  ~CServiceImpl() override;
+  AS_IDENTITY(CServiceImpl)
+
+  std::string getNamespaceURI() override;
+  as::IList* getProperties() override;
+  as::IList* getParameterTypeDefs() override;
+  as::IList* getOperations() override;
+  as::IOperation* addOperation(const char* name, as::IEntryPoint* entryPoint) override;
+  std::string getName() override;
+  void setName(const char* name) override;
+  TYPE getImplementation() override;
+  as::IProgram* getProgram() override;
+  std::string getDDFilename() override;
+  void setDDFilename(const char* fileName) override;
+  std::string getExitProgramName() override;
+  void setExitProgramName(const char* name) override;
+
+  // May be called again: it finds the same lists.
+  void collectChildren() override;
+
+  // Takes ownership of the program and writes its name and the file name of its dictionary. A null
+  // program is a programming error that ends the process.
+  void setProgram(as::IProgram* program);
+  // Appends an operation of this document; a null one is ignored.
+  void addOperation(as::IOperation* operation);
+  // Writes the word of the type; leaves the attribute alone for any other number.
+  void setImplementation(TYPE type);
+  // The type that `word` names; TYPE_WS for every other text.
+  static TYPE GetImplementation(const XMLCh* word);
+  // The first parameter type definition of that name, null when there is none.
+  CParameterImpl* getPrototypeByName(const std::string& name);
+
+  // The factory of the document's flavour.
+  CServiceFactory* getServiceFactory() const { return factory_.get(); }
+  void setFactory(std::unique_ptr<CServiceFactory> factory) { factory_ = std::move(factory); }
+  // Hands over the parser that holds a parsed service's document.
+  void setParser(std::unique_ptr<CXMLParser> parser) { parser_ = std::move(parser); }
+
+ private:
+  // Owned; null for a list that the document lacks, and until the children are collected.
+  CList* parameterTypeDefs_ = nullptr;
+  CList* operations_ = nullptr;
+  CList* properties_ = nullptr;
+  as::IProgram* program_ = nullptr;
+  std::unique_ptr<CServiceFactory> factory_;
+  std::unique_ptr<CXMLParser> parser_;
+};
+
+#endif  // SERVICE_SERVICEIMPL_H_

@@ -1,0 +1,43 @@
+#include "service/VorSHandler.h"
+
+#include <utility>
+
+#include "cobol/PropertyImpl.h"
+#include "service/HiddenParameterImpl.h"
+#include "service/MappingImpl.h"
+#include "service/OperationImpl.h"
+#include "service/ParameterImpl.h"
+#include "service/SSVocabulary.h"
+#include "xml/Assertion.h"
+
+using xercesc::DOMDocument;
+using xercesc::DOMNode;
+
+void CVorSHandler::newElement(DOMNode* node) {
+  static constexpr ElementWrapping rows[] = {
+      {SS::field, wrapAs<CParameterImpl>},
+      {SS::parameter, wrapAs<CParameterImpl>},
+      {SS::operations, wrapAs<CList>},
+      {SS::parameters, wrapAs<CList>},
+      {SS::hiddenParameter, wrapAs<CHiddenParameterImpl>},
+      {SS::operation, wrapAs<COperationImpl>},
+      {SS::service, wrapAs<CServiceImpl>},
+      {SS::mapping, wrapAs<CMappingImpl>},
+      {SS::hiddenParameters, wrapAs<CList>},
+      {SS::mappings, wrapAs<CList>},
+      {SS::parameterTypeDefs, wrapAs<CList>},
+      {SS::properties, wrapAs<CList>},
+      {SS::property, wrapAs<CPropertyImpl>},
+  };
+  if (!wrapByName(rows, node)) AS_ASSERT(false, "VorSHandler");
+}
+
+void CVorSHandler::endParse(DOMDocument* document) {
+  service_ = as::interface_cast<CServiceImpl>(bindRoot(document));
+  if (service_ != nullptr) service_->collectChildren();
+}
+
+std::unique_ptr<CServiceImpl> CVorSHandler::takeService() {
+  if (service_ != nullptr) service_->setOwned();
+  return std::unique_ptr<CServiceImpl>(std::exchange(service_, nullptr));
+}

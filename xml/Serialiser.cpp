@@ -1,0 +1,125 @@
+#include "xml/Serialiser.h"
+
+#include <memory>
+#include <stdexcept>
+#include <xercesc/dom/DOM.hpp>
+#include <xercesc/framework/MemBufFormatTarget.hpp>
+#include <xercesc/util/XMLString.hpp>
+#include <xercesc/util/XMLUni.hpp>
+
+#include "xml/XMLParser.h"
+
+using xercesc::DOMDocument;
+using xercesc::DOMElement;
+using xercesc::DOMImplementation;
+using xercesc::DOMImplementationRegistry;
+using xercesc::DOMLSOutput;
+using xercesc::DOMLSSerializer;
+using xercesc::DOMNamedNodeMap;
+using xercesc::DOMNode;
+using xercesc::MemBufFormatTarget;
+using xercesc::XMLString;
+using xercesc::XMLUni;
+
+namespace {
+
+struct Release {
+  template <class Object>
+  void operator()(Object* object) const {
+    object->release();
+  }
+};
+
+using WideText = std::basic_string<XMLCh>;
+
+// The name that `element` is written by: its own, under the root's prefix when it is in no
+// namespace (new elements are; they belong to the document's).
+WideText writtenName(const DOMElement* element, const XMLCh* rootPrefix) {
+  const WideText name = element->getNodeName();
+  const bool isOurs = element->getNamespaceURI() == nullptr && rootPrefix != nullptr;
+  return isOurs ? WideText(rootPrefix) + u":" + name : name;
+}
+
+// Copies one node without its children into `to`, where names are nothing but names.
+DOMNode* copyNode(DOMDocument* to, const DOMNode* node, const XMLCh* rootPrefix) {
+  const XMLCh* const value = node->getNodeValue();
+  switch (node->getNodeType()) {
+    case DOMNode::ELEMENT_NODE: {
+      DOMElement* const copy =
+          to->createElement(writtenName(static_cast<const DOMElement*>(node), rootPrefix).c_str());
+      const DOMNamedNodeMap* const attributes = node->getAttributes();
+      for (XMLSize_t i = 0; i < attributes->getLength(); i++) {
+        const DOMNode* const attribute = attributes->item(i);
+        copy->setAttribute(attribute->getNodeName(), attribute->getNodeValue());
+      }
+      return copy;
+    }
+    case DOMNode::TEXT_NODE:
+      return to->createTextNode(value);
+    case DOMNode::CDATA_SECTION_NODE:
+      return to->createCDATASection(value);
+    case DOMNode::COMMENT_NODE:
+      return to->createComment(value);
+    case DOMNode::PROCESSING_INSTRUCTION_NODE:
+      return to->createProcessingInstruction(node->getNodeName(), value);
+    default:
+      // A document type: what it declared has been put in place when the document was read.
+      return nullptr;
+  }
+}
+
+void copyChildren(DOMDocument* to, DOMNode* parent, const DOMNode* from, const XMLCh* rootPrefix) {
+  for (DOMNode* child = from->getFirstChild(); child != nullptr; child = child->getNextSibling()) {
+    DOMNode* const copy = copyNode(to, child, rootPrefix);
+    if (copy == nullptr) continue;
+    parent->appendChild(copy);
+    copyChildren(to, copy, child, rootPrefix);
+  }
+}
+
+void insertSpacer(DOMNode* parent, DOMNode* before, int depth) {
+  CXStr text = spacer(depth);
+  parent->insertBefore(parent->getOwnerDocument()->createTextNode(text), before);
+}
+
+}  // namespace
+
+CXStr spacer(int depth) { return "\n" + std::string(2 * static_cast<std::size_t>(depth), ' '); }
+
+bool needsCR(DOMNode* node) {
+  const DOMNode* const last = node->getLastChild();
+  if (last->getNodeType() != DOMNode::TEXT_NODE) return true;
+  return XMLString::indexOf(last->getNodeValue(), u'\r') >= 0;
+}
+
+void prettyPrintTree(DOMNode* node, int depth) {
+  if (depth > CXMLParser::maxDepth) throw std::length_error("nested too deep to be read again");
+  for (; node != nullptr; node = node->getNextSibling()) {
+    // Children first: whether they are laid out depends on their parent's last child as it was.
+    prettyPrintTree(node->getFirstChild(), depth + 1);
+    DOMNode* const parent = node->getParentNode();
+    const bool isText = node->getNodeType() == DOMNode::TEXT_NODE;
+    if (isText || parent == nullptr) continue;
+    const bool isRoot = node == node->getOwnerDocument()->getDocumentElement();
+    if (!isRoot && needsCR(parent)) insertSpacer(parent, node, depth);
+    if (node->hasChildNodes() && needsCR(node)) insertSpacer(node, nullptr, depth);
+  }
+}
+
+std::string serialiseNode(DOMDocument* document) {
+  // The parser's writer "repairs" namespaces: it declares anew what the tree's plain attributes
+  // declare already. From a copy that knows no namespaces it writes what is there.
+  DOMImplementation* const implementation = DOMImplementationRegistry::getDOMImplementation(u"LS");
+  const std::unique_ptr<DOMDocument, Release> copy(implementation->createDocument());
+  copyChildren(copy.get(), copy.get(), document, document->getDocumentElement()->getPrefix());
+
+  const std::unique_ptr<DOMLSSerializer, Release> writer(implementation->createLSSerializer());
+  writer->getDomConfig()->setParameter(XMLUni::fgDOMWRTFormatPrettyPrint, true);
+  constexpr XMLSize_t initialCapacity = 1023;
+  MemBufFormatTarget target(initialCapacity);
+  const std::unique_ptr<DOMLSOutput, Release> output(implementation->createLSOutput());
+  output->setEncoding(XMLUni::fgUTF8EncodingString);
+  output->setByteStream(&target);
+  if (!writer->write(copy.get(), output.get())) throw std::runtime_error("not written");
+  return std::string(reinterpret_cast<const char*>(target.getRawBuffer()), target.getLen());
+}
