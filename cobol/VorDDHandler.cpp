@@ -73,5 +73,6 @@ void CVorDDHandler::endParse(DOMDocument* document) {
 
 std::unique_ptr<CProgramImpl> CVorDDHandler::takeProgram() {
   if (program_ != nullptr) program_->setOwned();
+  forgetOwned();
   return std::unique_ptr<CProgramImpl>(std::exchange(program_, nullptr));
 }

@@ -39,5 +39,6 @@ void CVorSHandler::endParse(DOMDocument* document) {
 
 std::unique_ptr<CServiceImpl> CVorSHandler::takeService() {
   if (service_ != nullptr) service_->setOwned();
+  forgetOwned();
   return std::unique_ptr<CServiceImpl>(std::exchange(service_, nullptr));
 }

@@ -11,7 +11,7 @@ using xercesc::DOMNode;
 
 CElementHandler::CElementHandler() = default;
 
-CElementHandler::~CElementHandler() { releaseUnowned(); }
+CElementHandler::~CElementHandler() { forgetOwned(); }
 
 void CElementHandler::startElement(DOMNode* /*node*/) {}
 
@@ -24,14 +24,18 @@ CElementImpl* CElementHandler::bindRoot(DOMDocument* document) {
   return wrapper;
 }
 
-WrapperPool CElementHandler::releaseUnowned() {
-  // The owned ones are let go before any wrapper is deleted: its owner deletes them with itself.
-  const auto unowned = std::partition(
+void CElementHandler::forgetOwned() {
+  // All of them before any wrapper is deleted: its owner deletes them with itself.
+  const auto owned = std::partition(
       wrappers_.begin(), wrappers_.end(),
       [](const std::unique_ptr<CElementImpl>& wrapper) { return !wrapper->isOwned(); });
-  std::for_each(unowned, wrappers_.end(), [](std::unique_ptr<CElementImpl>& wrapper) {
+  std::for_each(owned, wrappers_.end(), [](std::unique_ptr<CElementImpl>& wrapper) {
     static_cast<void>(wrapper.release());
   });
-  wrappers_.erase(unowned, wrappers_.end());
+  wrappers_.erase(owned, wrappers_.end());
+}
+
+WrapperPool CElementHandler::releaseUnowned() {
+  forgetOwned();
   return std::exchange(wrappers_, WrapperPool());
 }

@@ -84,6 +84,11 @@ class CElementHandler {
   // The wrappers that the model did not take in, given away.
   WrapperPool releaseUnowned();
 
+ protected:
+  // Lets go of the wrappers that the model has taken in. To be called when the model is given away:
+  // its wrappers may be gone at any time then.
+  void forgetOwned();
+
  private:
   WrapperPool wrappers_;
 };

@@ -211,9 +211,9 @@ InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
   const XMLCh* const systemId = reference->getSystemId();
   const std::string name = narrow(systemId);
   if (!isSchemaReference(*reference)) {
-    refuse("the external entity '" + name +
-           "' is refused: documents must be complete in themselves");
-    return emptySource();
+    // At once, be the root seen or not: what the parser makes of an external DTD it never frees.
+    throw messageHere("the external entity '" + name +
+                      "' is refused: documents must be complete in themselves");
   }
   if (InputSource* const local = resolver_.resolveEntity(reference->getPublicId(), systemId)) {
     return local;
@@ -244,8 +244,10 @@ void CXMLParser::report(as::CASParseException message) {
   if (!firstMessage_) firstMessage_ = std::move(message);
 }
 
-void CXMLParser::refuse(const std::string& text) {
+void CXMLParser::refuse(const std::string& text) { report(messageHere(text)); }
+
+as::CASParseException CXMLParser::messageHere(const std::string& text) const {
   const Locator* const at = getScanner()->getLocator();
-  report(as::CASParseException(0, position(at->getLineNumber()), position(at->getColumnNumber()),
-                               text, narrow(at->getPublicId()), narrow(at->getSystemId())));
+  return {0,    position(at->getLineNumber()), position(at->getColumnNumber()),
+          text, narrow(at->getPublicId()),     narrow(at->getSystemId())};
 }

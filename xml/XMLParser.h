@@ -82,6 +82,8 @@ class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler
   void report(as::CASParseException message);
   // Ends the parse with a message of this library's own, at the place reached in the document.
   void refuse(const std::string& text);
+  // Such a message.
+  as::CASParseException messageHere(const std::string& text) const;
 
   CElementHandler* handler_ = nullptr;
   VorEntityResolver resolver_;
