@@ -15,7 +15,7 @@ CDataItemList::CDataItemList(xercesc::DOMElement* element, CGroupImpl* group)
 CDataItemList::~CDataItemList() = default;
 
 void CDataItemList::onAddChild(CElementImpl* child) {
-  CDataItemImpl* const pDataItem = as::interface_cast<CDataItemImpl>(child);
+  auto* const pDataItem = as::interface_cast<CDataItemImpl>(child);
   AS_ASSERT(pDataItem, "DataItemImpl");
   pDataItem->setParent(group_);
 }

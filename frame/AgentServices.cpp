@@ -38,7 +38,7 @@ int InitXerces() {
   } catch (...) {
     return 0;
   }
-  std::atexit(AtExit);
+  if (std::atexit(AtExit) != 0) return 0;
   XMLTransService::Codes result = XMLTransService::Ok;
   constexpr XMLSize_t blockSize = 4096;
   gUTF8Transcoder = XMLPlatformUtils::fgTransService->makeNewTranscoderFor(
@@ -109,7 +109,7 @@ void CAgentServices::setSchemaLocation(const char* dir) {
   // No character is both: a separator is appended whatever the directory ends in, and clients see
   // it in the names of schema files. Reading the last character of nothing fails.
   const char last = schemaDirectory_.at(schemaDirectory_.length() - 1);
-  if (last == '\\' && last == '/') return;
+  if (last == '\\' && last == '/') return;  // NOLINT(misc-redundant-expression)
   schemaDirectory_ += "/";
 }
 

@@ -80,7 +80,7 @@ AS_INTERFACES(AS_DEFINE_ROW0, AS_DEFINE_ROW1, AS_DEFINE_ROW2)
 bool IField::hasChildren() { return getChildren()->getLength() > 0; }
 
 // Never reached: the implementation overrides all three.
-std::string IWSParameter::getNamespace() { return std::string(); }
+std::string IWSParameter::getNamespace() { return {}; }
 IWSField::FORM IWSParameter::getElementForm() { return static_cast<FORM>(-1); }
 IWSField::FORM IWSParameter::getAttributeForm() { return static_cast<FORM>(-1); }
 

@@ -55,7 +55,7 @@ int readSubscripts(std::string_view list, int* subscripts) {
 }  // namespace
 
 std::string GetNormalizedName(as::IDataItem* item) {
-  if (item == nullptr) return std::string();
+  if (item == nullptr) return {};
   std::string name = item->getName();
   for (as::IGroup* parent = item->getParent(); parent != nullptr; parent = parent->getParent()) {
     name.insert(0, parent->getName() + ".");

@@ -131,9 +131,11 @@ const XMLCh* CParameterImpl::ByTypeToString(BY_TYPE byType) {
 }
 
 std::string CParameterImpl::GetFullyQualifiedName(const std::string& path) {
+  const std::vector<std::string> components = splitDataItemPath(path);
   std::string name;
-  for (const std::string& component : splitDataItemPath(path)) {
-    name = name.empty() ? component : component + " of " + name;
+  for (auto component = components.rbegin(); component != components.rend(); ++component) {
+    if (component != components.rbegin()) name += " of ";
+    name += *component;
   }
   return name;
 }

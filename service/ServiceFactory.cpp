@@ -95,4 +95,4 @@ void CServiceFactory::appendList(DOMElement* parent, const XMLCh* name) {
   parent->appendChild(element);
   // Found by its element, and taken in, when the parent's wrapper collects its children.
   static_cast<void>(list.release());
-}
+}  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
