@@ -1,18 +1,27 @@
 #include <fstream>
+#include <memory>
 #include <stdexcept>
 #include <xercesc/dom/DOMDocument.hpp>
 
 #include "as/CASException.h"
 #include "as/CAgentServicesFactory.h"
 #include "as/Globals.h"
+#include "as/IDotNET.h"
+#include "as/IWebService.h"
+#include "com/COMFactory.h"
+#include "dotnet/DotNETFactory.h"
 #include "frame/AgentServices.h"
+#include "java/JavaFactory.h"
 #include "service/ServiceImpl.h"
+#include "ws/WebServiceFactory.h"
 #include "xml/Identity.h"
 #include "xml/Serialiser.h"
 
 AS_REGISTER_IDENTITY(as::CAgentServicesFactory, CAgentServicesFactory, nullptr)
 
 namespace {
+
+constexpr char notInitialised[] = "AgentServices: Unable to initialise the Xerces XML parser";
 
 // The document of `service`, indented; every failure becomes the one exception for `file`.
 std::string toText(as::IService* service, const std::string& file) {
@@ -24,6 +33,23 @@ std::string toText(as::IService* service, const std::string& file) {
     return serialiseNode(document);
   } catch (...) {
     throw as::CASException("AgentServices: An error occurred serializing the XML to file " + file);
+  }
+}
+
+// A new service of the flavour that Factory makes, for `program`, which it owns from then on; null
+// for a null program.
+template <class Factory>
+CServiceImpl* newService(as::IProgram* program) {
+  if (nXercesInitStatus == 0) throw as::CASException(notInitialised);
+  if (program == nullptr) return nullptr;
+  try {
+    auto factory = std::make_unique<Factory>();
+    std::unique_ptr<CServiceImpl> service(factory->createService());
+    service->setFactory(std::move(factory));
+    service->setProgram(program);
+    return service.release();
+  } catch (...) {
+    throw as::CASException("AgentServices: An error occurred during service initialisaton");
   }
 }
 
@@ -40,14 +66,28 @@ void* CAgentServicesFactory::RTTI_cast(RTTItypeid id) {
 }
 
 IAgentServices* CAgentServicesFactory::CreateAgentServices() {
-  if (nXercesInitStatus == 0) {
-    throw CASException("AgentServices: Unable to initialise the Xerces XML parser");
-  }
+  if (nXercesInitStatus == 0) throw CASException(notInitialised);
   try {
     return new CAgentServices;
   } catch (...) {
     throw CASException("AgentServices: An error occurred the AgentServices processor");
   }
+}
+
+IWebService* CAgentServicesFactory::NewWebService(IProgram* program) {
+  return interface_cast<IWebService>(newService<CWebServiceFactory>(program));
+}
+
+IService* CAgentServicesFactory::NewCOMService(IProgram* program) {
+  return newService<CCOMFactory>(program);
+}
+
+IService* CAgentServicesFactory::NewJavaService(IProgram* program) {
+  return newService<CJavaFactory>(program);
+}
+
+IDotNET* CAgentServicesFactory::NewDotNETService(IProgram* program) {
+  return interface_cast<IDotNET>(newService<CDotNETFactory>(program));
 }
 
 void CAgentServicesFactory::Serialize(IService* service, const char* file) {

@@ -3,7 +3,10 @@
 #include <xercesc/util/XMLString.hpp>
 
 #include "as/CASInvalidNamespaceException.h"
+#include "com/VorCHandler.h"
+#include "dotnet/VorDotNETHandler.h"
 #include "java/VorJHandler.h"
+#include "ws/VorWSHandler.h"
 #include "xml/Vocabulary.h"
 
 using xercesc::DOMDocument;
@@ -22,7 +25,10 @@ constexpr struct {
   const XMLCh* namespaceURI;
   std::shared_ptr<CVorSHandler> (*make)();
 } flavours[] = {
+    {XSDNS::wsURI, makeHandler<CVorWSHandler>},
     {XSDNS::javaURI, makeHandler<CVorJHandler>},
+    {XSDNS::comURI, makeHandler<CVorCHandler>},
+    {XSDNS::dotnetURI, makeHandler<CVorDotNETHandler>},
 };
 
 }  // namespace

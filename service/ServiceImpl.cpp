@@ -87,13 +87,15 @@ void CServiceImpl::collectChildren() {
 
 void CServiceImpl::setProgram(as::IProgram* pProgram) {
   AS_ASSERT(pProgram, "ServiceImpl");
+  write(SS::programName, pProgram->getName());
+  if (auto* const wrapper = as::interface_cast<CElementImpl>(pProgram)) {
+    const std::string uri =
+        CXStr(wrapper->getElement()->getOwnerDocument()->getDocumentURI(), false);
+    write(SS::dataDictFilename, fileNameOf(uri));
+  }
+  // Last: should the writing fail, the program is still the caller's.
   if (program_ != pProgram) delete program_;
   program_ = pProgram;
-  write(SS::programName, program_->getName());
-  auto* const wrapper = as::interface_cast<CElementImpl>(program_);
-  if (wrapper == nullptr) return;
-  const std::string uri = CXStr(wrapper->getElement()->getOwnerDocument()->getDocumentURI(), false);
-  write(SS::dataDictFilename, fileNameOf(uri));
 }
 
 void CServiceImpl::addOperation(as::IOperation* operation) {

@@ -9,7 +9,10 @@
 namespace as {
 
 class IAgentServices;
+class IDotNET;
+class IProgram;
 class IService;
+class IWebService;
 
 class AS_EXPORT CAgentServicesFactory {
  public:
@@ -21,6 +24,20 @@ class AS_EXPORT CAgentServicesFactory {
   // XML parser could not be started as the library was loaded, "AgentServices: An error occurred
   // the AgentServices processor" on any other failure.
   static IAgentServices* CreateAgentServices();
+
+  // A new, empty service definition of a flavour for `program`, to be extended through its
+  // operations and written with Serialize(). The caller owns the service; the service owns the
+  // program from now on. Null for a null program.
+  // Throws as::CASException: "AgentServices: Unable to initialise the Xerces XML parser", or
+  // "AgentServices: An error occurred during service initialisaton" on any other failure; the
+  // program is still the caller's then.
+  //
+  // A .NET service is written in the Web service namespace, and is read back as a Web service;
+  // getImplementation() tells it apart.
+  static IWebService* NewWebService(IProgram* program);
+  static IService* NewCOMService(IProgram* program);
+  static IService* NewJavaService(IProgram* program);
+  static IDotNET* NewDotNETService(IProgram* program);
 
   // Writes the whole document of `service` to the file named `file`, in place of what that held, as
   // indented XML in UTF-8. The indentation is put into the document itself and stays there; a

@@ -1,0 +1,31 @@
+// Builds the model of a Web service while its document is parsed.
+#ifndef WS_VORWSHANDLER_H_
+#define WS_VORWSHANDLER_H_
+
+#include "service/SSVocabulary.h"
+#include "service/VorSHandler.h"
+#include "ws/WSFaultImpl.h"
+#include "ws/WSHeaderImpl.h"
+#include "ws/WSOperationImpl.h"
+#include "ws/WSParameterImpl.h"
+#include "ws/WSSVocabulary.h"
+#include "ws/WebServiceFactory.h"
+#include "ws/WebServiceImpl.h"
+
+// What a Web service has of its own.
+struct WebFlavour {
+  using Factory = CWebServiceFactory;
+  static constexpr CElementHandler::ElementWrapping rows[] = {
+      {SS::field, CElementHandler::wrapAs<CWSParameterImpl>},
+      {SS::parameter, CElementHandler::wrapAs<CWSParameterImpl>},
+      {WSS::fieldAttribute, CElementHandler::wrapAs<CWSParameterImpl>},
+      {SS::service, CElementHandler::wrapAs<CWebServiceImpl>},
+      {SS::operation, CElementHandler::wrapAs<CWSOperationImpl>},
+      {WSS::header, CElementHandler::wrapAs<CWSHeaderImpl>},
+      {WSS::fault, CElementHandler::wrapAs<CWSFaultImpl>},
+  };
+};
+
+class CVorWSHandler final : public FlavourHandler<WebFlavour> {};
+
+#endif  // WS_VORWSHANDLER_H_

@@ -1,0 +1,76 @@
+#include "ws/WSOperationImpl.h"
+
+#include "ws/WSFaultImpl.h"
+#include "ws/WSHeaderImpl.h"
+#include "ws/WSSVocabulary.h"
+#include "ws/WebServiceFactory.h"
+#include "xml/WordTable.h"
+
+AS_DEFINE_IDENTITY2(CWSOperationImpl, as::IWSOperation, COperationImpl)
+
+namespace {
+
+constexpr WordCode styles[] = {
+    {WSS::rpc, as::IWSOperation::STYLE_RPC},
+    {WSS::document, as::IWSOperation::STYLE_DOCUMENT},
+};
+
+}  // namespace
+
+CWSOperationImpl::CWSOperationImpl(xercesc::DOMElement* element)
+    : CElementImpl(element), COperationImpl(element), headers_(element), faults_(element) {}
+
+CWSOperationImpl::~CWSOperationImpl() = default;
+
+as::IList* CWSOperationImpl::getHeaders() { return &headers_; }
+
+as::IList* CWSOperationImpl::getFaults() { return &faults_; }
+
+as::IWSHeader* CWSOperationImpl::addHeader(as::IWSHeader::BY_TYPE byType) {
+  auto* const factory = dynamic_cast<CWebServiceFactory*>(getFactory());
+  if (factory == nullptr) return nullptr;
+  CWSHeaderImpl* const header = factory->createHeader();
+  header->setByType(byType);
+  headers_.addChild(header->getElement());
+  return header;
+}
+
+as::IWSFault* CWSOperationImpl::addFault() {
+  auto* const factory = dynamic_cast<CWebServiceFactory*>(getFactory());
+  if (factory == nullptr) return nullptr;
+  CWSFaultImpl* const fault = factory->createFault();
+  faults_.addChild(fault->getElement());
+  return fault;
+}
+
+std::string CWSOperationImpl::getInputNamespace() { return text(WSS::inputNamespace); }
+
+void CWSOperationImpl::setInputNamespace(const char* uri) { write(WSS::inputNamespace, uri); }
+
+std::string CWSOperationImpl::getOutputNamespace() { return text(WSS::outputNamespace); }
+
+void CWSOperationImpl::setOutputNamespace(const char* uri) { write(WSS::outputNamespace, uri); }
+
+as::IWSOperation::USE CWSOperationImpl::getInputUse() {
+  return static_cast<USE>(codeOfWord(useWords, wide(WSS::inputUse), -1));
+}
+
+void CWSOperationImpl::setInputUse(USE use) { write(WSS::inputUse, wordOfCode(useWords, use)); }
+
+as::IWSOperation::USE CWSOperationImpl::getOutputUse() {
+  return static_cast<USE>(codeOfWord(useWords, wide(WSS::outputUse), -1));
+}
+
+void CWSOperationImpl::setOutputUse(USE use) { write(WSS::outputUse, wordOfCode(useWords, use)); }
+
+as::IWSOperation::STYLE CWSOperationImpl::getStyle() {
+  return static_cast<STYLE>(codeOfWord(styles, wide(WSS::style), -1));
+}
+
+void CWSOperationImpl::setStyle(STYLE style) { write(WSS::style, wordOfCode(styles, style)); }
+
+void CWSOperationImpl::collectChildren() {
+  COperationImpl::collectChildren();
+  headers_.addChildren();
+  faults_.addChildren();
+}
