@@ -17,6 +17,7 @@ class VorEntityResolver : public xercesc::EntityResolver {
   // The directory of the schema files, in front of which names are put as it stands: it ends in a
   // separator. Empty or null: nothing is resolved.
   void setSchemaLocation(const char* directory);
+  bool hasSchemaLocation() const { return !directory_.isEmpty(); }
 
   // The schema directory followed directly by `fileName`.
   CXStr getLocationForSchema(const XMLCh* fileName);

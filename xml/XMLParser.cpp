@@ -126,10 +126,14 @@ void CXMLParser::parse(const XMLCh* systemId) {
         0, 0, 0, "the document '" + name + "' is refused: documents are not read over a network",
         std::string(), name);
   }
+  documentName_ = narrow(systemId);
   run(systemId);
 }
 
-void CXMLParser::parse(MemBufInputSource* source) { run(*source); }
+void CXMLParser::parse(MemBufInputSource* source) {
+  documentName_ = narrow(source->getSystemId());
+  run(*source);
+}
 
 template <class Source>
 void CXMLParser::run(const Source& source) {
@@ -204,7 +208,7 @@ void CXMLParser::error(unsigned int code, const XMLCh* /*domain*/,
                        const XMLCh* systemId, const XMLCh* publicId, XMLFileLoc line,
                        XMLFileLoc column) {
   report(as::CASParseException(static_cast<int>(code), position(line), position(column),
-                               narrow(text), narrow(publicId), narrow(systemId)));
+                               narrow(text), narrow(publicId), nameOf(systemId)));
 }
 
 InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
@@ -220,7 +224,8 @@ InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
   }
   switch (placeOf(reference->getBaseURI(), systemId)) {
     case Place::network:
-      refuse("the schema '" + name + "' is refused: schemas are not read over a network");
+      refuse("the schema '" + name + "' is refused: schemas are not read over a network" +
+             (resolver_.hasSchemaLocation() ? "" : ", and no schema directory has been set"));
       return emptySource();
     case Place::specialFile:
       refuse("the schema '" + name + "' is refused: it is no regular file");
@@ -244,10 +249,14 @@ void CXMLParser::report(as::CASParseException message) {
   if (!firstMessage_) firstMessage_ = std::move(message);
 }
 
+std::string CXMLParser::nameOf(const XMLCh* systemId) const {
+  return systemId == nullptr || *systemId == 0 ? documentName_ : narrow(systemId);
+}
+
 void CXMLParser::refuse(const std::string& text) { report(messageHere(text)); }
 
 as::CASParseException CXMLParser::messageHere(const std::string& text) const {
   const Locator* const at = getScanner()->getLocator();
   return {0,    position(at->getLineNumber()), position(at->getColumnNumber()),
-          text, narrow(at->getPublicId()),     narrow(at->getSystemId())};
+          text, narrow(at->getPublicId()),     nameOf(at->getSystemId())};
 }

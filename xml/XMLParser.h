@@ -82,12 +82,16 @@ class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler
   void report(as::CASParseException message);
   // Ends the parse with a message of this library's own, at the place reached in the document.
   void refuse(const std::string& text);
+  // `systemId`, or the document's name for a message that is about no entity (one that cannot be
+  // opened, say): a message always tells which document it is about.
+  std::string nameOf(const XMLCh* systemId) const;
   // Such a message.
   as::CASParseException messageHere(const std::string& text) const;
 
   CElementHandler* handler_ = nullptr;
   VorEntityResolver resolver_;
   xercesc::SecurityManager limits_;
+  std::string documentName_;
   bool rootSeen_ = false;
   int depth_ = 0;
   std::optional<as::CASParseException> firstMessage_;

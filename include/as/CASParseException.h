@@ -31,8 +31,9 @@ class AS_EXPORT CASParseException {
   // The public identifier of the entity in which the problem was found; empty when it has none.
   std::string getPublicId() const;
 
-  // The system identifier of that entity: the file name or buffer identifier of the parse request,
-  // or the name of a schema file.
+  // The system identifier of that entity: the file name or buffer identifier of the parse request
+  // (a relative file name made absolute), or the name of a schema file. Where the parser names no
+  // entity, because it could not open one, the document's name as the request gave it.
   std::string getSystemId() const;
 
  private:

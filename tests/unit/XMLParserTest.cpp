@@ -384,6 +384,42 @@ TEST_F(XMLParser, DocumentsAreNotReadFromANetwork) {
   }
 }
 
+TEST_F(XMLParser, AMessageAboutNoEntityNamesTheDocument) {
+  try {
+    parser_.parse(u"no such file.xml");
+    FAIL();
+  } catch (const as::CASParseException& message) {
+    EXPECT_EQ(message.getSystemId(), "no such file.xml");
+    EXPECT_EQ(message.getErrorCode(), 66);
+    EXPECT_EQ(message.getLineNum(), 0);
+  }
+  CXMLParser parser;
+  parser.setSchemaLocation("/no/such/directory/");
+  const std::string text = document("");
+  xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(text.data()), text.size(),
+                                    u"doc");
+  try {
+    parser.parse(&source);
+    FAIL();
+  } catch (const as::CASParseException& message) {
+    EXPECT_EQ(message.getSystemId(), "doc");
+    EXPECT_NE(message.getErrorText().find("/no/such/directory/vorcobol.xsd"), std::string::npos);
+  }
+}
+
+TEST_F(XMLParser, AForgottenSchemaDirectoryIsTold) {
+  const std::string text = document("");
+  xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(text.data()), text.size(),
+                                    u"doc");
+  try {
+    parser_.parse(&source);
+    FAIL();
+  } catch (const as::CASParseException& message) {
+    EXPECT_NE(message.getErrorText().find("no schema directory has been set"), std::string::npos)
+        << message.getErrorText();
+  }
+}
+
 TEST_F(XMLParser, NullNameIsAnEmptyOne) {
   EXPECT_THROW(parser_.parse(static_cast<const XMLCh*>(nullptr)), as::CASParseException);
 }
