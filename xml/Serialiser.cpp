@@ -35,9 +35,11 @@ using WideText = std::basic_string<XMLCh>;
 // The name that `element` is written by: its own, under the root's prefix when it is in no
 // namespace (new elements are; they belong to the document's).
 WideText writtenName(const DOMElement* element, const XMLCh* rootPrefix) {
-  const WideText name = element->getNodeName();
-  const bool isOurs = element->getNamespaceURI() == nullptr && rootPrefix != nullptr;
-  return isOurs ? WideText(rootPrefix) + u":" + name : name;
+  WideText name;
+  if (element->getNamespaceURI() == nullptr && rootPrefix != nullptr) {
+    name.append(rootPrefix).push_back(u':');
+  }
+  return name.append(element->getNodeName());
 }
 
 // Copies one node without its children into `to`, where names are nothing but names.
@@ -84,7 +86,11 @@ void insertSpacer(DOMNode* parent, DOMNode* before, int depth) {
 
 }  // namespace
 
-CXStr spacer(int depth) { return "\n" + std::string(2 * static_cast<std::size_t>(depth), ' '); }
+CXStr spacer(int depth) {
+  std::string text(1, '\n');
+  text.append(2 * static_cast<std::size_t>(depth), ' ');
+  return text;
+}
 
 bool needsCR(DOMNode* node) {
   const DOMNode* const last = node->getLastChild();

@@ -1,0 +1,130 @@
+// Measures a large service: 2,000 operations with 20,000 mappings over a program of 20,000 items,
+// and its tenth, so that growth can be seen: loading with its program, resolving every mapping,
+// writing back. The yardstick of each is reading the same service alone, in the same run.
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+
+#include "as/AgentServices.h"
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double secondsSince(Clock::time_point start) {
+  return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+std::string rootOf(const std::string& element, const std::string& ns) {
+  return "<" + element + " xmlns=\"" + ns +
+         "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:schemaLocation=\"" + ns +
+         " " + ns + "\" name=\"BIG\"";
+}
+
+// A program of `records` records with nine fields each, and an entry point for each.
+std::string program(int records) {
+  std::string text =
+      rootOf("program", "http://agentservices.example/schema/cobol/v2.0/vorcobol.xsd");
+  text += "><dataItems>";
+  for (int r = 0; r < records; r++) {
+    text += "<group name=\"RECORD-" + std::to_string(r) + "\">";
+    for (int f = 0; f < 9; f++) {
+      text += "<numeric name=\"FIELD-" + std::to_string(f) + "\" length=\"4\" digits=\"4\"/>";
+    }
+    text += "</group>\n";
+  }
+  text += "</dataItems><entryPoints>";
+  for (int r = 0; r < records; r++)
+    text += "<entryPoint name=\"ENTRY-" + std::to_string(r) + "\"/>";
+  return text + "</entryPoints></program>";
+}
+
+// A service of `operations` operations with ten mapped parameters each.
+std::string service(int operations, const std::string& dictionary) {
+  std::string text = rootOf("service", "http://agentservices.example/schema/java/v2.0/vorjava.xsd");
+  text += " implementation=\"java\" dataDictFilename=\"" + dictionary + "\"><operations>";
+  for (int o = 0; o < operations; o++) {
+    const std::string n = std::to_string(o);
+    text += "<operation name=\"operation" + n + "\" entryPoint=\"ENTRY-" + n + "\"><parameters>";
+    for (int p = 0; p < 10; p++) {
+      text += "<parameter name=\"parameter" + std::to_string(p) +
+              "\" byType=\"in\" dataType=\"int\"><mappings><mapping item=\"RECORD-" + n +
+              ".FIELD-" + std::to_string(p % 9) + "\"/></mappings></parameter>";
+    }
+    text += "</parameters></operation>\n";
+  }
+  return text + "</operations></service>";
+}
+
+// The number of mappings that lead to an item.
+int resolve(as::IService& service) {
+  int resolved = 0;
+  as::IList* const operations = service.getOperations();
+  for (int o = 0; o < operations->getLength(); o++) {
+    auto* const operation = as::interface_cast<as::IOperation>(operations->getItem(o));
+    if (operation->getEntryPoint() == nullptr) return -1;
+    as::IList* const parameters = operation->getParameters();
+    for (int p = 0; p < parameters->getLength(); p++) {
+      auto* const parameter = as::interface_cast<as::IParameter>(parameters->getItem(p));
+      as::IList* const mappings = parameter->getMappings();
+      for (int m = 0; m < mappings->getLength(); m++) {
+        auto* const mapping = as::interface_cast<as::IMapping>(mappings->getItem(m));
+        if (mapping->getDataItem() != nullptr) resolved++;
+      }
+    }
+  }
+  return resolved;
+}
+
+void loadResolveWrite(benchmark::State& state) {
+  const int operations = static_cast<int>(state.range(0));
+  const std::filesystem::path directory = std::filesystem::temp_directory_path();
+  const std::string dictionary = (directory / "agentservices-bench.xml").string();
+  const std::string file = (directory / "agentservices-bench-service.xml").string();
+  std::ofstream(dictionary) << program(operations);
+  std::ofstream(file) << service(operations, dictionary);
+
+  const std::unique_ptr<as::IAgentServices> services(
+      as::CAgentServicesFactory::CreateAgentServices());
+  services->setSchemaLocation(AS_SCHEMA_DIR);
+  double alone = 0;
+  double load = 0;
+  double resolveAll = 0;
+  double write = 0;
+  for ([[maybe_unused]] auto _ : state) {
+    auto start = Clock::now();
+    const std::unique_ptr<as::IService> bare(services->parseService(file.c_str(), false));
+    alone += secondsSince(start);
+
+    const auto begin = Clock::now();
+    const std::unique_ptr<as::IService> loaded(services->parseService(file.c_str(), true));
+    load += secondsSince(begin);
+
+    start = Clock::now();
+    if (resolve(*loaded) != 10 * operations) state.SkipWithError("a mapping leads nowhere");
+    resolveAll += secondsSince(start);
+
+    start = Clock::now();
+    const std::string text = as::CAgentServicesFactory::SerializeToString(loaded.get());
+    write += secondsSince(start);
+    benchmark::DoNotOptimize(text.data());
+    state.SetIterationTime(secondsSince(begin));
+  }
+  const auto runs = static_cast<double>(state.iterations());
+  state.counters["load_ms"] = 1e3 * load / runs;
+  state.counters["resolve_ms"] = 1e3 * resolveAll / runs;
+  state.counters["write_ms"] = 1e3 * write / runs;
+  state.counters["load_to_alone"] = load / alone;
+  state.counters["resolve_to_alone"] = resolveAll / alone;
+  state.counters["write_to_alone"] = write / alone;
+  std::filesystem::remove(dictionary);
+  std::filesystem::remove(file);
+}
+
+BENCHMARK(loadResolveWrite)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(200)->Arg(2000);
+
+}  // namespace
