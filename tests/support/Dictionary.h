@@ -4,7 +4,9 @@
 #define TESTS_SUPPORT_DICTIONARY_H_
 
 #include <memory>
+#include <ostream>
 #include <string>
+#include <type_traits>
 
 #include "as/AgentServices.h"
 
@@ -39,6 +41,68 @@ inline std::unique_ptr<as::IProgram> parse(const std::string& document,
   return std::unique_ptr<as::IProgram>(
       newServices()->parseCobolDD(id, reinterpret_cast<const unsigned char*>(document.data()),
                                   static_cast<unsigned int>(document.size())));
+}
+
+// How a parse request ended.
+enum class Result { root, null, parseException, namespaceException, exception };
+
+inline std::ostream& operator<<(std::ostream& out, Result result) {
+  switch (result) {
+    case Result::root:
+      return out << "a root";
+    case Result::null:
+      return out << "null";
+    case Result::parseException:
+      return out << "as::CASParseException";
+    case Result::namespaceException:
+      return out << "as::CASInvalidNamespaceException";
+    case Result::exception:
+      break;
+  }
+  return out << "as::CASException";
+}
+
+// What a parse request came to.
+template <class Root>
+struct Outcome {
+  Result result = Result::null;
+  std::unique_ptr<Root> root;
+  as::CASParseException message{0, 0, 0, "", "", ""};  // The exception, when it is of that type.
+  std::string text;                                    // The exception's text, when it has one.
+};
+
+// Makes the request, a callable that returns a new root, and tells what it came to.
+template <class Request>
+auto outcomeOf(const Request& request) {
+  Outcome<std::remove_pointer_t<decltype(request())>> outcome;
+  try {
+    outcome.root.reset(request());
+    outcome.result = outcome.root ? Result::root : Result::null;
+  } catch (const as::CASParseException& exception) {
+    outcome.result = Result::parseException;
+    outcome.message = as::CASParseException(exception);
+    outcome.text = exception.getErrorText();
+  } catch (const as::CASInvalidNamespaceException&) {
+    outcome.result = Result::namespaceException;
+  } catch (const as::CASException& exception) {
+    outcome.result = Result::exception;
+    outcome.text = exception.getErrorText();
+  }
+  return outcome;
+}
+
+// What `services` makes of the dictionary `document`, read from memory.
+inline Outcome<as::IProgram> outcomeOf(as::IAgentServices& services, const std::string& document,
+                                       const char* id = "test.xml") {
+  return outcomeOf([&] {
+    return services.parseCobolDD(id, reinterpret_cast<const unsigned char*>(document.data()),
+                                 static_cast<unsigned int>(document.size()));
+  });
+}
+
+// The same with the shipped schemas.
+inline Outcome<as::IProgram> outcomeOf(const std::string& document, const char* id = "test.xml") {
+  return outcomeOf(*newServices(), document, id);
 }
 
 // The member of `list` seen as T; null when there is none or it is no T.
