@@ -56,9 +56,12 @@ CHiddenParameterImpl* CServiceFactory::createHiddenParameter() {
 CMappingImpl* CServiceFactory::createMapping() { return newMapping(createElement(SS::mapping)); }
 
 CList* CServiceFactory::createList(const CElementImpl& owner, const XMLCh* name, DOMNode* before) {
-  DOMElement* const element = createElement(name);
+  auto* element = static_cast<DOMElement*>(CElementImpl::getNamedChild(owner.getElement(), name));
+  if (element == nullptr) {
+    element = createElement(name);
+    owner.getElement()->insertBefore(element, before);
+  }
   auto list = std::make_unique<CList>(element);
-  owner.getElement()->insertBefore(element, before);
   list->setOwned();
   return list.release();
 }

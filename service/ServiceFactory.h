@@ -46,8 +46,9 @@ class CServiceFactory {
   CHiddenParameterImpl* createHiddenParameter();
   CMappingImpl* createMapping();
 
-  // Creates the list child `name` of `owner`, in front of `before` (null: behind everything), and
-  // its list, which is the caller's.
+  // A new list, the caller's, over the list child `name` of `owner`: over the one that is there but
+  // that the owner has not collected, else over a new one in front of `before` (null: behind
+  // everything).
   CList* createList(const CElementImpl& owner, const XMLCh* name, xercesc::DOMNode* before);
 
  protected:

@@ -53,8 +53,8 @@ class AS_EXPORT IField : virtual public IElement {
   virtual IField* addField(const char* name, int occurs) = 0;
 
   // Adds a mapping to `item` (see IMapping::setDataItem) behind the others and returns it; null,
-  // and nothing changes, when there is a reference or `item` is null. The element must have a
-  // "mappings" child and no "ref" that names no definition; all that the library creates do.
+  // and nothing changes, when there is a reference or `item` is null. A missing "mappings" child is
+  // added first.
   virtual IMapping* addMapping(IDataItem* item) = 0;
 
   // The names on the way here, from the outside in: the operation's (where the way starts in an

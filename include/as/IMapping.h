@@ -42,8 +42,7 @@ class AS_EXPORT IMapping : virtual public IElement {
 
   // The subscripts in "subscript". Sets the first 16 entries of `subscripts` to -1, then stores
   // each number in its entry; a "*" stays -1. Returns how many there are, each "*" counted.
-  // `subscripts` must have room for 16 entries, and for all that the attribute holds if it holds
-  // more: the library does not know its size.
+  // `subscripts` must have room for 16 entries; more than 16 are counted but not stored.
   // 0 when the attribute is absent or empty, for a null `subscripts`, and when a subscript is
   // neither "*" nor a number; the entries before that one are stored then all the same.
   virtual int getInterfaceSubscripts(int* subscripts) = 0;

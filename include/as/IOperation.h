@@ -15,10 +15,9 @@ class IList;
 
 // A null text given to a setter counts as an empty one.
 //
-// The adding operations work on parsed documents as on new ones. The operation must have the child
-// that they add to ("parameters", "hiddenParameters"); all that the library creates have both.
-// What they create goes behind its siblings, is of the document's flavour and belongs to the
-// service.
+// The adding operations work on parsed documents as on new ones; a missing child that they add to
+// ("parameters", "hiddenParameters") is added first. What they create goes behind its siblings, is
+// of the document's flavour and belongs to the service.
 class AS_EXPORT IOperation : virtual public IElement {
  public:
   ~IOperation() override;

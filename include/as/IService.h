@@ -45,8 +45,7 @@ class AS_EXPORT IService : virtual public IElement {
 
   // Adds an operation of that name behind the others, binds it to `entryPoint` (null leaves it
   // unbound) and returns it; the service keeps it. It has no parameters and no hidden parameters
-  // yet. Works on parsed documents as on new ones, but the document must have an "operations"
-  // section; every new one has.
+  // yet. Works on parsed documents as on new ones; a missing "operations" section is added.
   virtual IOperation* addOperation(const char* name, IEntryPoint* entryPoint) = 0;
 
   // Attribute "name"; empty when absent.

@@ -38,8 +38,7 @@ class AS_EXPORT IWSHeader : virtual public IElement {
 
   // Adds a parameter behind the others and returns it; the service keeps it. The arguments are
   // given to its setByType() (the parameter's own direction), setName() and setOccurs(). Works on
-  // parsed documents as on new ones, but the header must have a "parameters" child; all that the
-  // library creates have one.
+  // parsed documents as on new ones; a missing "parameters" child is added first.
   virtual IWSParameter* addParameter(IParameter::BY_TYPE byType, const char* name, int occurs) = 0;
 
   // The parameters, as::IWSParameter objects, in document order; never null.
