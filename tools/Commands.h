@@ -8,18 +8,30 @@
 
 // What the tool's process answers.
 inline constexpr int exitFine = 0;
-inline constexpr int exitRefused = 1;  // A document was refused, or the output failed.
+inline constexpr int exitRefused =
+    1;  // A document was refused or has errors, or the output failed.
 inline constexpr int exitUsage = 2;
 
 enum class ShowFormat { tree, json };
+
+struct ShowOptions {
+  ShowFormat format = ShowFormat::tree;
+  bool withProgram = false;  // Of a service: with the program that it names.
+};
 
 // Every command returns its exit code. Results go to standard output, what is wrong to standard
 // error. `schemas` is the schema directory that the user named, if any.
 
 // Prints the document in `file`.
-int runShow(const std::string& file, ShowFormat format, const std::optional<std::string>& schemas);
+int runShow(const std::string& file, const ShowOptions& options,
+            const std::optional<std::string>& schemas);
 
 // Says of each file whether it is good; goes on behind a bad one.
 int runValidate(const std::vector<std::string>& files, const std::optional<std::string>& schemas);
+
+// Prints what is wrong with the service in `file`, seen with the data dictionary in `dictionary` or
+// else with the one that it names. Errors make it refused.
+int runLint(const std::string& file, const std::optional<std::string>& dictionary,
+            const std::optional<std::string>& schemas);
 
 #endif  // TOOLS_COMMANDS_H_

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ItemWalk.h"
+#include "PrinterParts.h"
 #include "Text.h"
 #include "TextTable.h"
 #include "Words.h"
@@ -21,7 +22,6 @@
 #include "as/INumeric.h"
 #include "as/INumericEdited.h"
 #include "as/IProgram.h"
-#include "as/IProperty.h"
 
 namespace {
 
@@ -39,10 +39,6 @@ TextTable itemTable() {
                     {"digits", true},
                     {"scale", true},
                     {"clauses", false}});
-}
-
-std::string indented(std::size_t depth, const std::string& text) {
-  return std::string(2 * depth, ' ') + text;
 }
 
 // Empty for 0: in a dictionary that says that there is nothing to tell.
@@ -79,22 +75,6 @@ std::string valueText(as::IConditionValue& value) {
   if (value.getType() == as::IConditionValue::TYPE_CONSTANT) return literal(value.getConstant());
   return literal(value.getFrom()) + " thru " + literal(value.getTo());
 }
-
-// Collects the clauses of an entry, set off from each other.
-class Clauses {
- public:
-  void add(const std::string& clause) {
-    if (!text_.empty()) text_ += ", ";
-    text_ += clause;
-  }
-  void addIf(bool condition, const char* clause) {
-    if (condition) add(clause);
-  }
-  const std::string& text() const { return text_; }
-
- private:
-  std::string text_;
-};
 
 std::string occursClause(as::IDataItem& item) {
   const int least = item.getMinOccurs();
@@ -214,7 +194,7 @@ class DictionaryPrinter {
 
   void print() {
     out_ << "PROGRAM " << printable(program_.getName()) << "\n";
-    printProperties();
+    printProperties(out_, program_.getProperties());
     measureItems();
     printFiles();
     if (program_.getDataItems()->getLength() > 0) {
@@ -225,20 +205,6 @@ class DictionaryPrinter {
   }
 
  private:
-  void printProperties() {
-    as::IList* const properties = program_.getProperties();
-    if (properties->getLength() == 0) return;
-    TextTable table({{"name", false}, {"value", false}});
-    const auto forEachRow = [&](auto take) {
-      forEachMember<as::IProperty>(properties, [&](as::IProperty& property) {
-        take(Row{{printable(property.getName())}, printable(property.getValue())});
-      });
-    };
-    forEachRow([&](const Row& row) { table.measure(row); });
-    out_ << "\nPROPERTIES\n\n";
-    forEachRow([&](const Row& row) { table.print(out_, row); });
-  }
-
   // All sections share one layout, so that their columns stand below each other.
   void measureItems() {
     const auto measure = [this](const Row& row) { items_.measure(row); };

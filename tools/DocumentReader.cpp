@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string_view>
 #include <system_error>
+#include <type_traits>
 
 #include "as/CASException.h"
 #include "as/CASInvalidNamespaceException.h"
@@ -13,6 +14,7 @@
 #include "as/CAgentServicesFactory.h"
 #include "as/IAgentServices.h"
 #include "as/IProgram.h"
+#include "as/IService.h"
 
 namespace {
 
@@ -20,6 +22,22 @@ namespace fs = std::filesystem;
 
 const std::string dictionaryNamespace =
     "http://agentservices.example/schema/cobol/v2.0/vorcobol.xsd";
+
+constexpr const char* serviceNamespaces[] = {
+    "http://agentservices.example/schema/ws/v1.0/vorws.xsd",
+    "http://agentservices.example/schema/java/v2.0/vorjava.xsd",
+    "http://agentservices.example/schema/com/v1.0/vorcom.xsd",
+    "http://agentservices.example/schema/dotnet/v1.0/vordotnet.xsd",
+};
+
+const std::string noDictionary =
+    "not a data dictionary: its root element is not in the namespace " + dictionaryNamespace;
+
+std::string noService() {
+  std::string text = "not a service: its root element is in none of the namespaces";
+  for (const char* name : serviceNamespaces) text += std::string(" ") + name;
+  return text;
+}
 
 Refusal refusal(const std::string& file, const std::string& text) {
   Refusal result;
@@ -44,29 +62,46 @@ std::string nameFor(const std::string& systemId, const std::string& file) {
   return systemId.empty() || fs::equivalent(systemId, file, ignored) ? file : systemId;
 }
 
-// Whether the parser's message is about a root in the right namespace that no schema declares:
-// the document does not lead the parser to the schema.
-bool tellsUndeclaredRoot(std::string_view message) {
+// What helps when the parser's message is about a root that no schema declares: the document does
+// not lead the parser to the schema.
+std::string hintFor(std::string_view message) {
   constexpr std::string_view start = "no declaration found for element '";
-  if (message.substr(0, start.size()) != start) return false;
+  if (message.substr(0, start.size()) != start) return "";
   std::string_view name = message.substr(start.size());
   name = name.substr(0, name.find('\''));
   const std::size_t colon = name.find(':');
   if (colon != std::string_view::npos) name.remove_prefix(colon + 1);
-  return name == "program";
+  const std::string advice =
+      "name the schema in the root element: "
+      "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:schemaLocation=\"";
+  if (name == "program") return advice + dictionaryNamespace + " " + dictionaryNamespace + "\"";
+  if (name == "service") return advice + "NAMESPACE NAMESPACE\", with that of the root element";
+  return "";
 }
 
 Refusal refusal(const std::string& file, const as::CASParseException& failure) {
   Refusal result = refusal(nameFor(failure.getSystemId(), file), failure.getErrorText());
   result.line = failure.getLineNum();
   result.column = failure.getColNum();
-  if (tellsUndeclaredRoot(result.text)) {
-    result.hint =
-        "name the schema in the root element: "
-        "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:schemaLocation=\"" +
-        dictionaryNamespace + " " + dictionaryNamespace + "\"";
-  }
+  result.hint = hintFor(result.text);
   return result;
+}
+
+// The root that `request` answers for `file`; null when that is of another kind.
+template <class Request>
+auto rootFrom(const std::string& file, const Request& request) {
+  std::unique_ptr<std::remove_pointer_t<decltype(request())>> root;
+  try {
+    root.reset(request());
+  } catch (const as::CASParseException& failure) {
+    throw refusal(file, failure);
+  } catch (const as::CASInvalidNamespaceException&) {
+    return root;
+  } catch (const as::CASException& failure) {
+    throw refusal(file, failure.getErrorText());
+  }
+  if (!root) throw refusal(file, "nothing found in it");
+  return root;
 }
 
 }  // namespace
@@ -78,19 +113,41 @@ DocumentReader::DocumentReader(const std::string& schemaDirectory)
 
 DocumentReader::~DocumentReader() = default;
 
-std::unique_ptr<as::IProgram> DocumentReader::readDictionary(const std::string& file) const {
+Document DocumentReader::read(const std::string& file) const {
   checkReadable(file);
-  std::unique_ptr<as::IProgram> program;
-  try {
-    program.reset(services_->parseCobolDD(file.c_str()));
-  } catch (const as::CASParseException& failure) {
-    throw refusal(file, failure);
-  } catch (const as::CASInvalidNamespaceException&) {
-    throw refusal(file, "not a data dictionary: its root element is not in the namespace " +
-                            dictionaryNamespace + " (a service definition?)");
-  } catch (const as::CASException& failure) {
-    throw refusal(file, failure.getErrorText());
-  }
-  if (!program) throw refusal(file, "no data dictionary found in it");
-  return program;
+  Document document;
+  document.dictionary = rootFrom(file, [&] { return services_->parseCobolDD(file.c_str()); });
+  if (document.dictionary) return document;
+  document.service = rootFrom(file, [&] { return services_->parseService(file.c_str(), false); });
+  if (!document.service) throw refusal(file, noDictionary + "; and " + noService());
+  return document;
+}
+
+std::unique_ptr<as::IService> DocumentReader::readService(const std::string& file) const {
+  checkReadable(file);
+  std::unique_ptr<as::IService> service =
+      rootFrom(file, [&] { return services_->parseService(file.c_str(), false); });
+  if (!service) throw refusal(file, noService());
+  return service;
+}
+
+std::unique_ptr<as::IService> DocumentReader::withProgram(as::IService& service,
+                                                          const std::string& file,
+                                                          const std::string& dictionary) const {
+  checkReadable(dictionary);
+  // The library reads the dictionary that the document names, counted from the current directory:
+  // name the right one in the document.
+  service.setDDFilename(dictionary.c_str());
+  const std::string text = as::CAgentServicesFactory::SerializeToString(&service);
+  std::unique_ptr<as::IService> result = rootFrom(dictionary, [&] {
+    return services_->parseService(file.c_str(),
+                                   reinterpret_cast<const unsigned char*>(text.data()),
+                                   static_cast<unsigned int>(text.size()), true);
+  });
+  if (!result) throw refusal(dictionary, noDictionary);
+  return result;
+}
+
+std::string besideFile(const std::string& file, const std::string& name) {
+  return (fs::path(file).parent_path() / name).string();
 }

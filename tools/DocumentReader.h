@@ -8,6 +8,7 @@
 namespace as {
 class IAgentServices;
 class IProgram;
+class IService;
 }  // namespace as
 
 // Why a document was refused, and where. Thrown by DocumentReader.
@@ -19,6 +20,12 @@ struct Refusal {
   std::string hint;  // What to do about it; may be empty.
 };
 
+// A document of either kind: one of the two is null.
+struct Document {
+  std::unique_ptr<as::IProgram> dictionary;
+  std::unique_ptr<as::IService> service;
+};
+
 class DocumentReader {
  public:
   explicit DocumentReader(const std::string& schemaDirectory);
@@ -26,11 +33,24 @@ class DocumentReader {
   DocumentReader(const DocumentReader&) = delete;
   DocumentReader& operator=(const DocumentReader&) = delete;
 
-  // The data dictionary in `file`, never null. Throws Refusal.
-  std::unique_ptr<as::IProgram> readDictionary(const std::string& file) const;
+  // The data dictionary or the service in `file`, whichever it is; a service comes without its
+  // program. Throws Refusal.
+  Document read(const std::string& file) const;
+
+  // The service in `file`, never null, without its program. Throws Refusal.
+  std::unique_ptr<as::IService> readService(const std::string& file) const;
+
+  // `service`, read from `file`, once more and with the program in the file `dictionary`, which
+  // need not be the one that it names. Attributes "programName" and "dataDictFilename" of the
+  // result tell that program. Throws Refusal, which is about the dictionary.
+  std::unique_ptr<as::IService> withProgram(as::IService& service, const std::string& file,
+                                            const std::string& dictionary) const;
 
  private:
   std::unique_ptr<as::IAgentServices> services_;
 };
+
+// The file that a name in `file` means: relative names count from the folder of that file.
+std::string besideFile(const std::string& file, const std::string& name);
 
 #endif  // TOOLS_DOCUMENTREADER_H_

@@ -42,6 +42,17 @@ std::string conditionValueTypeWord(int type) { return wordFor(type, {"constant",
 
 std::string byTypeWord(int byType) { return wordFor(byType, {"reference", "value", "returning"}); }
 
+std::string implementationWord(int implementation) {
+  return wordFor(implementation, {"Web service", "Java", "COM", "xd", ".NET"});
+}
+
+std::string directionWord(int byType) { return wordFor(byType, {"in", "out", "io"}); }
+
+std::string mappingTypeWord(int type) {
+  return wordFor(type,
+                 {"data item", "command line", "return code", "standard input", "standard output"});
+}
+
 std::string dottedPath(as::IDataItem& item) {
   std::vector<std::string> names = {item.getName()};
   for (as::IGroup* group = item.getParent(); group != nullptr; group = group->getParent()) {

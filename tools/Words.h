@@ -16,6 +16,9 @@ std::string justificationWord(int justification);
 std::string nationalUsageWord(int usage);
 std::string conditionValueTypeWord(int type);
 std::string byTypeWord(int byType);
+std::string implementationWord(int implementation);
+std::string directionWord(int byType);
+std::string mappingTypeWord(int type);
 
 // The name of `item` dotted from its record down: RECORD.GROUP.ITEM.
 std::string dottedPath(as::IDataItem& item);

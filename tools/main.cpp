@@ -19,24 +19,41 @@ void addSchemasOption(CLI::App& app, std::optional<std::string>& schemas) {
 }
 
 int run(int argc, char** argv) {
-  CLI::App app("Shows and checks XML data dictionaries of COBOL programs.", "agentservices");
+  CLI::App app("Shows and checks XML data dictionaries of COBOL programs and service definitions.",
+               "agentservices");
   app.set_version_flag("--version", "agentservices " AS_TOOL_VERSION);
   app.require_subcommand(1);
-  app.footer("Exit codes: 0 fine, 1 a document was refused or the output failed, 2 wrong usage.");
+  app.footer(
+      "Exit codes: 0 fine, 1 a document was refused or has errors, or the output failed, 2 wrong "
+      "usage.");
   std::optional<std::string> schemas;
   addSchemasOption(app, schemas);
 
-  CLI::App* const show = app.add_subcommand("show", "Print a data dictionary as a tree");
+  CLI::App* const show =
+      app.add_subcommand("show", "Print a data dictionary or a service as a tree");
   std::string shownFile;
   bool json = false;
-  show->add_option("FILE", shownFile, "The data dictionary")->required();
+  ShowOptions shownAs;
+  show->add_option("FILE", shownFile, "The document")->required();
   show->add_flag("--json", json, "Print everything the model answers, as JSON");
+  show->add_flag("--program", shownAs.withProgram,
+                 "Show a service with the data items of its program, read from the dictionary that "
+                 "it names");
   addSchemasOption(*show, schemas);
 
   CLI::App* const validate = app.add_subcommand("validate", "Say of every file whether it is good");
   std::vector<std::string> validatedFiles;
-  validate->add_option("FILE", validatedFiles, "Data dictionaries")->required();
+  validate->add_option("FILE", validatedFiles, "Documents")->required();
   addSchemasOption(*validate, schemas);
+
+  CLI::App* const lint = app.add_subcommand("lint", "Find what is broken in a service");
+  std::string lintedFile;
+  std::optional<std::string> dictionary;
+  lint->add_option("SERVICE", lintedFile, "The service")->required();
+  lint->add_option("--dictionary", dictionary,
+                   "The data dictionary of the program, in place of the one that the service names")
+      ->type_name("FILE");
+  addSchemasOption(*lint, schemas);
 
   try {
     app.parse(argc, argv);
@@ -44,8 +61,10 @@ int run(int argc, char** argv) {
     return app.exit(failure) == 0 ? exitFine : exitUsage;
   }
   if (show->parsed()) {
-    return runShow(shownFile, json ? ShowFormat::json : ShowFormat::tree, schemas);
+    shownAs.format = json ? ShowFormat::json : ShowFormat::tree;
+    return runShow(shownFile, shownAs, schemas);
   }
+  if (lint->parsed()) return runLint(lintedFile, dictionary, schemas);
   return runValidate(validatedFiles, schemas);
 }
 

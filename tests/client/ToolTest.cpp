@@ -2,120 +2,27 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <nlohmann/json.hpp>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "support/Dictionary.h"
+#include "support/Tool.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
+using test::labelOf;
+using test::ToolTest;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
-
-std::string contentOf(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::ostringstream content;
-  content << in.rdbuf();
-  return content.str();
-}
-
-struct Outcome {
-  int exitCode;  // -1 when a signal ended the tool.
-  std::string out;
-  std::string err;
-};
-
-// A directory of its own for each test, in which the tool runs.
-class ToolTest : public testing::Test {
- protected:
-  void SetUp() override {
-    std::string pattern = testing::TempDir() + "/agentservices-tool-XXXXXX";
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    directory_ = pattern;
-  }
-
-  void TearDown() override {
-    std::error_code ignored;
-    fs::remove_all(directory_, ignored);
-  }
-
-  const fs::path& directory() const { return directory_; }
-
-  std::string pathOf(const std::string& name) const { return (directory_ / name).string(); }
-
-  void write(const std::string& name, const std::string& content) const {
-    fs::create_directories((directory_ / name).parent_path());
-    std::ofstream(directory_ / name, std::ios::binary) << content;
-  }
-
-  // Runs `program` with its standard output on the descriptor `out`, which is closed afterwards.
-  Outcome runOn(int out, const std::string& program, std::vector<std::string> arguments) const {
-    arguments.insert(arguments.begin(), program);
-    std::vector<char*> argv;
-    argv.reserve(arguments.size() + 1);
-    for (std::string& argument : arguments) argv.push_back(argument.data());
-    argv.push_back(nullptr);
-    const std::string errorFile = pathOf("stderr.txt");
-    const pid_t child = fork();
-    if (child == 0) {
-      const int err = open(errorFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-      if (chdir(directory_.c_str()) == 0 && dup2(out, 1) == 1 && dup2(err, 2) == 2) {
-        execv(program.c_str(), argv.data());
-      }
-      _exit(127);
-    }
-    close(out);
-    int status = 0;
-    EXPECT_EQ(waitpid(child, &status, 0), child);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, "", contentOf(errorFile)};
-  }
-
-  Outcome runProgram(const std::string& program, const std::vector<std::string>& arguments) const {
-    const std::string outputFile = pathOf("stdout.txt");
-    const int out = open(outputFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-    Outcome outcome = runOn(out, program, arguments);
-    outcome.out = contentOf(outputFile);
-    return outcome;
-  }
-
-  Outcome run(const std::vector<std::string>& arguments) const {
-    return runProgram(AS_TOOL, arguments);
-  }
-
-  // What `show` prints for a document.
-  std::string shown(const std::string& document) const {
-    write("shown.xml", document);
-    const Outcome outcome = run({"show", "shown.xml"});
-    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
-    EXPECT_THAT(outcome.err, IsEmpty());
-    return outcome.out;
-  }
-
-  // What `show --json` prints for a document.
-  json shownJson(const std::string& document) const {
-    write("shown.xml", document);
-    const Outcome outcome = run({"show", "--json", "shown.xml"});
-    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
-    EXPECT_THAT(outcome.err, IsEmpty());
-    return json::parse(outcome.out, nullptr, false);
-  }
-
- private:
-  fs::path directory_;
-};
 
 std::string dictionaryStart(const std::string& rootAttributes) {
   return std::string("<program xmlns=\"") + test::dictionaryNamespace + "\" " + rootAttributes +
@@ -262,7 +169,7 @@ TEST_F(ToolTest, ShowReadsTheDeepestNesting) {
   EXPECT_THAT(shown(document),
               EndsWith("\n" + std::string(2 + 2 * depth, ' ') + "BOTTOM  pointer\n"));
   write("deep.xml", document);
-  const Outcome outcome = run({"show", "--json", "deep.xml"});
+  const test::ToolOutcome outcome = run({"show", "--json", "deep.xml"});
   EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
   EXPECT_THAT(outcome.out, HasSubstr(R"("name": "BOTTOM")"));
 }
@@ -275,11 +182,6 @@ struct ItemCase {
 };
 
 void PrintTo(const ItemCase& itemCase, std::ostream* out) { *out << itemCase.item; }
-
-template <class Case>
-std::string labelOf(const testing::TestParamInfo<Case>& info) {
-  return info.param.label;
-}
 
 class ToolItemTest : public ToolTest, public testing::WithParamInterface<ItemCase> {};
 
@@ -507,7 +409,8 @@ TEST_F(ToolTest, ValidateAnswersForEveryFile) {
   write("first.xml", test::dictionary(""));
   write("bad.xml", "<program");
   write("last.xml", orders());
-  const Outcome outcome = run({"validate", "first.xml", "bad.xml", "missing.xml", "last.xml"});
+  const test::ToolOutcome outcome =
+      run({"validate", "first.xml", "bad.xml", "missing.xml", "last.xml"});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_EQ(outcome.out, "first.xml: ok\nlast.xml: ok\n");
   EXPECT_THAT(outcome.err, StartsWith("bad.xml:1:"));
@@ -516,7 +419,7 @@ TEST_F(ToolTest, ValidateAnswersForEveryFile) {
 
 TEST_F(ToolTest, ValidateOfGoodFilesSucceedsSilently) {
   write("good.xml", orders());
-  const Outcome outcome = run({"validate", "good.xml", "good.xml"});
+  const test::ToolOutcome outcome = run({"validate", "good.xml", "good.xml"});
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_EQ(outcome.out, "good.xml: ok\ngood.xml: ok\n");
   EXPECT_THAT(outcome.err, IsEmpty());
@@ -557,18 +460,22 @@ class ToolRefusalTest : public ToolTest, public testing::WithParamInterface<Refu
 TEST_P(ToolRefusalTest, IsTold) {
   write("refused.xml", GetParam().document);
   for (const char* command : {"show", "validate"}) {
-    const Outcome outcome = run({command, "refused.xml"});
+    const test::ToolOutcome outcome = run({command, "refused.xml"});
     EXPECT_EQ(outcome.exitCode, 1);
     EXPECT_THAT(outcome.out, IsEmpty());
     EXPECT_EQ(outcome.err, GetParam().message + "\n");
   }
 }
 
-const std::string noDictionary =
+const std::string neitherKind =
     std::string(
-        "refused.xml: error: not a data dictionary: its root element is not in the "
-        "namespace ") +
-    test::dictionaryNamespace + " (a service definition?)";
+        "refused.xml: error: not a data dictionary: its root element is not in the namespace ") +
+    test::dictionaryNamespace +
+    "; and not a service: its root element is in none of the namespaces"
+    " http://agentservices.example/schema/ws/v1.0/vorws.xsd"
+    " http://agentservices.example/schema/java/v2.0/vorjava.xsd"
+    " http://agentservices.example/schema/com/v1.0/vorcom.xsd"
+    " http://agentservices.example/schema/dotnet/v1.0/vordotnet.xsd";
 
 const std::string schemaHint =
     std::string(
@@ -585,8 +492,8 @@ INSTANTIATE_TEST_SUITE_P(
         RefusalCase{"MistypedElement", test::dictionaryOf("\n<pointr name='A'/>"),
                     "refused.xml:2:19: error: no declaration found for element 'pointr'"},
         RefusalCase{"OtherNamespace", "<service xmlns='http://elsewhere.example/service'/>",
-                    noDictionary},
-        RefusalCase{"NoNamespace", "<program name='PAYROLL'/>", noDictionary},
+                    neitherKind},
+        RefusalCase{"NoNamespace", "<program name='PAYROLL'/>", neitherKind},
         RefusalCase{
             "NoSchemaLocation", dictionaryStart("name=\"PAYROLL\"") + "</program>",
             "refused.xml:1:93: error: no declaration found for element 'program'\n" + schemaHint},
@@ -602,14 +509,14 @@ INSTANTIATE_TEST_SUITE_P(
     labelOf<RefusalCase>);
 
 TEST_F(ToolTest, AMissingFileIsNamed) {
-  const Outcome outcome = run({"show", "missing.xml"});
+  const test::ToolOutcome outcome = run({"show", "missing.xml"});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.out, IsEmpty());
   EXPECT_EQ(outcome.err, "missing.xml: error: cannot be read: No such file or directory\n");
 }
 
 TEST_F(ToolTest, ADirectoryIsNoDocument) {
-  const Outcome outcome = run({"validate", directory().string()});
+  const test::ToolOutcome outcome = run({"validate", directory().string()});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_EQ(outcome.err, directory().string() + ": error: is a directory, not a document\n");
 }
@@ -626,7 +533,7 @@ TEST_F(ToolTest, SchemasMayBeNamedBeforeAndBehindTheCommand) {
 TEST_F(ToolTest, AProblemInASchemaIsToldWithTheSchemasName) {
   write("good.xml", test::dictionary(""));
   write("schemas/vorcobol.xsd", "<xs:schema");
-  const Outcome outcome = run({"validate", "--schemas", "schemas", "good.xml"});
+  const test::ToolOutcome outcome = run({"validate", "--schemas", "schemas", "good.xml"});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.err, HasSubstr("schemas/vorcobol.xsd:1:"));
 }
@@ -636,7 +543,8 @@ TEST_F(ToolTest, AnInstalledToolUsesTheSchemasInstalledWithIt) {
   write("share/AgentServices/schema/vorcobol.xsd", "<xs:schema");
   fs::create_directory(directory() / "bin");
   fs::copy_file(AS_TOOL, directory() / "bin/agentservices");
-  const Outcome outcome = runProgram(pathOf("bin/agentservices"), {"validate", "good.xml"});
+  const test::ToolOutcome outcome =
+      runProgram(pathOf("bin/agentservices"), {"validate", "good.xml"});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.err, HasSubstr("share/AgentServices/schema/vorcobol.xsd:1:"));
 }
@@ -654,7 +562,8 @@ class ToolSchemasTest : public ToolTest, public testing::WithParamInterface<Sche
 TEST_P(ToolSchemasTest, AreCheckedBeforeAnyDocument) {
   write("file", "");
   write("empty/other.xsd", "");
-  const Outcome outcome = run({"validate", "--schemas", GetParam().schemas, "missing.xml"});
+  const test::ToolOutcome outcome =
+      run({"validate", "--schemas", GetParam().schemas, "missing.xml"});
   EXPECT_EQ(outcome.exitCode, 2);
   EXPECT_THAT(outcome.out, IsEmpty());
   EXPECT_EQ(outcome.err, "agentservices: error: the schema directory " + GetParam().message + "\n");
@@ -679,7 +588,7 @@ void PrintTo(const UsageCase& usage, std::ostream* out) { *out << usage.label; }
 class ToolUsageTest : public ToolTest, public testing::WithParamInterface<UsageCase> {};
 
 TEST_P(ToolUsageTest, IsWrong) {
-  const Outcome outcome = run(GetParam().arguments);
+  const test::ToolOutcome outcome = run(GetParam().arguments);
   EXPECT_EQ(outcome.exitCode, 2);
   EXPECT_THAT(outcome.out, IsEmpty());
   EXPECT_THAT(outcome.err, Not(IsEmpty()));
@@ -698,7 +607,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(ToolTest, HelpIsNoMistake) {
   for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
            {"--help"}, {"show", "--help"}, {"validate", "--help"}}) {
-    const Outcome outcome = run(arguments);
+    const test::ToolOutcome outcome = run(arguments);
     EXPECT_EQ(outcome.exitCode, 0);
     EXPECT_THAT(outcome.out, HasSubstr("--schemas"));
     EXPECT_THAT(outcome.err, IsEmpty());
@@ -706,7 +615,7 @@ TEST_F(ToolTest, HelpIsNoMistake) {
 }
 
 TEST_F(ToolTest, VersionIsTold) {
-  const Outcome outcome = run({"--version"});
+  const test::ToolOutcome outcome = run({"--version"});
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_THAT(outcome.out, testing::MatchesRegex("agentservices [0-9]+\\.[0-9]+\\.[0-9]+\n"));
 }
@@ -715,7 +624,7 @@ TEST_F(ToolTest, AFullDiskIsTold) {
   write("good.xml", orders());
   for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
            {"show", "good.xml"}, {"show", "--json", "good.xml"}, {"validate", "good.xml"}}) {
-    const Outcome outcome = runOn(open("/dev/full", O_WRONLY), AS_TOOL, arguments);
+    const test::ToolOutcome outcome = runOn(open("/dev/full", O_WRONLY), AS_TOOL, arguments);
     EXPECT_EQ(outcome.exitCode, 1);
     EXPECT_THAT(outcome.err, StartsWith("agentservices: error: the output could not be written"));
   }
@@ -726,7 +635,7 @@ TEST_F(ToolTest, AReaderThatWentAwayIsTold) {
   int ends[2] = {-1, -1};
   ASSERT_EQ(pipe(ends), 0);
   close(ends[0]);
-  const Outcome outcome = runOn(ends[1], AS_TOOL, {"show", "good.xml"});
+  const test::ToolOutcome outcome = runOn(ends[1], AS_TOOL, {"show", "good.xml"});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.err, StartsWith("agentservices: error: the output could not be written"));
 }

@@ -72,7 +72,7 @@ struct Outcome {
 };
 
 // Makes the request, a callable that returns a new root, and tells what it came to.
-template <class Request>
+template <class Request, class = std::enable_if_t<std::is_invocable_v<const Request&>>>
 auto outcomeOf(const Request& request) {
   Outcome<std::remove_pointer_t<decltype(request())>> outcome;
   try {

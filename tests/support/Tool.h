@@ -1,0 +1,123 @@
+// Runs the built command-line tool, each test in a directory of its own.
+#ifndef TESTS_SUPPORT_TOOL_H_
+#define TESTS_SUPPORT_TOOL_H_
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <string>
+#include <system_error>
+#include <vector>
+
+namespace test {
+
+inline std::string contentOf(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  std::ostringstream content;
+  content << in.rdbuf();
+  return content.str();
+}
+
+struct ToolOutcome {
+  int exitCode;  // -1 when a signal ended the tool.
+  std::string out;
+  std::string err;
+};
+
+// Has a directory of its own, in which the tool runs.
+class ToolTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::string pattern = testing::TempDir() + "/agentservices-tool-XXXXXX";
+    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+    directory_ = pattern;
+  }
+
+  void TearDown() override {
+    std::error_code ignored;
+    std::filesystem::remove_all(directory_, ignored);
+  }
+
+  const std::filesystem::path& directory() const { return directory_; }
+
+  std::string pathOf(const std::string& name) const { return (directory_ / name).string(); }
+
+  void write(const std::string& name, const std::string& content) const {
+    std::filesystem::create_directories((directory_ / name).parent_path());
+    std::ofstream(directory_ / name, std::ios::binary) << content;
+  }
+
+  // Runs `program` with its standard output on the descriptor `out`, which is closed afterwards.
+  ToolOutcome runOn(int out, const std::string& program, std::vector<std::string> arguments) const {
+    arguments.insert(arguments.begin(), program);
+    std::vector<char*> argv;
+    argv.reserve(arguments.size() + 1);
+    for (std::string& argument : arguments) argv.push_back(argument.data());
+    argv.push_back(nullptr);
+    const std::string errorFile = pathOf("stderr.txt");
+    const pid_t child = fork();
+    if (child == 0) {
+      const int err = open(errorFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+      if (chdir(directory_.c_str()) == 0 && dup2(out, 1) == 1 && dup2(err, 2) == 2) {
+        execv(program.c_str(), argv.data());
+      }
+      _exit(127);
+    }
+    close(out);
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, "", contentOf(errorFile)};
+  }
+
+  ToolOutcome runProgram(const std::string& program,
+                         const std::vector<std::string>& arguments) const {
+    const std::string outputFile = pathOf("stdout.txt");
+    const int out = open(outputFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    ToolOutcome outcome = runOn(out, program, arguments);
+    outcome.out = contentOf(outputFile);
+    return outcome;
+  }
+
+  ToolOutcome run(const std::vector<std::string>& arguments) const {
+    return runProgram(AS_TOOL, arguments);
+  }
+
+  // What `show` prints for a document.
+  std::string shown(const std::string& document) const {
+    write("shown.xml", document);
+    const ToolOutcome outcome = run({"show", "shown.xml"});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+    EXPECT_THAT(outcome.err, testing::IsEmpty());
+    return outcome.out;
+  }
+
+  // What `show --json` prints for a document.
+  nlohmann::json shownJson(const std::string& document) const {
+    write("shown.xml", document);
+    const ToolOutcome outcome = run({"show", "--json", "shown.xml"});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+    EXPECT_THAT(outcome.err, testing::IsEmpty());
+    return nlohmann::json::parse(outcome.out, nullptr, false);
+  }
+
+ private:
+  std::filesystem::path directory_;
+};
+
+// The name of a test with parameters.
+template <class Case>
+std::string labelOf(const testing::TestParamInfo<Case>& info) {
+  return info.param.label;
+}
+
+}  // namespace test
+
+#endif  // TESTS_SUPPORT_TOOL_H_

@@ -1,0 +1,44 @@
+#include "Findings.h"
+
+#include <ostream>
+#include <utility>
+
+#include "Text.h"
+
+namespace {
+
+std::string count(int number, const char* what) {
+  return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
+}
+
+}  // namespace
+
+Findings::Findings(std::ostream& out, std::string file)
+    : out_(out), file_(printable(std::move(file))) {}
+
+void Findings::error(const std::string& where, const std::string& problem,
+                     const std::string& advice) {
+  ++errors_;
+  print("error", where, problem, advice);
+}
+
+void Findings::warning(const std::string& where, const std::string& problem,
+                       const std::string& advice) {
+  ++warnings_;
+  print("warning", where, problem, advice);
+}
+
+void Findings::print(const char* severity, const std::string& where, const std::string& problem,
+                     const std::string& advice) {
+  out_ << file_ << ": " << severity << ": " << printable(where + ": " + problem + "; " + advice)
+       << "\n";
+}
+
+void Findings::printSummary() {
+  out_ << file_ << ": ";
+  if (errors_ == 0 && warnings_ == 0) {
+    out_ << "clean\n";
+  } else {
+    out_ << count(errors_, "error") << ", " << count(warnings_, "warning") << "\n";
+  }
+}

@@ -1,0 +1,33 @@
+// The findings of a check, as lines and numbers.
+#ifndef TOOLS_FINDINGS_H_
+#define TOOLS_FINDINGS_H_
+
+#include <iosfwd>
+#include <string>
+
+// Prints findings, one a line, and counts them.
+class Findings {
+ public:
+  // About the document named `file`.
+  Findings(std::ostream& out, std::string file);
+
+  // "FILE: error: WHERE: PROBLEM; ADVICE"
+  void error(const std::string& where, const std::string& problem, const std::string& advice);
+  void warning(const std::string& where, const std::string& problem, const std::string& advice);
+
+  // "FILE: N errors, M warnings" or "FILE: clean"
+  void printSummary();
+
+  int errors() const { return errors_; }
+
+ private:
+  void print(const char* severity, const std::string& where, const std::string& problem,
+             const std::string& advice);
+
+  std::ostream& out_;
+  std::string file_;
+  int errors_ = 0;
+  int warnings_ = 0;
+};
+
+#endif  // TOOLS_FINDINGS_H_

@@ -1,0 +1,72 @@
+// Java services: the transaction types of operations and the data types of parameters and fields.
+#include "Flavour.h"
+#include "as/IJavaOperation.h"
+#include "as/IJavaParameter.h"
+
+namespace {
+
+using Kind = Capacity::Kind;
+using Java = as::IJavaField;
+
+std::string transactionWord(int type) {
+  switch (type) {
+    case as::IJavaOperation::TRANS_NOT_SUPPORTED:
+      return "notSupported";
+    case as::IJavaOperation::TRANS_MANDATORY:
+      return "mandatory";
+    case as::IJavaOperation::TRANS_REQUIRES:
+      return "requires";
+    case as::IJavaOperation::TRANS_REQUIRES_NEW:
+      return "requiresNew";
+    case as::IJavaOperation::TRANS_SUPPORTS:
+      return "supports";
+    default:
+      return "never";
+  }
+}
+
+class JavaFlavour : public Flavour {
+ public:
+  std::string name() const override { return "Java"; }
+  int implementation() const override { return as::IService::TYPE_JAVA; }
+
+  bool owns(as::IService& service) const override {
+    return hasMembersOf<as::IJavaOperation, as::IJavaParameter>(service, implementation());
+  }
+
+  std::vector<FlavourCode> operationCodes(as::IOperation& operation) const override {
+    auto* const java = as::interface_cast<as::IJavaOperation>(&operation);
+    if (java == nullptr) return {};
+    const int type = java->getTransactionType();
+    return {{"transactionType", "transactionType", type, transactionWord(type)}};
+  }
+
+  const std::vector<DataType>& dataTypes() const override { return types_; }
+
+  std::optional<int> dataTypeOf(as::IField& field) const override {
+    auto* const java = as::interface_cast<as::IJavaField>(&field);
+    return java == nullptr ? std::nullopt : std::optional<int>(java->getType());
+  }
+
+ private:
+  // Integers, small ones first: what holds an item is found by going from the first on.
+  const std::vector<DataType> types_ = {
+      {Java::JAVA_BYTE, "byte", {Kind::integer, 2, 8}},
+      {Java::JAVA_SHORT, "short", {Kind::integer, 4, 16}},
+      {Java::JAVA_INT, "int", {Kind::integer, 9, 32}},
+      {Java::JAVA_LONG, "long", {Kind::integer, 18, 64}},
+      {Java::JAVA_BIG_INTEGER, "BigInteger", {Kind::decimal, 0, 0, true, false}},
+      {Java::JAVA_BIG_DECIMAL, "BigDecimal", {Kind::decimal}},
+      {Java::JAVA_FLOAT, "float", {Kind::floating, 6}},
+      {Java::JAVA_DOUBLE, "double", {Kind::floating, 15}},
+      {Java::JAVA_STRING, "String", {Kind::text}},
+      {Java::JAVA_BYTE_ARRAY, "byteArray", {Kind::bytes}},
+  };
+};
+
+}  // namespace
+
+const Flavour& javaFlavour() {
+  static const JavaFlavour flavour;
+  return flavour;
+}

@@ -1,0 +1,197 @@
+#include "ServicePrinter.h"
+
+#include <cstddef>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "FieldWalk.h"
+#include "Flavour.h"
+#include "ItemSummary.h"
+#include "PrinterParts.h"
+#include "Text.h"
+#include "TextTable.h"
+#include "Words.h"
+#include "as/IHiddenParameter.h"
+#include "as/IList.h"
+#include "as/IMapping.h"
+#include "as/IOperation.h"
+#include "as/IParameter.h"
+#include "as/IService.h"
+
+namespace {
+
+using Row = TextTable::Row;
+
+// The columns of parameters and fields. Hidden parameters and second mappings fill the last ones.
+TextTable fieldTable() {
+  return TextTable({{"name", false},
+                    {"direction", false},
+                    {"occurs", true},
+                    {"type", false},
+                    {"mapped to", false},
+                    {"subscripts", false},
+                    {"data item", false},
+                    {"clauses", false}});
+}
+
+class ServicePrinter {
+ public:
+  ServicePrinter(std::ostream& out, as::IService& service)
+      : out_(out), service_(service), flavour_(flavourOf(service)), table_(fieldTable()) {}
+
+  void print() {
+    out_ << "SERVICE " << printable(service_.getName()) << "\n";
+    printHeader();
+    printProperties(out_, service_.getProperties());
+    // All tables share one layout, so that their columns stand below each other.
+    const auto measure = [this](const Row& row) { table_.measure(row); };
+    forEachFieldRow(service_.getParameterTypeDefs(), measure);
+    forEachMember<as::IOperation>(service_.getOperations(), [&](as::IOperation& operation) {
+      forEachRow(operation, measure);
+    });
+    const auto printRow = [this](const Row& row) { table_.print(out_, row); };
+    if (service_.getParameterTypeDefs()->getLength() > 0) {
+      out_ << "\nTYPE DEFINITIONS\n\n";
+      table_.printHeader(out_);
+      forEachFieldRow(service_.getParameterTypeDefs(), printRow);
+    }
+    if (service_.getOperations()->getLength() == 0) return;
+    out_ << "\nOPERATIONS\n";
+    forEachMember<as::IOperation>(service_.getOperations(), [&](as::IOperation& operation) {
+      printHeader(operation);
+      const bool isEmpty = operation.getParameters()->getLength() == 0 &&
+                           operation.getHiddenParameters()->getLength() == 0;
+      if (isEmpty) return;
+      out_ << "\n";
+      table_.printHeader(out_);
+      forEachRow(operation, printRow);
+    });
+  }
+
+ private:
+  void printHeader() {
+    const std::vector<std::pair<const char*, std::string>> lines = {
+        {"flavour       ", flavour_.implementation() == service_.getImplementation()
+                               ? flavour_.name()
+                               : implementationWord(service_.getImplementation())},
+        {"program       ", service_.getAttributeValue("programName")},
+        {"dictionary    ", service_.getDDFilename()},
+        {"exit program  ", service_.getExitProgramName()},
+    };
+    out_ << "\n";
+    for (const auto& [title, text] : lines) {
+      if (!text.empty()) out_ << "  " << title << printable(text) << "\n";
+    }
+  }
+
+  void printHeader(as::IOperation& operation) {
+    Clauses clauses;
+    const std::string entryPoint = operation.getAttributeValue("entryPoint");
+    if (!entryPoint.empty()) {
+      const bool lost = hasProgram() && operation.getEntryPoint() == nullptr;
+      clauses.add("entry point " + printable(entryPoint) + (lost ? " (not found)" : ""));
+    }
+    if (!operation.getAttributeValue("exitPoints").empty()) {
+      clauses.add("exit points " + std::to_string(operation.getExitPoints()));
+    }
+    for (const FlavourCode& code : flavour_.operationCodes(operation)) {
+      if (operation.getAttributeValue(code.attribute.c_str()).empty()) continue;
+      clauses.add(code.attribute + " " + code.word);
+    }
+    out_ << "\n  " << printable(operation.getName());
+    if (!clauses.text().empty()) out_ << "  " << clauses.text();
+    out_ << "\n";
+  }
+
+  bool hasProgram() { return service_.getProgram() != nullptr; }
+
+  // Calls take(Row) for each row of the operation's table.
+  template <class Take>
+  void forEachRow(as::IOperation& operation, const Take& take) {
+    forEachMember<as::IHiddenParameter>(operation.getHiddenParameters(),
+                                        [&](as::IHiddenParameter& hidden) {
+                                          Row row;
+                                          row.cells = {"(hidden)", "", "", ""};
+                                          addMapping(row, hidden);
+                                          const std::string value = hidden.getValue();
+                                          if (!hidden.getAttributeValue("value").empty())
+                                            row.rest = "value " + printable(value);
+                                          take(row);
+                                        });
+    forEachFieldRow(operation.getParameters(), take);
+  }
+
+  template <class Take>
+  void forEachFieldRow(as::IList* fields, const Take& take) {
+    walkFields(
+        fields,
+        [&](as::IField& field, std::size_t depth) {
+          Row row = fieldRow(field, depth);
+          if (!referenceOf(field).empty()) {
+            row.cells.resize(7);
+            take(row);
+            return;
+          }
+          bool isFirst = true;
+          forEachMember<as::IMapping>(field.getMappings(), [&](as::IMapping& mapping) {
+            if (!isFirst) row.cells = {"", "", "", ""};
+            isFirst = false;
+            addMapping(row, mapping);
+            take(row);
+          });
+          if (!isFirst) return;
+          row.cells.resize(7);
+          take(row);
+        },
+        [](as::IField&) {});
+  }
+
+  // Without its mappings.
+  Row fieldRow(as::IField& field, std::size_t depth) {
+    Row row;
+    row.cells = {indented(depth, printable(field.getName())), "", "", ""};
+    auto* const parameter = as::interface_cast<as::IParameter>(&field);
+    if (parameter != nullptr && !field.getAttributeValue("byType").empty()) {
+      row.cells[1] = directionWord(parameter->getByType());
+    }
+    const std::string reference = referenceOf(field);
+    if (!reference.empty()) {
+      const bool lost = parameter == nullptr || parameter->getReferenceType() == nullptr;
+      row.rest = "like " + printable(reference) + (lost ? " (not found)" : "");
+      return row;
+    }
+    if (field.getOccurs() != 0) row.cells[2] = std::to_string(field.getOccurs());
+    const std::optional<int> type = flavour_.dataTypeOf(field);
+    if (type && !field.getAttributeValue("dataType").empty()) {
+      const DataType* const known = flavour_.findDataType(*type);
+      row.cells[3] = known == nullptr ? "unknown" : known->word;
+    }
+    return row;
+  }
+
+  void addMapping(Row& row, as::IMapping& mapping) {
+    row.cells.push_back(printable(mapping.getRawMapping()));
+    row.cells.push_back(printable(mapping.getAttributeValue("subscript")));
+    row.cells.push_back(resolved(mapping));
+  }
+
+  std::string resolved(as::IMapping& mapping) {
+    if (!hasProgram()) return "";
+    if (mapping.getType() != as::IMapping::MAP_DATA_ITEM) return mappingTypeWord(mapping.getType());
+    as::IDataItem* const item = mapping.getDataItem();
+    return item == nullptr ? "(not found)" : printable(itemSummary(*item));
+  }
+
+  std::ostream& out_;
+  as::IService& service_;
+  const Flavour& flavour_;
+  TextTable table_;
+};
+
+}  // namespace
+
+void printService(std::ostream& out, as::IService& service) {
+  ServicePrinter(out, service).print();
+}
