@@ -25,7 +25,7 @@ void CElementImpl::setUserData(void* data) { userData_ = data; }
 
 std::string CElementImpl::getAttributeValue(const char* name) {
   CXStr attribute(name);
-  if (attribute.isEmpty() || element_ == nullptr) return std::string();
+  if (attribute.isEmpty() || element_ == nullptr) return {};
   return text(attribute);
 }
 

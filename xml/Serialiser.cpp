@@ -127,5 +127,5 @@ std::string serialiseNode(DOMDocument* document) {
   output->setEncoding(XMLUni::fgUTF8EncodingString);
   output->setByteStream(&target);
   if (!writer->write(copy.get(), output.get())) throw std::runtime_error("not written");
-  return std::string(reinterpret_cast<const char*>(target.getRawBuffer()), target.getLen());
+  return {reinterpret_cast<const char*>(target.getRawBuffer()), target.getLen()};
 }

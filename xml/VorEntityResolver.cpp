@@ -34,9 +34,21 @@ InputSource* VorEntityResolver::resolveEntity(const XMLCh* /*publicId*/, const X
   if (directory_.isEmpty()) return nullptr;
   for (const auto& schema : schemas) {
     if (XMLString::equals(systemId, schema.uri) || XMLString::equals(systemId, schema.fileName)) {
-      CXStr location = getLocationForSchema(schema.fileName);
-      return new LocalFileInputSource(location);
+      return open(schema.fileName);
     }
   }
   return nullptr;
+}
+
+InputSource* VorEntityResolver::resolveNamespace(const XMLCh* uri) {
+  if (directory_.isEmpty()) return nullptr;
+  for (const auto& schema : schemas) {
+    if (XMLString::equals(uri, schema.uri)) return open(schema.fileName);
+  }
+  return nullptr;
+}
+
+InputSource* VorEntityResolver::open(const XMLCh* fileName) {
+  CXStr location = getLocationForSchema(fileName);
+  return new LocalFileInputSource(location);
 }

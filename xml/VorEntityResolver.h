@@ -27,7 +27,12 @@ class VorEntityResolver : public xercesc::EntityResolver {
   // identifier has no part in it.
   xercesc::InputSource* resolveEntity(const XMLCh* publicId, const XMLCh* systemId) override;
 
+  // The same for the schema of a namespace, wherever a document says that it is.
+  xercesc::InputSource* resolveNamespace(const XMLCh* uri);
+
  private:
+  xercesc::InputSource* open(const XMLCh* fileName);
+
   CXStr directory_;
 };
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <utility>
 #include <xercesc/framework/LocalFileInputSource.hpp>
 #include <xercesc/framework/XMLBuffer.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
@@ -13,12 +12,14 @@
 #include <xercesc/util/XMLString.hpp>
 #include <xercesc/util/XMLURL.hpp>
 #include <xercesc/util/XMLUri.hpp>
+#include <xercesc/validators/DTD/DTDElementDecl.hpp>
 #include <xercesc/validators/DTD/DTDEntityDecl.hpp>
 
 #include "as/CASInvalidNamespaceException.h"
 #include "xml/XStr.h"
 
 using xercesc::DOMNode;
+using xercesc::DTDElementDecl;
 using xercesc::DTDEntityDecl;
 using xercesc::InputSource;
 using xercesc::LocalFileInputSource;
@@ -29,7 +30,6 @@ using xercesc::SAXParseException;
 using xercesc::XMLAttr;
 using xercesc::XMLBuffer;
 using xercesc::XMLElementDecl;
-using xercesc::XMLErrorReporter;
 using xercesc::XMLPlatformUtils;
 using xercesc::XMLResourceIdentifier;
 using xercesc::XMLString;
@@ -58,7 +58,7 @@ Place placeOfFile(const XMLCh* path) {
 std::basic_string<XMLCh> unescaped(const XMLCh* path) {
   std::basic_string<XMLCh> result;
   const auto hexDigit = [](XMLCh c) {
-    const XMLCh lower = static_cast<XMLCh>(c | 0x20);
+    const auto lower = static_cast<XMLCh>(c | 0x20);
     if (c >= u'0' && c <= u'9') return c - u'0';
     return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
   };
@@ -103,6 +103,17 @@ bool isSchemaReference(const XMLResourceIdentifier& reference) {
       return true;
     default:
       return false;
+  }
+}
+
+// The namespace that a schema is needed for; null for a part of a schema that has been found.
+const XMLCh* namespaceNeeded(const XMLResourceIdentifier& reference) {
+  switch (reference.getResourceIdentifierType()) {
+    case XMLResourceIdentifier::SchemaGrammar:
+    case XMLResourceIdentifier::SchemaImport:
+      return reference.getNameSpace();
+    default:
+      return nullptr;
   }
 }
 
@@ -196,15 +207,24 @@ void CXMLParser::endDocument() {
 }
 
 void CXMLParser::entityDecl(const DTDEntityDecl& entity, bool isParameterEntity, bool isIgnored) {
+  const std::string name = narrow(entity.getName());
+  // What a DTD is made of is expanded without the limits that hold for content.
+  if (isParameterEntity) throw messageHere("the parameter entity '" + name + "' is refused");
   if (entity.getValueLen() > maxEntityLength) {
-    refuse("the entity '" + narrow(entity.getName()) + "' is longer than " +
-           std::to_string(maxEntityLength) + " characters");
+    throw messageHere("the entity '" + name + "' is longer than " +
+                      std::to_string(maxEntityLength) + " characters");
   }
   XercesDOMParser::entityDecl(entity, isParameterEntity, isIgnored);
 }
 
+void CXMLParser::startAttList(const DTDElementDecl& element) {
+  // Defaults would be expanded without limits, and come into the model unseen by the schema.
+  throw messageHere("the attribute declarations for '" + narrow(element.getFullName()) +
+                    "' are refused: attributes are declared by the schema");
+}
+
 void CXMLParser::error(unsigned int code, const XMLCh* /*domain*/,
-                       XMLErrorReporter::ErrTypes /*type*/, const XMLCh* text,
+                       xercesc::XMLErrorReporter::ErrTypes /*type*/, const XMLCh* text,
                        const XMLCh* systemId, const XMLCh* publicId, XMLFileLoc line,
                        XMLFileLoc column) {
   report(as::CASParseException(static_cast<int>(code), position(line), position(column),
@@ -233,7 +253,8 @@ InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
     case Place::regularFile:
       break;
   }
-  return nullptr;
+  // Where the client has named the schemas of our namespaces, documents bring none of their own.
+  return resolver_.resolveNamespace(namespaceNeeded(*reference));
 }
 
 void CXMLParser::warning(const SAXParseException& /*exception*/) {}
@@ -244,9 +265,9 @@ void CXMLParser::fatalError(const SAXParseException& /*exception*/) {}
 
 void CXMLParser::resetErrors() {}
 
-void CXMLParser::report(as::CASParseException message) {
+void CXMLParser::report(const as::CASParseException& message) {
   if (rootSeen_) throw as::CASParseException(message);
-  if (!firstMessage_) firstMessage_ = std::move(message);
+  if (!firstMessage_) firstMessage_ = message;
 }
 
 std::string CXMLParser::nameOf(const XMLCh* systemId) const {

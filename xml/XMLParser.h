@@ -17,9 +17,10 @@
 // One parser serves one parse. It holds the DOM document afterwards, and is therefore kept by the
 // model that was built from it.
 //
-// Documents may come from anywhere, so nothing that one names is fetched over a network, external
-// entities and DTDs are refused, and expansion of internal entities and nesting are bounded. Every
-// refusal is an as::CASParseException.
+// Documents may come from anywhere, so nothing that one names is fetched over a network; external
+// entities, external DTDs, parameter entities and attribute declarations of a DTD are refused;
+// expansion of internal entities and nesting are bounded. Every refusal is an
+// as::CASParseException.
 class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler {
  public:
   // How deep elements may nest. Models are walked recursively; this keeps every walk within the
@@ -60,6 +61,7 @@ class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler
   void endDocument() override;
   void entityDecl(const xercesc::DTDEntityDecl& entity, bool isParameterEntity,
                   bool isIgnored) override;
+  void startAttList(const xercesc::DTDElementDecl& element) override;
 
   // From the parser's error reporter: every message, warnings included, ends the parse.
   void error(unsigned int code, const XMLCh* domain, xercesc::XMLErrorReporter::ErrTypes type,
@@ -79,7 +81,7 @@ class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler
   template <class Source>
   void run(const Source& source);
   // Ends the parse with `message`, or keeps it for the root's sake; see parse().
-  void report(as::CASParseException message);
+  void report(const as::CASParseException& message);
   // Ends the parse with a message of this library's own, at the place reached in the document.
   void refuse(const std::string& text);
   // `systemId`, or the document's name for a message that is about no entity (one that cannot be

@@ -103,7 +103,7 @@ CXStr::CXStr(const std::string& text) : CXStr(text.c_str()) {}
 CXStr::CXStr(int number) {
   constexpr std::size_t room = 12;  // The 11 characters of the smallest int and the terminator.
   text_.reset(new char[room]);
-  std::snprintf(text_.get(), room, "%d", number);
+  static_cast<void>(std::snprintf(text_.get(), room, "%d", number));
 }
 
 CXStr::CXStr(const XMLCh* text, bool /*flag*/) { copyXMLCh(text); }

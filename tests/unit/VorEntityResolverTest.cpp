@@ -72,6 +72,17 @@ TEST(VorEntityResolver, ResolvesNothingWithoutADirectory) {
   EXPECT_EQ(resolve(resolver, XSDNS::ddURI), "(null)");
 }
 
+TEST(VorEntityResolver, ResolvesNamespaces) {
+  VorEntityResolver resolver;
+  EXPECT_EQ(resolver.resolveNamespace(XSDNS::ddURI), nullptr) << "no directory yet";
+  resolver.setSchemaLocation("/s/");
+  const std::unique_ptr<xercesc::InputSource> source(resolver.resolveNamespace(XSDNS::wsURI));
+  ASSERT_NE(source, nullptr);
+  EXPECT_EQ(test::narrow(source->getSystemId()), "/s/vorws.xsd");
+  EXPECT_EQ(resolver.resolveNamespace(u"vorws.xsd"), nullptr);
+  EXPECT_EQ(resolver.resolveNamespace(nullptr), nullptr);
+}
+
 TEST(VorEntityResolver, PublicIdentifierHasNoPart) {
   VorEntityResolver resolver;
   resolver.setSchemaLocation("/s/");
