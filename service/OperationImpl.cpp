@@ -39,8 +39,9 @@ as::IHiddenParameter* COperationImpl::addHiddenParameter(as::IDataItem* /*dataIt
                                                          const char* /*value*/) {
   CServiceFactory* const factory = getFactory();
   if (hiddenParameters_ == nullptr) {
-    hiddenParameters_ = factory->createList(*this, SS::hiddenParameters,
-                                            getNamedChild(getElement(), SS::parameters));
+    // In front of everything else, whatever a flavour keeps in an operation.
+    hiddenParameters_ =
+        factory->createList(*this, SS::hiddenParameters, getElement()->getFirstChild());
   }
   CHiddenParameterImpl* const hidden = factory->createHiddenParameter();
   hiddenParameters_->addChild(hidden->getElement());

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <memory>
 #include <xercesc/framework/LocalFileInputSource.hpp>
 #include <xercesc/framework/XMLBuffer.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
@@ -45,12 +46,13 @@ int position(XMLFileLoc at) {
 }
 
 // What kind of place the parser would read from.
-enum class Place { network, regularFile, specialFile };
+enum class Place { network, regularFile, specialFile, directory };
 
 Place placeOfFile(const XMLCh* path) {
   struct stat status = {};
   if (::stat(narrow(path).c_str(), &status) != 0)
     return Place::regularFile;  // Its absence is told.
+  if (S_ISDIR(status.st_mode)) return Place::directory;
   return S_ISREG(status.st_mode) ? Place::regularFile : Place::specialFile;
 }
 
@@ -91,9 +93,6 @@ Place placeOf(const XMLCh* base, const XMLCh* systemId) {
   return local ? placeOfFile(unescaped(url.getPath()).c_str()) : Place::network;
 }
 
-// The document named by a parse request: a client may name whatever file it likes.
-bool isNetworkName(const XMLCh* systemId) { return placeOf(nullptr, systemId) == Place::network; }
-
 bool isSchemaReference(const XMLResourceIdentifier& reference) {
   switch (reference.getResourceIdentifierType()) {
     case XMLResourceIdentifier::SchemaGrammar:
@@ -131,13 +130,17 @@ CXMLParser::~CXMLParser() = default;
 
 void CXMLParser::parse(const XMLCh* systemId) {
   if (systemId == nullptr) systemId = u"";
-  if (isNetworkName(systemId)) {
-    const std::string name = narrow(systemId);
-    throw as::CASParseException(
-        0, 0, 0, "the document '" + name + "' is refused: documents are not read over a network",
-        std::string(), name);
-  }
   documentName_ = narrow(systemId);
+  const auto refuseDocument = [&](const std::string& reason) {
+    return as::CASParseException(0, 0, 0,
+                                 "the document '" + documentName_ + "' is refused: " + reason,
+                                 std::string(), documentName_);
+  };
+  // A client may name whatever file it likes; reading a directory the parser fails without freeing
+  // what it has made.
+  const Place place = placeOf(nullptr, systemId);
+  if (place == Place::network) throw refuseDocument("documents are not read over a network");
+  if (place == Place::directory) throw refuseDocument("it is a directory");
   run(systemId);
 }
 
@@ -171,6 +174,10 @@ void CXMLParser::run(const Source& source) {
 void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int uriId,
                               const XMLCh* prefix, const RefVectorOf<XMLAttr>& attributes,
                               XMLSize_t attributeCount, bool isEmpty, bool isRoot) {
+  if (attributeCount > maxAttributes) {
+    // At once: the time that the DOM takes to hold them grows with their square.
+    throw messageHere("an element has more than " + std::to_string(maxAttributes) + " attributes");
+  }
   // For an empty element the base class would end it from here, in front of the handler's start.
   XercesDOMParser::startElement(declaration, uriId, prefix, attributes, attributeCount, false,
                                 isRoot);
@@ -209,7 +216,9 @@ void CXMLParser::endDocument() {
 void CXMLParser::entityDecl(const DTDEntityDecl& entity, bool isParameterEntity, bool isIgnored) {
   const std::string name = narrow(entity.getName());
   // What a DTD is made of is expanded without the limits that hold for content.
-  if (isParameterEntity) throw messageHere("the parameter entity '" + name + "' is refused");
+  if (isParameterEntity)
+    throw messageHere("the parameter entity '" + name +
+                      "' is refused: documents must be complete in themselves");
   if (entity.getValueLen() > maxEntityLength) {
     throw messageHere("the entity '" + name + "' is longer than " +
                       std::to_string(maxEntityLength) + " characters");
@@ -239,14 +248,15 @@ InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
     throw messageHere("the external entity '" + name +
                       "' is refused: documents must be complete in themselves");
   }
-  if (InputSource* const local = resolver_.resolveEntity(reference->getPublicId(), systemId)) {
-    return local;
+  if (InputSource* const ours = resolver_.resolveEntity(reference->getPublicId(), systemId)) {
+    return checked(ours);
   }
   switch (placeOf(reference->getBaseURI(), systemId)) {
     case Place::network:
       refuse("the schema '" + name + "' is refused: schemas are not read over a network" +
              (resolver_.hasSchemaLocation() ? "" : ", and no schema directory has been set"));
       return emptySource();
+    case Place::directory:
     case Place::specialFile:
       refuse("the schema '" + name + "' is refused: it is no regular file");
       return emptySource();
@@ -254,7 +264,16 @@ InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
       break;
   }
   // Where the client has named the schemas of our namespaces, documents bring none of their own.
-  return resolver_.resolveNamespace(namespaceNeeded(*reference));
+  return checked(resolver_.resolveNamespace(namespaceNeeded(*reference)));
+}
+
+InputSource* CXMLParser::checked(InputSource* schema) {
+  std::unique_ptr<InputSource> owned(schema);
+  if (schema == nullptr || placeOfFile(schema->getSystemId()) != Place::directory) {
+    return owned.release();
+  }
+  refuse("the schema '" + narrow(schema->getSystemId()) + "' is refused: it is a directory");
+  return emptySource();
 }
 
 void CXMLParser::warning(const SAXParseException& /*exception*/) {}

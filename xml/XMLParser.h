@@ -26,6 +26,8 @@ class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler
   // How deep elements may nest. Models are walked recursively; this keeps every walk within the
   // smallest usual thread stack.
   static constexpr int maxDepth = 2048;
+  // How many attributes, namespace declarations included, an element may have.
+  static constexpr XMLSize_t maxAttributes = 1000;
   // How many internal entities a document may expand, and how long each may be: together they
   // bound what a small document can blow up to.
   static constexpr int maxEntityExpansions = 1000;
@@ -80,6 +82,9 @@ class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler
  private:
   template <class Source>
   void run(const Source& source);
+  // `schema`, a source of the resolver's or null, unless it is a directory, which is refused. Takes
+  // and gives ownership.
+  xercesc::InputSource* checked(xercesc::InputSource* schema);
   // Ends the parse with `message`, or keeps it for the root's sake; see parse().
   void report(const as::CASParseException& message);
   // Ends the parse with a message of this library's own, at the place reached in the document.

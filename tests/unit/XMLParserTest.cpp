@@ -263,6 +263,26 @@ TEST_F(XMLParser, RefusesElementsNestedDeeper) {
   EXPECT_EQ(message.getSystemId(), "doc");
 }
 
+TEST_F(XMLParser, NumberOfAttributesIsLimited) {
+  // Three stand in the root already.
+  const auto declarations = [](XMLSize_t count) {
+    std::string text;
+    for (XMLSize_t i = 3; i < count; i++) {
+      text += " xmlns:a" + std::to_string(i) + "='urn:" + std::to_string(i) + "'";
+    }
+    return text;
+  };
+  const as::CASParseException message =
+      failure(document("", declarations(CXMLParser::maxAttributes + 1)), &recorder_);
+  EXPECT_EQ(message.getErrorText(), "an element has more than 1000 attributes");
+  CXMLParser good;
+  const std::string text = document("", declarations(CXMLParser::maxAttributes));
+  good.setSchemaLocation((directory_.path() + "/").c_str());
+  xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(text.data()), text.size(),
+                                    u"doc");
+  EXPECT_NO_THROW(good.parse(&source));
+}
+
 TEST_F(XMLParser, DepthCountsOpenElementsOnly) {
   std::string text;
   for (int i = 0; i < 3000; i++) text += "<a><b/></a>";
@@ -330,8 +350,10 @@ TEST_F(XMLParser, WhatADtdExpandsWithoutLimitsIsRefused) {
     const char* declaration;
     const char* message;
   } rows[] = {
-      {"<!ENTITY % e 'x'>", "the parameter entity 'e' is refused"},
-      {"<!ENTITY % e SYSTEM 'x'> %e;", "the parameter entity 'e' is refused"},
+      {"<!ENTITY % e 'x'>",
+       "the parameter entity 'e' is refused: documents must be complete in themselves"},
+      {"<!ENTITY % e SYSTEM 'x'> %e;",
+       "the parameter entity 'e' is refused: documents must be complete in themselves"},
       {"<!ATTLIST r n CDATA 'x'>",
        "the attribute declarations for 'r' are refused: attributes are declared by the schema"},
       {"<!ATTLIST r n CDATA #IMPLIED>",
