@@ -1,7 +1,6 @@
 #include "Findings.h"
 
 #include <ostream>
-#include <utility>
 
 #include "Text.h"
 
@@ -13,8 +12,8 @@ std::string count(int number, const char* what) {
 
 }  // namespace
 
-Findings::Findings(std::ostream& out, std::string file)
-    : out_(out), file_(printable(std::move(file))) {}
+Findings::Findings(std::ostream& out, const std::string& file)
+    : out_(out), file_(printable(file)) {}
 
 void Findings::error(const std::string& where, const std::string& problem,
                      const std::string& advice) {

@@ -9,7 +9,7 @@
 class Findings {
  public:
   // About the document named `file`.
-  Findings(std::ostream& out, std::string file);
+  Findings(std::ostream& out, const std::string& file);
 
   // "FILE: error: WHERE: PROBLEM; ADVICE"
   void error(const std::string& where, const std::string& problem, const std::string& advice);

@@ -106,8 +106,9 @@ void prettyPrintTree(DOMNode* node, int depth) {
     DOMNode* const parent = node->getParentNode();
     const bool isText = node->getNodeType() == DOMNode::TEXT_NODE;
     if (isText || parent == nullptr) continue;
-    const bool isRoot = node == node->getOwnerDocument()->getDocumentElement();
-    if (!isRoot && needsCR(parent)) insertSpacer(parent, node, depth);
+    // Beside the root there is no place for text.
+    const bool isTopLevel = parent->getNodeType() == DOMNode::DOCUMENT_NODE;
+    if (!isTopLevel && needsCR(parent)) insertSpacer(parent, node, depth);
     if (node->hasChildNodes() && needsCR(node)) insertSpacer(node, nullptr, depth);
   }
 }
@@ -119,13 +120,26 @@ std::string serialiseNode(DOMDocument* document) {
   const std::unique_ptr<DOMDocument, Release> copy(implementation->createDocument());
   copyChildren(copy.get(), copy.get(), document, document->getDocumentElement()->getPrefix());
 
+  // The writer's own pretty-printing stays off: it would lay out anew what is laid out already.
   const std::unique_ptr<DOMLSSerializer, Release> writer(implementation->createLSSerializer());
-  writer->getDomConfig()->setParameter(XMLUni::fgDOMWRTFormatPrettyPrint, true);
   constexpr XMLSize_t initialCapacity = 1023;
   MemBufFormatTarget target(initialCapacity);
   const std::unique_ptr<DOMLSOutput, Release> output(implementation->createLSOutput());
   output->setEncoding(XMLUni::fgUTF8EncodingString);
   output->setByteStream(&target);
-  if (!writer->write(copy.get(), output.get())) throw std::runtime_error("not written");
-  return {reinterpret_cast<const char*>(target.getRawBuffer()), target.getLen()};
+  const auto write = [&](const DOMNode* node) {
+    target.reset();
+    if (!writer->write(node, output.get())) throw std::runtime_error("not written");
+    return std::string(reinterpret_cast<const char*>(target.getRawBuffer()), target.getLen());
+  };
+
+  // An empty document is written as its declaration; what follows stands on lines of its own.
+  const std::unique_ptr<DOMDocument, Release> empty(implementation->createDocument());
+  std::string text = write(empty.get());
+  if (!text.empty() && text.back() != '\n') text += '\n';
+  for (const DOMNode* node = copy->getFirstChild(); node != nullptr;
+       node = node->getNextSibling()) {
+    text += write(node) + '\n';
+  }
+  return text;
 }
