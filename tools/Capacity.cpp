@@ -1,5 +1,7 @@
 #include "Capacity.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdlib>
 
 #include "Words.h"
@@ -40,17 +42,25 @@ std::string count(int number, const char* what) {
   return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
 }
 
+// The decimal digits of the largest number of so many bits.
+int digitsOf(int bits) { return static_cast<int>(std::ceil(bits * std::log10(2.0))); }
+
+// Whether every number can be held.
+bool isUnlimited(const Capacity& capacity) {
+  return capacity.kind == Kind::decimal && capacity.digits == 0 && capacity.whole == 0 &&
+         capacity.places < 0;
+}
+
 std::string misfit(const Capacity& capacity, const Number& number) {
   if (number.floatingBytes > 0) {
-    const bool exact = capacity.kind == Kind::decimal && capacity.hasFraction;
-    if (exact) return "";
+    if (isUnlimited(capacity)) return "";
     if (capacity.kind != Kind::floating) return "holds no floating-point numbers";
     return number.floatingBytes > 4 && capacity.digits < 15 ? "is too short for a double" : "";
   }
-  const bool isInteger =
-      capacity.kind == Kind::integer || (capacity.kind == Kind::decimal && !capacity.hasFraction);
-  if (isInteger && number.fraction > 0) {
-    return "holds no decimal places, the item has " + std::to_string(number.fraction);
+  const int places = capacity.kind == Kind::integer ? 0 : capacity.places;
+  if (places >= 0 && number.fraction > places) {
+    return "holds " + (places == 0 ? "no" : std::to_string(places)) +
+           " decimal places, the item has " + std::to_string(number.fraction);
   }
   if (number.isSigned && !capacity.isSigned) return "holds no negative numbers, the item does";
   if (capacity.kind == Kind::integer && capacity.bits > 0 && number.bits > 0) {
@@ -60,7 +70,13 @@ std::string misfit(const Capacity& capacity, const Number& number) {
     return "has " + count(capacity.bits, "bit") + ", the item needs " + std::to_string(needed);
   }
   // Digits behind the last one that is kept count as zeros.
-  const int digits = number.fraction < 0 ? number.digits - number.fraction : number.digits;
+  int digits = number.fraction < 0 ? number.digits - number.fraction : number.digits;
+  if (number.bits > 0) digits = std::max(digits, digitsOf(number.bits));
+  const int whole = digits - std::max(number.fraction, 0);
+  if (capacity.whole > 0 && whole > capacity.whole) {
+    return "holds " + count(capacity.whole, "digit") + " before the decimal point, the item has " +
+           std::to_string(whole);
+  }
   if (capacity.digits == 0 || digits <= capacity.digits) return "";
   return "holds " + count(capacity.digits, "digit") + ", the item has " + std::to_string(digits);
 }
@@ -68,8 +84,12 @@ std::string misfit(const Capacity& capacity, const Number& number) {
 }  // namespace
 
 std::string misfit(const Capacity& capacity, as::IDataItem& item) {
-  if (capacity.kind == Kind::bytes) return "";
+  if (capacity.kind == Kind::bytes || capacity.kind == Kind::open) return "";
   const int type = item.getDataType();
+  if (capacity.kind == Kind::group) {
+    return type == as::IDataItem::TYPE_GROUP ? ""
+                                             : "is for groups, the item is " + dataTypeWord(type);
+  }
   if (capacity.kind == Kind::text) {
     const bool opaque = type == as::IDataItem::TYPE_POINTER || type == as::IDataItem::TYPE_OBJECT;
     return opaque ? "is text, the item is " + dataTypeWord(type) : "";
@@ -86,12 +106,10 @@ std::string misfit(const Capacity& capacity, as::IDataItem& item) {
     return misfit(capacity, number);
   }
   if (type == as::IDataItem::TYPE_POINTER || type == as::IDataItem::TYPE_INDEX) {
-    const int bits = 8 * item.getLength();
-    if (capacity.kind == Kind::decimal ||
-        (capacity.kind == Kind::integer && bits <= capacity.bits)) {
-      return "";
-    }
-    return "is too small for an item of " + count(bits, "bit");
+    Number number;
+    number.bits = 8 * item.getLength();
+    if (capacity.kind != Kind::floating && misfit(capacity, number).empty()) return "";
+    return "is too small for an item of " + count(number.bits, "bit");
   }
   return "is a number, the item is " + dataTypeWord(type);
 }
@@ -99,4 +117,30 @@ std::string misfit(const Capacity& capacity, as::IDataItem& item) {
 bool isFloating(as::IDataItem& item) {
   auto* const numeric = as::interface_cast<as::INumeric>(&item);
   return numeric != nullptr && numberIn(*numeric).floatingBytes > 0;
+}
+
+bool contains(const Capacity& larger, const Capacity& smaller) {
+  const auto isNumber = [](const Capacity& capacity) {
+    return capacity.kind == Kind::integer || capacity.kind == Kind::floating ||
+           capacity.kind == Kind::decimal;
+  };
+  if (!isNumber(larger) || !isNumber(smaller)) return larger.kind == smaller.kind;
+  if (smaller.kind == Kind::floating) {
+    return larger.kind == Kind::floating ? larger.digits >= smaller.digits : isUnlimited(larger);
+  }
+  Number number;
+  number.isSigned = smaller.isSigned;
+  if (smaller.kind == Kind::integer) {
+    number.bits = smaller.bits;
+    return misfit(larger, number).empty();
+  }
+  const int places = std::max(smaller.places, 0);
+  number.digits = smaller.digits == 0 ? smaller.whole + places : smaller.digits;
+  number.fraction = places;
+  const bool endless = smaller.digits == 0 && smaller.whole == 0;
+  if (endless && (larger.kind != Kind::decimal || larger.digits > 0 || larger.whole > 0)) {
+    return false;
+  }
+  if (smaller.places < 0 && (larger.kind != Kind::decimal || larger.places >= 0)) return false;
+  return misfit(larger, number).empty();
 }

@@ -9,7 +9,8 @@ class IDataItem;
 }
 
 struct Capacity {
-  enum class Kind { integer, floating, decimal, text, bytes };
+  // A group type is for groups only. An open type holds what its user makes of it: dates, objects.
+  enum class Kind { integer, floating, decimal, text, bytes, group, open };
 
   Kind kind;
   // Of numbers: all numbers of this many decimal digits can be held; 0 for any number of digits.
@@ -17,13 +18,18 @@ struct Capacity {
   // Of integers: the size in bits, the sign's included; 0 for any size.
   int bits = 0;
   bool isSigned = true;
-  // Of decimals: whether there may be digits behind the decimal point.
-  bool hasFraction = true;
+  // Of decimals: the most digits behind the decimal point, -1 for any number of them.
+  int places = -1;
+  // Of decimals: the most digits in front of the decimal point, 0 for any number of them.
+  int whole = 0;
 };
 
 // Why `item` cannot be held without loss, to follow the type's name ("holds 4 digits, the item has
 // 9"); empty when it can, and when the dictionary tells too little to say.
 std::string misfit(const Capacity& capacity, as::IDataItem& item);
+
+// Whether a type of capacity `larger` holds all that one of capacity `smaller` can hold.
+bool contains(const Capacity& larger, const Capacity& smaller);
 
 // Whether `item` is a floating-point number.
 bool isFloating(as::IDataItem& item);

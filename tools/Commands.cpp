@@ -1,19 +1,29 @@
 #include "Commands.h"
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
+#include <stdexcept>
+#include <utility>
 
+#include "Conversion.h"
 #include "DictionaryJson.h"
 #include "DictionaryPrinter.h"
 #include "DocumentReader.h"
+#include "FileReplacement.h"
 #include "Findings.h"
+#include "Flavour.h"
+#include "ItemIndex.h"
 #include "Lint.h"
 #include "Messages.h"
 #include "SchemaDirectory.h"
 #include "ServiceJson.h"
+#include "ServiceMaker.h"
 #include "ServicePrinter.h"
 #include "Text.h"
 #include "as/CASException.h"
+#include "as/CAgentServicesFactory.h"
+#include "as/IEntryPoint.h"
 #include "as/IProgram.h"
 #include "as/IService.h"
 
@@ -86,7 +96,99 @@ std::unique_ptr<as::IService> withProgram(const DocumentReader& reader, as::ISer
   }
 }
 
+// Throws Refusal for a name that is no entry point's.
+void checkEntryPoints(as::IProgram& program, const std::string& dictionary,
+                      const std::vector<std::string>& names) {
+  std::vector<std::string> known;
+  forEachMember<as::IEntryPoint>(program.getEntryPoints(), [&](as::IEntryPoint& entryPoint) {
+    known.push_back(entryPoint.getName());
+  });
+  for (const std::string& name : names) {
+    if (std::find(known.begin(), known.end(), name) != known.end()) continue;
+    std::string hint = known.empty() ? "the program has none" : "the program has";
+    for (const std::string& other : known) hint += (other == known.front() ? " " : ", ") + other;
+    throw Refusal{dictionary, 0, 0, "there is no entry point '" + name + "'", hint};
+  }
+}
+
+void makeNew(const DocumentReader& reader, const std::string& dictionary, const std::string& file,
+             const NewOptions& options) {
+  const Flavour& flavour = *findFlavour(options.flavour);
+  std::unique_ptr<as::IProgram> program = reader.readDictionary(dictionary);
+  checkEntryPoints(*program, dictionary, options.entryPoints);
+  const std::string name = options.name.empty() ? program->getName() : options.name;
+  const std::unique_ptr<as::IService> service = flavour.newService(std::move(program));
+  service->setName(name.c_str());
+  service->setDDFilename(nameSeenFrom(file, dictionary).c_str());
+  Findings notes(std::cout, file);
+  const ServiceSize size = fillService(*service, flavour, options.entryPoints, notes);
+  if (size.operations == 0) {
+    notes.note("service", "the program has no entry points: there are no operations");
+  }
+  replaceFile(file, as::CAgentServicesFactory::SerializeToString(service.get()));
+  std::cout << printable(file) << ": " << flavour.name() << " service, operations "
+            << size.operations << ", mapped items " << size.mappings << "\n";
+}
+
+void convert(const DocumentReader& reader, const std::string& file, const std::string& output,
+             const Flavour& flavour) {
+  std::unique_ptr<as::IService> service = reader.readService(file);
+  const Flavour& old = flavourOf(*service);
+  Findings notes(std::cout, output);
+  const std::string named = service->getDDFilename();
+  const std::string dictionary = named.empty() ? "" : besideFile(file, named);
+  std::unique_ptr<as::IProgram> program;
+  std::optional<ItemIndex> items;
+  try {
+    if (!named.empty()) program = reader.readDictionary(dictionary);
+    if (program) items.emplace(*program);
+  } catch (const Refusal& refusal) {
+    notes.note("service", "the dictionary cannot be used, data types go by their names alone: " +
+                              asText(refusal));
+  }
+  if (program) service->setDDFilename(nameSeenFrom(output, dictionary).c_str());
+  const std::string text =
+      convertDocument(as::CAgentServicesFactory::SerializeToString(service.get()), old, flavour,
+                      items ? &*items : nullptr, notes);
+  service = reader.readServiceText(text, file);
+  forEachMember<as::IOperation>(service->getOperations(), [&](as::IOperation& operation) {
+    flavour.complete(*service, operation);
+  });
+  replaceFile(output, as::CAgentServicesFactory::SerializeToString(service.get()));
+  std::cout << printable(output) << ": " << old.name() << " service made a " << flavour.name()
+            << " service\n";
+}
+
+// Runs `command`, which writes a file, and tells why it could not.
+template <class Command>
+int withOutput(const Command& command) {
+  try {
+    command();
+  } catch (const Refusal& refusal) {
+    printRefusal(refusal);
+    return exitRefused;
+  } catch (const std::runtime_error& failure) {
+    printError(failure.what());
+    return exitRefused;
+  }
+  return exitFine;
+}
+
 }  // namespace
+
+int runNew(const std::string& dictionary, const std::string& service, const NewOptions& options,
+           const std::optional<std::string>& schemas) {
+  return withReader(schemas, [&](const DocumentReader& reader) {
+    return withOutput([&] { makeNew(reader, dictionary, service, options); });
+  });
+}
+
+int runConvert(const std::string& file, const std::string& output, const std::string& flavour,
+               const std::optional<std::string>& schemas) {
+  return withReader(schemas, [&](const DocumentReader& reader) {
+    return withOutput([&] { convert(reader, file, output, *findFlavour(flavour)); });
+  });
+}
 
 int runShow(const std::string& file, const ShowOptions& options,
             const std::optional<std::string>& schemas) {

@@ -34,4 +34,18 @@ int runValidate(const std::vector<std::string>& files, const std::optional<std::
 int runLint(const std::string& file, const std::optional<std::string>& dictionary,
             const std::optional<std::string>& schemas);
 
+struct NewOptions {
+  std::string flavour;                   // One of flavourWords().
+  std::string name;                      // Of the service; empty for that of the program.
+  std::vector<std::string> entryPoints;  // Empty for all.
+};
+
+// Makes a first service for the program of the data dictionary in `dictionary`.
+int runNew(const std::string& dictionary, const std::string& service, const NewOptions& options,
+           const std::optional<std::string>& schemas);
+
+// Carries the service in `file` over to another flavour, one of flavourWords(), into `output`.
+int runConvert(const std::string& file, const std::string& output, const std::string& flavour,
+               const std::optional<std::string>& schemas);
+
 #endif  // TOOLS_COMMANDS_H_

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "ItemWalk.h"
+#include "JsonParts.h"
 #include "JsonWriter.h"
 #include "Words.h"
 #include "as/IAlphanumeric.h"
@@ -19,7 +20,6 @@
 #include "as/INumeric.h"
 #include "as/INumericEdited.h"
 #include "as/IProgram.h"
-#include "as/IProperty.h"
 
 namespace {
 
@@ -36,7 +36,7 @@ class DictionaryJson {
   void write(as::IProgram& program) {
     writer_.beginObject();
     writer_.member("name", program.getName());
-    writeArray<as::IProperty>("properties", program.getProperties());
+    writeProperties(writer_, program.getProperties());
     writeArray<as::IFD>("fileSection", program.getFileSection());
     writeItems("dataItems", program.getDataItems());
     writeArray<as::IEntryPoint>("entryPoints", program.getEntryPoints());
@@ -44,17 +44,9 @@ class DictionaryJson {
   }
 
  private:
-  // An array of objects, one for each T in `list`.
   template <class T>
   void writeArray(const char* key, as::IList* list) {
-    writer_.key(key);
-    writer_.beginArray();
-    forEachMember<T>(list, [this](T& member) {
-      writer_.beginObject();
-      writeMembers(member);
-      writer_.end();
-    });
-    writer_.end();
+    writeObjects<T>(writer_, key, list, [this](T& member) { writeMembers(member); });
   }
 
   // A whole forest of data items; null for a null list.
@@ -79,11 +71,6 @@ class DictionaryJson {
           writer_.end();
         });
     writer_.end();
-  }
-
-  void writeMembers(as::IProperty& property) {
-    writer_.member("name", property.getName());
-    writer_.member("value", property.getValue());
   }
 
   void writeMembers(as::IFD& file) {

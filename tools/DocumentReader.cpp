@@ -104,6 +104,12 @@ auto rootFrom(const std::string& file, const Request& request) {
   return root;
 }
 
+as::IService* parseText(as::IAgentServices& services, const std::string& text,
+                        const std::string& file, bool loadProgram) {
+  return services.parseService(file.c_str(), reinterpret_cast<const unsigned char*>(text.data()),
+                               static_cast<unsigned int>(text.size()), loadProgram);
+}
+
 }  // namespace
 
 DocumentReader::DocumentReader(const std::string& schemaDirectory)
@@ -131,6 +137,22 @@ std::unique_ptr<as::IService> DocumentReader::readService(const std::string& fil
   return service;
 }
 
+std::unique_ptr<as::IProgram> DocumentReader::readDictionary(const std::string& file) const {
+  checkReadable(file);
+  std::unique_ptr<as::IProgram> dictionary =
+      rootFrom(file, [&] { return services_->parseCobolDD(file.c_str()); });
+  if (!dictionary) throw refusal(file, noDictionary);
+  return dictionary;
+}
+
+std::unique_ptr<as::IService> DocumentReader::readServiceText(const std::string& text,
+                                                              const std::string& file) const {
+  std::unique_ptr<as::IService> service =
+      rootFrom(file, [&] { return parseText(*services_, text, file, false); });
+  if (!service) throw refusal(file, noService());
+  return service;
+}
+
 std::unique_ptr<as::IService> DocumentReader::withProgram(as::IService& service,
                                                           const std::string& file,
                                                           const std::string& dictionary) const {
@@ -139,11 +161,8 @@ std::unique_ptr<as::IService> DocumentReader::withProgram(as::IService& service,
   // name the right one in the document.
   service.setDDFilename(dictionary.c_str());
   const std::string text = as::CAgentServicesFactory::SerializeToString(&service);
-  std::unique_ptr<as::IService> result = rootFrom(dictionary, [&] {
-    return services_->parseService(file.c_str(),
-                                   reinterpret_cast<const unsigned char*>(text.data()),
-                                   static_cast<unsigned int>(text.size()), true);
-  });
+  std::unique_ptr<as::IService> result =
+      rootFrom(dictionary, [&] { return parseText(*services_, text, file, true); });
   if (!result) throw refusal(dictionary, noDictionary);
   return result;
 }

@@ -40,6 +40,14 @@ class DocumentReader {
   // The service in `file`, never null, without its program. Throws Refusal.
   std::unique_ptr<as::IService> readService(const std::string& file) const;
 
+  // The data dictionary in `file`, never null. Throws Refusal.
+  std::unique_ptr<as::IProgram> readDictionary(const std::string& file) const;
+
+  // The service in `text`, which is told of as `file`; never null, without its program. Throws
+  // Refusal.
+  std::unique_ptr<as::IService> readServiceText(const std::string& text,
+                                                const std::string& file) const;
+
   // `service`, read from `file`, once more and with the program in the file `dictionary`, which
   // need not be the one that it names. Attributes "programName" and "dataDictFilename" of the
   // result tell that program. Throws Refusal, which is about the dictionary.

@@ -18,19 +18,21 @@ Findings::Findings(std::ostream& out, const std::string& file)
 void Findings::error(const std::string& where, const std::string& problem,
                      const std::string& advice) {
   ++errors_;
-  print("error", where, problem, advice);
+  print("error", where, problem + "; " + advice);
 }
 
 void Findings::warning(const std::string& where, const std::string& problem,
                        const std::string& advice) {
   ++warnings_;
-  print("warning", where, problem, advice);
+  print("warning", where, problem + "; " + advice);
 }
 
-void Findings::print(const char* severity, const std::string& where, const std::string& problem,
-                     const std::string& advice) {
-  out_ << file_ << ": " << severity << ": " << printable(where + ": " + problem + "; " + advice)
-       << "\n";
+void Findings::note(const std::string& where, const std::string& text) {
+  print("note", where, text);
+}
+
+void Findings::print(const char* severity, const std::string& where, const std::string& text) {
+  out_ << file_ << ": " << severity << ": " << printable(where + ": " + text) << "\n";
 }
 
 void Findings::printSummary() {

@@ -14,6 +14,8 @@ class Findings {
   // "FILE: error: WHERE: PROBLEM; ADVICE"
   void error(const std::string& where, const std::string& problem, const std::string& advice);
   void warning(const std::string& where, const std::string& problem, const std::string& advice);
+  // "FILE: note: WHERE: TEXT": nothing is wrong, but the user should know.
+  void note(const std::string& where, const std::string& text);
 
   // "FILE: N errors, M warnings" or "FILE: clean"
   void printSummary();
@@ -21,8 +23,7 @@ class Findings {
   int errors() const { return errors_; }
 
  private:
-  void print(const char* severity, const std::string& where, const std::string& problem,
-             const std::string& advice);
+  void print(const char* severity, const std::string& where, const std::string& text);
 
   std::ostream& out_;
   std::string file_;

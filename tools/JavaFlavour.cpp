@@ -1,5 +1,8 @@
 // Java services: the transaction types of operations and the data types of parameters and fields.
+#include <utility>
+
 #include "Flavour.h"
+#include "as/CAgentServicesFactory.h"
 #include "as/IJavaOperation.h"
 #include "as/IJavaParameter.h"
 
@@ -29,23 +32,53 @@ class JavaFlavour : public Flavour {
  public:
   std::string name() const override { return "Java"; }
   int implementation() const override { return as::IService::TYPE_JAVA; }
-
-  bool owns(as::IService& service) const override {
-    return hasMembersOf<as::IJavaOperation, as::IJavaParameter>(service, implementation());
+  const char* word() const override { return "java"; }
+  const char* namespaceURI() const override {
+    return "http://agentservices.example/schema/java/v2.0/vorjava.xsd";
+  }
+  const Additions& additions() const override {
+    static const Additions additions = {{"transactionType"}, {}, {}};
+    return additions;
   }
 
-  std::vector<FlavourCode> operationCodes(as::IOperation& operation) const override {
+  bool owns(as::IService& service) const override {
+    if (service.getAttributeValue("xmlns") == namespaceURI()) return true;
+    as::IElement* const operation = service.getOperations()->getItem(0);
+    return as::interface_cast<as::IJavaOperation>(operation) != nullptr ||
+           as::interface_cast<as::IJavaField>(firstParameterOf(service)) != nullptr;
+  }
+
+  std::vector<Trait> traitsOf(as::IOperation& operation) const override {
     auto* const java = as::interface_cast<as::IJavaOperation>(&operation);
     if (java == nullptr) return {};
     const int type = java->getTransactionType();
     return {{"transactionType", "transactionType", type, transactionWord(type)}};
   }
+  using Flavour::traitsOf;
 
   const std::vector<DataType>& dataTypes() const override { return types_; }
 
   std::optional<int> dataTypeOf(as::IField& field) const override {
     auto* const java = as::interface_cast<as::IJavaField>(&field);
     return java == nullptr ? std::nullopt : std::optional<int>(java->getType());
+  }
+
+  const DataType* defaultType() const override { return findDataType(Java::JAVA_SHORT); }
+
+  std::unique_ptr<as::IService> newService(std::unique_ptr<as::IProgram> program) const override {
+    return makeService(as::CAgentServicesFactory::NewJavaService, std::move(program));
+  }
+
+  void complete(as::IService& /*service*/, as::IOperation& operation) const override {
+    auto* const java = as::interface_cast<as::IJavaOperation>(&operation);
+    if (java == nullptr || !operation.getAttributeValue("transactionType").empty()) return;
+    java->setTransactionType(as::IJavaOperation::TRANS_REQUIRES);
+  }
+
+  void setDataType(as::IField& field, const DataType& type) const override {
+    if (auto* const java = as::interface_cast<as::IJavaField>(&field)) {
+      java->setType(static_cast<Java::TYPE>(type.code));
+    }
   }
 
  private:
@@ -55,7 +88,7 @@ class JavaFlavour : public Flavour {
       {Java::JAVA_SHORT, "short", {Kind::integer, 4, 16}},
       {Java::JAVA_INT, "int", {Kind::integer, 9, 32}},
       {Java::JAVA_LONG, "long", {Kind::integer, 18, 64}},
-      {Java::JAVA_BIG_INTEGER, "BigInteger", {Kind::decimal, 0, 0, true, false}},
+      {Java::JAVA_BIG_INTEGER, "BigInteger", {Kind::decimal, 0, 0, true, 0}},
       {Java::JAVA_BIG_DECIMAL, "BigDecimal", {Kind::decimal}},
       {Java::JAVA_FLOAT, "float", {Kind::floating, 6}},
       {Java::JAVA_DOUBLE, "double", {Kind::floating, 15}},

@@ -188,18 +188,29 @@ class MemberLint {
     const std::string name = nameOr(operation.getName(), "(unnamed)");
     interface_ = nullptr;
     checkEntryPoint(operation, name);
-    for (const FlavourCode& code : flavour_.operationCodes(operation)) {
-      checkWord(name, code.attribute, operation.getAttributeValue(code.attribute.c_str()),
-                code.word);
+    for (const Trait& trait : flavour_.traitsOf(operation)) {
+      if (!trait.code || trait.text.empty()) continue;
+      checkWord(name, trait.attribute, operation.getAttributeValue(trait.attribute.c_str()),
+                trait.text);
     }
+    flavour_.lint(operation, name, findings_);
     int number = 0;
     forEachMember<as::IHiddenParameter>(
         operation.getHiddenParameters(), [&](as::IHiddenParameter& hidden) {
           checkHidden(hidden, name + ", hidden parameter " + std::to_string(++number));
         });
-    checkNames<as::IField>(operation.getParameters(), "parameter", name + ".");
-    forEachMember<as::IField>(operation.getParameters(), [&](as::IField& parameter) {
-      base_ = name + ".";
+    checkParameters(operation.getParameters(), name + ".");
+    std::map<std::string, int> numbers;
+    for (const Message& message : flavour_.messagesOf(operation)) {
+      const std::string nth = std::to_string(++numbers[message.kind]);
+      checkParameters(message.parameters, name + ", " + message.kind + " " + nth + ".");
+    }
+  }
+
+  void checkParameters(as::IList* parameters, const std::string& place) {
+    checkNames<as::IField>(parameters, "parameter", place);
+    forEachMember<as::IField>(parameters, [&](as::IField& parameter) {
+      base_ = place;
       checkTree(parameter);
     });
   }
@@ -231,6 +242,11 @@ class MemberLint {
   void checkWord(const std::string& where, const std::string& attribute, const std::string& written,
                  const std::string& word) {
     if (written.empty() || written == word) return;
+    if (flavour_.findDataType(written) != nullptr) {
+      findings_.warning(where, attribute + " " + quote(written) + " reads as " + quote(word),
+                        "leave it out or use another word");
+      return;
+    }
     findings_.error(where,
                     attribute + " " + quote(written) + " is unknown and reads as " + quote(word),
                     "use a word of " + flavour_.name() + " services");
@@ -289,8 +305,10 @@ class MemberLint {
     }
     const bool isLeaf = !field.hasChildren();
     if (!isLeaf) checkNames<as::IField>(field.getChildren(), "field", where() + ".");
-    if (isLeaf) checkTypeWord(field);
-    if (isLeaf && field.getMappings()->getLength() == 0) {
+    if (isLeaf || !field.getAttributeValue("dataType").empty()) checkTypeWord(field);
+    as::IList* const attributes = flavour_.attributesOf(field);
+    const bool hasAttributes = attributes != nullptr && attributes->getLength() > 0;
+    if (isLeaf && !hasAttributes && field.getMappings()->getLength() == 0) {
       findings_.warning(where(), "it is mapped to no data item", "add a mapping or remove it");
     }
     forEachMember<as::IMapping>(field.getMappings(), [&](as::IMapping& mapping) {
@@ -304,6 +322,13 @@ class MemberLint {
       } else {
         checkStorage(*storage, where(), direction_);
       }
+    });
+    if (!hasAttributes) return;
+    checkNames<as::IField>(attributes, "field attribute", where() + ".");
+    forEachMember<as::IField>(attributes, [this](as::IField& attribute) {
+      way_.push_back(&attribute);
+      check(attribute);
+      way_.pop_back();
     });
   }
 
@@ -520,7 +545,9 @@ class MemberLint {
     if (!type) return;
     const DataType* const known = flavour_.findDataType(*type);
     const std::string written = field.getAttributeValue("dataType");
-    if (known == nullptr) {
+    if (known == nullptr && written.empty()) {
+      findings_.error(where(), "it has no data type", "write \"dataType\"");
+    } else if (known == nullptr) {
       findings_.error(where(), "data type " + quote(written) + " is unknown",
                       "use a word of " + flavour_.name() + " services");
     } else if (written.empty()) {

@@ -6,6 +6,7 @@
 
 #include "FieldWalk.h"
 #include "Flavour.h"
+#include "JsonParts.h"
 #include "JsonWriter.h"
 #include "Subscripts.h"
 #include "Words.h"
@@ -17,7 +18,6 @@
 #include "as/IOperation.h"
 #include "as/IParameter.h"
 #include "as/IProgram.h"
-#include "as/IProperty.h"
 #include "as/IService.h"
 
 namespace {
@@ -44,24 +44,16 @@ class ServiceJson {
     writer_.member("ddFilename", service.getDDFilename());
     writer_.member("exitProgramName", service.getExitProgramName());
     writer_.member("program", nameOrNull(service.getProgram()));
-    writeArray<as::IProperty>("properties", service.getProperties());
+    writeProperties(writer_, service.getProperties());
     writeFields("parameterTypeDefs", service.getParameterTypeDefs());
     writeArray<as::IOperation>("operations", service.getOperations());
     writer_.end();
   }
 
  private:
-  // An array of objects, one for each T in `list`.
   template <class T>
   void writeArray(const char* key, as::IList* list) {
-    writer_.key(key);
-    writer_.beginArray();
-    forEachMember<T>(list, [this](T& member) {
-      writer_.beginObject();
-      writeMembers(member);
-      writer_.end();
-    });
-    writer_.end();
+    writeObjects<T>(writer_, key, list, [this](T& member) { writeMembers(member); });
   }
 
   // A whole forest of parameters or fields.
@@ -84,21 +76,37 @@ class ServiceJson {
     writer_.end();
   }
 
-  void writeMembers(as::IProperty& property) {
-    writer_.member("name", property.getName());
-    writer_.member("value", property.getValue());
-  }
-
   void writeMembers(as::IOperation& operation) {
     writer_.member("name", operation.getName());
     writer_.member("entryPoint", nameOrNull(operation.getEntryPoint()));
     writer_.member("entryPointText", operation.getAttributeValue("entryPoint"));
     writer_.member("exitPoints", operation.getExitPoints());
-    for (const FlavourCode& code : flavour_.operationCodes(operation)) {
-      writeCode(code.key, code.code, code.word);
-    }
+    writeTraits(flavour_.traitsOf(operation));
     writeArray<as::IHiddenParameter>("hiddenParameters", operation.getHiddenParameters());
     writeFields("parameters", operation.getParameters());
+    const std::vector<Message> messages = flavour_.messagesOf(operation);
+    for (const std::string& kind : flavour_.additions().operationElements) {
+      writer_.key(kind + "s");
+      writer_.beginArray();
+      for (const Message& message : messages) {
+        if (message.kind != kind) continue;
+        writer_.beginObject();
+        writeTraits(message.traits);
+        writeFields("parameters", message.parameters);
+        writer_.end();
+      }
+      writer_.end();
+    }
+  }
+
+  void writeTraits(const std::vector<Trait>& traits) {
+    for (const Trait& trait : traits) {
+      if (trait.code) {
+        writeCode(trait.key, *trait.code, trait.text.empty() ? "unknown" : trait.text);
+      } else {
+        writer_.member(trait.key, trait.text);
+      }
+    }
   }
 
   // Everything but the children.
@@ -118,8 +126,13 @@ class ServiceJson {
       const DataType* const known = flavour_.findDataType(*type);
       writeCode("type", *type, known == nullptr ? "unknown" : known->word);
     }
+    writeTraits(flavour_.traitsOf(field));
     writer_.member("hasChildren", field.hasChildren());
-    if (referenceOf(field).empty()) writeArray<as::IMapping>("mappings", field.getMappings());
+    if (!referenceOf(field).empty()) return;
+    writeArray<as::IMapping>("mappings", field.getMappings());
+    if (as::IList* const attributes = flavour_.attributesOf(field)) {
+      writeFields("fieldAttributes", attributes);
+    }
   }
 
   void writeMembers(as::IHiddenParameter& hidden) {

@@ -62,7 +62,8 @@ class ServicePrinter {
     forEachMember<as::IOperation>(service_.getOperations(), [&](as::IOperation& operation) {
       printHeader(operation);
       const bool isEmpty = operation.getParameters()->getLength() == 0 &&
-                           operation.getHiddenParameters()->getLength() == 0;
+                           operation.getHiddenParameters()->getLength() == 0 &&
+                           flavour_.messagesOf(operation).empty();
       if (isEmpty) return;
       out_ << "\n";
       table_.printHeader(out_);
@@ -96,13 +97,18 @@ class ServicePrinter {
     if (!operation.getAttributeValue("exitPoints").empty()) {
       clauses.add("exit points " + std::to_string(operation.getExitPoints()));
     }
-    for (const FlavourCode& code : flavour_.operationCodes(operation)) {
-      if (operation.getAttributeValue(code.attribute.c_str()).empty()) continue;
-      clauses.add(code.attribute + " " + code.word);
-    }
+    addTraits(clauses, operation, flavour_.traitsOf(operation));
     out_ << "\n  " << printable(operation.getName());
     if (!clauses.text().empty()) out_ << "  " << clauses.text();
     out_ << "\n";
+  }
+
+  // Those that the document tells.
+  static void addTraits(Clauses& clauses, as::IElement& element, const std::vector<Trait>& traits) {
+    for (const Trait& trait : traits) {
+      if (element.getAttributeValue(trait.attribute.c_str()).empty()) continue;
+      clauses.add(trait.attribute + " " + (trait.text.empty() ? "unknown" : printable(trait.text)));
+    }
   }
 
   bool hasProgram() { return service_.getProgram() != nullptr; }
@@ -121,37 +127,58 @@ class ServicePrinter {
                                           take(row);
                                         });
     forEachFieldRow(operation.getParameters(), take);
+    for (const Message& message : flavour_.messagesOf(operation)) {
+      Row row;
+      row.cells = {std::string("(") + message.kind + ")", "", "", "", "", "", ""};
+      Clauses clauses;
+      addTraits(clauses, *message.element, message.traits);
+      row.rest = clauses.text();
+      take(row);
+      forEachFieldRow(message.parameters, take, 1);
+    }
   }
 
+  // The fields of a message stand `inset` deeper than the message.
   template <class Take>
-  void forEachFieldRow(as::IList* fields, const Take& take) {
+  void forEachFieldRow(as::IList* fields, const Take& take, std::size_t inset = 0) {
     walkFields(
         fields,
         [&](as::IField& field, std::size_t depth) {
-          Row row = fieldRow(field, depth);
-          if (!referenceOf(field).empty()) {
-            row.cells.resize(7);
-            take(row);
-            return;
-          }
-          bool isFirst = true;
-          forEachMember<as::IMapping>(field.getMappings(), [&](as::IMapping& mapping) {
-            if (!isFirst) row.cells = {"", "", "", ""};
-            isFirst = false;
-            addMapping(row, mapping);
-            take(row);
+          takeRows(field, indented(depth + inset, printable(field.getName())), take);
+          if (!referenceOf(field).empty()) return;
+          forEachMember<as::IField>(flavour_.attributesOf(field), [&](as::IField& attribute) {
+            takeRows(attribute, indented(depth + inset + 1, "@" + printable(attribute.getName())),
+                     take);
           });
-          if (!isFirst) return;
-          row.cells.resize(7);
-          take(row);
         },
         [](as::IField&) {});
   }
 
+  // The rows of one field, which is called `name`.
+  template <class Take>
+  void takeRows(as::IField& field, const std::string& name, const Take& take) {
+    Row row = fieldRow(field, name);
+    bool isFirst = true;
+    if (referenceOf(field).empty()) {
+      forEachMember<as::IMapping>(field.getMappings(), [&](as::IMapping& mapping) {
+        if (!isFirst) {
+          row.cells = {"", "", "", ""};
+          row.rest.clear();
+        }
+        isFirst = false;
+        addMapping(row, mapping);
+        take(row);
+      });
+    }
+    if (!isFirst) return;
+    row.cells.resize(7);
+    take(row);
+  }
+
   // Without its mappings.
-  Row fieldRow(as::IField& field, std::size_t depth) {
+  Row fieldRow(as::IField& field, const std::string& name) {
     Row row;
-    row.cells = {indented(depth, printable(field.getName())), "", "", ""};
+    row.cells = {name, "", "", ""};
     auto* const parameter = as::interface_cast<as::IParameter>(&field);
     if (parameter != nullptr && !field.getAttributeValue("byType").empty()) {
       row.cells[1] = directionWord(parameter->getByType());
@@ -168,6 +195,9 @@ class ServicePrinter {
       const DataType* const known = flavour_.findDataType(*type);
       row.cells[3] = known == nullptr ? "unknown" : known->word;
     }
+    Clauses clauses;
+    addTraits(clauses, field, flavour_.traitsOf(field));
+    row.rest = clauses.text();
     return row;
   }
 

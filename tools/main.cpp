@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Commands.h"
+#include "Flavour.h"
 #include "Messages.h"
 
 namespace {
@@ -18,9 +19,23 @@ void addSchemasOption(CLI::App& app, std::optional<std::string>& schemas) {
       ->type_name("DIR");
 }
 
+void addFlavourOption(CLI::App& app, std::string& flavour) {
+  app.add_option("--flavour", flavour, "The service's flavour")
+      ->required()
+      ->check(CLI::IsMember(flavourWords()));
+}
+
+void addOutputOption(CLI::App& app, std::string& file) {
+  app.add_option("-o,--output", file,
+                 "The file to write; one that is there is replaced when the new one is complete")
+      ->required();
+}
+
 int run(int argc, char** argv) {
-  CLI::App app("Shows and checks XML data dictionaries of COBOL programs and service definitions.",
-               "agentservices");
+  CLI::App app(
+      "Shows and checks XML data dictionaries of COBOL programs, and shows, checks and makes "
+      "service definitions.",
+      "agentservices");
   app.set_version_flag("--version", "agentservices " AS_TOOL_VERSION);
   app.require_subcommand(1);
   app.footer(
@@ -55,6 +70,31 @@ int run(int argc, char** argv) {
       ->type_name("FILE");
   addSchemasOption(*lint, schemas);
 
+  CLI::App* const create =
+      app.add_subcommand("new", "Make a first service for the program of a data dictionary");
+  std::string sourceDictionary;
+  std::string output;
+  NewOptions created;
+  create->add_option("DICTIONARY", sourceDictionary, "The data dictionary")->required();
+  addFlavourOption(*create, created.flavour);
+  addOutputOption(*create, output);
+  create->add_option("--name", created.name, "The service's name, in place of the program's");
+  create
+      ->add_option("--operations", created.entryPoints,
+                   "The entry points to make operations of, with commas between; all unless told")
+      ->delimiter(',')
+      ->type_name("ENTRY,...");
+  addSchemasOption(*create, schemas);
+
+  CLI::App* const convert =
+      app.add_subcommand("convert", "Carry a service over to another flavour");
+  std::string convertedFile;
+  std::string convertedFlavour;
+  convert->add_option("SERVICE", convertedFile, "The service")->required();
+  addFlavourOption(*convert, convertedFlavour);
+  addOutputOption(*convert, output);
+  addSchemasOption(*convert, schemas);
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& failure) {
@@ -65,6 +105,8 @@ int run(int argc, char** argv) {
     return runShow(shownFile, shownAs, schemas);
   }
   if (lint->parsed()) return runLint(lintedFile, dictionary, schemas);
+  if (create->parsed()) return runNew(sourceDictionary, output, created, schemas);
+  if (convert->parsed()) return runConvert(convertedFile, output, convertedFlavour, schemas);
   return runValidate(validatedFiles, schemas);
 }
 
@@ -73,6 +115,8 @@ int run(int argc, char** argv) {
 int main(int argc, char** argv) {
   // A reader that goes away is an error of writing like any other, and told.
   static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+  // So is a file that grows beyond what the user may write.
+  static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
   int exitCode = exitFine;
   try {
     exitCode = run(argc, argv);
