@@ -174,6 +174,56 @@
                10  WK-DAY-NAME         PIC X(02).
                10  WK-DAY-PICKS        PIC 9(05) OCCURS 24 TIMES.
 
+      * What callers of the entry points below hand over.
+       LINKAGE SECTION.
+       01  LK-HOUSE                    PIC X(04).
+           88  LK-HOUSE-KNOWN          VALUE "W001"
+                                             "X000" THRU "X999".
+       01  LK-MAP.
+           05  LM-AS-OF                PIC 9(08).
+           05  LM-ZONE                 OCCURS 6 TIMES.
+               10  LM-ZONE-CODE        PIC X(02).
+                   88  LM-ZONE-COLD    VALUE "C1" "C2".
+               10  LM-ZONE-TEMP        PIC S9(02)V9
+                                       SIGN LEADING SEPARATE.
+               10  LM-AISLE            OCCURS 8 TIMES.
+                   15  LM-AISLE-NO     PIC 9(02).
+                   15  LM-BAY          OCCURS 20 TIMES.
+                       20  LM-BAY-NO   PIC 9(03).
+                       20  LM-STATE    PIC X(01).
+                           88  LM-FREE     VALUE SPACE.
+                           88  LM-TAKEN    VALUE "T".
+                       20  LM-ARTICLE  PIC X(13).
+                       20  LM-ON-HAND  PIC S9(07) COMP-3.
+                       20  LM-LEVEL    PIC 9(02) COMP-X
+                                       OCCURS 4 TIMES.
+       01  LK-TASK.
+           05  LT-KIND                 PIC X(02).
+               88  LT-RECEIPT          VALUE "RC".
+               88  LT-PICK             VALUE "PK".
+           05  LT-STAMP                PIC 9(14).
+           05  LT-BODY                 PIC X(40).
+           05  LT-RECEIPT-BODY REDEFINES LT-BODY.
+               10  LT-RC-ORDER-NO      PIC 9(10).
+               10  LT-RC-ARTICLE       PIC X(13).
+               10  LT-RC-QTY           PIC 9(07).
+               10  FILLER              PIC X(10).
+           05  LT-PICK-BODY REDEFINES LT-BODY.
+               10  LT-PK-WAVE          PIC 9(06).
+               10  LT-PK-ARTICLE       PIC X(13).
+               10  LT-PK-QTY-ASKED     PIC 9(07).
+               10  LT-PK-QTY-TAKEN     PIC 9(07).
+               10  FILLER              PIC X(07).
+       01  LK-ANSWER.
+           05  LA-CODE                 PIC 9(02).
+               88  LA-DONE             VALUE 0.
+               88  LA-REFUSED          VALUE 10 THRU 49 90 THRU 99.
+           05  LA-LINE-COUNT           PIC 9(03).
+           05  LA-LINE                 OCCURS 0 TO 200 TIMES
+               DEPENDING ON LA-LINE-COUNT.
+               10  LA-BAY              PIC 9(03).
+               10  LA-QTY              PIC 9(05).
+
        PROCEDURE DIVISION.
        MAIN-LINE.
            MOVE "W001" TO SM-HOUSE
@@ -284,3 +334,55 @@
            ADD MV-CN-QTY (1)
                TO SM-ON-HAND (ZONE-IX AISLE-IX BAY-IX)
            MOVE 0 TO MV-RESULT.
+
+      * The map of the house, for screens in the office.
+       GIVE-MAP.
+           ENTRY "WHSMAP" USING LK-HOUSE LK-MAP
+           IF NOT LK-HOUSE-KNOWN
+               GOBACK
+           END-IF
+           MOVE SM-AS-OF TO LM-AS-OF
+           PERFORM VARYING ZONE-IX FROM 1 BY 1
+                   UNTIL ZONE-IX > WS-ZONE-MAX
+               MOVE SM-ZONE-CODE (ZONE-IX) TO LM-ZONE-CODE (ZONE-IX)
+               MOVE SM-ZONE-TEMP (ZONE-IX) TO LM-ZONE-TEMP (ZONE-IX)
+               PERFORM VARYING AISLE-IX FROM 1 BY 1
+                       UNTIL AISLE-IX > 8
+                   PERFORM VARYING BAY-IX FROM 1 BY 1
+                           UNTIL BAY-IX > 20
+                       MOVE SM-STATE (ZONE-IX AISLE-IX BAY-IX)
+                           TO LM-STATE (ZONE-IX AISLE-IX BAY-IX)
+                       MOVE SM-ARTICLE (ZONE-IX AISLE-IX BAY-IX)
+                           TO LM-ARTICLE (ZONE-IX AISLE-IX BAY-IX)
+                       MOVE SM-ON-HAND (ZONE-IX AISLE-IX BAY-IX)
+                           TO LM-ON-HAND (ZONE-IX AISLE-IX BAY-IX)
+                   END-PERFORM
+               END-PERFORM
+           END-PERFORM
+           GOBACK.
+
+      * One receipt or pick, as a scanner or another system asks.
+       DO-TASK.
+           ENTRY "WHSTASK" USING LK-TASK LK-ANSWER
+           MOVE 0 TO LA-LINE-COUNT
+           EVALUATE TRUE
+               WHEN LT-RECEIPT
+                   MOVE LT-RC-ARTICLE TO MV-RC-ARTICLE
+                   MOVE LT-RC-QTY TO MV-RC-QTY
+                   PERFORM PUT-IN-STOCK
+               WHEN LT-PICK
+                   MOVE LT-PK-WAVE TO MV-PK-WAVE
+                   MOVE LT-PK-ARTICLE TO MV-PK-ARTICLE
+                   MOVE LT-PK-QTY-ASKED TO MV-PK-QTY-ASKED
+                   PERFORM BUILD-PICK-LIST
+                   PERFORM VARYING LINE-IX FROM 1 BY 1
+                           UNTIL LINE-IX > PL-LINE-COUNT
+                       ADD 1 TO LA-LINE-COUNT
+                       MOVE PL-BAY (LINE-IX) TO LA-BAY (LINE-IX)
+                       MOVE PL-QTY (LINE-IX) TO LA-QTY (LINE-IX)
+                   END-PERFORM
+               WHEN OTHER
+                   MOVE 10 TO MV-RESULT
+           END-EVALUATE
+           MOVE MV-RESULT TO LA-CODE
+           GOBACK.
