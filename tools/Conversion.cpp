@@ -106,6 +106,7 @@ class Conversion {
       field.remove("dataType");
       return;
     }
+    if (&from_ == &to_) return;
     const bool isGroup = field.hasChild("field");
     const std::string word = field.get("dataType");
     if (isGroup) {

@@ -65,8 +65,15 @@ const DataType* Flavour::bestTypeFor(as::IDataItem& item) const {
 }
 
 const DataType* Flavour::bestTypeFor(const Capacity& capacity) const {
-  return findType(dataTypes(),
-                  [&](const DataType& type) { return contains(type.capacity, capacity); });
+  // What a user makes of an open type another cannot know.
+  if (capacity.kind == Capacity::Kind::open) return nullptr;
+  const auto fits = [&](const DataType& type) { return contains(type.capacity, capacity); };
+  const DataType* const alike = findType(dataTypes(), [&](const DataType& type) {
+    return type.capacity.kind == capacity.kind && fits(type);
+  });
+  // Integers are held by what is smallest, whatever its kind; floating-point numbers by their like.
+  const bool isFloat = capacity.kind == Capacity::Kind::floating;
+  return isFloat && alike != nullptr ? alike : findType(dataTypes(), fits);
 }
 
 const Flavour& flavourOf(as::IService& service) {
