@@ -32,23 +32,32 @@ struct Release {
 
 using WideText = std::basic_string<XMLCh>;
 
-// The name that `element` is written by: its own, under the root's prefix when it is in no
-// namespace (new elements are; they belong to the document's).
-WideText writtenName(const DOMElement* element, const XMLCh* rootPrefix) {
+// The name that `element` is written by: its own, with a prefix of the document's namespace when it
+// is in none (new elements are; they belong to the document's). That is the root's prefix, unless
+// it means something else there: then it is that of the nearest element around that has one.
+WideText writtenName(const DOMElement* element) {
   WideText name;
-  if (element->getNamespaceURI() == nullptr && rootPrefix != nullptr) {
-    name.append(rootPrefix).push_back(u':');
+  if (element->getNamespaceURI() == nullptr) {
+    const DOMNode* at = element;
+    while (at->getNamespaceURI() == nullptr && at->getParentNode() != nullptr) {
+      at = at->getParentNode();
+    }
+    const DOMElement* const root = element->getOwnerDocument()->getDocumentElement();
+    const bool isRoots =
+        XMLString::equals(at->lookupNamespaceURI(root->getPrefix()), root->getNamespaceURI());
+    const XMLCh* const prefix = isRoots ? root->getPrefix() : at->getPrefix();
+    if (prefix != nullptr) name.append(prefix).push_back(u':');
   }
   return name.append(element->getNodeName());
 }
 
 // Copies one node without its children into `to`, where names are nothing but names.
-DOMNode* copyNode(DOMDocument* to, const DOMNode* node, const XMLCh* rootPrefix) {
+DOMNode* copyNode(DOMDocument* to, const DOMNode* node) {
   const XMLCh* const value = node->getNodeValue();
   switch (node->getNodeType()) {
     case DOMNode::ELEMENT_NODE: {
       DOMElement* const copy =
-          to->createElement(writtenName(static_cast<const DOMElement*>(node), rootPrefix).c_str());
+          to->createElement(writtenName(static_cast<const DOMElement*>(node)).c_str());
       const DOMNamedNodeMap* const attributes = node->getAttributes();
       for (XMLSize_t i = 0; i < attributes->getLength(); i++) {
         const DOMNode* const attribute = attributes->item(i);
@@ -70,12 +79,12 @@ DOMNode* copyNode(DOMDocument* to, const DOMNode* node, const XMLCh* rootPrefix)
   }
 }
 
-void copyChildren(DOMDocument* to, DOMNode* parent, const DOMNode* from, const XMLCh* rootPrefix) {
+void copyChildren(DOMDocument* to, DOMNode* parent, const DOMNode* from) {
   for (DOMNode* child = from->getFirstChild(); child != nullptr; child = child->getNextSibling()) {
-    DOMNode* const copy = copyNode(to, child, rootPrefix);
+    DOMNode* const copy = copyNode(to, child);
     if (copy == nullptr) continue;
     parent->appendChild(copy);
-    copyChildren(to, copy, child, rootPrefix);
+    copyChildren(to, copy, child);
   }
 }
 
@@ -118,7 +127,7 @@ std::string serialiseNode(DOMDocument* document) {
   // declare already. From a copy that knows no namespaces it writes what is there.
   DOMImplementation* const implementation = DOMImplementationRegistry::getDOMImplementation(u"LS");
   const std::unique_ptr<DOMDocument, Release> copy(implementation->createDocument());
-  copyChildren(copy.get(), copy.get(), document, document->getDocumentElement()->getPrefix());
+  copyChildren(copy.get(), copy.get(), document);
 
   // The writer's own pretty-printing stays off: it would lay out anew what is laid out already.
   const std::unique_ptr<DOMLSSerializer, Release> writer(implementation->createLSSerializer());
