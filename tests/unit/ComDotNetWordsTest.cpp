@@ -1,22 +1,12 @@
-// Tests of the words of COM and .NET services that no valid document holds, and of what their
-// builders and factories wrap elements in.
+// Tests of the words of COM and .NET services, those that no valid document holds among them.
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 
-#include "com/COMFactory.h"
 #include "com/COMParameterImpl.h"
-#include "com/CSVocabulary.h"
-#include "com/VorCHandler.h"
 #include "dotnet/DNSVocabulary.h"
-#include "dotnet/DotNETFactory.h"
-#include "dotnet/DotNETImpl.h"
-#include "dotnet/DotNETOperationImpl.h"
 #include "dotnet/DotNETParameterImpl.h"
-#include "dotnet/VorDotNETHandler.h"
 #include "support/Dom.h"
-#include "xml/Vocabulary.h"
 
 namespace {
 
@@ -73,14 +63,6 @@ TEST(ComWords, ReturnValueIsFalseForEverythingUnknown) {
   }
 }
 
-TEST(ComWords, Vocabulary) {
-  const struct {
-    const XMLCh* constant;
-    const char* text;
-  } rows[] = {{CS::dataType, "dataType"}, {CS::returnParameter, "returnParameter"}};
-  for (const auto& row : rows) EXPECT_EQ(narrow(row.constant), row.text);
-}
-
 // .NET.
 
 TEST(DotNetWords, OfTheDataTypes) {
@@ -133,96 +115,6 @@ TEST(DotNetWordsDeathTest, NumberWithoutAWordEndsTheProcess) {
         "CDotNETParameterImpl::DataTypeToString\\(as::IDotNETField::TYPE\\): "
         "Assertion `false' failed")
         << number;
-  }
-}
-
-TEST(DotNetWords, SchemaNames) {
-  const std::string uri = narrow(XSDNS::dotnetURI);
-  EXPECT_EQ(uri, "http://agentservices.example/schema/dotnet/v1.0/vordotnet.xsd");
-  EXPECT_EQ(narrow(XSDNS::dotnetName), "vordotnet.xsd");
-  EXPECT_EQ(narrow(XSDNS::dotnetSchemaLocation), uri + " " + uri);
-}
-
-// Builders and factories.
-
-std::string classAt(const xercesc::DOMNode* node) {
-  CElementImpl* const wrapper = CElementImpl::wrapperOf(node);
-  return wrapper == nullptr ? "(none)" : wrapper->RTTI_vinfo().record()->name;
-}
-
-TEST(ComDotNetHandlers, WrapEachElementByItsLocalName) {
-  const struct {
-    const char* element;
-    const char* com;
-    const char* dotNet;
-  } rows[] = {
-      {"field", "CCOMParameterImpl", "CDotNETParameterImpl"},
-      {"parameter", "CCOMParameterImpl", "CDotNETParameterImpl"},
-      {"service", "CServiceImpl", "CDotNETImpl"},
-      {"operation", "COperationImpl", "CDotNETOperationImpl"},
-      {"operations", "CList", "CList"},
-      {"parameters", "CList", "CList"},
-      {"hiddenParameter", "CHiddenParameterImpl", "CHiddenParameterImpl"},
-      {"hiddenParameters", "CList", "CList"},
-      {"mapping", "CMappingImpl", "CMappingImpl"},
-      {"mappings", "CList", "CList"},
-      {"parameterTypeDefs", "CList", "CList"},
-      {"properties", "CList", "CList"},
-      {"property", "CPropertyImpl", "CPropertyImpl"},
-  };
-  for (const auto& row : rows) {
-    test::Dom dom("<x:" + std::string(row.element) + " xmlns:x='urn:any'/>");
-    CVorCHandler com;
-    com.newElement(dom.root());
-    EXPECT_EQ(classAt(dom.root()), row.com) << row.element;
-    CVorDotNETHandler dotNet;
-    dotNet.newElement(dom.root());
-    EXPECT_EQ(classAt(dom.root()), row.dotNet) << row.element;
-  }
-}
-
-TEST(ComDotNetHandlersDeathTest, AnUnknownElementEndsTheProcess) {
-  for (const char* const name : {"header", "fault", "fieldAttribute", "Parameter"}) {
-    test::Dom dom("<" + std::string(name) + "/>");
-    EXPECT_DEATH(CVorCHandler().newElement(dom.root()), "VorSHandler:.*Assertion `false' failed");
-    EXPECT_DEATH(CVorDotNETHandler().newElement(dom.root()),
-                 "VorSHandler:.*Assertion `false' failed");
-  }
-}
-
-// A document around one parameter with a mapping and a field, built by Handler.
-template <class Handler>
-std::unique_ptr<CServiceImpl> built(test::Dom& dom) {
-  Handler handler;
-  auto* const operations = dom.find(u"operations");
-  auto* const operation = dom.find(u"operation");
-  for (auto* const element :
-       {dom.find(u"field"), dom.find(u"mapping"), dom.find(u"mappings"), dom.find(u"parameter"),
-        dom.find(u"parameters"), operation, operations, dom.root()}) {
-    handler.newElement(element);
-  }
-  handler.endParse(dom.document());
-  return handler.takeService();
-}
-
-constexpr char smallService[] =
-    "<service><operations><operation><parameters><parameter><mappings><mapping/></mappings><field/>"
-    "</parameter></parameters></operation></operations></service>";
-
-TEST(ComDotNetHandlers, EndWithTheServiceAndItsFactory) {
-  {
-    test::Dom dom(smallService);
-    const auto service = built<CVorCHandler>(dom);
-    ASSERT_NE(service, nullptr);
-    EXPECT_NE(dynamic_cast<CCOMFactory*>(service->getServiceFactory()), nullptr);
-    EXPECT_EQ(service->getOperations()->getLength(), 1);
-  }
-  {
-    test::Dom dom(smallService);
-    const auto service = built<CVorDotNETHandler>(dom);
-    ASSERT_NE(service, nullptr);
-    EXPECT_NE(dynamic_cast<CDotNETFactory*>(service->getServiceFactory()), nullptr);
-    EXPECT_EQ(service->getOperations()->getLength(), 1);
   }
 }
 

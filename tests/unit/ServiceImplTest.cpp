@@ -16,6 +16,7 @@
 #include "service/ServiceImpl.h"
 #include "support/Dictionary.h"
 #include "support/Dom.h"
+#include "support/Wrappers.h"
 #include "xml/Vocabulary.h"
 
 namespace {
@@ -31,19 +32,7 @@ std::string attribute(const CElementImpl& wrapper, const XMLCh* name) {
   return test::narrow(wrapper.getElement()->getAttribute(name));
 }
 
-std::string childrenOf(const xercesc::DOMElement* element) {
-  std::string names;
-  for (auto* child = element->getFirstElementChild(); child != nullptr;
-       child = child->getNextElementSibling()) {
-    names += test::narrow(child->getNodeName()) + " ";
-  }
-  return names;
-}
-
-std::string classAt(const xercesc::DOMNode* node) {
-  CElementImpl* const wrapper = CElementImpl::wrapperOf(node);
-  return wrapper == nullptr ? "(none)" : wrapper->RTTI_vinfo().record()->name;
-}
+using test::classAt;
 
 TEST(ServiceImpl, WritesTheWordOfEveryType) {
   const auto service = newJavaService();
@@ -151,35 +140,6 @@ TEST(ServiceImpl, IgnoresANullOperation) {
   const auto service = newJavaService();
   service->addOperation(static_cast<as::IOperation*>(nullptr));
   EXPECT_EQ(service->getOperations()->getLength(), 0);
-}
-
-TEST(ServiceFactory, NewDocumentHasItsAttributesAndLists) {
-  const auto service = newJavaService();
-  const std::string java = test::narrow(XSDNS::javaURI);
-  EXPECT_EQ(attribute(*service, u"xmlns"), java);
-  EXPECT_EQ(attribute(*service, u"xmlns:xsi"), test::narrow(XSDNS::xsiURI));
-  EXPECT_EQ(attribute(*service, u"xsi:schemaLocation"), java + " " + java);
-  EXPECT_EQ(attribute(*service, u"implementation"), "java");
-  EXPECT_EQ(childrenOf(service->getElement()), "properties parameterTypeDefs operations ");
-  EXPECT_EQ(test::narrow(service->getElement()->getNamespaceURI()), test::narrow(XSDNS::wsURI));
-  EXPECT_EQ(CElementImpl::rootOf(service->getElement()), static_cast<CElementImpl*>(service.get()));
-}
-
-TEST(ServiceFactory, NewElementsHaveTheirListsAndNoNamespace) {
-  const auto service = newJavaService();
-  CServiceFactory* const factory = service->getServiceFactory();
-  const std::unique_ptr<COperationImpl> operation(factory->createOperation());
-  const std::unique_ptr<CParameterImpl> parameter(factory->createParameter());
-  const std::unique_ptr<CParameterImpl> field(factory->createField());
-  EXPECT_EQ(childrenOf(operation->getElement()), "hiddenParameters parameters ");
-  EXPECT_EQ(childrenOf(parameter->getElement()), "mappings ");
-  EXPECT_EQ(childrenOf(field->getElement()), "mappings ");
-  EXPECT_EQ(test::narrow(field->getElement()->getNodeName()), "field");
-  EXPECT_EQ(operation->getElement()->getNamespaceURI(), nullptr);
-  EXPECT_EQ(operation->getElement()->getParentNode(), nullptr);
-  EXPECT_EQ(classAt(operation->getElement()), "CJavaOperationImpl");
-  EXPECT_EQ(classAt(parameter->getElement()), "CJavaParameterImpl");
-  EXPECT_EQ(classAt(field->getElement()), "CJavaParameterImpl");
 }
 
 TEST(VorSHandler, WrapsEachElementByItsLocalName) {
