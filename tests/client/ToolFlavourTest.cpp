@@ -178,19 +178,20 @@ TEST_F(ToolFlavourTest, TheFlavourIsKnownHoweverLittleThereIs) {
                   {test::flavours::comNamespace, "COM"},
                   {test::flavours::javaNamespace, "Java"},
                   {test::flavours::dotNetNamespace, ".NET"}};
-  const char* const contents[] = {
-      "", "<p:operations/>", "<p:operations><p:operation name='o'/></p:operations>",
-      "<p:parameterTypeDefs><p:parameter name='D'/></p:parameterTypeDefs>",
+  const std::string member =
       "<p:operations><p:operation><p:parameters><p:parameter/></p:parameters></p:operation>"
-      "</p:operations>"};
+      "</p:operations>";
+  const std::string contents[] = {
+      "", "<p:operations/>", "<p:operations><p:operation name='o'/></p:operations>",
+      "<p:parameterTypeDefs><p:parameter name='D'/></p:parameterTypeDefs>", member};
   for (const auto& flavour : flavours) {
-    for (const char* const content : contents) {
+    for (const std::string& content : contents) {
       for (const std::string prefix : {"", "p:"}) {
         // Without members and without a default namespace only "implementation" is left.
-        const bool isEmpty = std::string(content).find("name=") == std::string::npos &&
-                             std::string(content).find("<p:parameter/>") == std::string::npos;
+        const bool isEmpty = content.find("name=") == std::string::npos &&
+                             content.find("<p:parameter/>") == std::string::npos;
         if (isEmpty && !prefix.empty()) continue;
-        SCOPED_TRACE(std::string(flavour.name) + " " + prefix + content);
+        SCOPED_TRACE(flavour.name + (" " + prefix) + content);
         std::string document = "<p:service xmlns:p='" + std::string(flavour.ns) +
                                "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
                                "xsi:schemaLocation='" +

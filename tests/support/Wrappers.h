@@ -2,8 +2,10 @@
 #ifndef TESTS_SUPPORT_WRAPPERS_H_
 #define TESTS_SUPPORT_WRAPPERS_H_
 
+#include <memory>
 #include <string>
 
+#include "service/VorSHandler.h"
 #include "support/Dom.h"
 #include "xml/ElementHandler.h"
 
@@ -16,6 +18,15 @@ inline void buildWrappers(CElementHandler& handler, xercesc::DOMElement* element
     buildWrappers(handler, child);
   }
   handler.newElement(element);
+}
+
+// The builder of plain services. Builders have no virtual destructor, so that only a final one can
+// be held by a pointer.
+class PlainHandler final : public CVorSHandler {};
+
+template <class Handler>
+std::shared_ptr<CVorSHandler> makeHandler() {
+  return std::make_shared<Handler>();
 }
 
 // The class of a wrapper, "(none)" for null.

@@ -31,6 +31,7 @@ namespace {
 using test::buildWrappers;
 using test::childrenOf;
 using test::classAt;
+using test::makeHandler;
 using test::narrow;
 using xercesc::DOMDocument;
 using xercesc::DOMElement;
@@ -40,11 +41,6 @@ template <class Factory>
 std::unique_ptr<CServiceFactory> makeFactory(DOMDocument* document) {
   if (document == nullptr) return std::make_unique<Factory>();
   return std::make_unique<Factory>(document);
-}
-
-template <class Handler>
-std::shared_ptr<CVorSHandler> makeHandler() {
-  return std::make_shared<Handler>();
 }
 
 struct Flavour {

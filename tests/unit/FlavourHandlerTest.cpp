@@ -26,22 +26,18 @@ namespace {
 using test::buildWrappers;
 using test::classAt;
 using test::classOf;
-
-template <class Handler>
-std::shared_ptr<CVorSHandler> make() {
-  return std::make_shared<Handler>();
-}
+using test::makeHandler;
 
 struct Builder {
   const char* label;
   std::shared_ptr<CVorSHandler> (*make)();
 };
 
-constexpr Builder plain = {"Plain", make<CVorSHandler>};
-constexpr Builder web = {"Web", make<CVorWSHandler>};
-constexpr Builder com = {"COM", make<CVorCHandler>};
-constexpr Builder java = {"Java", make<CVorJHandler>};
-constexpr Builder dotNet = {"DotNET", make<CVorDotNETHandler>};
+constexpr Builder plain = {"Plain", makeHandler<test::PlainHandler>};
+constexpr Builder web = {"Web", makeHandler<CVorWSHandler>};
+constexpr Builder com = {"COM", makeHandler<CVorCHandler>};
+constexpr Builder java = {"Java", makeHandler<CVorJHandler>};
+constexpr Builder dotNet = {"DotNET", makeHandler<CVorDotNETHandler>};
 
 // What each builder wraps. The plain words and the Java builder have a table beside the service's.
 

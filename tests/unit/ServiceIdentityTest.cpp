@@ -40,6 +40,7 @@
 
 namespace {
 
+using test::makeHandler;
 using Names = std::vector<std::string>;
 using NameSet = std::set<std::string>;
 
@@ -216,17 +217,12 @@ void expectCasts(CElementImpl* wrapper, const char* ownClass, NameSet others) {
   EXPECT_EQ(found, others);
 }
 
-template <class Handler>
-std::shared_ptr<CVorSHandler> make() {
-  return std::make_shared<Handler>();
-}
-
 // The builders of the plain classes and of each flavour's.
-constexpr auto plain = make<CVorSHandler>;
-constexpr auto web = make<CVorWSHandler>;
-constexpr auto com = make<CVorCHandler>;
-constexpr auto java = make<CVorJHandler>;
-constexpr auto dotNet = make<CVorDotNETHandler>;
+constexpr auto plain = makeHandler<test::PlainHandler>;
+constexpr auto web = makeHandler<CVorWSHandler>;
+constexpr auto com = makeHandler<CVorCHandler>;
+constexpr auto java = makeHandler<CVorJHandler>;
+constexpr auto dotNet = makeHandler<CVorDotNETHandler>;
 
 TEST(ServiceIdentity, ObjectsCastToWhatTheirClassIs) {
   const struct {
