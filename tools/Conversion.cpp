@@ -166,8 +166,8 @@ class Conversion {
     std::string place = field.get("name");
     for (XmlElement at = field.parent(); at.isElement(); at = at.parent()) {
       const std::string name = at.localName();
-      if (isField(name) || name == "operation") place = at.get("name") + "." + place;
-      if (name == "parameterTypeDefs") place = "type " + place;
+      if (isField(name) || name == "operation") place.insert(0, at.get("name") + ".");
+      if (name == "parameterTypeDefs") place.insert(0, "type ");
     }
     return place;
   }

@@ -93,10 +93,11 @@ class Flavour {
 
   // A new service, which takes the program over. Throws as::CASException.
   virtual std::unique_ptr<as::IService> newService(std::unique_ptr<as::IProgram> program) const = 0;
-  // Gives an operation of a new service, and a parameter or field of that type, null for none, what
-  // the flavour needs and the client has not asked for. `isReturned` is about the parameter.
+  // Gives the operation what the flavour needs and it has not yet.
   virtual void complete(as::IService& service, as::IOperation& operation) const;
+  // Writes the data type of a parameter or field.
   virtual void setDataType(as::IField& field, const DataType& type) const = 0;
+  // Marks the parameter as the operation's result, where the flavour has such a mark.
   virtual void markReturned(as::IField& field) const;
   // The type of a group's field; null when groups have none.
   virtual const DataType* groupType(bool repeats) const;

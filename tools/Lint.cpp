@@ -202,8 +202,10 @@ class MemberLint {
     checkParameters(operation.getParameters(), name + ".");
     std::map<std::string, int> numbers;
     for (const Message& message : flavour_.messagesOf(operation)) {
-      const std::string nth = std::to_string(++numbers[message.kind]);
-      checkParameters(message.parameters, name + ", " + message.kind + " " + nth + ".");
+      std::string place = name;
+      place.append(", ").append(message.kind).append(" ");
+      place.append(std::to_string(++numbers[message.kind])).append(".");
+      checkParameters(message.parameters, place);
     }
   }
 
