@@ -83,6 +83,7 @@ int run(int argc, char** argv) {
       ->add_option("--operations", created.entryPoints,
                    "The entry points to make operations of, with commas between; all unless told")
       ->delimiter(',')
+      ->allow_extra_args(false)
       ->type_name("ENTRY,...");
   addSchemasOption(*create, schemas);
 

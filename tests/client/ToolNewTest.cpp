@@ -397,6 +397,10 @@ TEST_F(ToolNewTest, OperationsAreAllEntryPointsOrThoseNamed) {
   EXPECT_THAT(operations(), ElementsAre("A", "C"));
   make(program, "java", {"--operations", "B", "--operations", "B"});
   EXPECT_THAT(operations(), ElementsAre("B"));
+  // The list takes no further words of the call.
+  ASSERT_EQ(run({"new", "--flavour", "ws", "-o", "s.xml", "--operations", "A,B", "p.xml"}).exitCode,
+            0);
+  EXPECT_THAT(operations(), ElementsAre("A", "B"));
 }
 
 TEST_F(ToolNewTest, AnUnknownEntryPointIsRefusedWithThoseThereAre) {
@@ -565,15 +569,54 @@ TEST_F(ToolNewTest, DirectoriesAndMissingOnesAreTold) {
   EXPECT_THAT(filesIn(directory()), ElementsAre("folder", "p.xml"));
 }
 
-// The superuser may write everything: only for others there is something to see.
-TEST_F(ToolNewTest, AFileThatMustNotBeWrittenStays) {
-  if (geteuid() == 0) GTEST_SKIP() << "the superuser may write it";
-  write("s.xml", "old");
-  ASSERT_EQ(chmod(pathOf("s.xml").c_str(), 0440), 0);
-  const test::ToolOutcome outcome = make(test::payProgram());
+// The superuser may write everything: the tool runs as a user who may not.
+class ToolAsAnybody : public ToolNewTest {
+ protected:
+  void SetUp() override {
+    ToolNewTest::SetUp();
+    write("p.xml", test::payProgram());
+    write("s.xml", "old");
+    if (geteuid() == 0) {
+      command_ = {"--reuid=65534", "--regid=65534", "--clear-groups", AS_TOOL};
+      ASSERT_EQ(chmod(directory().c_str(), 0777), 0);
+    }
+    const test::ToolOutcome outcome = runAs({"validate", "p.xml"});
+    if (outcome.exitCode != 0) GTEST_SKIP() << "others cannot reach the tool: " << outcome.err;
+  }
+
+  test::ToolOutcome runAs(const std::vector<std::string>& arguments) const {
+    if (command_.empty()) return run(arguments);
+    std::vector<std::string> all = command_;
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    return runProgram("/usr/bin/setpriv", all);
+  }
+
+ private:
+  std::vector<std::string> command_;
+};
+
+TEST_F(ToolAsAnybody, AFileThatMustNotBeWrittenStays) {
+  ASSERT_EQ(chmod(pathOf("s.xml").c_str(), 0444), 0);
+  const test::ToolOutcome outcome = runAs({"new", "--flavour", "ws", "p.xml", "-o", "s.xml"});
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.err, HasSubstr("Permission denied"));
+  EXPECT_THAT(outcome.err,
+              HasSubstr("s.xml cannot be written and is as it was: Permission denied"));
   EXPECT_EQ(contentOf(pathOf("s.xml")), "old");
+}
+
+TEST_F(ToolAsAnybody, AFolderThatMustNotBeWrittenKeepsItsFiles) {
+  std::filesystem::create_directory(directory() / "folder");
+  write("folder/s.xml", "old");
+  ASSERT_EQ(chmod(pathOf("folder/s.xml").c_str(), 0666), 0);
+  ASSERT_EQ(chmod(pathOf("folder").c_str(), 0555), 0);
+  for (const char* const output : {"folder/s.xml", "folder/new.xml"}) {
+    const test::ToolOutcome outcome = runAs({"new", "--flavour", "ws", "p.xml", "-o", output});
+    EXPECT_EQ(outcome.exitCode, 1) << output;
+    EXPECT_THAT(outcome.err, HasSubstr("Permission denied"));
+  }
+  EXPECT_THAT(filesIn(directory() / "folder"), ElementsAre("s.xml"));
+  EXPECT_EQ(contentOf(pathOf("folder/s.xml")), "old");
+  chmod(pathOf("folder").c_str(), 0755);
 }
 
 // Each sample program in each flavour.

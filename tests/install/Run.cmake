@@ -1,4 +1,4 @@
-# Installs the build in BUILD below WORK, then configures, builds and runs the client beside this
+# Installs the build in BUILD below WORK, then configures, builds and runs the clients beside this
 # file with what was installed, and the installed tool.
 function(run)
   execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
@@ -17,6 +17,10 @@ file(READ ${WORK}/build/schema-dir schemas)
 run(${WORK}/build/client ${schemas} ${EXAMPLES}/MOTPREM.xml)
 if(NOT output MATCHES "a group of")
   message(FATAL_ERROR "the client printed: ${output}")
+endif()
+run(${WORK}/build/walk ${schemas} ${EXAMPLES} ${WORK}/walk)
+if(NOT output MATCHES "[1-9][0-9]* operations walked, 0 failures")
+  message(FATAL_ERROR "the walk printed: ${output}")
 endif()
 # Without --schemas: the tool finds the schemas that were installed with it.
 run(${WORK}/prefix/bin/agentservices validate ${EXAMPLES}/MOTPREM.xml)
