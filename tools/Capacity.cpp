@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <cstdlib>
 
 #include "Words.h"
@@ -21,6 +22,34 @@ struct Number {
   int floatingBytes = 0;  // Of a floating-point number; 0 for others.
 };
 
+// The decimal digits of the largest number of so many bits.
+int digitsOf(int bits) { return static_cast<int>(std::ceil(bits * std::log10(2.0))); }
+
+// How many P a picture has: digits that the item's bytes do not hold.
+int scalingPositions(const std::string& picture) {
+  int positions = 0;
+  for (std::size_t at = 0; (at = picture.find('P', at)) != std::string::npos; ++at) {
+    const bool isRepeated = at + 1 < picture.size() && picture[at + 1] == '(';
+    positions +=
+        isRepeated ? static_cast<int>(std::strtol(picture.c_str() + at + 2, nullptr, 10)) : 1;
+  }
+  return positions;
+}
+
+// The most digits that fit into the bytes of an item of that usage.
+int digitsIn(int usage, int bytes) {
+  switch (usage) {
+    case as::INumeric::USAGE_DISPLAY:
+      return bytes;
+    case as::INumeric::USAGE_COMP_3:
+      return bytes == 0 ? 0 : 2 * bytes - 1;
+    case as::INumeric::USAGE_COMP_6:
+      return 2 * bytes;
+    default:
+      return digitsOf(8 * bytes);
+  }
+}
+
 Number numberIn(as::INumeric& item) {
   Number number;
   number.digits = item.getDigits();
@@ -29,26 +58,26 @@ Number numberIn(as::INumeric& item) {
   const int usage = item.getUsage();
   if (usage == as::INumeric::USAGE_COMP_1) {
     number.floatingBytes = 4;
-  } else if (usage == as::INumeric::USAGE_COMP_2 || usage == as::INumeric::USAGE_EXTERNAL_FLOAT) {
+    return number;
+  }
+  if (usage == as::INumeric::USAGE_COMP_2 || usage == as::INumeric::USAGE_EXTERNAL_FLOAT) {
     number.floatingBytes = 8;
-  } else if (usage == as::INumeric::USAGE_COMP_5 || usage == as::INumeric::USAGE_COMP_X) {
+    return number;
+  }
+  const int scaling = scalingPositions(item.getPicture());
+  const int most = digitsIn(usage, item.getLength()) + scaling;
+  if (usage == as::INumeric::USAGE_COMP_5 || usage == as::INumeric::USAGE_COMP_X) {
     // These are not cut to the digits of their picture.
-    number.bits = 8 * item.getLength();
+    number.digits = most;
+    if (scaling == 0) number.bits = 8 * item.getLength();
+  } else if (number.digits == 0 && item.getLength() > 0) {
+    number.digits = most;
   }
   return number;
 }
 
 std::string count(int number, const char* what) {
   return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
-}
-
-// The decimal digits of the largest number of so many bits.
-int digitsOf(int bits) { return static_cast<int>(std::ceil(bits * std::log10(2.0))); }
-
-// Whether every number can be held.
-bool isUnlimited(const Capacity& capacity) {
-  return capacity.kind == Kind::decimal && capacity.digits == 0 && capacity.whole == 0 &&
-         capacity.places < 0;
 }
 
 std::string misfit(const Capacity& capacity, const Number& number) {
@@ -114,9 +143,21 @@ std::string misfit(const Capacity& capacity, as::IDataItem& item) {
   return "is a number, the item is " + dataTypeWord(type);
 }
 
+bool isOfKnownSize(as::IDataItem& item) {
+  auto* const numeric = as::interface_cast<as::INumeric>(&item);
+  if (numeric == nullptr) return true;
+  const Number number = numberIn(*numeric);
+  return number.floatingBytes > 0 || number.digits > 0 || number.bits > 0;
+}
+
 bool isFloating(as::IDataItem& item) {
   auto* const numeric = as::interface_cast<as::INumeric>(&item);
   return numeric != nullptr && numberIn(*numeric).floatingBytes > 0;
+}
+
+bool isUnlimited(const Capacity& capacity) {
+  return capacity.kind == Kind::decimal && capacity.digits == 0 && capacity.whole == 0 &&
+         capacity.places < 0;
 }
 
 bool contains(const Capacity& larger, const Capacity& smaller) {

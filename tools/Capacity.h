@@ -28,8 +28,14 @@ struct Capacity {
 // 9"); empty when it can, and when the dictionary tells too little to say.
 std::string misfit(const Capacity& capacity, as::IDataItem& item);
 
+// Whether every number can be held.
+bool isUnlimited(const Capacity& capacity);
+
 // Whether a type of capacity `larger` holds all that one of capacity `smaller` can hold.
 bool contains(const Capacity& larger, const Capacity& smaller);
+
+// Whether the dictionary tells how large the numbers in `item` may be; true for what is no number.
+bool isOfKnownSize(as::IDataItem& item);
 
 // Whether `item` is a floating-point number.
 bool isFloating(as::IDataItem& item);

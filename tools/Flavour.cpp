@@ -51,10 +51,12 @@ const DataType* Flavour::bestTypeFor(as::IDataItem& item) const {
   // Edited numbers hold blanks, currency signs and the like.
   const bool isText = item.getDataType() == as::IDataItem::TYPE_NUMERIC_EDITED;
   const bool isFloat = isFloating(item);
+  const bool isOpen = !isOfKnownSize(item);
   const DataType* best = nullptr;
   for (const DataType& type : dataTypes()) {
     const Capacity::Kind kind = type.capacity.kind;
     if (!isPlain(type) || (isText && kind != Capacity::Kind::text)) continue;
+    if (isOpen && kind != Capacity::Kind::text && !isUnlimited(type.capacity)) continue;
     if (!misfit(type.capacity, item).empty()) continue;
     if (best == nullptr) best = &type;
     // Decimals hold floating-point numbers, but those are what the item means.
