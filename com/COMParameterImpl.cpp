@@ -23,10 +23,7 @@ CCOMParameterImpl::CCOMParameterImpl(xercesc::DOMElement* element)
 CCOMParameterImpl::~CCOMParameterImpl() = default;
 
 as::ICOMField::TYPE CCOMParameterImpl::getType() {
-  if (auto* const reference = as::interface_cast<as::ICOMField>(getReference())) {
-    return reference->getType();
-  }
-  const XMLCh* const word = wide(CS::dataType);
+  const XMLCh* const word = wideAtSource(CS::dataType);
   // No type at all is an object, but the word "object" is not read: it counts as unknown.
   if (*word == 0) return COM_OBJECT;
   return static_cast<TYPE>(codeOfWord(dataTypes, word, COM_STRING));

@@ -26,10 +26,7 @@ CDotNETParameterImpl::CDotNETParameterImpl(xercesc::DOMElement* element)
 CDotNETParameterImpl::~CDotNETParameterImpl() = default;
 
 as::IDotNETField::TYPE CDotNETParameterImpl::getType() {
-  if (auto* const reference = as::interface_cast<as::IDotNETParameter>(getReference())) {
-    return reference->getType();
-  }
-  return StringToDataType(wide(DNS::dataType));
+  return StringToDataType(wideAtSource(DNS::dataType));
 }
 
 void CDotNETParameterImpl::setType(TYPE type) { write(DNS::dataType, DataTypeToString(type)); }

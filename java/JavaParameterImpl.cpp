@@ -28,10 +28,7 @@ CJavaParameterImpl::CJavaParameterImpl(xercesc::DOMElement* element)
 CJavaParameterImpl::~CJavaParameterImpl() = default;
 
 as::IJavaField::TYPE CJavaParameterImpl::getType() {
-  if (auto* const reference = as::interface_cast<as::IJavaParameter>(getReference())) {
-    return reference->getType();
-  }
-  return static_cast<TYPE>(codeOfWord(dataTypes, wide(JS::dataType), JAVA_SHORT));
+  return static_cast<TYPE>(codeOfWord(dataTypes, wideAtSource(JS::dataType), JAVA_SHORT));
 }
 
 void CJavaParameterImpl::setType(TYPE type) { write(JS::dataType, wordOfCode(dataTypes, type)); }

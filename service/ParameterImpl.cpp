@@ -40,15 +40,9 @@ int CParameterImpl::getOccurs() {
 
 void CParameterImpl::setOccurs(int count) { write(SS::occurs, std::to_string(count)); }
 
-as::IList* CParameterImpl::getChildren() {
-  if (reference_ != nullptr) return reference_->getChildren();
-  return &fields_;
-}
+as::IList* CParameterImpl::getChildren() { return &source()->fields_; }
 
-as::IList* CParameterImpl::getMappings() {
-  if (reference_ != nullptr) return reference_->getMappings();
-  return CList::orEmpty(mappings_);
-}
+as::IList* CParameterImpl::getMappings() { return CList::orEmpty(source()->mappings_); }
 
 as::IField* CParameterImpl::addField(const char* name, int occurs) {
   if (reference_ != nullptr) return nullptr;
@@ -108,12 +102,9 @@ void CParameterImpl::collectChildren() {
   if (!ref.empty()) {
     CServiceImpl* const service = getService();
     CParameterImpl* const found = service == nullptr ? nullptr : service->getPrototypeByName(ref);
-    // A definition that leads back to itself defines nothing.
-    bool circular = false;
-    for (const CParameterImpl* at = found; at != nullptr && !circular; at = at->reference_) {
-      circular = at == this;
-    }
-    reference_ = circular ? nullptr : found;
+    if (found == nullptr || leadsBack(found)) return;
+    reference_ = found;
+    found->isReferredTo_ = true;
     return;
   }
   collectNamedList(SS::mappings, mappings_);
@@ -123,6 +114,25 @@ void CParameterImpl::collectChildren() {
     if (mapping != nullptr) mapping->setField(this);
   }
   fields_.collectChildren();
+}
+
+// A definition that leads back to itself defines nothing. Only one that others refer to already can
+// be met on the way from one of them.
+bool CParameterImpl::leadsBack(const CParameterImpl* found) const {
+  if (found == this) return true;
+  if (!isReferredTo_) return false;
+  while (found != nullptr && found != this) found = found->reference_;
+  return found == this;
+}
+
+CParameterImpl* CParameterImpl::source() {
+  CParameterImpl* at = this;
+  while (at->reference_ != nullptr) at = at->reference_;
+  return at;
+}
+
+const XMLCh* CParameterImpl::wideAtSource(const XMLCh* attribute) {
+  return source()->wide(attribute);
 }
 
 const XMLCh* CParameterImpl::ByTypeToString(BY_TYPE byType) {

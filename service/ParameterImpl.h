@@ -45,11 +45,20 @@ class CParameterImpl : virtual public as::IParameter,
  protected:
   // The type definition that the element refers to; null when it refers to none.
   CParameterImpl* getReference() const { return reference_; }
+  // What tells of the element: the definition at the end of the references that start here, or the
+  // object itself when it refers to none. Found step by step: documents may hold chains of any
+  // length.
+  CParameterImpl* source();
+  // The value of an attribute of that object's element.
+  const XMLCh* wideAtSource(const XMLCh* attribute);
 
  private:
+  bool leadsBack(const CParameterImpl* found) const;
+
   CFieldList fields_;
   CList* mappings_ = nullptr;            // Owned.
   CParameterImpl* reference_ = nullptr;  // Not owned.
+  bool isReferredTo_ = false;
 };
 
 #endif  // SERVICE_PARAMETERIMPL_H_

@@ -39,6 +39,9 @@ CServiceImpl::~CServiceImpl() {
   delete operations_;
   delete parameterTypeDefs_;
   delete properties_;
+  // The document last: everything else stands on it.
+  factory_.reset();
+  parser_.reset();
 }
 
 std::string CServiceImpl::getNamespaceURI() {
@@ -79,10 +82,17 @@ std::string CServiceImpl::getExitProgramName() { return text(SS::exitProgramName
 void CServiceImpl::setExitProgramName(const char* name) { write(SS::exitProgramName, name); }
 
 void CServiceImpl::collectChildren() {
-  // The definitions first: what follows refers to them.
-  collectNamedList(SS::parameterTypeDefs, parameterTypeDefs_);
-  collectNamedList(SS::properties, properties_);
-  collectNamedList(SS::operations, operations_);
+  index_ = std::make_unique<DefinitionIndex>();
+  try {
+    // The definitions first: what follows refers to them.
+    collectNamedList(SS::parameterTypeDefs, parameterTypeDefs_);
+    collectNamedList(SS::properties, properties_);
+    collectNamedList(SS::operations, operations_);
+  } catch (...) {
+    index_.reset();
+    throw;
+  }
+  index_.reset();
 }
 
 void CServiceImpl::setProgram(as::IProgram* pProgram) {
@@ -117,13 +127,26 @@ CParameterImpl* CServiceImpl::getPrototypeByName(const std::string& name) {
   CXStr wanted(name);
   const XMLCh* const wideName = wanted;
   const int count = parameterTypeDefs_ == nullptr ? 0 : parameterTypeDefs_->getLength();
+  const auto nameOf = [this](int i) {
+    return parameterTypeDefs_->getNode(i)->getAttribute(SS::name);
+  };
+  if (index_) {
+    for (int& i = index_->definitions; i < count; i++) {
+      if (CParameterImpl* const found = definitionAt(i))
+        index_->firstOfName.emplace(nameOf(i), found);
+    }
+    const auto found = index_->firstOfName.find(wideName);
+    return found == index_->firstOfName.end() ? nullptr : found->second;
+  }
   for (int i = 0; i < count; i++) {
-    const XMLCh* const candidate = parameterTypeDefs_->getNode(i)->getAttribute(SS::name);
-    if (!xercesc::XMLString::equals(candidate, wideName)) continue;
-    auto* const found = as::interface_cast<CParameterImpl>(parameterTypeDefs_->getElement(i));
-    if (found != nullptr) return found;
+    if (!xercesc::XMLString::equals(nameOf(i), wideName)) continue;
+    if (CParameterImpl* const found = definitionAt(i)) return found;
   }
   return nullptr;
+}
+
+CParameterImpl* CServiceImpl::definitionAt(int index) const {
+  return as::interface_cast<CParameterImpl>(parameterTypeDefs_->getElement(index));
 }
 
 // What every wrapper of a service document reaches through its root. Declared low, with the

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <unordered_map>
 
 #include "as/IProgram.h"
 #include "as/IService.h"
@@ -57,6 +58,16 @@ class CServiceImpl : virtual public as::IService, virtual public CElementImpl {
   void setParser(std::unique_ptr<CXMLParser> parser) { parser_ = std::move(parser); }
 
  private:
+  // Finds definitions fast while the children are collected, when nobody can change a name: one
+  // look-up for each reference of the document, however many definitions there are.
+  struct DefinitionIndex {
+    std::unordered_map<std::basic_string<XMLCh>, CParameterImpl*> firstOfName;
+    int definitions = 0;  // How many are in it; the list grows meanwhile.
+  };
+  CParameterImpl* definitionAt(int index) const;
+
+  // Null unless the children are being collected.
+  std::unique_ptr<DefinitionIndex> index_;
   // Owned; null for a list that the document lacks, and until the children are collected.
   CList* parameterTypeDefs_ = nullptr;
   CList* operations_ = nullptr;

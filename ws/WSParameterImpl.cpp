@@ -54,14 +54,10 @@ std::string CWSParameterImpl::getNamespace() {
 
 void CWSParameterImpl::setNamespace(const char* uri) { write(WSS::namespace_, uri); }
 
-as::IWSField::FORM CWSParameterImpl::getElementFormForParam() {
-  CWSParameterImpl* const from = definition();
-  return from == nullptr ? form(WSS::elementForm) : from->getElementFormForParam();
-}
+as::IWSField::FORM CWSParameterImpl::getElementFormForParam() { return form(WSS::elementForm); }
 
 as::IWSField::FORM CWSParameterImpl::getElementFormForField() {
-  CWSParameterImpl* const from = definition();
-  return from == nullptr ? noForm : from->getElementFormForParam();
+  return getReference() == nullptr ? noForm : form(WSS::elementForm);
 }
 
 as::IWSField::FORM CWSParameterImpl::getElementForm() {
@@ -72,14 +68,10 @@ void CWSParameterImpl::setElementForm(FORM form) {
   write(WSS::elementForm, wordOfCode(forms, form));
 }
 
-as::IWSField::FORM CWSParameterImpl::getAttributeFormForParam() {
-  CWSParameterImpl* const from = definition();
-  return from == nullptr ? form(WSS::attributeForm) : from->getAttributeFormForParam();
-}
+as::IWSField::FORM CWSParameterImpl::getAttributeFormForParam() { return form(WSS::attributeForm); }
 
 as::IWSField::FORM CWSParameterImpl::getAttributeFormForField() {
-  CWSParameterImpl* const from = definition();
-  return from == nullptr ? noForm : from->getAttributeFormForParam();
+  return getReference() == nullptr ? noForm : form(WSS::attributeForm);
 }
 
 as::IWSField::FORM CWSParameterImpl::getAttributeForm() {
@@ -97,8 +89,7 @@ void CWSParameterImpl::collectChildren() {
 }
 
 as::IList* CWSParameterImpl::getFieldAttributes() {
-  if (CWSParameterImpl* const from = definition()) return from->getFieldAttributes();
-  return &fieldAttributes_;
+  return &as::interface_cast<CWSParameterImpl>(source())->fieldAttributes_;
 }
 
 as::IWSParameter* CWSParameterImpl::addFieldAttribute(const char* name) {
@@ -113,8 +104,7 @@ as::IWSParameter* CWSParameterImpl::addFieldAttribute(const char* name) {
 }
 
 as::IWSField::TYPE CWSParameterImpl::getType() {
-  if (CWSParameterImpl* const from = definition()) return from->getType();
-  return StringToDataType(wide(WSS::dataType));
+  return StringToDataType(wideAtSource(WSS::dataType));
 }
 
 void CWSParameterImpl::setType(TYPE type) { write(WSS::dataType, DataTypeToString(type)); }
@@ -143,6 +133,6 @@ bool CWSParameterImpl::isParameter() const {
   return xercesc::XMLString::equals(getElement()->getLocalName(), SS::parameter);
 }
 
-as::IWSField::FORM CWSParameterImpl::form(const XMLCh* attribute) const {
-  return static_cast<FORM>(codeOfWord(forms, wide(attribute), noForm));
+as::IWSField::FORM CWSParameterImpl::form(const XMLCh* attribute) {
+  return static_cast<FORM>(codeOfWord(forms, wideAtSource(attribute), noForm));
 }

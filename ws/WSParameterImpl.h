@@ -48,7 +48,8 @@ class CWSParameterImpl : virtual public as::IWSParameter,
   // The type definition that the element refers to; null when it refers to none.
   CWSParameterImpl* definition() const;
   bool isParameter() const;
-  FORM form(const XMLCh* attribute) const;
+  // The form that the attribute tells, at the end of the references.
+  FORM form(const XMLCh* attribute);
 
   CFieldAttributeList fieldAttributes_;
 };

@@ -108,8 +108,10 @@ bool needsCR(DOMNode* node) {
 }
 
 void prettyPrintTree(DOMNode* node, int depth) {
-  if (depth > CXMLParser::maxDepth) throw std::length_error("nested too deep to be read again");
   for (; node != nullptr; node = node->getNextSibling()) {
+    if (depth >= CXMLParser::maxDepth && node->getNodeType() == DOMNode::ELEMENT_NODE) {
+      throw std::length_error("nested too deep to be read again");
+    }
     // Children first: whether they are laid out depends on their parent's last child as it was.
     prettyPrintTree(node->getFirstChild(), depth + 1);
     DOMNode* const parent = node->getParentNode();
@@ -126,7 +128,13 @@ std::string serialiseNode(DOMDocument* document) {
   // The parser's writer "repairs" namespaces: it declares anew what the tree's plain attributes
   // declare already. From a copy that knows no namespaces it writes what is there.
   DOMImplementation* const implementation = DOMImplementationRegistry::getDOMImplementation(u"LS");
-  const std::unique_ptr<DOMDocument, Release> copy(implementation->createDocument());
+  const auto newDocument = [&] {
+    std::unique_ptr<DOMDocument, Release> made(implementation->createDocument());
+    // Always XML 1.0: the writer does not escape line ends in attributes of 1.1.
+    made->setXmlStandalone(document->getXmlStandalone());
+    return made;
+  };
+  const std::unique_ptr<DOMDocument, Release> copy = newDocument();
   copyChildren(copy.get(), copy.get(), document);
 
   // The writer's own pretty-printing stays off: it would lay out anew what is laid out already.
@@ -143,7 +151,7 @@ std::string serialiseNode(DOMDocument* document) {
   };
 
   // An empty document is written as its declaration; what follows stands on lines of its own.
-  const std::unique_ptr<DOMDocument, Release> empty(implementation->createDocument());
+  const std::unique_ptr<DOMDocument, Release> empty = newDocument();
   std::string text = write(empty.get());
   if (!text.empty() && text.back() != '\n') text += '\n';
   for (const DOMNode* node = copy->getFirstChild(); node != nullptr;

@@ -40,7 +40,7 @@ class AS_EXPORT CAgentServicesFactory {
   static IDotNET* NewDotNETService(IProgram* program);
 
   // Writes the whole document of `service` to the file named `file`, in place of what that held, as
-  // indented XML in UTF-8. The indentation is put into the document itself and stays there; a
+  // indented XML 1.0 in UTF-8. The indentation is put into the document itself and stays there; a
   // second time changes nothing more. A file that cannot be opened or written is left so without a
   // word: to handle such errors use SerializeToString() and write the text yourself.
   // Throws as::CASException, "AgentServices: An error occurred serializing the XML to file "
