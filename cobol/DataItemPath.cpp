@@ -1,14 +1,11 @@
 #include "cobol/DataItemPath.h"
 
 #include <cstddef>
-#include <xercesc/util/XMLString.hpp>
 
 #include "as/IGroup.h"
 #include "cobol/DDVocabulary.h"
 #include "xml/List.h"
 #include "xml/XStr.h"
-
-using xercesc::XMLString;
 
 namespace {
 
@@ -21,9 +18,7 @@ as::IDataItem* follow(Components& components, std::size_t at, as::IList* items) 
   if (list == nullptr) return nullptr;
   const bool isLast = at + 1 == components.size();
   const XMLCh* const wanted = components[at];
-  const int count = list->getLength();
-  for (int i = 0; i < count; i++) {
-    if (!XMLString::equals(list->getNode(i)->getAttribute(DD::name), wanted)) continue;
+  for (int i = list->find(DD::name, wanted); i >= 0; i = list->find(DD::name, wanted, i + 1)) {
     auto* const item = as::interface_cast<as::IDataItem>(list->getElement(i));
     if (item == nullptr) continue;
     if (isLast) return item;

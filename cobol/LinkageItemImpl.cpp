@@ -26,12 +26,10 @@ as::IDataItem* CLinkageItemImpl::getDataItem() {
   auto* const program = as::interface_cast<CProgramImpl>(rootOf(getElement()));
   if (program == nullptr) return nullptr;
   // The top level only: what can be handed over at a call are whole records.
-  as::IList* const items = program->getDataItems();
-  const std::string name = text(DD::dataItem);
-  const int count = items->getLength();
-  for (int i = 0; i < count; i++) {
-    auto* const item = as::interface_cast<CDataItemImpl>(items->getItem(i));
-    if (item != nullptr && item->getName() == name) return as::interface_cast<as::IDataItem>(item);
+  auto* const items = as::interface_cast<CList>(program->getDataItems());
+  const XMLCh* const name = wide(DD::dataItem);
+  for (int i = items->find(DD::name, name); i >= 0; i = items->find(DD::name, name, i + 1)) {
+    if (auto* const item = as::interface_cast<as::IDataItem>(items->getElement(i))) return item;
   }
   return nullptr;
 }

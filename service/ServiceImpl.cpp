@@ -1,7 +1,6 @@
 #include "service/ServiceImpl.h"
 
 #include <xercesc/dom/DOMDocument.hpp>
-#include <xercesc/util/XMLString.hpp>
 
 #include "as/IEntryPoint.h"
 #include "as/IOperation.h"
@@ -127,19 +126,17 @@ CParameterImpl* CServiceImpl::getPrototypeByName(const std::string& name) {
   CXStr wanted(name);
   const XMLCh* const wideName = wanted;
   const int count = parameterTypeDefs_ == nullptr ? 0 : parameterTypeDefs_->getLength();
-  const auto nameOf = [this](int i) {
-    return parameterTypeDefs_->getNode(i)->getAttribute(SS::name);
-  };
   if (index_) {
     for (int& i = index_->definitions; i < count; i++) {
       if (CParameterImpl* const found = definitionAt(i))
-        index_->firstOfName.emplace(nameOf(i), found);
+        index_->firstOfName.emplace(parameterTypeDefs_->getNode(i)->getAttribute(SS::name), found);
     }
     const auto found = index_->firstOfName.find(wideName);
     return found == index_->firstOfName.end() ? nullptr : found->second;
   }
-  for (int i = 0; i < count; i++) {
-    if (!xercesc::XMLString::equals(nameOf(i), wideName)) continue;
+  if (count == 0) return nullptr;
+  for (int i = parameterTypeDefs_->find(SS::name, wideName); i >= 0;
+       i = parameterTypeDefs_->find(SS::name, wideName, i + 1)) {
     if (CParameterImpl* const found = definitionAt(i)) return found;
   }
   return nullptr;

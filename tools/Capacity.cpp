@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "Words.h"
+#include "as/IAlphanumeric.h"
 #include "as/INumeric.h"
 #include "as/INumericEdited.h"
 
@@ -84,7 +85,10 @@ std::string misfit(const Capacity& capacity, const Number& number) {
   if (number.floatingBytes > 0) {
     if (isUnlimited(capacity)) return "";
     if (capacity.kind != Kind::floating) return "holds no floating-point numbers";
-    return number.floatingBytes > 4 && capacity.digits < 15 ? "is too short for a double" : "";
+    if (number.floatingBytes > 4 && capacity.digits < 15) return "is too short for a double";
+    if (number.digits <= capacity.digits) return "";
+    return "holds " + count(capacity.digits, "digit") + ", the item has " +
+           std::to_string(number.digits);
   }
   const int places = capacity.kind == Kind::integer ? 0 : capacity.places;
   if (places >= 0 && number.fraction > places) {
@@ -112,16 +116,24 @@ std::string misfit(const Capacity& capacity, const Number& number) {
 
 }  // namespace
 
+bool isObject(as::IDataItem& item) {
+  return item.getDataType() == as::IDataItem::TYPE_ALPHANUMERIC &&
+         as::interface_cast<as::IAlphanumeric>(&item) == nullptr;
+}
+
+std::string kindOf(as::IDataItem& item) {
+  return isObject(item) ? "an object reference" : dataTypeWord(item.getDataType());
+}
+
 std::string misfit(const Capacity& capacity, as::IDataItem& item) {
   if (capacity.kind == Kind::bytes || capacity.kind == Kind::open) return "";
   const int type = item.getDataType();
   if (capacity.kind == Kind::group) {
-    return type == as::IDataItem::TYPE_GROUP ? ""
-                                             : "is for groups, the item is " + dataTypeWord(type);
+    return type == as::IDataItem::TYPE_GROUP ? "" : "is for groups, the item is " + kindOf(item);
   }
   if (capacity.kind == Kind::text) {
-    const bool opaque = type == as::IDataItem::TYPE_POINTER || type == as::IDataItem::TYPE_OBJECT;
-    return opaque ? "is text, the item is " + dataTypeWord(type) : "";
+    const bool opaque = type == as::IDataItem::TYPE_POINTER || isObject(item);
+    return opaque ? "is text, the item is " + kindOf(item) : "";
   }
   if (auto* const numeric = as::interface_cast<as::INumeric>(&item)) {
     return misfit(capacity, numberIn(*numeric));
@@ -129,6 +141,10 @@ std::string misfit(const Capacity& capacity, as::IDataItem& item) {
   if (auto* const edited = as::interface_cast<as::INumericEdited>(&item)) {
     Number number;
     number.digits = edited->getDigits();
+    const std::string picture = item.getPicture();
+    number.isSigned = picture.find_first_of("+-") != std::string::npos ||
+                      picture.find("CR") != std::string::npos ||
+                      picture.find("DB") != std::string::npos;
     // No accessor tells it. An absent one reads as 0.
     number.fraction =
         static_cast<int>(std::strtol(item.getAttributeValue("alignment").c_str(), nullptr, 10));
@@ -137,13 +153,17 @@ std::string misfit(const Capacity& capacity, as::IDataItem& item) {
   if (type == as::IDataItem::TYPE_POINTER || type == as::IDataItem::TYPE_INDEX) {
     Number number;
     number.bits = 8 * item.getLength();
-    if (capacity.kind != Kind::floating && misfit(capacity, number).empty()) return "";
+    if (misfit(capacity, number).empty()) return "";
     return "is too small for an item of " + count(number.bits, "bit");
   }
-  return "is a number, the item is " + dataTypeWord(type);
+  return "is a number, the item is " + kindOf(item);
 }
 
 bool isOfKnownSize(as::IDataItem& item) {
+  const int type = item.getDataType();
+  if (type == as::IDataItem::TYPE_POINTER || type == as::IDataItem::TYPE_INDEX) {
+    return item.getLength() > 0;
+  }
   auto* const numeric = as::interface_cast<as::INumeric>(&item);
   if (numeric == nullptr) return true;
   const Number number = numberIn(*numeric);

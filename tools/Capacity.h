@@ -34,6 +34,13 @@ bool isUnlimited(const Capacity& capacity);
 // Whether a type of capacity `larger` holds all that one of capacity `smaller` can hold.
 bool contains(const Capacity& larger, const Capacity& smaller);
 
+// Whether `item` is an object reference. Its data type is that of an alphanumeric item, but it has
+// no such interface.
+bool isObject(as::IDataItem& item);
+
+// What `item` is, to follow "the item is".
+std::string kindOf(as::IDataItem& item);
+
 // Whether the dictionary tells how large the numbers in `item` may be; true for what is no number.
 bool isOfKnownSize(as::IDataItem& item);
 

@@ -1,9 +1,11 @@
 #include "Commands.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <stdexcept>
+#include <system_error>
 #include <utility>
 
 #include "Conversion.h"
@@ -111,8 +113,28 @@ void checkEntryPoints(as::IProgram& program, const std::string& dictionary,
   }
 }
 
+// Throws Refusal when the output would take the place of the dictionary that it is made from.
+void checkOutput(const std::string& output, const std::string& dictionary) {
+  std::error_code ignored;
+  if (!std::filesystem::equivalent(output, dictionary, ignored)) return;
+  throw Refusal{output, 0, 0, "this is the dictionary", "name another file behind -o"};
+}
+
+// The document of `service`. Throws Refusal, about `file`, when XML cannot hold it.
+std::string textOf(as::IService& service, const std::string& file) {
+  try {
+    return as::CAgentServicesFactory::SerializeToString(&service);
+  } catch (const as::CASException&) {
+    throw Refusal{file, 0, 0,
+                  "the service cannot be written as XML: its elements nest too deep, or a name "
+                  "holds control characters",
+                  ""};
+  }
+}
+
 void makeNew(const DocumentReader& reader, const std::string& dictionary, const std::string& file,
              const NewOptions& options) {
+  checkOutput(file, dictionary);
   const Flavour& flavour = *findFlavour(options.flavour);
   std::unique_ptr<as::IProgram> program = reader.readDictionary(dictionary);
   checkEntryPoints(*program, dictionary, options.entryPoints);
@@ -125,7 +147,7 @@ void makeNew(const DocumentReader& reader, const std::string& dictionary, const 
   if (size.operations == 0) {
     notes.note("service", "the program has no entry points: there are no operations");
   }
-  replaceFile(file, as::CAgentServicesFactory::SerializeToString(service.get()));
+  replaceFile(file, textOf(*service, file));
   std::cout << printable(file) << ": " << flavour.name() << " service, operations "
             << size.operations << ", mapped items " << size.mappings << "\n";
 }
@@ -137,6 +159,7 @@ void convert(const DocumentReader& reader, const std::string& file, const std::s
   Findings notes(std::cout, output);
   const std::string named = service->getDDFilename();
   const std::string dictionary = named.empty() ? "" : besideFile(file, named);
+  checkOutput(output, dictionary);
   std::unique_ptr<as::IProgram> program;
   std::optional<ItemIndex> items;
   try {
@@ -146,15 +169,16 @@ void convert(const DocumentReader& reader, const std::string& file, const std::s
     notes.note("service", "the dictionary cannot be used, data types go by their names alone: " +
                               asText(refusal));
   }
-  if (program) service->setDDFilename(nameSeenFrom(output, dictionary).c_str());
+  if (!named.empty() && std::filesystem::path(named).is_relative()) {
+    service->setDDFilename(nameSeenFrom(output, dictionary).c_str());
+  }
   const std::string text =
-      convertDocument(as::CAgentServicesFactory::SerializeToString(service.get()), old, flavour,
-                      items ? &*items : nullptr, notes);
-  service = reader.readServiceText(text, file);
+      convertDocument(textOf(*service, file), old, flavour, items ? &*items : nullptr, notes);
+  service = reader.readServiceText(text, output);
   forEachMember<as::IOperation>(service->getOperations(), [&](as::IOperation& operation) {
     flavour.complete(*service, operation);
   });
-  replaceFile(output, as::CAgentServicesFactory::SerializeToString(service.get()));
+  replaceFile(output, textOf(*service, output));
   std::cout << printable(output) << ": " << old.name() << " service made a " << flavour.name()
             << " service\n";
 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <map>
+#include <sstream>
 #include <vector>
 
 #include "Findings.h"
@@ -30,9 +31,14 @@ class Conversion {
       : from_(from), to_(to), items_(items), notes_(notes) {}
 
   void convert(XmlElement root) {
-    replaceNamespace(root);
+    const std::string prefix = root.prefix();
+    const std::string old = root.get(prefix.empty() ? "xmlns" : "xmlns:" + prefix);
+    // A .NET service may come in the namespace of Web services, with what those may hold.
+    if (old == webFlavour().namespaceURI()) old_ = &webFlavour().additions();
+    replaceNamespace(root, old);
     root.set("implementation", to_.word());
     for (const XmlElement& element : root.descendants()) {
+      replaceNamespace(element, old);
       const std::string name = element.localName();
       if (name == "operation") {
         convertOperation(element);
@@ -47,23 +53,33 @@ class Conversion {
   }
 
  private:
-  // The root's own namespace, wherever an attribute names it.
-  void replaceNamespace(XmlElement& root) {
-    const std::string prefix = root.prefix();
-    const std::string old = root.get(prefix.empty() ? "xmlns" : "xmlns:" + prefix);
-    if (old.empty()) return;
-    // A .NET service may come in the namespace of Web services, with what those may hold.
-    if (old == webFlavour().namespaceURI()) old_ = &webFlavour().additions();
-    const std::string replacement = to_.namespaceURI();
-    for (const std::string& name : root.attributeNames()) {
-      std::string value = root.get(name);
-      std::size_t at = 0;
-      while ((at = value.find(old, at)) != std::string::npos) {
-        value.replace(at, old.size(), replacement);
-        at += replacement.size();
+  // Puts the new namespace where the old one is declared or located.
+  void replaceNamespace(XmlElement element, const std::string& old) const {
+    const std::string location = ":schemaLocation";
+    for (const std::string& name : element.attributeNames()) {
+      const std::string value = element.get(name);
+      const bool isDeclaration = name == "xmlns" || name.rfind("xmlns:", 0) == 0;
+      if (isDeclaration && value == old) {
+        element.set(name, to_.namespaceURI());
+      } else if (name.size() > location.size() &&
+                 name.compare(name.size() - location.size(), location.size(), location) == 0) {
+        element.set(name, relocated(value, old));
       }
-      if (value != root.get(name)) root.set(name, value);
     }
+  }
+
+  // A list of pairs, namespace and place: the old one's become the new one's.
+  std::string relocated(const std::string& pairs, const std::string& old) const {
+    std::istringstream words(pairs);
+    std::string result;
+    std::string name;
+    std::string place;
+    while (words >> name >> place) {
+      if (name == old) name = place = to_.namespaceURI();
+      if (!result.empty()) result += ' ';
+      result.append(name).append(" ").append(place);
+    }
+    return result;
   }
 
   void lose(const std::string& what) {
@@ -97,17 +113,15 @@ class Conversion {
     // Its header or fault is gone already.
     if (!field.isAttached()) return;
     dropAttributes(field, old_->fieldAttributes, to_.additions().fieldAttributes);
-    if (field.localName() == "fieldAttribute" && &to_ != &webFlavour()) {
-      field.rename("field");
-      notes_.note(placeOf(field), "it was a field attribute, which " + to_.name() +
-                                      " services have not: made a field");
-    }
+    if (field.localName() == "fieldAttribute" && &to_ != &webFlavour()) makeField(field);
     if (!field.get("ref").empty()) {
+      if (field.has("dataType")) lose("a data type beside a reference");
       field.remove("dataType");
       return;
     }
     if (&from_ == &to_) return;
-    const bool isGroup = field.hasChild("field");
+    const bool isGroup =
+        field.hasChild("field") || (&to_ != &webFlavour() && field.hasChild("fieldAttribute"));
     const std::string word = field.get("dataType");
     if (isGroup) {
       const bool repeats = std::strtol(field.get("occurs").c_str(), nullptr, 10) > 1;
@@ -116,28 +130,81 @@ class Conversion {
       if (type == nullptr && !word.empty() && word != "Array") lose("the data type of a group");
       return;
     }
-    const DataType* const old = word.empty() ? from_.defaultType() : from_.findDataType(word);
+    const DataType* const old = oldType(word);
     const DataType* type = old == nullptr ? nullptr : to_.bestTypeFor(old->capacity);
-    if (type == nullptr) {
-      as::IDataItem* const item = itemOf(field);
-      type = item == nullptr ? nullptr : to_.bestTypeFor(*item);
-      noteType(field, old, type, item);
-    }
+    if (type == nullptr) type = substitute(field, old);
     write(field, type);
   }
 
-  void noteType(const XmlElement& field, const DataType* old, const DataType* type,
-                as::IDataItem* item) {
+  void makeField(XmlElement& field) {
+    field.rename("field");
     const std::string place = placeOf(field);
-    const std::string lost =
-        old == nullptr
-            ? std::string("it had no data type")
-            : "data type " + quote(old->word) + " has no equivalent in " + to_.name() + " services";
-    if (type != nullptr) {
-      notes_.note(place, lost + ": made " + quote(type->word) + ", which holds " + item->getName());
-    } else {
-      notes_.note(place, lost + ": left without one");
+    std::string text =
+        "it was a field attribute, which " + to_.name() + " services have not: made a field";
+    std::vector<std::string> others;
+    for (const XmlElement& sibling : field.parent().children()) {
+      if (!sibling.isSame(field)) others.push_back(sibling.get("name"));
     }
+    const std::string name = field.get("name");
+    std::string unique = name;
+    for (int number = 2; holds(others, unique); ++number) {
+      unique = name + "-" + std::to_string(number);
+    }
+    if (unique != name) {
+      field.set("name", unique);
+      text += " and called " + quote(unique) + ", for there is a field of its name";
+    }
+    notes_.note(place, text);
+  }
+
+  const DataType* oldType(const std::string& word) const {
+    // It is written for objects, but it reads as any other word: as text.
+    if (&from_ == &comFlavour() && word == "object") return from_.findDataType("string");
+    return word.empty() ? from_.defaultType() : from_.findDataType(word);
+  }
+
+  // The type that is the nearest where none holds all that the old one could: one that holds the
+  // items, or else text. Null when not even that does.
+  const DataType* substitute(const XmlElement& field, const DataType* old) {
+    const std::string word = field.get("dataType");
+    std::string text;
+    if (old != nullptr) {
+      text = "data type " + quote(old->word) + " has no equivalent in " + to_.name() + " services";
+    } else if (word.empty()) {
+      text = "it had no data type";
+    } else {
+      text = "data type " + quote(word) + " is none of " + from_.name() + " services";
+    }
+    const std::vector<as::IDataItem*> items = itemsOf(field);
+    const auto holdsAll = [&items](const DataType& type) {
+      return std::all_of(items.begin(), items.end(), [&type](as::IDataItem* item) {
+        return misfit(type.capacity, *item).empty();
+      });
+    };
+    const DataType* type = nullptr;
+    for (as::IDataItem* const item : items) {
+      const DataType* const best = to_.bestTypeFor(*item);
+      if (type == nullptr && best != nullptr && holdsAll(*best)) type = best;
+    }
+    if (type != nullptr) {
+      text += ": made " + quote(type->word) + ", which holds";
+      for (as::IDataItem* const item : items) text += " " + item->getName();
+    } else {
+      for (const DataType& candidate : to_.dataTypes()) {
+        if (candidate.capacity.kind == Capacity::Kind::text && holdsAll(candidate)) {
+          type = &candidate;
+        }
+      }
+      if (type != nullptr) {
+        text += ": made " + quote(type->word);
+      } else {
+        const DataType* const gap = to_.defaultType();
+        text += ": left without one";
+        if (gap != nullptr) text += std::string(", which reads as ") + quote(gap->word);
+      }
+    }
+    notes_.note(placeOf(field), text);
+    return type;
   }
 
   static void write(XmlElement field, const DataType* type) {
@@ -148,17 +215,19 @@ class Conversion {
     }
   }
 
-  // The item that the first mapping leads to; null when there is none or the program is unknown.
-  as::IDataItem* itemOf(const XmlElement& field) const {
-    if (items_ == nullptr) return nullptr;
+  // The items that the mappings lead to; none when the program is unknown.
+  std::vector<as::IDataItem*> itemsOf(const XmlElement& field) const {
+    std::vector<as::IDataItem*> items;
+    if (items_ == nullptr) return items;
     for (const XmlElement& child : field.children()) {
       if (child.localName() != "mappings") continue;
       for (const XmlElement& mapping : child.children()) {
         const std::string path = mapping.get("item");
-        return items_->find(path.substr(0, path.find('(')));
+        as::IDataItem* const item = items_->find(path.substr(0, path.find('(')));
+        if (item != nullptr) items.push_back(item);
       }
     }
-    return nullptr;
+    return items;
   }
 
   // OPERATION.PARAMETER.FIELD

@@ -168,5 +168,12 @@ std::unique_ptr<as::IService> DocumentReader::withProgram(as::IService& service,
 }
 
 std::string besideFile(const std::string& file, const std::string& name) {
-  return (fs::path(file).parent_path() / name).string();
+  const fs::path folder = fs::path(file).parent_path();
+  const fs::path plain = folder / name;
+  // The library takes ".." out of a name as if folders were no links.
+  std::error_code failure;
+  if (!fs::exists(plain, failure) || fs::equivalent(plain, plain.lexically_normal(), failure)) {
+    return plain.string();
+  }
+  return (fs::canonical(folder, failure) / name).lexically_normal().string();
 }

@@ -34,6 +34,14 @@ class DotNetFlavour : public Flavour {
             service.getImplementation() == implementation());
   }
 
+  // What one in the namespace of Web services may hold beside.
+  std::vector<Message> messagesOf(as::IOperation& operation) const override {
+    return webFlavour().messagesOf(operation);
+  }
+  as::IList* attributesOf(as::IField& field) const override {
+    return webFlavour().attributesOf(field);
+  }
+
   const std::vector<DataType>& dataTypes() const override { return types_; }
 
   std::optional<int> dataTypeOf(as::IField& field) const override {

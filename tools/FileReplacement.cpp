@@ -56,8 +56,10 @@ class Descriptor {
 // A file of a name of its own, removed unless it took the place of another.
 class TemporaryFile {
  public:
+  // In the folder of that file: only there can it take the file's place.
   explicit TemporaryFile(const std::string& beside)
-      : path_(beside + ".XXXXXX"), file_(::mkstemp(path_.data())) {}
+      : path_((fs::path(beside).parent_path() / ".agentservices-XXXXXX").string()),
+        file_(::mkstemp(path_.data())) {}
   ~TemporaryFile() {
     if (!taken_ && file_.isOpen()) ::unlink(path_.c_str());
     if (!taken_ && closed_) ::unlink(path_.c_str());
@@ -118,6 +120,9 @@ void replaceFile(const std::string& file, const std::string& content) {
     mode = old.st_mode & 07777;
   } else if (errno == ENOENT) {
     mode = modeOfNewFiles();
+    // A link that leads to nothing yet stays one, too.
+    std::error_code failure;
+    if (fs::is_symlink(file, failure)) target = fs::weakly_canonical(file, failure).string();
   } else {
     fail(file + " cannot be written", errno);
   }
@@ -129,8 +134,12 @@ void replaceFile(const std::string& file, const std::string& content) {
 }
 
 std::string nameSeenFrom(const std::string& from, const std::string& to) {
+  // Folders may be links, which would lead elsewhere on the way back; the file's own name stays.
   std::error_code failure;
-  const fs::path folder = fs::absolute(from, failure).parent_path();
-  const fs::path name = fs::proximate(to, folder, failure);
+  const auto folderOf = [&failure](const std::string& file) {
+    return fs::weakly_canonical(fs::absolute(file, failure).parent_path(), failure);
+  };
+  const fs::path target = folderOf(to) / fs::path(to).filename();
+  const fs::path name = target.lexically_proximate(folderOf(from));
   return failure ? to : name.string();
 }

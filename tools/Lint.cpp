@@ -246,7 +246,7 @@ class MemberLint {
     if (written.empty() || written == word) return;
     if (flavour_.findDataType(written) != nullptr) {
       findings_.warning(where, attribute + " " + quote(written) + " reads as " + quote(word),
-                        "leave it out or use another word");
+                        "write " + quote(word));
       return;
     }
     findings_.error(where,
@@ -341,6 +341,11 @@ class MemberLint {
       reportLostReference(name);
       return;
     }
+    if (!(field.getAttributeValue("occurs") + field.getAttributeValue("dataType")).empty()) {
+      findings_.warning(
+          where(), "it refers to " + quote(name) + ": its own occurs and data type do not count",
+          "remove them");
+    }
     const auto found = definitions_.find(target);
     if (found == definitions_.end()) return;
     const Definition& referred = found->second;
@@ -402,8 +407,9 @@ class MemberLint {
       return nullptr;
     }
     const std::vector<as::IDataItem*> tables = tablesAround(*item);
+    if (badInner) return nullptr;
     const bool innerFits =
-        !badInner && checkInnerSubscripts(text.substr(0, text.find('(')), inner, tables, where);
+        checkInnerSubscripts(text.substr(0, text.find('(')), inner, tables, where);
     if (innerFits && !badOuter) checkOuterSubscripts(outerText, outer, inner, where);
     return item;
   }
@@ -468,6 +474,19 @@ class MemberLint {
                       "subscript " + quote(text) + " is open (*) where the item's is a number",
                       "open both or neither");
     }
+    // Each open subscript of the item belongs to an open one of the interface.
+    std::size_t at = 0;
+    for (const int subscript : inner) {
+      const bool isCounted = outer.size() == inner.size() || subscript == everyOccurrence;
+      if (!isCounted) continue;
+      const int other = outer[at++];
+      if (subscript != everyOccurrence || other == everyOccurrence) continue;
+      findings_.error(where,
+                      "all occurrences (*) of the item go to occurrence " + std::to_string(other) +
+                          " of the interface",
+                      "open both or neither");
+      return;
+    }
     for (const int subscript : outer) {
       if (subscript == everyOccurrence || subscript >= 1) continue;
       findings_.error(where,
@@ -502,7 +521,14 @@ class MemberLint {
         open.push_back(tables[i]->getMaxOccurs());
       }
     }
-    if (occurs.size() < open.size()) {
+    const auto fixed = static_cast<std::size_t>(std::count_if(
+        outer.begin(), outer.end(), [](int subscript) { return subscript != everyOccurrence; }));
+    if (occurs.size() > open.size() + fixed) {
+      findings_.error(where(),
+                      "the field stands in " + count(occurs.size(), "table") + ", the item in " +
+                          count(open.size(), "open one"),
+                      "take \"occurs\" away, or map to the table's items");
+    } else if (occurs.size() < open.size()) {
       findings_.error(where(),
                       "all occurrences in " + count(open.size(), "table") + " are mapped to " +
                           (occurs.empty() ? std::string("a single field")

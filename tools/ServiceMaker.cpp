@@ -78,6 +78,7 @@ class ServiceMaker {
 
  private:
   void addOperation(as::IEntryPoint& entryPoint, const std::string& name) {
+    operation_ = name;
     as::IOperation& operation = *service_.addOperation(name.c_str(), &entryPoint);
     flavour_.complete(service_, operation);
     Names names;
@@ -131,15 +132,22 @@ class ServiceMaker {
     noteCount(item);
     Plan plan;
     plan.item = &item;
+    bool isThere = false;  // What a redefinition redefines.
     forEachMember<as::IDataItem>(group->getChildren(), [&](as::IDataItem& member) {
-      if (member.isRedefined() || member.isRenamed()) {
-        note(member, member.isRenamed()
-                         ? "it renames other items, which are there already: left out"
-                         : "it redefines other items, which are there already: left out");
+      if (member.isRenamed()) {
+        note(member, "it renames other items, which are there already: left out");
+        return;
+      }
+      if (member.isRedefined() && isThere) {
+        note(member, "it redefines other items, which are there already: left out");
         return;
       }
       std::optional<Plan> planned = planOf(member, tables);
+      isThere = planned.has_value();
       if (!planned) return;
+      if (member.isRedefined()) {
+        note(member, "it redefines an item that cannot be mapped: it stands in its place");
+      }
       // A group without a name is none to the service, unless it is a table.
       if (isUnnamed(member) && member.getMaxOccurs() == 0) {
         for (Plan& inner : planned->members) plan.members.push_back(std::move(inner));
@@ -156,7 +164,13 @@ class ServiceMaker {
       ++unnamed_;
       return std::nullopt;
     }
-    if (items_.find(dottedPath(item)) != &item) {
+    as::IDataItem* const found = items_.find(dottedPath(item));
+    if (found == nullptr) {
+      note(item, "no mapping can name it, for its path holds a period, a parenthesis or a leading $: left "
+                 "out");
+      return std::nullopt;
+    }
+    if (found != &item) {
       note(item, "no mapping leads to it, for another item has the same path: left out");
       return std::nullopt;
     }
@@ -167,7 +181,7 @@ class ServiceMaker {
     const DataType* const type = flavour_.bestTypeFor(item);
     if (type == nullptr) {
       note(item, "no data type of " + flavour_.name() + " services holds an item that is " +
-                     dataTypeWord(item.getDataType()) + ": left out");
+                     kindOf(item) + ": left out");
       return std::nullopt;
     }
     if (item.getDataType() == as::IDataItem::TYPE_NUMERIC_EDITED ||
@@ -188,15 +202,14 @@ class ServiceMaker {
 
   void noteCount(as::IDataItem& item) {
     as::IDataItem* const count = item.hasODO() ? item.getODO() : nullptr;
-    if (!item.hasODO()) return;
+    if (!item.hasODO() || item.getMaxOccurs() == 0) return;
     note(item, "it occurs up to " + std::to_string(item.getMaxOccurs()) + " times, as often as " +
                    (count == nullptr ? item.getAttributeValue("odo") : dottedPath(*count)) +
                    " tells");
   }
 
   void note(as::IDataItem& item, const std::string& text) {
-    const std::string operation = place_.substr(0, place_.find('.'));
-    notes_.note(operation + "." + dottedPath(item), text);
+    notes_.note(operation_ + "." + dottedPath(item), text);
   }
 
   // Gives the field its type and mapping, or its fields.
@@ -220,6 +233,8 @@ class ServiceMaker {
   const Flavour& flavour_;
   Findings& notes_;
   ItemIndex items_;
+  // Where the work is: the operation and, in it, the parameter.
+  std::string operation_;
   std::string place_;
   int unnamed_ = 0;
   int mappings_ = 0;

@@ -20,6 +20,7 @@ class XmlElement {
 
   // Whether there is an element at all: parent() of the root has none.
   bool isElement() const { return element_ != nullptr; }
+  bool isSame(const XmlElement& other) const { return element_ == other.element_; }
   // Whether it belongs to the document still.
   bool isAttached() const;
 

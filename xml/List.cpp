@@ -1,6 +1,7 @@
 #include "xml/List.h"
 
 #include <algorithm>
+#include <xercesc/util/XMLString.hpp>
 
 #include "xml/ElementChildren.h"
 
@@ -33,6 +34,14 @@ void CList::onAddChild(CElementImpl* /*child*/) {}
 DOMElement* CList::getNode(int index) const { return nodes_[static_cast<std::size_t>(index)]; }
 
 CElementImpl* CList::getElement(int index) const { return wrapperOf(getNode(index)); }
+
+int CList::find(const XMLCh* attribute, const XMLCh* value, int from) const {
+  const int count = static_cast<int>(nodes_.size());
+  for (int i = from; i < count; i++) {
+    if (xercesc::XMLString::equals(getNode(i)->getAttribute(attribute), value)) return i;
+  }
+  return -1;
+}
 
 void CList::addChildren() {
   ElementChildren children(getElement(), filter_);

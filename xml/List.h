@@ -31,6 +31,10 @@ class CList : virtual public as::IList, virtual public CElementImpl {
   CElementImpl* getElement(int index) const;
   using CElementImpl::getElement;
 
+  // The first member, from number `from` on, whose element has that value of an attribute; -1 for
+  // none. Compared where it stands in the document, which is much faster than asking the members.
+  int find(const XMLCh* attribute, const XMLCh* value, int from = 0) const;
+
   // Appends every child element that the filter accepts, in document order, each with its own
   // children collected before the next. REQUIRES: each of them carries its wrapper.
   // Calling it again appends them all again.

@@ -329,8 +329,8 @@ INSTANTIATE_TEST_SUITE_P(
         NoteRow{"NameWithADot",
                 "<alphanumeric name='A.B' offset='1' length='1' picture='X'/>",
                 {"KEPT"},
-                {"GO.R.A.B: no mapping leads to it, for another item has the same path: left "
-                 "out"}}),
+                {"GO.R.A.B: no mapping can name it, for its path holds a period, a parenthesis or "
+                 "a leading $: left out"}}),
     labelOf<NoteRow>);
 
 TEST_F(ToolNewTest, ItemsInTooManyTablesAreLeftOut) {
