@@ -126,14 +126,15 @@ std::string kindOf(as::IDataItem& item) {
 }
 
 std::string misfit(const Capacity& capacity, as::IDataItem& item) {
-  if (capacity.kind == Kind::bytes || capacity.kind == Kind::open) return "";
+  if (capacity.kind == Kind::open) return "";
+  if (isObject(item)) return "is a value, the item is " + kindOf(item);
+  if (capacity.kind == Kind::bytes) return "";
   const int type = item.getDataType();
   if (capacity.kind == Kind::group) {
     return type == as::IDataItem::TYPE_GROUP ? "" : "is for groups, the item is " + kindOf(item);
   }
   if (capacity.kind == Kind::text) {
-    const bool opaque = type == as::IDataItem::TYPE_POINTER || isObject(item);
-    return opaque ? "is text, the item is " + kindOf(item) : "";
+    return type == as::IDataItem::TYPE_POINTER ? "is text, the item is " + kindOf(item) : "";
   }
   if (auto* const numeric = as::interface_cast<as::INumeric>(&item)) {
     return misfit(capacity, numberIn(*numeric));

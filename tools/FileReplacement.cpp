@@ -95,6 +95,17 @@ mode_t modeOfNewFiles() {
   return 0666 & ~mask;
 }
 
+// Where a chain of links leads that ends in no file.
+std::string endOfLinks(fs::path file) {
+  constexpr int mostLinks = 40;  // As the system has it.
+  std::error_code failure;
+  for (int i = 0; i < mostLinks && fs::is_symlink(file, failure); ++i) {
+    // An absolute target takes the place of the folder, too.
+    file = file.parent_path() / fs::read_symlink(file, failure);
+  }
+  return file.string();
+}
+
 void writeThrough(const std::string& file, const std::string& content) {
   Descriptor target(::open(file.c_str(), O_WRONLY | O_CLOEXEC));
   if (!target.isOpen() || !target.write(content) || !target.close()) {
@@ -121,8 +132,7 @@ void replaceFile(const std::string& file, const std::string& content) {
   } else if (errno == ENOENT) {
     mode = modeOfNewFiles();
     // A link that leads to nothing yet stays one, too.
-    std::error_code failure;
-    if (fs::is_symlink(file, failure)) target = fs::weakly_canonical(file, failure).string();
+    target = endOfLinks(file);
   } else {
     fail(file + " cannot be written", errno);
   }

@@ -166,8 +166,10 @@ class ServiceMaker {
     }
     as::IDataItem* const found = items_.find(dottedPath(item));
     if (found == nullptr) {
-      note(item, "no mapping can name it, for its path holds a period, a parenthesis or a leading $: left "
-                 "out");
+      note(
+          item,
+          "no mapping can name it, for its path holds a period, a parenthesis or a leading $: left "
+          "out");
       return std::nullopt;
     }
     if (found != &item) {

@@ -140,6 +140,26 @@ INSTANTIATE_TEST_SUITE_P(
 
                 "error: pay.p: the mapping has no subscripts of the interface for 1 table; write "
                 "'*' in \"subscript\""},
+        // A field for each line and cell, and only one of the two tables of the item is open.
+        Finding{
+            "InterfaceClosed",
+            mapped("occurs='3' dataType='BigDecimal'", "item='REQ.LINE.AMOUNT(*)' subscript='2'"),
+
+            "error: pay.p: all occurrences (*) of the item go to occurrence 2 of the "
+            "interface; open both or neither"},
+        Finding{"InterfaceCrossed",
+                mapped("occurs='3' dataType='byte'", "item='REQ.LINE.CELL(1,*)' subscript='*,1'"),
+
+                "error: pay.p: all occurrences (*) of the item go to occurrence 1 of the "
+                "interface; open both or neither"},
+        Finding{"FieldOfTooManyTables", mapped("occurs='5' dataType='int'", "item='REQ.ID'"),
+
+                "error: pay.p: the field stands in 1 table, the item in 0 open ones; take "
+                "\"occurs\" away, or map to the table's items"},
+        Finding{
+            "FieldWithAFixedPlaceInItsTable",
+            mapped("occurs='5' dataType='BigDecimal'", "item='REQ.LINE.AMOUNT(1)' subscript='3'"),
+            "", false},
         Finding{"InterfaceOpen",
                 mapped("dataType='BigDecimal'", "item='REQ.LINE.AMOUNT(1)' subscript='*'"),
 
@@ -201,6 +221,14 @@ INSTANTIATE_TEST_SUITE_P(
             "item='REQ.ID'/></mappings></parameter></parameterTypeDefs>",
 
             "error: type A: type definition 'B' comes only later; move it in front of this one"},
+        Finding{"WithWordsOfItsOwn",
+                "<parameterTypeDefs><parameter name='A' dataType='int'><mappings><mapping "
+                "item='REQ.ID'/></mappings></parameter></parameterTypeDefs>" +
+                    parameters("<parameter name='p' ref='A' occurs='2'/>"),
+
+                "warning: pay.p: it refers to 'A': its own occurs and data type do not count; "
+                "remove them",
+                false},
         Finding{"Itself", "<parameterTypeDefs><parameter name='A' ref='A'/></parameterTypeDefs>",
 
                 "error: type A: type definition 'A' refers to itself; refer to another definition "

@@ -120,6 +120,8 @@ INSTANTIATE_TEST_SUITE_P(
         TypeRow{"ComCurrency", "com", "currency", {"currency", "Decimal", "BigDecimal", "decimal"}},
         TypeRow{"ComString", "com", "string", {"string", "String", "String", "string"}},
         TypeRow{"ComDate", "com", "date", {"date", "", "", ""}},
+        // It reads as text, as every unknown word of COM services does.
+        TypeRow{"ComObject", "com", "object", {"object", "String", "String", "string"}},
         TypeRow{"ComNone", "com", "", {"", "", "", ""}},
         TypeRow{"NetByte", "dotnet", "Byte", {"byte", "Byte", "short", "unsignedByte"}},
         TypeRow{"NetSByte", "dotnet", "SByte", {"short", "SByte", "byte", "byte"}},
@@ -161,6 +163,65 @@ TEST_F(ToolConvertTest, TheItemHelpsWhereNoTypeHoldsAsMuch) {
   EXPECT_THAT(notesOf(outcome),
               ElementsAre("op.p: data type 'BigDecimal' has no equivalent in COM services: made "
                           "'currency', which holds AMOUNT"));
+}
+
+TEST_F(ToolConvertTest, EveryItemOfAFieldCounts) {
+  write("PAY.xml", test::payProgram());
+  const test::ToolOutcome outcome =
+      convert(service(test::flavours::javaNamespace, "java",
+                      operation("<parameter name='p' dataType='BigDecimal'><mappings>"
+                                "<mapping item='REQ.LINE.CELL(1,1)'/>"
+                                "<mapping item='REQ.LINE.AMOUNT(1)'/></mappings></parameter>"),
+                      "dataDictFilename='PAY.xml'"),
+              "com");
+  EXPECT_THAT(notesOf(outcome),
+              ElementsAre("op.p: data type 'BigDecimal' has no equivalent in COM services: made "
+                          "'currency', which holds CELL AMOUNT"));
+}
+
+TEST_F(ToolConvertTest, ATypeOfNoWordIsToldAsOne) {
+  const test::ToolOutcome outcome =
+      convert(service(test::flavours::webNamespace, "ws",
+                      operation("<parameter name='p' dataType='Int32'/>")),
+              "java");
+  EXPECT_THAT(notesOf(outcome),
+              ElementsAre("op.p: data type 'Int32' is none of Web services: made 'String'"));
+}
+
+TEST_F(ToolConvertTest, NamespacesAreReplacedWhereverTheyAreDeclared) {
+  const std::string java = test::flavours::javaNamespace;
+  const std::string web = test::flavours::webNamespace;
+  convert("<service xmlns='" + java +
+              "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" +
+              java + " " + java + "' name='see " + java + " for more' implementation='java'>" +
+              "<q:operations xmlns:q='" + java + "'><operation xmlns='" + java +
+              "' name='o'/></q:operations></service>",
+          "ws");
+  EXPECT_THAT(output(), AllOf(HasSubstr("name=\"see " + java + " for more\""),
+                              HasSubstr("xmlns:q=\"" + web + "\""),
+                              HasSubstr("xsi:schemaLocation=\"" + web + " " + web + "\"")));
+  EXPECT_EQ(converted()["operations"][0]["name"], "o");
+}
+
+TEST_F(ToolConvertTest, AFieldAttributeOfAFieldsNameIsRenamed) {
+  const test::ToolOutcome outcome =
+      convert(service(test::flavours::webNamespace, "ws",
+                      operation("<parameter name='p'><field name='a' dataType='int'/>"
+                                "<fieldAttribute name='a' dataType='short'/></parameter>")),
+              "java");
+  EXPECT_THAT(outcome.out, HasSubstr("made a field and called 'a-2', for there is a field of its "
+                                     "name"));
+  const nlohmann::json fields = converted()["operations"][0]["parameters"][0]["children"];
+  EXPECT_EQ(fields[1]["name"], "a-2");
+}
+
+TEST_F(ToolConvertTest, TheDictionaryIsNeverTheOutput) {
+  write("PAY.xml", test::payProgram());
+  write("s.xml", service(test::flavours::javaNamespace, "java", "", "dataDictFilename='PAY.xml'"));
+  const test::ToolOutcome outcome = run({"convert", "--flavour", "com", "s.xml", "-o", "PAY.xml"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("PAY.xml: error: this is the dictionary"));
+  EXPECT_EQ(contentOf(pathOf("PAY.xml")), test::payProgram());
 }
 
 TEST_F(ToolConvertTest, ADictionaryThatCannotBeReadIsToldAndDoneWithout) {
@@ -317,8 +378,12 @@ TEST_F(ToolConvertTest, TheDictionaryIsNamedAsSeenFromTheOutput) {
   write("a/s.xml",
         service(test::flavours::javaNamespace, "java", "", "dataDictFilename='PAY.xml'"));
   std::filesystem::create_directory(directory() / "b");
-  ASSERT_EQ(run({"convert", "--flavour", "com", "a/s.xml", "-o", "b/t.xml"}).exitCode, 0);
-  EXPECT_THAT(contentOf(pathOf("b/t.xml")), HasSubstr("dataDictFilename=\"../a/PAY.xml\""));
+  // Whether it is there or not.
+  for (int i = 0; i < 2; i++) {
+    ASSERT_EQ(run({"convert", "--flavour", "com", "a/s.xml", "-o", "b/t.xml"}).exitCode, 0);
+    EXPECT_THAT(contentOf(pathOf("b/t.xml")), HasSubstr("dataDictFilename=\"../a/PAY.xml\""));
+    std::filesystem::remove(directory() / "a/PAY.xml");
+  }
 }
 
 TEST_F(ToolConvertTest, AFailureLeavesTheOldFile) {

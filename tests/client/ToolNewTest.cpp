@@ -180,6 +180,13 @@ INSTANTIATE_TEST_SUITE_P(
                 "numericEdited length='9' digits='7' alignment='2' "
                 "picture='Z(5)9.99'",
                 {"string", "String", "String", "string"}},
+        TypeRow{"LongExternalFloat",
+                "numeric usage='externalFloat' digits='18' alignment='16' length='24' "
+                "picture='+9(02).9(16)E+99' sign='true'",
+                {"string", "String", "BigDecimal", "decimal"}},
+        TypeRow{"ObjectReference", "cobolObject length='8'", {"", "", "", ""}},
+        TypeRow{"PointerOfUnknownLength", "pointer", {"", "", "BigDecimal", "decimal"}},
+        TypeRow{"IndexOfUnknownLength", "index", {"string", "String", "BigDecimal", "decimal"}},
         TypeRow{"Pointer", "pointer length='8'", {"", "UInt64", "BigInteger", "unsignedLong"}},
         TypeRow{"Index", "index length='4'", {"currency", "UInt32", "long", "unsignedInt"}}),
     labelOf<TypeRow>);
@@ -300,6 +307,26 @@ INSTANTIATE_TEST_SUITE_P(
                 "<group name='FILLER' offset='1' length='1' minOccurs='2' maxOccurs='2'>"
                 "<alphanumeric name='A' offset='1' length='1' picture='X'/></group>",
                 {"KEPT", "FILLER"},
+                {}},
+        NoteRow{"RedefinitionOfFiller",
+                "<alphanumeric name='FILLER' offset='1' length='4' picture='X(4)'/>"
+                "<group name='G' offset='1' length='4' redefines='true'>"
+                "<alphanumeric name='A' offset='1' length='4' picture='X(4)'/></group>"
+                "<group name='H' offset='1' length='4' redefines='true'>"
+                "<alphanumeric name='B' offset='1' length='4' picture='X(4)'/></group>",
+                {"KEPT", "G"},
+                {"GO.R.G: it redefines an item that cannot be mapped: it stands in its place",
+                 "GO.R.H: it redefines other items, which are there already: left out",
+                 "GO.R: 1 item without a name left out"}},
+        NoteRow{"MembersOfAGroupWithADot",
+                "<group name='G.H' offset='1' length='1'>"
+                "<alphanumeric name='A' offset='1' length='1' picture='X'/></group>",
+                {"KEPT"},
+                {"GO.R.G.H.A: no mapping can name it, for its path holds a period, a parenthesis "
+                 "or a leading $: left out"}},
+        NoteRow{"CountWithoutATable",
+                "<alphanumeric name='T' offset='2' length='1' picture='X' odo='R.KEPT'/>",
+                {"KEPT", "T"},
                 {}},
         NoteRow{"EmptyGroup",
                 "<group name='G' offset='1' length='1'>"
@@ -459,6 +486,63 @@ TEST_F(ToolNewTest, WrongCallsAreExplained) {
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_THAT(outcome.err, HasSubstr(row.text));
   }
+}
+
+TEST_F(ToolNewTest, TheDictionaryIsNeverTheOutput) {
+  write("p.xml", test::payProgram());
+  std::filesystem::create_symlink("p.xml", directory() / "link.xml");
+  for (const char* const output : {"p.xml", "./p.xml", "link.xml"}) {
+    const test::ToolOutcome outcome = run({"new", "--flavour", "ws", "p.xml", "-o", output});
+    EXPECT_EQ(outcome.exitCode, 1) << output;
+    EXPECT_THAT(outcome.err, HasSubstr(std::string(output) + ": error: this is the dictionary"));
+    EXPECT_EQ(contentOf(pathOf("p.xml")), test::payProgram());
+  }
+}
+
+TEST_F(ToolNewTest, FoldersMayBeLinks) {
+  write("p.xml", test::payProgram());
+  std::filesystem::create_directories(directory() / "sub/deep");
+  std::filesystem::create_directory_symlink("sub/deep", directory() / "link");
+  ASSERT_EQ(run({"new", "--flavour", "ws", "p.xml", "-o", "link/s.xml"}).exitCode, 0);
+  EXPECT_EQ(run({"lint", "link/s.xml"}).out, "link/s.xml: clean\n");
+  EXPECT_EQ(run({"lint", "sub/deep/s.xml"}).out, "sub/deep/s.xml: clean\n");
+}
+
+TEST_F(ToolNewTest, TheDictionaryIsNamedAsItWasThoughItIsALink) {
+  write("old/p.xml", test::payProgram());
+  std::filesystem::create_symlink("old/p.xml", directory() / "current.xml");
+  ASSERT_EQ(run({"new", "--flavour", "ws", "current.xml", "-o", "s.xml"}).exitCode, 0);
+  EXPECT_THAT(contentOf(pathOf("s.xml")), HasSubstr("dataDictFilename=\"current.xml\""));
+}
+
+TEST_F(ToolNewTest, ALinkThatLeadsToNothingYetStaysOne) {
+  std::filesystem::create_symlink("target.xml", directory() / "s.xml");
+  make(test::payProgram());
+  EXPECT_TRUE(std::filesystem::is_symlink(directory() / "s.xml"));
+  EXPECT_THAT(contentOf(pathOf("target.xml")), HasSubstr("<service"));
+}
+
+TEST_F(ToolNewTest, NamesMayBeAsLongAsTheSystemAllows) {
+  write("p.xml", test::payProgram());
+  const std::string name = std::string(251, 's') + ".xml";
+  EXPECT_EQ(run({"new", "--flavour", "ws", "p.xml", "-o", name}).exitCode, 0);
+  EXPECT_TRUE(std::filesystem::exists(directory() / name));
+}
+
+TEST_F(ToolNewTest, WhatXmlCannotHoldIsToldAndNotWritten) {
+  const test::ToolOutcome outcome = make(test::payProgram(), "ws", {"--name", "x\x01"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("s.xml: error: the service cannot be written as XML"));
+  EXPECT_FALSE(std::filesystem::exists(directory() / "s.xml"));
+}
+
+TEST_F(ToolNewTest, NamesOfEntryPointsMayHoldDots) {
+  const std::string program = dictionary(
+      "<dataItems><group name='R' offset='0' length='1'><alphanumeric name='A' offset='0' "
+      "length='1' picture='X'/><alphanumeric name='N' offset='0' length='1' renames='true'/>"
+      "</group></dataItems><entryPoints><entryPoint name='M.X'><parameter dataItem='R'/>"
+      "</entryPoint></entryPoints>");
+  EXPECT_THAT(make(program).out, HasSubstr("s.xml: note: M.X.R.N: it renames"));
 }
 
 TEST_F(ToolNewTest, WhatIsNoDictionaryIsRefused) {
