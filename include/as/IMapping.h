@@ -38,6 +38,8 @@ class AS_EXPORT IMapping : virtual public IElement {
   // counts), "*" for each of them goes behind the path and to "subscript". For any other item
   // "subscript" stays as it was, neither removed nor cleared: it may hold the list of an earlier
   // table item. Null writes nothing.
+  // An item in more than 16 tables is written like any other, but no schema of services takes so
+  // many subscripts: such a document is not read back.
   virtual void setDataItem(IDataItem* item) = 0;
 
   // The subscripts in "subscript". Sets the first 16 entries of `subscripts` to -1, then stores

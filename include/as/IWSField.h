@@ -63,6 +63,8 @@ class AS_EXPORT IWSField : virtual public IField {
   // Adds a field attribute of that name with 0 occurrences behind the others and returns it; the
   // service keeps it. Null, and nothing changes, when there is a reference. A null name counts as
   // an empty one.
+  // REQUIRES: the object is no field attribute itself. Those hold mappings only: a document in
+  // which one holds fields or field attributes is not read back.
   virtual IWSParameter* addFieldAttribute(const char* name) = 0;
 
   // For a "parameter" element: attribute "namespace"; empty when absent.
