@@ -46,13 +46,6 @@ std::unique_ptr<as::IService> parseFile(const std::string& path) {
   return std::unique_ptr<as::IService>(test::newServices()->parseService(path.c_str(), false));
 }
 
-// The service in `text` with the program that stands beside the examples.
-std::unique_ptr<as::IService> parseText(const std::string& text, bool loadProgram) {
-  return std::unique_ptr<as::IService>(test::newServices()->parseService(
-      "service.xml", reinterpret_cast<const unsigned char*>(text.data()),
-      static_cast<unsigned int>(text.size()), loadProgram));
-}
-
 class ExampleService : public test::ToolTest, public testing::WithParamInterface<Example> {};
 
 TEST_P(ExampleService, IsValid) {
@@ -78,7 +71,7 @@ TEST_P(ExampleService, IsTheSameModelWrittenAndRead) {
   const std::string before = test::modelText(*service);
   const std::string text = as::CAgentServicesFactory::SerializeToString(service.get());
   EXPECT_EQ(test::modelText(*service), before);
-  const auto again = parseText(text, false);
+  const auto again = test::parseService(text, false);
   EXPECT_EQ(test::modelText(*again), before);
   EXPECT_EQ(as::CAgentServicesFactory::SerializeToString(again.get()), text);
 }
@@ -88,11 +81,12 @@ TEST_P(ExampleService, IsTheSameModelWithItsProgramWrittenAndRead) {
   const std::string dictionary = std::string(AS_EXAMPLES_DIR "/") + GetParam().program + ".xml";
   service->setDDFilename(dictionary.c_str());
   const auto complete =
-      parseText(as::CAgentServicesFactory::SerializeToString(service.get()), true);
+      test::parseService(as::CAgentServicesFactory::SerializeToString(service.get()), true);
   ASSERT_NE(complete->getProgram(), nullptr);
   complete->setDDFilename(dictionary.c_str());
   const std::string before = test::modelText(*complete);
-  const auto again = parseText(as::CAgentServicesFactory::SerializeToString(complete.get()), true);
+  const auto again =
+      test::parseService(as::CAgentServicesFactory::SerializeToString(complete.get()), true);
   again->setDDFilename(dictionary.c_str());
   EXPECT_EQ(test::modelText(*again), before);
 }

@@ -12,11 +12,7 @@
 
 namespace {
 
-std::unique_ptr<as::IService> parseService(const std::string& document, bool loadProgram = false) {
-  return std::unique_ptr<as::IService>(test::newServices()->parseService(
-      "service.xml", reinterpret_cast<const unsigned char*>(document.data()),
-      static_cast<unsigned int>(document.size()), loadProgram));
-}
+using test::parseService;
 
 // A service with one operation around `parameters`, and `definitions` of types.
 std::string serviceOf(const std::string& parameters, const std::string& definitions = "",

@@ -18,15 +18,10 @@ namespace {
 using test::itemOf;
 using test::javaService;
 using test::newServices;
+using test::parseService;
 using test::payProgram;
 using test::payService;
 using test::TempDirectory;
-
-std::unique_ptr<as::IService> parseService(const std::string& document, bool loadProgram = false) {
-  return std::unique_ptr<as::IService>(newServices()->parseService(
-      "service.xml", reinterpret_cast<const unsigned char*>(document.data()),
-      static_cast<unsigned int>(document.size()), loadProgram));
-}
 
 // A service document with one operation.
 std::string operationDocument(const std::string& attributes, const std::string& content = "") {

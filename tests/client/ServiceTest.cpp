@@ -18,6 +18,7 @@ namespace {
 using test::itemOf;
 using test::javaService;
 using test::newServices;
+using test::parseService;
 using test::payProgram;
 using test::payService;
 using test::Result;
@@ -27,10 +28,6 @@ as::IService* request(const std::string& document, bool loadProgram) {
   return newServices()->parseService("service.xml",
                                      reinterpret_cast<const unsigned char*>(document.data()),
                                      static_cast<unsigned int>(document.size()), loadProgram);
-}
-
-std::unique_ptr<as::IService> parseService(const std::string& document, bool loadProgram = false) {
-  return std::unique_ptr<as::IService>(request(document, loadProgram));
 }
 
 // What is left of `service` when it is written and read again.

@@ -43,6 +43,14 @@ inline std::unique_ptr<as::IProgram> parse(const std::string& document,
                                   static_cast<unsigned int>(document.size())));
 }
 
+// The same for a service; with `loadProgram` it comes with the program that it names.
+inline std::unique_ptr<as::IService> parseService(const std::string& document,
+                                                  bool loadProgram = false) {
+  return std::unique_ptr<as::IService>(newServices()->parseService(
+      "service.xml", reinterpret_cast<const unsigned char*>(document.data()),
+      static_cast<unsigned int>(document.size()), loadProgram));
+}
+
 // How a parse request ended.
 enum class Result { root, null, parseException, namespaceException, exception };
 

@@ -57,11 +57,7 @@ inline std::unique_ptr<as::IService> newService(const Flavour& flavour) {
       flavour.make(test::parse(test::payProgram(), "some/where/PAY.xml").release()));
 }
 
-inline std::unique_ptr<as::IService> parseService(const std::string& document) {
-  return std::unique_ptr<as::IService>(test::newServices()->parseService(
-      "service.xml", reinterpret_cast<const unsigned char*>(document.data()),
-      static_cast<unsigned int>(document.size()), false));
-}
+using test::parseService;
 
 inline std::string written(as::IService& service) {
   return as::CAgentServicesFactory::SerializeToString(&service);

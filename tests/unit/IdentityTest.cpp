@@ -23,16 +23,11 @@
 #include "cobol/ProgramImpl.h"
 #include "cobol/PropertyImpl.h"
 #include "support/Dom.h"
+#include "support/Registration.h"
 #include "xml/Identity.h"
 #include "xml/List.h"
 
 namespace {
-
-std::vector<std::string> namesOf(RTTITypeinfo* const* records) {
-  std::vector<std::string> names;
-  for (; records != nullptr && *records != nullptr; ++records) names.emplace_back((*records)->name);
-  return names;
-}
 
 std::vector<std::string> derivedNames(const RTTITypeinfo& record) {
   std::vector<std::string> names;
@@ -42,19 +37,12 @@ std::vector<std::string> derivedNames(const RTTITypeinfo& record) {
 
 using Names = std::vector<std::string>;
 
-struct Registered {
-  const RTTITypeinfo* record;
-  const char* name;
-  Names bases;
-};
+using test::expectRegistered;
+using test::Registered;
 
 #define INTERFACE(name, ...)                    \
   {                                             \
     &as::name::RTTI_obj, #name, { __VA_ARGS__ } \
-  }
-#define IMPLEMENTATION(name, ...)           \
-  {                                         \
-    &name::RTTI_obj, #name, { __VA_ARGS__ } \
   }
 
 // In the order of registration.
@@ -108,38 +96,25 @@ const std::vector<Registered>& interfaces() {
 const std::vector<Registered>& implementations() {
   static const std::vector<Registered> rows = {
       {&as::CAgentServicesFactory::RTTI_obj, "CAgentServicesFactory", {}},
-      IMPLEMENTATION(CElementImpl, "IElement"),
-      IMPLEMENTATION(CList, "IList", "CElementImpl"),
-      IMPLEMENTATION(CDataItemList, "IList", "CList"),
-      IMPLEMENTATION(CConditionList, "IList", "CList"),
-      IMPLEMENTATION(CProgramImpl, "IProgram", "CElementImpl"),
-      IMPLEMENTATION(CEntryPointImpl, "IEntryPoint", "CList"),
-      IMPLEMENTATION(CLinkageItemImpl, "ILinkageItem", "CElementImpl"),
-      IMPLEMENTATION(CFDImpl, "IFD", "CElementImpl"),
-      IMPLEMENTATION(CDataItemImpl, "IDataItem", "CElementImpl"),
-      IMPLEMENTATION(CGroupImpl, "IGroup", "CDataItemImpl"),
-      IMPLEMENTATION(CNumericImpl, "INumeric", "CDataItemImpl"),
-      IMPLEMENTATION(CNumericEditedImpl, "INumericEdited", "CDataItemImpl"),
-      IMPLEMENTATION(CAlphanumericImpl, "IAlphanumeric", "CDataItemImpl"),
-      IMPLEMENTATION(CNationalImpl, "INational", "CDataItemImpl"),
-      IMPLEMENTATION(CConditionImpl, "ICondition", "CList"),
-      IMPLEMENTATION(CConditionValueImpl, "IConditionValue", "CElementImpl"),
-      IMPLEMENTATION(CPropertyImpl, "IProperty", "CElementImpl"),
+      AS_REGISTERED(CElementImpl, "IElement"),
+      AS_REGISTERED(CList, "IList", "CElementImpl"),
+      AS_REGISTERED(CDataItemList, "IList", "CList"),
+      AS_REGISTERED(CConditionList, "IList", "CList"),
+      AS_REGISTERED(CProgramImpl, "IProgram", "CElementImpl"),
+      AS_REGISTERED(CEntryPointImpl, "IEntryPoint", "CList"),
+      AS_REGISTERED(CLinkageItemImpl, "ILinkageItem", "CElementImpl"),
+      AS_REGISTERED(CFDImpl, "IFD", "CElementImpl"),
+      AS_REGISTERED(CDataItemImpl, "IDataItem", "CElementImpl"),
+      AS_REGISTERED(CGroupImpl, "IGroup", "CDataItemImpl"),
+      AS_REGISTERED(CNumericImpl, "INumeric", "CDataItemImpl"),
+      AS_REGISTERED(CNumericEditedImpl, "INumericEdited", "CDataItemImpl"),
+      AS_REGISTERED(CAlphanumericImpl, "IAlphanumeric", "CDataItemImpl"),
+      AS_REGISTERED(CNationalImpl, "INational", "CDataItemImpl"),
+      AS_REGISTERED(CConditionImpl, "ICondition", "CList"),
+      AS_REGISTERED(CConditionValueImpl, "IConditionValue", "CElementImpl"),
+      AS_REGISTERED(CPropertyImpl, "IProperty", "CElementImpl"),
   };
   return rows;
-}
-
-void expectRegistered(const Registered& row) {
-  SCOPED_TRACE(row.name);
-  ASSERT_NE(row.record->name, nullptr);
-  EXPECT_STREQ(row.record->name, row.name);
-  EXPECT_EQ(namesOf(row.record->bases), row.bases);
-  EXPECT_EQ(row.record->reserved, 0);
-  EXPECT_NE(row.record->scast, nullptr);
-  for (RTTITypeinfo** base = row.record->bases; *base != nullptr; ++base) {
-    const Names derived = derivedNames(**base);
-    EXPECT_EQ(std::count(derived.begin(), derived.end(), row.name), 1) << (*base)->name;
-  }
 }
 
 TEST(Identity, EveryInterfaceIsRegisteredWithItsBases) {

@@ -26,6 +26,7 @@
 #include "service/ParameterImpl.h"
 #include "service/ServiceImpl.h"
 #include "support/Dom.h"
+#include "support/Registration.h"
 #include "support/Wrappers.h"
 #include "ws/FaultList.h"
 #include "ws/FieldAttributeList.h"
@@ -44,61 +45,32 @@ using test::makeHandler;
 using Names = std::vector<std::string>;
 using NameSet = std::set<std::string>;
 
-Names namesOf(RTTITypeinfo* const* records) {
-  Names names;
-  for (; records != nullptr && *records != nullptr; ++records) names.emplace_back((*records)->name);
-  return names;
-}
-
 // Registration.
 
-struct Registered {
-  const RTTITypeinfo* record;
-  const char* name;
-  Names bases;
-};
-
-#define REGISTERED(name, ...)               \
-  {                                         \
-    &name::RTTI_obj, #name, { __VA_ARGS__ } \
-  }
-
 TEST(ServiceIdentity, EveryImplementationIsRegisteredWithItsBases) {
-  const Registered rows[] = {
-      REGISTERED(CServiceImpl, "IService", "CElementImpl"),
-      REGISTERED(COperationImpl, "IOperation", "CElementImpl"),
-      REGISTERED(CParameterImpl, "IParameter", "IField", "CElementImpl"),
-      REGISTERED(CFieldList, "CList"),
-      REGISTERED(CMappingImpl, "IMapping", "CElementImpl"),
-      REGISTERED(CHiddenParameterImpl, "IHiddenParameter", "CMappingImpl"),
-      REGISTERED(CWebServiceImpl, "IWebService", "CServiceImpl"),
-      REGISTERED(CWSOperationImpl, "IWSOperation", "COperationImpl"),
-      REGISTERED(CWSParameterImpl, "IWSParameter", "CParameterImpl", "IWSField"),
-      REGISTERED(CFieldAttributeList, "CList"),
-      REGISTERED(CWSHeaderImpl, "IWSHeader", "CElementImpl"),
-      REGISTERED(CWSFaultImpl, "IWSFault", "CElementImpl"),
-      REGISTERED(CHeaderList, "CList"),
-      REGISTERED(CFaultList, "CList"),
-      REGISTERED(CCOMParameterImpl, "ICOMParameter", "CParameterImpl", "ICOMField"),
-      REGISTERED(CJavaOperationImpl, "IJavaOperation", "COperationImpl"),
-      REGISTERED(CJavaParameterImpl, "IJavaParameter", "CParameterImpl"),
-      REGISTERED(CDotNETImpl, "IDotNET", "CServiceImpl"),
-      REGISTERED(CDotNETOperationImpl, "IDotNETOperation", "COperationImpl"),
-      REGISTERED(CDotNETParameterImpl, "IDotNETParameter", "CParameterImpl", "IDotNETField"),
+  const test::Registered rows[] = {
+      AS_REGISTERED(CServiceImpl, "IService", "CElementImpl"),
+      AS_REGISTERED(COperationImpl, "IOperation", "CElementImpl"),
+      AS_REGISTERED(CParameterImpl, "IParameter", "IField", "CElementImpl"),
+      AS_REGISTERED(CFieldList, "CList"),
+      AS_REGISTERED(CMappingImpl, "IMapping", "CElementImpl"),
+      AS_REGISTERED(CHiddenParameterImpl, "IHiddenParameter", "CMappingImpl"),
+      AS_REGISTERED(CWebServiceImpl, "IWebService", "CServiceImpl"),
+      AS_REGISTERED(CWSOperationImpl, "IWSOperation", "COperationImpl"),
+      AS_REGISTERED(CWSParameterImpl, "IWSParameter", "CParameterImpl", "IWSField"),
+      AS_REGISTERED(CFieldAttributeList, "CList"),
+      AS_REGISTERED(CWSHeaderImpl, "IWSHeader", "CElementImpl"),
+      AS_REGISTERED(CWSFaultImpl, "IWSFault", "CElementImpl"),
+      AS_REGISTERED(CHeaderList, "CList"),
+      AS_REGISTERED(CFaultList, "CList"),
+      AS_REGISTERED(CCOMParameterImpl, "ICOMParameter", "CParameterImpl", "ICOMField"),
+      AS_REGISTERED(CJavaOperationImpl, "IJavaOperation", "COperationImpl"),
+      AS_REGISTERED(CJavaParameterImpl, "IJavaParameter", "CParameterImpl"),
+      AS_REGISTERED(CDotNETImpl, "IDotNET", "CServiceImpl"),
+      AS_REGISTERED(CDotNETOperationImpl, "IDotNETOperation", "COperationImpl"),
+      AS_REGISTERED(CDotNETParameterImpl, "IDotNETParameter", "CParameterImpl", "IDotNETField"),
   };
-  for (const Registered& row : rows) {
-    SCOPED_TRACE(row.name);
-    ASSERT_NE(row.record->name, nullptr);
-    EXPECT_STREQ(row.record->name, row.name);
-    EXPECT_EQ(namesOf(row.record->bases), row.bases);
-    EXPECT_EQ(row.record->reserved, 0);
-    EXPECT_NE(row.record->scast, nullptr);
-    EXPECT_EQ(row.record->derivedCount == 0, row.record->derived == nullptr);
-    for (RTTITypeinfo** base = row.record->bases; *base != nullptr; ++base) {
-      RTTITypeinfo** const end = (*base)->derived + (*base)->derivedCount;
-      EXPECT_EQ(std::count((*base)->derived, end, row.record), 1) << (*base)->name;
-    }
-  }
+  for (const test::Registered& row : rows) test::expectRegistered(row);
 }
 
 TEST(ServiceIdentity, FlavouredClassesAreDerivedFromThePlainOnes) {

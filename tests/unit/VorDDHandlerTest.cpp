@@ -23,25 +23,15 @@
 #include "cobol/VorDDHandler.h"
 #include "frame/DelegatingHandler.h"
 #include "support/Dom.h"
+#include "support/Wrappers.h"
 #include "xml/Vocabulary.h"
 
 namespace {
 
 constexpr char ns[] = "http://agentservices.example/schema/cobol/v2.0/vorcobol.xsd";
 
-// Calls newElement for every element below `node` and then for itself, as a parse does.
-void build(CElementHandler& handler, xercesc::DOMElement* node) {
-  for (auto* child = node->getFirstElementChild(); child != nullptr;
-       child = child->getNextElementSibling()) {
-    build(handler, child);
-  }
-  handler.newElement(node);
-}
-
-std::string classNameAt(const xercesc::DOMNode* node) {
-  CElementImpl* const wrapper = CElementImpl::wrapperOf(node);
-  return wrapper == nullptr ? "(none)" : wrapper->RTTI_vinfo().record()->name;
-}
+using test::buildWrappers;
+using test::classAt;
 
 TEST(VorDDHandler, WrapsEachElementByItsLocalName) {
   const struct {
@@ -77,7 +67,7 @@ TEST(VorDDHandler, WrapsEachElementByItsLocalName) {
       test::Dom dom("<" + std::string(prefix) + row.element + " xmlns:x='urn:any'/>");
       CVorDDHandler handler;
       handler.newElement(dom.root());
-      EXPECT_EQ(classNameAt(dom.root()), row.wrapper) << row.element;
+      EXPECT_EQ(classAt(dom.root()), row.wrapper) << row.element;
       EXPECT_EQ(dom.root()->getUserData(u"ASAPI"),
                 as::interface_cast<CElementImpl>(CElementImpl::wrapperOf(dom.root())))
           << "bound as the wrapper, not as an embedded list";
@@ -112,7 +102,7 @@ TEST(VorDDHandler, CompletesTheModel) {
       "<program name='P'><dataItems><group name='G'><numeric name='N'/></group></dataItems>"
       "</program>");
   CVorDDHandler handler;
-  build(handler, dom.root());
+  buildWrappers(handler, dom.root());
   EXPECT_EQ(handler.getProgram(), nullptr);
   EXPECT_EQ(CElementImpl::wrapperOf(dom.document()), nullptr);
   handler.endParse(dom.document());
@@ -128,7 +118,7 @@ TEST(VorDDHandler, CompletesTheModel) {
 TEST(VorDDHandler, ListsOfAProgramAreEmptyBeforeTheyAreCollected) {
   test::Dom dom("<program><dataItems><numeric name='N'/></dataItems></program>");
   CVorDDHandler handler;
-  build(handler, dom.root());
+  buildWrappers(handler, dom.root());
   auto* const program = as::interface_cast<as::IProgram>(CElementImpl::wrapperOf(dom.root()));
   ASSERT_NE(program, nullptr);
   EXPECT_EQ(program->getDataItems(), static_cast<as::IList*>(&CList::emptyList));
@@ -141,7 +131,7 @@ TEST(VorDDHandler, EveryElementCarriesItsWrapperAfterwards) {
       "<numericRange/></numericCondition></numeric></group></dataItems><entryPoints><entryPoint>"
       "<parameter/></entryPoint></entryPoints></program>");
   CVorDDHandler handler;
-  build(handler, dom.root());
+  buildWrappers(handler, dom.root());
   handler.endParse(dom.document());
   const auto program = handler.takeProgram();
   auto* const all = dom.document()->getElementsByTagName(u"*");
@@ -158,7 +148,7 @@ TEST(VorDDHandler, EveryElementCarriesItsWrapperAfterwards) {
 TEST(VorDDHandler, ARootThatIsNoProgramGivesNone) {
   test::Dom dom("<dataItems><numeric/></dataItems>");
   CVorDDHandler handler;
-  build(handler, dom.root());
+  buildWrappers(handler, dom.root());
   handler.endParse(dom.document());
   EXPECT_EQ(handler.getProgram(), nullptr);
   EXPECT_EQ(handler.takeProgram(), nullptr);
@@ -169,7 +159,7 @@ TEST(VorDDHandler, HandsOutTheWrappersThatNoListCollects) {
       "<program><dataItems><numeric><alphanumericCondition><alphanumericConstant/>"
       "</alphanumericCondition></numeric></dataItems><dataItems><index/></dataItems></program>");
   CVorDDHandler handler;
-  build(handler, dom.root());
+  buildWrappers(handler, dom.root());
   handler.endParse(dom.document());
   const auto program = handler.takeProgram();
   std::vector<std::string> classes;
