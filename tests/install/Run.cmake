@@ -10,7 +10,8 @@ endfunction()
 
 file(REMOVE_RECURSE ${WORK})
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix)
-run(${CMAKE_COMMAND} -S ${SOURCE}/install -B ${WORK}/build -DCMAKE_PREFIX_PATH=${WORK}/prefix
+# With the generator that is there: the default one of CMake may not be.
+run(${CMAKE_COMMAND} -G ${GENERATOR} -S ${SOURCE}/install -B ${WORK}/build -DCMAKE_PREFIX_PATH=${WORK}/prefix
     -DCMAKE_CXX_COMPILER=${COMPILER} -DFLAGS=${FLAGS})
 run(${CMAKE_COMMAND} --build ${WORK}/build)
 file(READ ${WORK}/build/schema-dir schemas)

@@ -1,0 +1,33 @@
+#include "cli/Messages.h"
+
+#include <cerrno>
+#include <iostream>
+#include <string>
+#include <system_error>
+
+#include "toolkit/io/DocumentReader.h"
+#include "toolkit/text/Text.h"
+
+// std::cerr is tied to std::cout: both keep their order where they go to the same place.
+
+void printError(std::string_view text) {
+  std::cerr << "agentservices: error: " << printable(text) << "\n";
+}
+
+void printRefusal(const Refusal& refusal) {
+  std::cerr << printable(refusal.file);
+  if (refusal.line > 0) std::cerr << ":" << refusal.line << ":" << refusal.column;
+  std::cerr << ": error: " << printable(refusal.text) << "\n";
+  if (!refusal.hint.empty()) std::cerr << "hint: " << printable(refusal.hint) << "\n";
+}
+
+bool flushOutput() {
+  errno = 0;
+  std::cout.flush();
+  if (std::cout) return true;
+  std::string text = "the output could not be written";
+  // The reason is known only when it was this flush that failed.
+  if (errno != 0) text += ": " + std::generic_category().message(errno);
+  printError(text);
+  return false;
+}

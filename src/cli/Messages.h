@@ -1,0 +1,19 @@
+// What the tool says on standard error, and the check that its output arrived.
+#ifndef CLI_MESSAGES_H_
+#define CLI_MESSAGES_H_
+
+#include <string_view>
+
+struct Refusal;
+
+// "agentservices: error: TEXT": about the call, not about a document.
+void printError(std::string_view text);
+
+// "FILE:LINE:COLUMN: error: TEXT" and, when there is one, a line "hint: HINT". A message without a
+// place leaves line and column out.
+void printRefusal(const Refusal& refusal);
+
+// Flushes standard output. False, after a message, when anything written to it was lost.
+bool flushOutput();
+
+#endif  // CLI_MESSAGES_H_

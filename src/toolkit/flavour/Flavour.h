@@ -1,0 +1,139 @@
+// What the tool knows of the flavours of services. All that a flavour adds to the plain service is
+// told by one object; a new flavour is a new source file and a line in Flavour.cpp.
+#ifndef TOOLKIT_FLAVOUR_FLAVOUR_H_
+#define TOOLKIT_FLAVOUR_FLAVOUR_H_
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "as/IOperation.h"
+#include "as/IParameter.h"
+#include "as/IProgram.h"
+#include "as/IService.h"
+#include "toolkit/flavour/Capacity.h"
+#include "toolkit/walk/TreeWalk.h"
+
+class Findings;
+
+// Something that a flavour adds to an object of the model.
+struct Trait {
+  std::string key;  // The accessor without "get".
+  std::string attribute;
+  // What the accessor answers, when that is a number.
+  std::optional<int> code;
+  // What the accessor answers as text, or the attribute's word for the number; empty when the
+  // number has no word.
+  std::string text;
+};
+
+// A list of parameters beside those of the operation.
+struct Message {
+  const char* kind;  // The name of its element.
+  as::IElement* element;
+  int direction;  // As that of a parameter.
+  std::vector<Trait> traits;
+  as::IList* parameters;
+};
+
+// A data type of a flavour.
+struct DataType {
+  int code;
+  const char* word;
+  Capacity capacity;
+};
+
+// What a flavour's documents may hold and others may not.
+struct Additions {
+  std::vector<std::string> operationAttributes;
+  std::vector<std::string> fieldAttributes;  // Of parameters and fields, the data type left out.
+  std::vector<std::string> operationElements;
+};
+
+class Flavour {
+ public:
+  Flavour() = default;
+  virtual ~Flavour();
+  Flavour(const Flavour&) = delete;
+  Flavour& operator=(const Flavour&) = delete;
+
+  // As it is called in texts.
+  virtual std::string name() const = 0;
+  // The value of the service's attribute "implementation", one of as::IService::TYPE, and its word,
+  // which the command line uses, too.
+  virtual int implementation() const = 0;
+  virtual const char* word() const = 0;
+  // The namespace of its documents.
+  virtual const char* namespaceURI() const = 0;
+  virtual const Additions& additions() const = 0;
+  // Whether the service's objects are of this flavour.
+  virtual bool owns(as::IService& service) const = 0;
+
+  // What operations, and parameters and fields, have beyond the plain ones; the data type is told
+  // below.
+  virtual std::vector<Trait> traitsOf(as::IOperation& operation) const;
+  virtual std::vector<Trait> traitsOf(as::IField& field) const;
+  // The lists of parameters that the operation has beyond the plain one, in document order within a
+  // kind.
+  virtual std::vector<Message> messagesOf(as::IOperation& operation) const;
+  // The parts of the field that are neither fields nor mappings; null for none.
+  virtual as::IList* attributesOf(as::IField& field) const;
+
+  // All data types, from the one to be preferred on. May be empty.
+  virtual const std::vector<DataType>& dataTypes() const = 0;
+  // The code of the data type of a parameter or field; none when it has no type. A code that is not
+  // in dataTypes() stands for a missing or unknown type.
+  virtual std::optional<int> dataTypeOf(as::IField& field) const = 0;
+  // The type that an absent attribute stands for; null when it stands for none.
+  virtual const DataType* defaultType() const = 0;
+
+  // Reports what is wrong with what the flavour adds to the operation, which stands at `where`.
+  virtual void lint(as::IOperation& operation, const std::string& where, Findings& findings) const;
+
+  // A new service, which takes the program over. Throws as::CASException.
+  virtual std::unique_ptr<as::IService> newService(std::unique_ptr<as::IProgram> program) const = 0;
+  // Gives the operation what the flavour needs and it has not yet.
+  virtual void complete(as::IService& service, as::IOperation& operation) const;
+  // Writes the data type of a parameter or field.
+  virtual void setDataType(as::IField& field, const DataType& type) const = 0;
+  // Marks the parameter as the operation's result, where the flavour has such a mark.
+  virtual void markReturned(as::IField& field) const;
+  // The type of a group's field; null when groups have none.
+  virtual const DataType* groupType(bool repeats) const;
+
+  // The type of that code or word; null for an unknown one.
+  const DataType* findDataType(int code) const;
+  const DataType* findDataType(const std::string& word) const;
+  // The type to be preferred for `item`; null when none holds it.
+  const DataType* bestTypeFor(as::IDataItem& item) const;
+  // The type that holds all that `capacity` can; null when there is none.
+  const DataType* bestTypeFor(const Capacity& capacity) const;
+};
+
+// The flavour of `service`; one that adds nothing when the tool knows none.
+const Flavour& flavourOf(as::IService& service);
+
+// The flavours by the word of "implementation"; null for a word that is none.
+const Flavour* findFlavour(const std::string& word);
+std::vector<std::string> flavourWords();
+
+// The flavours.
+const Flavour& comFlavour();
+const Flavour& dotNetFlavour();
+const Flavour& javaFlavour();
+const Flavour& webFlavour();
+
+// What one of the library's New...Service operations makes. Throws as::CASException.
+template <class Make>
+std::unique_ptr<as::IService> makeService(Make make, std::unique_ptr<as::IProgram> program) {
+  std::unique_ptr<as::IService> service(make(program.get()));
+  static_cast<void>(program.release());
+  return service;
+}
+
+// The first parameter of the service: of its type definitions, its operations' parameters. Null
+// when it has none.
+as::IParameter* firstParameterOf(as::IService& service);
+
+#endif  // TOOLKIT_FLAVOUR_FLAVOUR_H_

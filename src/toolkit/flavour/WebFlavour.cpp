@@ -1,0 +1,265 @@
+// Web services: how operations travel in SOAP, their headers and faults, and the XML Schema view of
+// parameters and fields.
+#include <utility>
+
+#include "as/CAgentServicesFactory.h"
+#include "as/IWSFault.h"
+#include "as/IWSHeader.h"
+#include "as/IWSOperation.h"
+#include "as/IWSParameter.h"
+#include "as/IWebService.h"
+#include "toolkit/findings/Findings.h"
+#include "toolkit/flavour/Flavour.h"
+#include "toolkit/text/Words.h"
+#include "toolkit/walk/FieldWalk.h"
+
+namespace {
+
+using Kind = Capacity::Kind;
+using Web = as::IWSField;
+using Operation = as::IWSOperation;
+
+// Neither word: the accessors answer this for a missing or unknown text.
+constexpr int unknownCode = -1;
+
+// A trait whose accessor answers a number for one of two words, or unknownCode.
+Trait wordTrait(const char* key, const char* attribute, int code, const char* first,
+                const char* second) {
+  return {key, attribute, code, code == 0 ? first : code == 1 ? second : ""};
+}
+
+Trait useTrait(const char* key, int code) {
+  return wordTrait(key, key, code, "literal", "encoded");
+}
+
+Trait formTrait(const char* key, int code) {
+  return wordTrait(key, key, code, "qualified", "unqualified");
+}
+
+Trait textTrait(const char* key, const std::string& text) { return {key, key, std::nullopt, text}; }
+
+// What the operation's headers, or faults, are like.
+template <class T>
+void addMessages(std::vector<Message>& messages, const char* kind, as::IList* list) {
+  forEachMember<T>(list, [&](T& message) {
+    int direction = as::IParameter::BY_OUT;
+    std::vector<Trait> traits;
+    if constexpr (std::is_same_v<T, as::IWSHeader>) {
+      direction = message.getByType();
+      traits.push_back({"byType", "byType", direction, directionWord(direction)});
+    }
+    traits.push_back(textTrait("namespace", message.getNamespace()));
+    traits.push_back(useTrait("use", message.getUse()));
+    messages.push_back({kind, &message, direction, std::move(traits), message.getParameters()});
+  });
+}
+
+// The checks of one operation.
+class WebLint {
+ public:
+  WebLint(Operation& operation, const std::string& where, Findings& findings)
+      : operation_(operation), where_(where), findings_(findings) {}
+
+  void run() {
+    const int style = operation_.getStyle();
+    if (style == unknownCode) {
+      findings_.error(where_, "the operation has no style", R"(write "rpc" or "document")");
+    }
+    checkUse("inputUse", operation_.getInputUse());
+    checkUse("outputUse", operation_.getOutputUse());
+    if (style == Operation::STYLE_RPC) {
+      checkNamespace("inputNamespace", operation_.getInputNamespace());
+      checkNamespace("outputNamespace", operation_.getOutputNamespace());
+    } else if (style == Operation::STYLE_DOCUMENT) {
+      checkElements();
+    }
+    int number = 0;
+    forEachMember<as::IWSHeader>(operation_.getHeaders(), [&](as::IWSHeader& header) {
+      check(header, "header " + std::to_string(++number));
+    });
+    number = 0;
+    forEachMember<as::IWSFault>(operation_.getFaults(), [&](as::IWSFault& fault) {
+      check(fault, "fault " + std::to_string(++number));
+    });
+  }
+
+ private:
+  bool isDocument() { return operation_.getStyle() == Operation::STYLE_DOCUMENT; }
+
+  void checkUse(const char* attribute, int use) {
+    if (use == unknownCode) {
+      findings_.error(where_, std::string("the operation has no ") + attribute,
+                      R"(write "literal" or "encoded")");
+    } else if (use == Operation::USE_ENCODED && isDocument()) {
+      findings_.error(where_, std::string(attribute) + " is encoded, but the style is document",
+                      "make it literal, or the style rpc");
+    }
+  }
+
+  void checkNamespace(const char* attribute, const std::string& uri) {
+    if (!uri.empty()) return;
+    findings_.error(where_,
+                    std::string("style rpc needs a namespace, and there is no ") + attribute,
+                    std::string("write \"") + attribute + "\"");
+  }
+
+  // With style document every parameter is an element of the message, which has a namespace of its
+  // own or else the operation's.
+  void checkElements() {
+    forEachMember<as::IWSParameter>(operation_.getParameters(), [&](as::IWSParameter& parameter) {
+      if (!parameter.getNamespace().empty()) return;
+      const int direction = parameter.getByType();
+      const bool lacksInput =
+          direction != as::IParameter::BY_OUT && operation_.getInputNamespace().empty();
+      const bool lacksOutput =
+          direction != as::IParameter::BY_IN && operation_.getOutputNamespace().empty();
+      if (!lacksInput && !lacksOutput) return;
+      findings_.error(where_ + "." + parameter.getName(),
+                      std::string("style document needs a namespace, and there is none, nor an ") +
+                          (lacksInput ? "inputNamespace" : "outputNamespace"),
+                      "write \"namespace\", or that of the operation");
+    });
+  }
+
+  template <class T>
+  void check(T& message, const std::string& name) {
+    const std::string place = where_ + ", " + name;
+    if (message.getParameters()->getLength() == 0) {
+      findings_.error(place, "it has no parameters", "add one or remove it");
+    }
+    if (message.getNamespace().empty()) {
+      findings_.error(place, "it has no namespace", "write \"namespace\"");
+    }
+    const int use = message.getUse();
+    if (use == unknownCode) {
+      findings_.error(place, "it has no use", R"(write "literal" or "encoded")");
+    } else if (use == T::USE_ENCODED && isDocument()) {
+      findings_.error(place, "its use is encoded, but the style is document",
+                      "make it literal, or the style rpc");
+    }
+  }
+
+  Operation& operation_;
+  const std::string& where_;
+  Findings& findings_;
+};
+
+class WebFlavour : public Flavour {
+ public:
+  std::string name() const override { return "Web"; }
+  int implementation() const override { return as::IService::TYPE_WS; }
+  const char* word() const override { return "ws"; }
+  const char* namespaceURI() const override {
+    return "http://agentservices.example/schema/ws/v1.0/vorws.xsd";
+  }
+  const Additions& additions() const override {
+    static const Additions additions = {
+        {"style", "inputUse", "outputUse", "inputNamespace", "outputNamespace"},
+        {"namespace", "elementForm", "attributeForm"},
+        {"header", "fault"}};
+    return additions;
+  }
+
+  bool owns(as::IService& service) const override {
+    return as::interface_cast<as::IWebService>(&service) != nullptr;
+  }
+
+  std::vector<Trait> traitsOf(as::IOperation& operation) const override {
+    auto* const web = as::interface_cast<Operation>(&operation);
+    if (web == nullptr) return {};
+    return {wordTrait("style", "style", web->getStyle(), "rpc", "document"),
+            useTrait("inputUse", web->getInputUse()), useTrait("outputUse", web->getOutputUse()),
+            textTrait("inputNamespace", web->getInputNamespace()),
+            textTrait("outputNamespace", web->getOutputNamespace())};
+  }
+
+  std::vector<Trait> traitsOf(as::IField& field) const override {
+    auto* const web = as::interface_cast<Web>(&field);
+    if (web == nullptr) return {};
+    return {textTrait("namespace", web->getNamespace()),
+            formTrait("elementForm", web->getElementForm()),
+            formTrait("attributeForm", web->getAttributeForm())};
+  }
+
+  std::vector<Message> messagesOf(as::IOperation& operation) const override {
+    std::vector<Message> messages;
+    if (auto* const web = as::interface_cast<Operation>(&operation)) {
+      addMessages<as::IWSHeader>(messages, "header", web->getHeaders());
+      addMessages<as::IWSFault>(messages, "fault", web->getFaults());
+    }
+    return messages;
+  }
+
+  as::IList* attributesOf(as::IField& field) const override {
+    auto* const web = as::interface_cast<Web>(&field);
+    return web == nullptr ? nullptr : web->getFieldAttributes();
+  }
+
+  const std::vector<DataType>& dataTypes() const override { return types_; }
+
+  std::optional<int> dataTypeOf(as::IField& field) const override {
+    auto* const web = as::interface_cast<Web>(&field);
+    return web == nullptr ? std::nullopt : std::optional<int>(web->getType());
+  }
+
+  const DataType* defaultType() const override { return nullptr; }
+
+  void lint(as::IOperation& operation, const std::string& where,
+            Findings& findings) const override {
+    if (auto* const web = as::interface_cast<Operation>(&operation)) {
+      WebLint(*web, where, findings).run();
+    }
+  }
+
+  std::unique_ptr<as::IService> newService(std::unique_ptr<as::IProgram> program) const override {
+    return makeService(as::CAgentServicesFactory::NewWebService, std::move(program));
+  }
+
+  // What is missing of style, uses and namespaces.
+  void complete(as::IService& service, as::IOperation& operation) const override {
+    auto* const web = as::interface_cast<Operation>(&operation);
+    if (web == nullptr) return;
+    if (web->getStyle() == unknownCode) web->setStyle(Operation::STYLE_DOCUMENT);
+    if (web->getInputUse() == unknownCode) web->setInputUse(Operation::USE_LITERAL);
+    if (web->getOutputUse() == unknownCode) web->setOutputUse(Operation::USE_LITERAL);
+    const std::string uri = "urn:agentservices:" + service.getAttributeValue("programName");
+    if (web->getInputNamespace().empty()) web->setInputNamespace(uri.c_str());
+    if (web->getOutputNamespace().empty()) web->setOutputNamespace(uri.c_str());
+  }
+
+  void setDataType(as::IField& field, const DataType& type) const override {
+    if (auto* const web = as::interface_cast<Web>(&field)) {
+      web->setType(static_cast<Web::TYPE>(type.code));
+    }
+  }
+
+  const DataType* groupType(bool repeats) const override {
+    return repeats ? findDataType(Web::WS_ARRAY) : nullptr;
+  }
+
+ private:
+  const std::vector<DataType> types_ = {
+      {Web::WS_BYTE, "byte", {Kind::integer, 2, 8}},
+      {Web::WS_UNSIGNED_BYTE, "unsignedByte", {Kind::integer, 2, 8, false}},
+      {Web::WS_SHORT, "short", {Kind::integer, 4, 16}},
+      {Web::WS_UNSIGNED_SHORT, "unsignedShort", {Kind::integer, 4, 16, false}},
+      {Web::WS_INT, "int", {Kind::integer, 9, 32}},
+      {Web::WS_UNSIGNED_INT, "unsignedInt", {Kind::integer, 9, 32, false}},
+      {Web::WS_LONG, "long", {Kind::integer, 18, 64}},
+      {Web::WS_UNSIGNED_LONG, "unsignedLong", {Kind::integer, 19, 64, false}},
+      {Web::WS_INTEGER, "integer", {Kind::decimal, 0, 0, true, 0}},
+      {Web::WS_DECIMAL, "decimal", {Kind::decimal}},
+      {Web::WS_FLOAT, "float", {Kind::floating, 6}},
+      {Web::WS_DOUBLE, "double", {Kind::floating, 15}},
+      {Web::WS_STRING, "string", {Kind::text}},
+      {Web::WS_ARRAY, "Array", {Kind::group}},
+      {Web::WS_XML, "XML", {Kind::open}},
+  };
+};
+
+}  // namespace
+
+const Flavour& webFlavour() {
+  static const WebFlavour flavour;
+  return flavour;
+}

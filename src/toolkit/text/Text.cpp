@@ -1,0 +1,44 @@
+#include "toolkit/text/Text.h"
+
+#include <algorithm>
+
+namespace {
+
+unsigned char byteAt(std::string_view text, std::size_t at) {
+  return at < text.size() ? static_cast<unsigned char>(text[at]) : 0;
+}
+
+}  // namespace
+
+std::string printable(std::string_view text) {
+  constexpr char hexDigits[] = "0123456789ABCDEF";
+  std::string result;
+  result.reserve(text.size());
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    unsigned int code = byteAt(text, at);
+    // U+0080 to U+009F are controls too; UTF-8 writes them in two bytes.
+    constexpr unsigned int lead = 0xC2;
+    const unsigned int next = byteAt(text, at + 1);
+    const bool longControl = code == lead && next >= 0x80 && next <= 0x9F;
+    if (longControl) {
+      code = next;
+      ++at;
+    }
+    if (longControl || code < 0x20 || code == 0x7F) {
+      result += "\\u00";
+      result += hexDigits[code >> 4U];
+      result += hexDigits[code & 0xFU];
+    } else {
+      result += static_cast<char>(code);
+    }
+  }
+  return result;
+}
+
+std::size_t characterCount(std::string_view text) {
+  constexpr unsigned int continuationMask = 0xC0;
+  constexpr unsigned int continuation = 0x80;
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
+    return (static_cast<unsigned char>(byte) & continuationMask) != continuation;
+  }));
+}

@@ -1,0 +1,32 @@
+#include "toolkit/walk/Subscripts.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+
+#include "as/IMapping.h"
+
+namespace {
+
+// `source` is the attribute that `read` reads.
+std::vector<int> subscripts(as::IMapping& mapping, int (as::IMapping::*read)(int*),
+                            const std::string& source) {
+  // The library does not know the room that it is given.
+  constexpr std::size_t leastRoom = 16;
+  const auto tokens = static_cast<std::size_t>(std::count(source.begin(), source.end(), ',')) + 1;
+  std::vector<int> result(std::max(leastRoom, tokens), everyOccurrence);
+  const int count = (mapping.*read)(result.data());
+  result.resize(static_cast<std::size_t>(count));
+  return result;
+}
+
+}  // namespace
+
+std::vector<int> dataItemSubscripts(as::IMapping& mapping) {
+  return subscripts(mapping, &as::IMapping::getDataItemSubscripts, mapping.getRawMapping());
+}
+
+std::vector<int> interfaceSubscripts(as::IMapping& mapping) {
+  return subscripts(mapping, &as::IMapping::getInterfaceSubscripts,
+                    mapping.getAttributeValue("subscript"));
+}

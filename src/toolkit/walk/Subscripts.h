@@ -1,0 +1,17 @@
+// The subscripts of mappings as lists.
+#ifndef TOOLKIT_WALK_SUBSCRIPTS_H_
+#define TOOLKIT_WALK_SUBSCRIPTS_H_
+
+#include <vector>
+
+namespace as {
+class IMapping;
+}
+
+inline constexpr int everyOccurrence = -1;
+
+// Empty when there are none, and when one is neither "*" nor a number.
+std::vector<int> dataItemSubscripts(as::IMapping& mapping);
+std::vector<int> interfaceSubscripts(as::IMapping& mapping);
+
+#endif  // TOOLKIT_WALK_SUBSCRIPTS_H_
