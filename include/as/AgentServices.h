@@ -50,6 +50,7 @@
 #include "as/IWSOperation.h"
 #include "as/IWSParameter.h"
 #include "as/IWebService.h"
+#include "as/Namespaces.h"
 #include "as/RTTI.h"
 
 #endif  // AS_AGENTSERVICES_H_

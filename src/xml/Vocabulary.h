@@ -7,35 +7,22 @@
 
 #include "as/Globals.h"
 
-#define AS_SCHEMA_HOST u"http://agentservices.example"
-
-// The namespaces of the documents. For each schema: its URI, the name of its file, and (for those
-// that new documents are written in) the pair that stands in "xsi:schemaLocation".
+// The namespaces of the documents: for each its URI, the name of its schema file, and the pair that
+// leads from one to the other.
 namespace XSDNS {
 
 inline constexpr XMLCh xmlURI[] = u"http://www.w3.org/2000/xmlns/";
 inline constexpr XMLCh xsiURI[] = u"http://www.w3.org/2001/XMLSchema-instance";
 
-#define AS_SCHEMA_NAMES(prefix, path, file)                             \
-  inline constexpr XMLCh prefix##URI[] = AS_SCHEMA_HOST path u"/" file; \
-  inline constexpr XMLCh prefix##Name[] = file;
-#define AS_SCHEMA_LOCATION(prefix, path, file)      \
-  inline constexpr XMLCh prefix##SchemaLocation[] = \
-      AS_SCHEMA_HOST path u"/" file u" " AS_SCHEMA_HOST path u"/" file;
-
-AS_SCHEMA_NAMES(service, u"/schema/service/v2.0", u"vorservice.xsd")
-AS_SCHEMA_NAMES(dd, u"/schema/cobol/v2.0", u"vorcobol.xsd")
-AS_SCHEMA_NAMES(ws, u"/schema/ws/v1.0", u"vorws.xsd")
-AS_SCHEMA_LOCATION(ws, u"/schema/ws/v1.0", u"vorws.xsd")
-AS_SCHEMA_NAMES(com, u"/schema/com/v1.0", u"vorcom.xsd")
-AS_SCHEMA_LOCATION(com, u"/schema/com/v1.0", u"vorcom.xsd")
-AS_SCHEMA_NAMES(java, u"/schema/java/v2.0", u"vorjava.xsd")
-AS_SCHEMA_LOCATION(java, u"/schema/java/v2.0", u"vorjava.xsd")
-AS_SCHEMA_NAMES(dotnet, u"/schema/dotnet/v1.0", u"vordotnet.xsd")
-AS_SCHEMA_LOCATION(dotnet, u"/schema/dotnet/v1.0", u"vordotnet.xsd")
-
-#undef AS_SCHEMA_NAMES
-#undef AS_SCHEMA_LOCATION
+#define AS_NAMESPACE(prefix, uri, file)          \
+  inline constexpr XMLCh prefix##URI[] = u##uri; \
+  inline constexpr XMLCh prefix##Name[] = u##file;
+#include "as/Namespaces.def"
+// What stands in "xsi:schemaLocation" of a new document: the namespace and, for its place, the
+// same.
+#define AS_NAMESPACE(prefix, uri, file) \
+  inline constexpr XMLCh prefix##SchemaLocation[] = u##uri u" " u##uri;
+#include "as/Namespaces.def"
 
 }  // namespace XSDNS
 

@@ -17,9 +17,8 @@ constexpr struct {
   const XMLCh* uri;
   const XMLCh* fileName;
 } schemas[] = {
-    {XSDNS::ddURI, XSDNS::ddName},           {XSDNS::comURI, XSDNS::comName},
-    {XSDNS::javaURI, XSDNS::javaName},       {XSDNS::wsURI, XSDNS::wsName},
-    {XSDNS::serviceURI, XSDNS::serviceName}, {XSDNS::dotnetURI, XSDNS::dotnetName},
+#define AS_NAMESPACE(prefix, uri, file) {XSDNS::prefix##URI, XSDNS::prefix##Name},
+#include "as/Namespaces.def"
 };
 
 }  // namespace

@@ -1,0 +1,111 @@
+// Reads documents with the library and explains why one is refused.
+#ifndef AS_TOOLKIT_DOCUMENTREADER_H_
+#define AS_TOOLKIT_DOCUMENTREADER_H_
+
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include "as/Export.h"
+#include "as/IAgentServices.h"
+#include "as/IProgram.h"
+#include "as/IService.h"
+
+namespace as::toolkit {
+
+// Why a document was refused, and where. All text is UTF-8 and may hold whatever the document or
+// its name holds.
+struct Refusal {
+  std::string file;  // As the caller named it; or the schema file that the problem is in.
+  int line = 0;      // Counted from 1; 0 when the problem has no place in the file.
+  int column = 0;
+  std::string text;
+  std::string hint;  // What to do about it; may be empty.
+};
+
+// "FILE:LINE:COLUMN: TEXT", or "FILE: TEXT" for a problem without a place; without the hint.
+AS_EXPORT std::string textOf(const Refusal& refusal);
+
+// Thrown by everything that reads or writes a document for a document that is not to be used.
+// what() is textOf() of the refusal.
+class AS_EXPORT RefusedDocument : public std::runtime_error {
+ public:
+  explicit RefusedDocument(Refusal refusal);
+  RefusedDocument(const RefusedDocument& other);
+  RefusedDocument& operator=(const RefusedDocument& other);
+  ~RefusedDocument() override;
+
+  const Refusal& refusal() const noexcept { return refusal_; }
+
+ private:
+  Refusal refusal_;
+};
+
+// A document of either kind: exactly one of the two is set.
+struct Document {
+  std::unique_ptr<as::IProgram> dictionary;
+  std::unique_ptr<as::IService> service;
+};
+
+// A service with what its document says of its program. Attaching a program rewrites both
+// attributes in the model, so whoever wants to check or keep them needs them from here.
+struct ServiceDocument {
+  std::unique_ptr<as::IService> service;
+  std::string programName;  // Attribute "programName"; empty when absent.
+  std::string dictionary;   // Attribute "dataDictFilename"; empty when absent.
+};
+
+// Which program a service is read with.
+struct ProgramChoice {
+  // The dictionary to use in place of the one that the document names; counts from the current
+  // directory, while the document's own counts from the document's folder.
+  std::optional<std::string> dictionary;
+};
+
+// Every operation reads anew; the caller owns what it returns. Serves one thread at a time, like
+// the library.
+class AS_EXPORT DocumentReader {
+ public:
+  // `schemaDirectory` holds the schema files (see as/Namespaces.h). Throws as::CASException when
+  // the library could not be started.
+  explicit DocumentReader(const std::string& schemaDirectory);
+  ~DocumentReader();
+  DocumentReader(const DocumentReader&) = delete;
+  DocumentReader& operator=(const DocumentReader&) = delete;
+
+  // The data dictionary or the service in `file`, whichever it is; a service comes without its
+  // program. Throws RefusedDocument.
+  Document read(const std::string& file) const;
+
+  // The data dictionary in `file`; never null. Throws RefusedDocument.
+  std::unique_ptr<as::IProgram> readDictionary(const std::string& file) const;
+
+  // The service in `file`, without its program; never null. Throws RefusedDocument.
+  std::unique_ptr<as::IService> readService(const std::string& file) const;
+
+  // The service in `text`, which messages call `file`; never null, without its program. Throws
+  // RefusedDocument.
+  std::unique_ptr<as::IService> readServiceText(const std::string& text,
+                                                const std::string& file) const;
+
+  // The service in `file` with its program: `service` is never null and has a program. Throws
+  // RefusedDocument about the service, about the dictionary, or about a service that names none
+  // when `choice` names none either.
+  ServiceDocument readServiceWithProgram(const std::string& file,
+                                         const ProgramChoice& choice = {}) const;
+
+  // `service`, read from `file`, once more and with the program in the file `dictionary`: the
+  // attributes "programName" and "dataDictFilename" of the result tell that program. `service`
+  // stays the caller's and keeps what it says. Throws RefusedDocument, which is about the
+  // dictionary.
+  std::unique_ptr<as::IService> withProgram(as::IService& service, const std::string& file,
+                                            const std::string& dictionary) const;
+
+ private:
+  std::unique_ptr<as::IAgentServices> services_;
+};
+
+}  // namespace as::toolkit
+
+#endif  // AS_TOOLKIT_DOCUMENTREADER_H_

@@ -1,0 +1,42 @@
+// Files written so that nothing is lost, and names of files in documents.
+#ifndef AS_TOOLKIT_FILES_H_
+#define AS_TOOLKIT_FILES_H_
+
+#include <stdexcept>
+#include <string>
+
+#include "as/Export.h"
+#include "as/IService.h"
+
+namespace as::toolkit {
+
+// A file could not be written; what() says which, why, and what became of the old one.
+class AS_EXPORT FileError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+  FileError(const FileError& other);
+  FileError& operator=(const FileError& other);
+  ~FileError() override;
+};
+
+// Makes `content` what the file named `file` holds. The file that was there keeps what it held
+// until the new one is complete on the disk, and for good when that fails; its permissions stay,
+// and links stay links. A name that leads to something other than a file, a device for one, is
+// written to as it is. Throws FileError.
+AS_EXPORT void replaceFile(const std::string& file, const std::string& content);
+
+// Writes the document of `service` so. Throws RefusedDocument when XML cannot hold it (elements
+// nest too deep, a name holds control characters), and FileError.
+AS_EXPORT void writeService(as::IService& service, const std::string& file);
+
+// The file that a relative or absolute `name` in the document `file` means: relative names count
+// from the folder of that document.
+AS_EXPORT std::string besideFile(const std::string& file, const std::string& name);
+
+// The other way round: the name by which a document in the file `from` refers to the file `to`,
+// counted from the folder of the document. Folders may be links; the file's own name stays.
+AS_EXPORT std::string nameSeenFrom(const std::string& from, const std::string& to);
+
+}  // namespace as::toolkit
+
+#endif  // AS_TOOLKIT_FILES_H_
