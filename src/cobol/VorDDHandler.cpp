@@ -31,34 +31,37 @@ void CVorDDHandler::wrapSection(CElementHandler& handler, DOMNode* node) {
   static_cast<CVorDDHandler&>(handler).wrap<CDataItemList>(node, static_cast<CGroupImpl*>(nullptr));
 }
 
+constinit const CElementHandler::ElementWrapping CVorDDHandler::rows[] = {
+    {DD::properties, wrapAs<CList>},
+    {DD::property, wrapAs<CPropertyImpl>},
+    {DD::fileSection, wrapAs<CList>},
+    {DD::fd, wrapAs<CFDImpl>},
+    {DD::dataItems, wrapSection},
+    {DD::entryPoints, wrapAs<CList>},
+    {DD::group, wrapAs<CGroupImpl>},
+    {DD::numeric, wrapAs<CNumericImpl>},
+    {DD::alphanumeric, wrapAs<CAlphanumericImpl>},
+    {DD::numericEdited, wrapAs<CNumericEditedImpl>},
+    {DD::pointer, wrapAs<CDataItemImpl>},
+    {DD::national, wrapAs<CNationalImpl>},
+    {DD::cobolObject, wrapAs<CDataItemImpl>},
+    {DD::index, wrapAs<CDataItemImpl>},
+    {DD::numericCondition, wrapAs<CConditionImpl>},
+    {DD::alphanumericCondition, wrapAs<CConditionImpl>},
+    {DD::numericRange, wrapAs<CConditionValueImpl>},
+    {DD::numericConstant, wrapAs<CConditionValueImpl>},
+    {DD::alphanumericRange, wrapAs<CConditionValueImpl>},
+    {DD::alphanumericConstant, wrapAs<CConditionValueImpl>},
+    {DD::entryPoint, wrapAs<CEntryPointImpl>},
+    {DD::parameter, wrapAs<CLinkageItemImpl>},
+    {DD::program, wrapAs<CProgramImpl>},
+};
+
 void CVorDDHandler::newElement(DOMNode* node) {
-  static constexpr ElementWrapping rows[] = {
-      {DD::properties, wrapAs<CList>},
-      {DD::property, wrapAs<CPropertyImpl>},
-      {DD::fileSection, wrapAs<CList>},
-      {DD::fd, wrapAs<CFDImpl>},
-      {DD::dataItems, wrapSection},
-      {DD::entryPoints, wrapAs<CList>},
-      {DD::group, wrapAs<CGroupImpl>},
-      {DD::numeric, wrapAs<CNumericImpl>},
-      {DD::alphanumeric, wrapAs<CAlphanumericImpl>},
-      {DD::numericEdited, wrapAs<CNumericEditedImpl>},
-      {DD::pointer, wrapAs<CDataItemImpl>},
-      {DD::national, wrapAs<CNationalImpl>},
-      {DD::cobolObject, wrapAs<CDataItemImpl>},
-      {DD::index, wrapAs<CDataItemImpl>},
-      {DD::numericCondition, wrapAs<CConditionImpl>},
-      {DD::alphanumericCondition, wrapAs<CConditionImpl>},
-      {DD::numericRange, wrapAs<CConditionValueImpl>},
-      {DD::numericConstant, wrapAs<CConditionValueImpl>},
-      {DD::alphanumericRange, wrapAs<CConditionValueImpl>},
-      {DD::alphanumericConstant, wrapAs<CConditionValueImpl>},
-      {DD::entryPoint, wrapAs<CEntryPointImpl>},
-      {DD::parameter, wrapAs<CLinkageItemImpl>},
-      {DD::program, wrapAs<CProgramImpl>},
-  };
   if (!wrapByName(rows, node)) AS_ASSERT(false, "VorDDHandler");
 }
+
+bool CVorDDHandler::takes(const DOMNode* node) const { return rowFor(node, rows) != nullptr; }
 
 void CVorDDHandler::startDocument(DOMNode* root) {
   if (!XMLString::equals(root->getNamespaceURI(), XSDNS::ddURI)) {

@@ -7,12 +7,13 @@
 
 class CVorDDHandler final : public CElementHandler {
  public:
-  // Wraps the element by its local name alone. A name that is none of the dictionary's is a
-  // programming error that ends the process: the schema has let nothing else through.
+  // Wraps the element by its local name alone. A name that it does not take is a programming error
+  // that ends the process: the parser has let nothing else through.
   void newElement(xercesc::DOMNode* node) override;
   // Throws as::CASInvalidNamespaceException unless the root is in the dictionary namespace.
   void startDocument(xercesc::DOMNode* root) override;
   void endParse(xercesc::DOMDocument* document) override;
+  bool takes(const xercesc::DOMNode* node) const override;
 
   // The program, null until endParse() and when the root is none. The handler owns it until the
   // caller takes it with takeProgram().
@@ -20,6 +21,7 @@ class CVorDDHandler final : public CElementHandler {
   std::unique_ptr<CProgramImpl> takeProgram();
 
  private:
+  static const ElementWrapping rows[];
   static void wrapSection(CElementHandler& handler, xercesc::DOMNode* node);
 
   CProgramImpl* program_ = nullptr;

@@ -54,6 +54,10 @@ void CDelegatingHandler::endParse(DOMDocument* document) {
   if (delegate_) delegate_->endParse(document);
 }
 
+bool CDelegatingHandler::takes(const DOMNode* node) const {
+  return !delegate_ || delegate_->takes(node);
+}
+
 CServiceImpl* CDelegatingHandler::getService() const {
   return delegate_ ? delegate_->getService() : nullptr;
 }

@@ -15,6 +15,7 @@ class CDelegatingHandler : public CElementHandler {
   // of no flavour. The plain service namespace is none either: a service has to say what it is.
   void startDocument(xercesc::DOMNode* root) override;
   void endParse(xercesc::DOMDocument* document) override;
+  bool takes(const xercesc::DOMNode* node) const override;
   virtual ~CDelegatingHandler();
 
   // The service that the delegate built; null without a delegate.

@@ -55,7 +55,7 @@ as::IList* CServiceImpl::getParameterTypeDefs() { return CList::orEmpty(paramete
 as::IList* CServiceImpl::getOperations() { return CList::orEmpty(operations_); }
 
 as::IOperation* CServiceImpl::addOperation(const char* name, as::IEntryPoint* entryPoint) {
-  COperationImpl* const operation = factory_->createOperation();
+  COperationImpl* const operation = getFactory()->createOperation();
   operation->setName(name);
   operation->setEntryPoint(entryPoint);
   addOperation(operation);
@@ -110,7 +110,9 @@ void CServiceImpl::setProgram(as::IProgram* pProgram) {
 void CServiceImpl::addOperation(as::IOperation* operation) {
   auto* const wrapper = as::interface_cast<CElementImpl>(operation);
   if (wrapper == nullptr) return;
-  if (operations_ == nullptr) operations_ = factory_->createList(*this, SS::operations, nullptr);
+  if (operations_ == nullptr) {
+    operations_ = getFactory()->createList(*this, SS::operations, nullptr);
+  }
   operations_->addChild(wrapper->getElement());
 }
 

@@ -13,24 +13,27 @@
 using xercesc::DOMDocument;
 using xercesc::DOMNode;
 
+constinit const CElementHandler::ElementWrapping CVorSHandler::rows[] = {
+    {SS::field, wrapAs<CParameterImpl>},
+    {SS::parameter, wrapAs<CParameterImpl>},
+    {SS::operations, wrapAs<CList>},
+    {SS::parameters, wrapAs<CList>},
+    {SS::hiddenParameter, wrapAs<CHiddenParameterImpl>},
+    {SS::operation, wrapAs<COperationImpl>},
+    {SS::service, wrapAs<CServiceImpl>},
+    {SS::mapping, wrapAs<CMappingImpl>},
+    {SS::hiddenParameters, wrapAs<CList>},
+    {SS::mappings, wrapAs<CList>},
+    {SS::parameterTypeDefs, wrapAs<CList>},
+    {SS::properties, wrapAs<CList>},
+    {SS::property, wrapAs<CPropertyImpl>},
+};
+
 void CVorSHandler::newElement(DOMNode* node) {
-  static constexpr ElementWrapping rows[] = {
-      {SS::field, wrapAs<CParameterImpl>},
-      {SS::parameter, wrapAs<CParameterImpl>},
-      {SS::operations, wrapAs<CList>},
-      {SS::parameters, wrapAs<CList>},
-      {SS::hiddenParameter, wrapAs<CHiddenParameterImpl>},
-      {SS::operation, wrapAs<COperationImpl>},
-      {SS::service, wrapAs<CServiceImpl>},
-      {SS::mapping, wrapAs<CMappingImpl>},
-      {SS::hiddenParameters, wrapAs<CList>},
-      {SS::mappings, wrapAs<CList>},
-      {SS::parameterTypeDefs, wrapAs<CList>},
-      {SS::properties, wrapAs<CList>},
-      {SS::property, wrapAs<CPropertyImpl>},
-  };
   if (!wrapByName(rows, node)) AS_ASSERT(false, "VorSHandler");
 }
+
+bool CVorSHandler::takes(const DOMNode* node) const { return rowFor(node, rows) != nullptr; }
 
 void CVorSHandler::endParse(DOMDocument* document) {
   service_ = as::interface_cast<CServiceImpl>(bindRoot(document));

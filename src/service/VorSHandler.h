@@ -10,10 +10,11 @@
 
 class CVorSHandler : public CElementHandler {
  public:
-  // Wraps the element by its local name. A name that is none of the service's is a programming
-  // error that ends the process: the schema has let nothing else through.
+  // Wraps the element by its local name. A name that it does not take is a programming error that
+  // ends the process: the parser has let nothing else through.
   void newElement(xercesc::DOMNode* node) override;
   void endParse(xercesc::DOMDocument* document) override;
+  bool takes(const xercesc::DOMNode* node) const override;
 
   // The service, null until endParse() and when the root is none. The handler owns it until the
   // caller takes it with takeService().
@@ -21,6 +22,8 @@ class CVorSHandler : public CElementHandler {
   std::unique_ptr<CServiceImpl> takeService();
 
  private:
+  static const ElementWrapping rows[];
+
   CServiceImpl* service_ = nullptr;
 };
 
@@ -36,6 +39,9 @@ class FlavourHandler : public CVorSHandler {
     CVorSHandler::endParse(document);
     if (getService() == nullptr) return;
     getService()->setFactory(std::make_unique<typename Flavour::Factory>(document));
+  }
+  bool takes(const xercesc::DOMNode* node) const override {
+    return rowFor(node, Flavour::rows) != nullptr || CVorSHandler::takes(node);
   }
 };
 

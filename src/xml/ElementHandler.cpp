@@ -17,6 +17,8 @@ void CElementHandler::startElement(DOMNode* /*node*/) {}
 
 void CElementHandler::startDocument(DOMNode* /*root*/) {}
 
+bool CElementHandler::takes(const DOMNode* /*node*/) const { return true; }
+
 CElementImpl* CElementHandler::bindRoot(DOMDocument* document) {
   DOMElement* const root = ElementChildren(document, nullptr).next();
   CElementImpl* const wrapper = CElementImpl::wrapperOf(root);

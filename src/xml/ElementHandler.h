@@ -47,6 +47,10 @@ class CElementHandler {
   // The document is complete and normalised: binds the root's wrapper to it and has the root
   // collect its children.
   virtual void endParse(xercesc::DOMDocument* document) = 0;
+  // Whether newElement() takes elements of that name. The parser asks as the element begins, since
+  // the schema judges an element's place only as its parent ends, and refuses the document that has
+  // another. Every one unless overridden.
+  virtual bool takes(const xercesc::DOMNode* node) const;
 
  protected:
   CElementHandler();
@@ -66,15 +70,22 @@ class CElementHandler {
     static_cast<void>(made.release());
   }
 
-  // Wraps the element as the first row for its local name says; false when there is none.
+  // The first row for the element's local name; null when there is none.
+  template <std::size_t N>
+  static const ElementWrapping* rowFor(const xercesc::DOMNode* node,
+                                       const ElementWrapping (&rows)[N]) {
+    for (const ElementWrapping& row : rows) {
+      if (xercesc::XMLString::equals(row.localName, node->getLocalName())) return &row;
+    }
+    return nullptr;
+  }
+
+  // Wraps the element as its row says; false when there is none.
   template <std::size_t N>
   bool wrapByName(const ElementWrapping (&rows)[N], xercesc::DOMNode* node) {
-    for (const ElementWrapping& row : rows) {
-      if (!xercesc::XMLString::equals(row.localName, node->getLocalName())) continue;
-      row.wrap(*this, node);
-      return true;
-    }
-    return false;
+    const ElementWrapping* const row = rowFor(node, rows);
+    if (row != nullptr) row->wrap(*this, node);
+    return row != nullptr;
   }
 
   // Binds the root's wrapper to the document and returns it; null when the root has none.

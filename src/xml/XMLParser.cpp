@@ -28,6 +28,7 @@ using xercesc::Locator;
 using xercesc::MemBufInputSource;
 using xercesc::RefVectorOf;
 using xercesc::SAXParseException;
+using xercesc::SchemaElementDecl;
 using xercesc::XMLAttr;
 using xercesc::XMLBuffer;
 using xercesc::XMLElementDecl;
@@ -45,8 +46,8 @@ int position(XMLFileLoc at) {
   return static_cast<int>(std::min<XMLFileLoc>(at, static_cast<XMLFileLoc>(INT_MAX)));
 }
 
-// What kind of place the parser would read from.
-enum class Place { network, regularFile, specialFile, directory };
+// What kind of place the parser would read from; none when it is given no name of one.
+enum class Place { none, network, regularFile, specialFile, directory };
 
 Place placeOfFile(const XMLCh* path) {
   struct stat status = {};
@@ -77,9 +78,10 @@ std::basic_string<XMLCh> unescaped(const XMLCh* path) {
   return result;
 }
 
-// Decides as the parser does what `systemId` names in a document named `base` (null for none): a
-// URL, by itself or counted from a base that is one, or else a file.
+// Decides as the parser does what `systemId` names in a document named `base` (null for none,
+// both): a URL, by itself or counted from a base that is one, or else a file.
 Place placeOf(const XMLCh* base, const XMLCh* systemId) {
+  if (systemId == nullptr) return Place::none;
   XMLURL url(XMLPlatformUtils::fgMemoryManager);
   if (!url.setURL(base, systemId, url) || url.isRelative()) {
     XMLBuffer path;
@@ -114,6 +116,11 @@ const XMLCh* namespaceNeeded(const XMLResourceIdentifier& reference) {
     default:
       return nullptr;
   }
+}
+
+// The namespace of the root of the document that `node` stands in.
+const XMLCh* rootNamespaceOf(const DOMNode* node) {
+  return node->getOwnerDocument()->getDocumentElement()->getNamespaceURI();
 }
 
 // Parses as nothing: stands in for what was refused.
@@ -192,11 +199,25 @@ void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int ur
   if (declaration.getObjectType() != XMLElementDecl::Schema || !declaration.isDeclared()) {
     refuse("no schema declares the element '" + narrow(element->getNodeName()) + "'");
   }
+  if (handler_ != nullptr &&
+      !belongs(element, static_cast<const SchemaElementDecl&>(declaration))) {
+    refuse("the element '" + narrow(element->getNodeName()) +
+           "' has no place in a document of the namespace '" + narrow(rootNamespaceOf(element)) +
+           "'");
+  }
   if (++depth_ > maxDepth) {
     refuse("elements are nested deeper than " + std::to_string(maxDepth) + " levels");
   }
   if (handler_ != nullptr) handler_->startElement(element);
   if (isEmpty) endElement(declaration, uriId, isRoot, prefix);
+}
+
+bool CXMLParser::belongs(const DOMNode* element, const SchemaElementDecl& declaration) const {
+  const XMLCh* const uri = element->getNamespaceURI();
+  // A schema may declare what stands inside its own elements without a namespace.
+  const bool isUnqualified = uri == nullptr && !declaration.isGlobalDecl();
+  return (isUnqualified || XMLString::equals(uri, rootNamespaceOf(element))) &&
+         handler_->takes(element);
 }
 
 void CXMLParser::endElement(const XMLElementDecl& declaration, unsigned int uriId, bool isRoot,
@@ -260,6 +281,7 @@ InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
     case Place::specialFile:
       refuse("the schema '" + name + "' is refused: it is no regular file");
       return emptySource();
+    case Place::none:  // A schema may import a namespace without saying where its schema is.
     case Place::regularFile:
       break;
   }

@@ -9,6 +9,7 @@
 #include <xercesc/sax/ErrorHandler.hpp>
 #include <xercesc/util/SecurityManager.hpp>
 #include <xercesc/util/XMLResourceIdentifier.hpp>
+#include <xercesc/validators/schema/SchemaElementDecl.hpp>
 
 #include "as/CASParseException.h"
 #include "xml/ElementHandler.h"
@@ -85,6 +86,9 @@ class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler
   // `schema`, a source of the resolver's or null, unless it is a directory, which is refused. Takes
   // and gives ownership.
   xercesc::InputSource* checked(xercesc::InputSource* schema);
+  // Whether the handler may be given `element`, which that declaration of a schema let in.
+  bool belongs(const xercesc::DOMNode* element,
+               const xercesc::SchemaElementDecl& declaration) const;
   // Ends the parse with `message`, or keeps it for the root's sake; see parse().
   void report(const as::CASParseException& message);
   // Ends the parse with a message of this library's own, at the place reached in the document.
