@@ -1,7 +1,5 @@
 #include "service/VorSHandler.h"
 
-#include <utility>
-
 #include "cobol/PropertyImpl.h"
 #include "service/HiddenParameterImpl.h"
 #include "service/MappingImpl.h"
@@ -32,13 +30,6 @@ void CVorSHandler::newElement(DOMNode* node) {
   if (!wrapByName(rows, node)) AS_ASSERT(false, "VorSHandler");
 }
 
-void CVorSHandler::endParse(DOMDocument* document) {
-  service_ = as::interface_cast<CServiceImpl>(bindRoot(document));
-  if (service_ != nullptr) service_->collectChildren();
-}
+void CVorSHandler::endParse(DOMDocument* document) { setService(complete<CServiceImpl>(document)); }
 
-std::unique_ptr<CServiceImpl> CVorSHandler::takeService() {
-  if (service_ != nullptr) service_->setOwned();
-  forgetOwned();
-  return std::unique_ptr<CServiceImpl>(std::exchange(service_, nullptr));
-}
+std::unique_ptr<CServiceImpl> CVorSHandler::takeService() { return take(service_); }
