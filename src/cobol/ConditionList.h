@@ -3,19 +3,15 @@
 #define COBOL_CONDITIONLIST_H_
 
 #include "cobol/DDVocabulary.h"
-#include "xml/List.h"
 #include "xml/LocalNameFilter.h"
+#include "xml/UnboundList.h"
 
 // Leaves alphanumeric conditions out: they are wrapped, but no data item lists them.
-class CConditionNodeFilter : public LocalNameFilter<DD::numericCondition> {
- public:
-  static CConditionNodeFilter filter;
-};
+class CConditionNodeFilter : public NamedNodeFilter<CConditionNodeFilter, DD::numericCondition> {};
 
-class CConditionList : virtual public as::IList, virtual public CList {
+class CConditionList : virtual public as::IList, public UnboundList<CConditionNodeFilter> {
  public:
-  explicit CConditionList(xercesc::DOMElement* element);
-  ~CConditionList() override;
+  using UnboundList::UnboundList;
   AS_IDENTITY(CConditionList)
 };
 

@@ -5,10 +5,9 @@
 
 AS_DEFINE_IDENTITY2(CDataItemList, as::IList, CList)
 
-CDataItemNodeFilter CDataItemNodeFilter::filter;
-
 CDataItemList::CDataItemList(xercesc::DOMElement* element, CGroupImpl* group)
-    : CElementImpl(element), CList(element), group_(group) {
+    : CElementImpl(group == nullptr ? element : nullptr), group_(group) {
+  pointAt(element);
   setFilter(&CDataItemNodeFilter::filter);
 }
 

@@ -10,15 +10,14 @@ class CGroupImpl;
 
 // Knows neither "alphanumericEdited" nor "object": such elements are members of no list.
 class CDataItemNodeFilter
-    : public LocalNameFilter<DD::numeric, DD::alphanumeric, DD::group, DD::numericEdited,
-                             DD::pointer, DD::national, DD::cobolObject, DD::index> {
- public:
-  static CDataItemNodeFilter filter;
-};
+    : public NamedNodeFilter<CDataItemNodeFilter, DD::numeric, DD::alphanumeric, DD::group,
+                             DD::numericEdited, DD::pointer, DD::national, DD::cobolObject,
+                             DD::index> {};
 
 class CDataItemList : virtual public as::IList, virtual public CList {
  public:
-  // `group` is the group that the list belongs to, null for the list of a section or a file.
+  // `group` is the group that the list is a member of, and whose element stays bound to it; null
+  // for the list of a section or a file, which wraps an element of its own.
   CDataItemList(xercesc::DOMElement* element, CGroupImpl* group);
   ~CDataItemList() override;
   AS_IDENTITY(CDataItemList)

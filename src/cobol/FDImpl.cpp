@@ -6,7 +6,7 @@ AS_DEFINE_IDENTITY2(CFDImpl, as::IFD, CElementImpl)
 
 CFDImpl::CFDImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
 
-CFDImpl::~CFDImpl() { delete dataItems_; }
+CFDImpl::~CFDImpl() = default;
 
 std::string CFDImpl::getName() { return text(DD::name); }
 

@@ -19,7 +19,8 @@ class CFDImpl : virtual public as::IFD, virtual public CElementImpl {
   void collectChildren() override;
 
  private:
-  // Owned. The mode and organization that the document tells are read by nobody.
+  // Null until it is collected. The mode and organization that the document tells are read by
+  // nobody.
   CList* dataItems_ = nullptr;
 };
 

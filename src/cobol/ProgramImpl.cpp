@@ -6,9 +6,7 @@ AS_DEFINE_IDENTITY2(CProgramImpl, as::IProgram, CElementImpl)
 
 CProgramImpl::CProgramImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
 
-CProgramImpl::~CProgramImpl() {
-  for (CList* const section : {properties_, fileSection_, dataItems_, entryPoints_}) delete section;
-}
+CProgramImpl::~CProgramImpl() = default;
 
 std::string CProgramImpl::getName() { return text(DD::name); }
 

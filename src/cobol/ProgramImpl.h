@@ -6,12 +6,13 @@
 
 #include "as/IProgram.h"
 #include "xml/List.h"
+#include "xml/WrapperPool.h"
 #include "xml/XMLParser.h"
 
 class CProgramImpl : virtual public as::IProgram, virtual public CElementImpl {
  public:
   explicit CProgramImpl(xercesc::DOMElement* element);
-  // Releases the lists, with every wrapper below them, and last the document.
+  // Releases every other wrapper, and last the document.
   ~CProgramImpl() override;
   AS_IDENTITY(CProgramImpl)
 
@@ -23,16 +24,19 @@ class CProgramImpl : virtual public as::IProgram, virtual public CElementImpl {
 
   void collectChildren() override;
 
-  // Hands over the parser that holds the program's document, to live as long as the program.
+  // Hand over what lives as long as the program: the parser that holds its document, and the
+  // wrappers.
   void setParser(std::unique_ptr<CXMLParser> parser) { parser_ = std::move(parser); }
+  void setPool(std::unique_ptr<WrapperPool> pool) { pool_ = std::move(pool); }
 
  private:
-  // Owned; null for a section that the document lacks, and until the children are collected.
+  // Null for a section that the document lacks, and until the children are collected.
   CList* properties_ = nullptr;
   CList* fileSection_ = nullptr;
   CList* dataItems_ = nullptr;
   CList* entryPoints_ = nullptr;
-  std::unique_ptr<CXMLParser> parser_;
+  std::unique_ptr<CXMLParser> parser_;  // Outlives the pool: wrappers stand on the document.
+  std::unique_ptr<WrapperPool> pool_;
 };
 
 #endif  // COBOL_PROGRAMIMPL_H_

@@ -1,6 +1,5 @@
 #include "cobol/VorDDHandler.h"
 
-#include <utility>
 #include <xercesc/util/XMLString.hpp>
 
 #include "as/CASInvalidNamespaceException.h"
@@ -27,11 +26,11 @@ using xercesc::DOMNode;
 using xercesc::XMLString;
 
 // The items of a section or a file belong to no group.
-void CVorDDHandler::wrapSection(CElementHandler& handler, DOMNode* node) {
-  static_cast<CVorDDHandler&>(handler).wrap<CDataItemList>(node, static_cast<CGroupImpl*>(nullptr));
+void CVorDDHandler::wrapSection(ModelBuilder& builder, DOMNode* node) {
+  static_cast<CVorDDHandler&>(builder).wrap<CDataItemList>(node, static_cast<CGroupImpl*>(nullptr));
 }
 
-constinit const CElementHandler::ElementWrapping CVorDDHandler::rows[] = {
+constinit const ModelBuilder::ElementWrapping CVorDDHandler::rows[] = {
     {DD::properties, wrapAs<CList>},
     {DD::property, wrapAs<CPropertyImpl>},
     {DD::fileSection, wrapAs<CList>},
@@ -69,13 +68,6 @@ void CVorDDHandler::startDocument(DOMNode* root) {
   }
 }
 
-void CVorDDHandler::endParse(DOMDocument* document) {
-  program_ = as::interface_cast<CProgramImpl>(bindRoot(document));
-  if (program_ != nullptr) program_->collectChildren();
-}
+void CVorDDHandler::endParse(DOMDocument* document) { program_ = complete<CProgramImpl>(document); }
 
-std::unique_ptr<CProgramImpl> CVorDDHandler::takeProgram() {
-  if (program_ != nullptr) program_->setOwned();
-  forgetOwned();
-  return std::unique_ptr<CProgramImpl>(std::exchange(program_, nullptr));
-}
+std::unique_ptr<CProgramImpl> CVorDDHandler::takeProgram() { return take(program_); }

@@ -3,9 +3,9 @@
 #define COBOL_VORDDHANDLER_H_
 
 #include "cobol/ProgramImpl.h"
-#include "xml/ElementHandler.h"
+#include "xml/ModelBuilder.h"
 
-class CVorDDHandler final : public CElementHandler {
+class CVorDDHandler final : public ModelBuilder {
  public:
   // Wraps the element by its local name alone. A name that it does not take is a programming error
   // that ends the process: the parser has let nothing else through.
@@ -22,7 +22,7 @@ class CVorDDHandler final : public CElementHandler {
 
  private:
   static const ElementWrapping rows[];
-  static void wrapSection(CElementHandler& handler, xercesc::DOMNode* node);
+  static void wrapSection(ModelBuilder& builder, xercesc::DOMNode* node);
 
   CProgramImpl* program_ = nullptr;
 };

@@ -4,7 +4,7 @@
 #include "service/ServiceImpl.h"
 #include "xml/Vocabulary.h"
 
-CServiceImpl* CCOMFactory::createService() {
+std::unique_ptr<CServiceImpl> CCOMFactory::createService() {
   return createServiceDocument(XSDNS::comURI, XSDNS::comSchemaLocation, as::IService::TYPE_COM);
 }
 

@@ -8,7 +8,7 @@ class CCOMFactory : public CServiceFactory {
  public:
   using CServiceFactory::CServiceFactory;
 
-  CServiceImpl* createService() override;
+  std::unique_ptr<CServiceImpl> createService() override;
   CParameterImpl* newParameter(xercesc::DOMElement* element) override;
 };
 

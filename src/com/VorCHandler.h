@@ -10,9 +10,9 @@
 // What a COM service has of its own; services and operations are plain ones.
 struct ComFlavour {
   using Factory = CCOMFactory;
-  static constexpr CElementHandler::ElementWrapping rows[] = {
-      {SS::parameter, CElementHandler::wrapAs<CCOMParameterImpl>},
-      {SS::field, CElementHandler::wrapAs<CCOMParameterImpl>},
+  static constexpr ModelBuilder::ElementWrapping rows[] = {
+      {SS::parameter, ModelBuilder::wrapAs<CCOMParameterImpl>},
+      {SS::field, ModelBuilder::wrapAs<CCOMParameterImpl>},
   };
 };
 

@@ -6,7 +6,7 @@
 #include "service/ServiceImpl.h"
 #include "xml/Vocabulary.h"
 
-CServiceImpl* CDotNETFactory::createService() {
+std::unique_ptr<CServiceImpl> CDotNETFactory::createService() {
   // New .NET documents are written in the Web service namespace; "implementation" tells them apart.
   return createServiceDocument(XSDNS::wsURI, XSDNS::wsSchemaLocation, as::IService::TYPE_DOTNET);
 }
@@ -19,6 +19,6 @@ COperationImpl* CDotNETFactory::newOperation(xercesc::DOMElement* element) {
   return newWrapper<CDotNETOperationImpl>(element);
 }
 
-CServiceImpl* CDotNETFactory::newService(xercesc::DOMElement* element) {
-  return newWrapper<CDotNETImpl>(element);
+std::unique_ptr<CServiceImpl> CDotNETFactory::newService(xercesc::DOMElement* element) {
+  return newRoot<CDotNETImpl>(element);
 }

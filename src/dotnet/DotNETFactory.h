@@ -8,10 +8,10 @@ class CDotNETFactory : public CServiceFactory {
  public:
   using CServiceFactory::CServiceFactory;
 
-  CServiceImpl* createService() override;
+  std::unique_ptr<CServiceImpl> createService() override;
   CParameterImpl* newParameter(xercesc::DOMElement* element) override;
   COperationImpl* newOperation(xercesc::DOMElement* element) override;
-  CServiceImpl* newService(xercesc::DOMElement* element) override;
+  std::unique_ptr<CServiceImpl> newService(xercesc::DOMElement* element) override;
 };
 
 #endif  // DOTNET_DOTNETFACTORY_H_

@@ -12,11 +12,11 @@
 // What a .NET service has of its own.
 struct DotNETFlavour {
   using Factory = CDotNETFactory;
-  static constexpr CElementHandler::ElementWrapping rows[] = {
-      {SS::field, CElementHandler::wrapAs<CDotNETParameterImpl>},
-      {SS::parameter, CElementHandler::wrapAs<CDotNETParameterImpl>},
-      {SS::service, CElementHandler::wrapAs<CDotNETImpl>},
-      {SS::operation, CElementHandler::wrapAs<CDotNETOperationImpl>},
+  static constexpr ModelBuilder::ElementWrapping rows[] = {
+      {SS::field, ModelBuilder::wrapAs<CDotNETParameterImpl>},
+      {SS::parameter, ModelBuilder::wrapAs<CDotNETParameterImpl>},
+      {SS::service, ModelBuilder::wrapAs<CDotNETImpl>},
+      {SS::operation, ModelBuilder::wrapAs<CDotNETOperationImpl>},
   };
 };
 

@@ -150,7 +150,6 @@ as::IProgram* CAgentServices::parseProgram(const Source& source) const {
     source.parse(*parser, schemaDirectory_, handler);
     std::unique_ptr<CProgramImpl> program = handler.takeProgram();
     if (!program) return nullptr;
-    parser->keep(handler.releaseUnowned());
     program->setParser(std::move(parser));
     return as::interface_cast<as::IProgram>(program.release());
   });
@@ -164,7 +163,6 @@ as::IService* CAgentServices::parseServiceDocument(const Source& source, bool lo
     source.parse(*parser, schemaDirectory_, handler);
     std::unique_ptr<CServiceImpl> service = handler.takeService();
     if (!service) return nullptr;
-    parser->keep(handler.releaseUnowned());
     service->setParser(std::move(parser));
     if (loadProgram) {
       as::IProgram* const program = parseCobolDD(service->getDDFilename().c_str());

@@ -44,7 +44,7 @@ CServiceImpl* newService(as::IProgram* program) {
   if (program == nullptr) return nullptr;
   try {
     auto factory = std::make_unique<Factory>();
-    std::unique_ptr<CServiceImpl> service(factory->createService());
+    std::unique_ptr<CServiceImpl> service = factory->createService();
     service->setFactory(std::move(factory));
     service->setProgram(program);
     return service.release();

@@ -3,42 +3,26 @@
 #include <xercesc/util/XMLString.hpp>
 
 #include "as/CASInvalidNamespaceException.h"
-#include "com/VorCHandler.h"
-#include "dotnet/VorDotNETHandler.h"
-#include "java/VorJHandler.h"
-#include "ws/VorWSHandler.h"
 #include "xml/Vocabulary.h"
 
 using xercesc::DOMDocument;
 using xercesc::DOMNode;
 using xercesc::XMLString;
 
-namespace {
-
-template <class Handler>
-std::shared_ptr<CVorSHandler> makeHandler() {
-  return std::make_shared<Handler>();
-}
-
-// The flavours, in the order in which a namespace is compared with theirs.
-constexpr struct {
-  const XMLCh* namespaceURI;
-  std::shared_ptr<CVorSHandler> (*make)();
-} flavours[] = {
-    {XSDNS::wsURI, makeHandler<CVorWSHandler>},
-    {XSDNS::javaURI, makeHandler<CVorJHandler>},
-    {XSDNS::comURI, makeHandler<CVorCHandler>},
-    {XSDNS::dotnetURI, makeHandler<CVorDotNETHandler>},
+// In the order in which a namespace is compared with theirs.
+const CDelegatingHandler::Flavour CDelegatingHandler::flavours[] = {
+    {XSDNS::wsURI, make<CVorWSHandler>},
+    {XSDNS::javaURI, make<CVorJHandler>},
+    {XSDNS::comURI, make<CVorCHandler>},
+    {XSDNS::dotnetURI, make<CVorDotNETHandler>},
 };
-
-}  // namespace
 
 CDelegatingHandler::~CDelegatingHandler() = default;
 
 void CDelegatingHandler::startDocument(DOMNode* root) {
-  for (const auto& flavour : flavours) {
+  for (const Flavour& flavour : flavours) {
     if (!XMLString::equals(root->getNamespaceURI(), flavour.namespaceURI)) continue;
-    delegate_ = flavour.make();
+    delegate_ = flavour.make(storage_);
     return;
   }
   throw as::CASInvalidNamespaceException();
@@ -47,11 +31,11 @@ void CDelegatingHandler::startDocument(DOMNode* root) {
 void CDelegatingHandler::startElement(DOMNode* /*node*/) {}
 
 void CDelegatingHandler::newElement(DOMNode* node) {
-  if (delegate_) delegate_->newElement(node);
+  if (delegate_ != nullptr) delegate_->newElement(node);
 }
 
 void CDelegatingHandler::endParse(DOMDocument* document) {
-  if (delegate_) delegate_->endParse(document);
+  if (delegate_ != nullptr) delegate_->endParse(document);
 }
 
 bool CDelegatingHandler::takes(const DOMNode* node) const {
@@ -59,13 +43,9 @@ bool CDelegatingHandler::takes(const DOMNode* node) const {
 }
 
 CServiceImpl* CDelegatingHandler::getService() const {
-  return delegate_ ? delegate_->getService() : nullptr;
+  return delegate_ != nullptr ? delegate_->getService() : nullptr;
 }
 
 std::unique_ptr<CServiceImpl> CDelegatingHandler::takeService() {
-  return delegate_ ? delegate_->takeService() : nullptr;
-}
-
-WrapperPool CDelegatingHandler::releaseUnowned() {
-  return delegate_ ? delegate_->releaseUnowned() : WrapperPool();
+  return delegate_ != nullptr ? delegate_->takeService() : nullptr;
 }

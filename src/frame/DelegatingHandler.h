@@ -4,8 +4,12 @@
 #define FRAME_DELEGATINGHANDLER_H_
 
 #include <memory>
+#include <variant>
 
-#include "service/VorSHandler.h"
+#include "com/VorCHandler.h"
+#include "dotnet/VorDotNETHandler.h"
+#include "java/VorJHandler.h"
+#include "ws/VorWSHandler.h"
 
 class CDelegatingHandler : public CElementHandler {
  public:
@@ -22,13 +26,24 @@ class CDelegatingHandler : public CElementHandler {
   CServiceImpl* getService() const;
   // The same, given away.
   std::unique_ptr<CServiceImpl> takeService();
-  // What the delegate made and the model did not take in, given away.
-  WrapperPool releaseUnowned();
 
  private:
-  // Shared only so that each delegate is destroyed as what it is: handlers have no virtual
-  // destructor.
-  std::shared_ptr<CVorSHandler> delegate_;
+  // The flavours' handlers have no virtual destructor: this destroys each as what it is.
+  using Delegate =
+      std::variant<std::monostate, CVorWSHandler, CVorJHandler, CVorCHandler, CVorDotNETHandler>;
+  // A flavour is told by its namespace.
+  struct Flavour {
+    const XMLCh* namespaceURI;
+    CVorSHandler* (*make)(Delegate&);
+  };
+  template <class Handler>
+  static CVorSHandler* make(Delegate& delegate) {
+    return &delegate.emplace<Handler>();
+  }
+  static const Flavour flavours[];
+
+  Delegate storage_;
+  CVorSHandler* delegate_ = nullptr;  // In the storage.
 };
 
 #endif  // FRAME_DELEGATINGHANDLER_H_

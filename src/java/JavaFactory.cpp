@@ -5,7 +5,7 @@
 #include "service/ServiceImpl.h"
 #include "xml/Vocabulary.h"
 
-CServiceImpl* CJavaFactory::createService() {
+std::unique_ptr<CServiceImpl> CJavaFactory::createService() {
   return createServiceDocument(XSDNS::javaURI, XSDNS::javaSchemaLocation, as::IService::TYPE_JAVA);
 }
 

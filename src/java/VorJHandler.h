@@ -11,10 +11,10 @@
 // What a Java service has of its own; the service element is a plain one.
 struct JavaFlavour {
   using Factory = CJavaFactory;
-  static constexpr CElementHandler::ElementWrapping rows[] = {
-      {SS::parameter, CElementHandler::wrapAs<CJavaParameterImpl>},
-      {SS::field, CElementHandler::wrapAs<CJavaParameterImpl>},
-      {SS::operation, CElementHandler::wrapAs<CJavaOperationImpl>},
+  static constexpr ModelBuilder::ElementWrapping rows[] = {
+      {SS::parameter, ModelBuilder::wrapAs<CJavaParameterImpl>},
+      {SS::field, ModelBuilder::wrapAs<CJavaParameterImpl>},
+      {SS::operation, ModelBuilder::wrapAs<CJavaOperationImpl>},
   };
 };
 

@@ -3,18 +3,14 @@
 #define SERVICE_FIELDLIST_H_
 
 #include "service/SSVocabulary.h"
-#include "xml/List.h"
 #include "xml/LocalNameFilter.h"
+#include "xml/UnboundList.h"
 
-class CFieldNodeFilter : public LocalNameFilter<SS::field> {
- public:
-  static CFieldNodeFilter filter;
-};
+class CFieldNodeFilter : public NamedNodeFilter<CFieldNodeFilter, SS::field> {};
 
-class CFieldList : virtual public CList {
+class CFieldList : public UnboundList<CFieldNodeFilter> {
  public:
-  explicit CFieldList(xercesc::DOMElement* element);
-  ~CFieldList() override;
+  using UnboundList::UnboundList;
   AS_IDENTITY(CFieldList)
 };
 

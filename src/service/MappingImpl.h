@@ -31,7 +31,7 @@ class CMappingImpl : virtual public as::IMapping, virtual public CElementImpl {
   void setField(as::IField* field) { field_ = field; }
 
  private:
-  as::IField* field_ = nullptr;  // Not owned.
+  as::IField* field_ = nullptr;
 };
 
 #endif  // SERVICE_MAPPINGIMPL_H_

@@ -12,10 +12,7 @@ AS_DEFINE_IDENTITY2(COperationImpl, as::IOperation, CElementImpl)
 
 COperationImpl::COperationImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
 
-COperationImpl::~COperationImpl() {
-  delete hiddenParameters_;
-  delete parameters_;
-}
+COperationImpl::~COperationImpl() = default;
 
 std::string COperationImpl::getName() { return text(SS::name); }
 
@@ -38,14 +35,10 @@ bool COperationImpl::setEntryPoint(as::IEntryPoint* entryPoint) {
 // The arguments have no part in it: the caller sets item and value on what is returned.
 as::IHiddenParameter* COperationImpl::addHiddenParameter(as::IDataItem* /*dataItem*/,
                                                          const char* /*value*/) {
-  CServiceFactory* const factory = getFactory();
-  if (hiddenParameters_ == nullptr) {
-    // In front of everything else, whatever a flavour keeps in an operation.
-    hiddenParameters_ =
-        factory->createList(*this, SS::hiddenParameters, getElement()->getFirstChild());
-  }
-  CHiddenParameterImpl* const hidden = factory->createHiddenParameter();
-  hiddenParameters_->addChild(hidden->getElement());
+  CHiddenParameterImpl* const hidden = getFactory()->createHiddenParameter();
+  // In front of everything else, whatever a flavour keeps in an operation.
+  CServiceFactory::append(*this, hiddenParameters_, SS::hiddenParameters,
+                          getElement()->getFirstChild(), hidden->getElement());
   return hidden;
 }
 
@@ -77,14 +70,12 @@ void COperationImpl::collectChildren() {
 void COperationImpl::addParameter(as::IParameter* parameter) {
   auto* const wrapper = as::interface_cast<CElementImpl>(parameter);
   if (wrapper == nullptr) return;
-  if (parameters_ == nullptr) {
-    // Behind the hidden parameters, in front of what a flavour keeps in an operation.
-    const CElementImpl* const hidden = hiddenParameters_;
-    parameters_ = getFactory()->createList(
-        *this, SS::parameters,
-        hidden == nullptr ? getElement()->getFirstChild() : hidden->getElement()->getNextSibling());
-  }
-  parameters_->addChild(wrapper->getElement());
+  // Behind the hidden parameters, in front of what a flavour keeps in an operation.
+  const CElementImpl* const hidden = hiddenParameters_;
+  CServiceFactory::append(
+      *this, parameters_, SS::parameters,
+      hidden == nullptr ? getElement()->getFirstChild() : hidden->getElement()->getNextSibling(),
+      wrapper->getElement());
 }
 
 as::IEntryPoint* COperationImpl::GetEntryPoint(as::IProgram* program, const std::string& name) {

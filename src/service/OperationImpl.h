@@ -34,7 +34,7 @@ class COperationImpl : virtual public as::IOperation, virtual public CElementImp
   static as::IEntryPoint* GetEntryPoint(as::IProgram* program, const std::string& name);
 
  private:
-  // Owned; null for a list that the document lacks, and until the children are collected.
+  // Null for a list that the document lacks, and until the children are collected.
   CList* parameters_ = nullptr;
   CList* hiddenParameters_ = nullptr;
 };

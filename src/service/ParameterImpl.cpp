@@ -4,11 +4,11 @@
 
 #include "as/IOperation.h"
 #include "cobol/DataItemPath.h"
+#include "service/ByTypeWords.h"
 #include "service/MappingImpl.h"
 #include "service/SSVocabulary.h"
 #include "service/ServiceFactory.h"
 #include "service/ServiceImpl.h"
-#include "xml/WordTable.h"
 #include "xml/XStr.h"
 
 using xercesc::DOMNode;
@@ -16,19 +16,10 @@ using xercesc::XMLString;
 
 AS_DEFINE_IDENTITY3(CParameterImpl, as::IParameter, as::IField, CElementImpl)
 
-namespace {
-
-constexpr WordCode byTypes[] = {
-    {SS::in, as::IParameter::BY_IN},
-    {SS::out, as::IParameter::BY_OUT},
-};
-
-}  // namespace
-
 CParameterImpl::CParameterImpl(xercesc::DOMElement* element)
     : CElementImpl(element), fields_(element) {}
 
-CParameterImpl::~CParameterImpl() { delete mappings_; }
+CParameterImpl::~CParameterImpl() = default;
 
 std::string CParameterImpl::getName() { return text(SS::name); }
 
@@ -55,14 +46,11 @@ as::IField* CParameterImpl::addField(const char* name, int occurs) {
 
 as::IMapping* CParameterImpl::addMapping(as::IDataItem* dataItem) {
   if (reference_ != nullptr || dataItem == nullptr) return nullptr;
-  CServiceFactory* const factory = getFactory();
-  if (mappings_ == nullptr) {
-    mappings_ = factory->createList(*this, SS::mappings, getElement()->getFirstChild());
-  }
-  CMappingImpl* const mapping = factory->createMapping();
+  CMappingImpl* const mapping = getFactory()->createMapping();
   mapping->setField(this);
   mapping->setDataItem(dataItem);
-  mappings_->addChild(mapping->getElement());
+  CServiceFactory::append(*this, mappings_, SS::mappings, getElement()->getFirstChild(),
+                          mapping->getElement());
   return mapping;
 }
 
@@ -90,7 +78,7 @@ std::string CParameterImpl::getQualifiedName() {
 }
 
 as::IParameter::BY_TYPE CParameterImpl::getByType() {
-  return static_cast<BY_TYPE>(codeOfWord(byTypes, wide(SS::byType), BY_IO));
+  return byTypeOfWord<as::IParameter>(wide(SS::byType));
 }
 
 void CParameterImpl::setByType(BY_TYPE byType) { write(SS::byType, ByTypeToString(byType)); }
@@ -102,9 +90,9 @@ void CParameterImpl::collectChildren() {
   if (!ref.empty()) {
     CServiceImpl* const service = getService();
     CParameterImpl* const found = service == nullptr ? nullptr : service->getPrototypeByName(ref);
-    if (found == nullptr || leadsBack(found)) return;
-    reference_ = found;
-    found->isReferredTo_ = true;
+    // A definition is found by what stands behind it and, while the list of definitions grows, by
+    // itself. Only the latter would lead back to where it started: it defines nothing.
+    if (found != this) reference_ = found;
     return;
   }
   collectNamedList(SS::mappings, mappings_);
@@ -114,15 +102,6 @@ void CParameterImpl::collectChildren() {
     if (mapping != nullptr) mapping->setField(this);
   }
   fields_.collectChildren();
-}
-
-// A definition that leads back to itself defines nothing. Only one that others refer to already can
-// be met on the way from one of them.
-bool CParameterImpl::leadsBack(const CParameterImpl* found) const {
-  if (found == this) return true;
-  if (!isReferredTo_) return false;
-  while (found != nullptr && found != this) found = found->reference_;
-  return found == this;
 }
 
 CParameterImpl* CParameterImpl::source() {
@@ -136,8 +115,7 @@ const XMLCh* CParameterImpl::wideAtSource(const XMLCh* attribute) {
 }
 
 const XMLCh* CParameterImpl::ByTypeToString(BY_TYPE byType) {
-  const XMLCh* const word = wordOfCode(byTypes, byType);
-  return word == nullptr ? SS::io : word;
+  return wordOfByType<as::IParameter>(byType);
 }
 
 std::string CParameterImpl::GetFullyQualifiedName(const std::string& path) {

@@ -53,12 +53,9 @@ class CParameterImpl : virtual public as::IParameter,
   const XMLCh* wideAtSource(const XMLCh* attribute);
 
  private:
-  bool leadsBack(const CParameterImpl* found) const;
-
   CFieldList fields_;
-  CList* mappings_ = nullptr;            // Owned.
-  CParameterImpl* reference_ = nullptr;  // Not owned.
-  bool isReferredTo_ = false;
+  CList* mappings_ = nullptr;
+  CParameterImpl* reference_ = nullptr;
 };
 
 #endif  // SERVICE_PARAMETERIMPL_H_

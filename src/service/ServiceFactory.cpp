@@ -1,5 +1,6 @@
 #include "service/ServiceFactory.h"
 
+#include <utility>
 #include <xercesc/dom/DOMImplementation.hpp>
 #include <xercesc/dom/DOMImplementationRegistry.hpp>
 
@@ -33,8 +34,8 @@ CMappingImpl* CServiceFactory::newMapping(DOMElement* element) {
   return newWrapper<CMappingImpl>(element);
 }
 
-CServiceImpl* CServiceFactory::newService(DOMElement* element) {
-  return newWrapper<CServiceImpl>(element);
+std::unique_ptr<CServiceImpl> CServiceFactory::newService(DOMElement* element) {
+  return newRoot<CServiceImpl>(element);
 }
 
 COperationImpl* CServiceFactory::createOperation() {
@@ -55,25 +56,42 @@ CHiddenParameterImpl* CServiceFactory::createHiddenParameter() {
 
 CMappingImpl* CServiceFactory::createMapping() { return newMapping(createElement(SS::mapping)); }
 
-CList* CServiceFactory::createList(const CElementImpl& owner, const XMLCh* name, DOMNode* before) {
-  auto* element = static_cast<DOMElement*>(CElementImpl::getNamedChild(owner.getElement(), name));
-  if (element == nullptr) {
-    element = createElement(name);
-    owner.getElement()->insertBefore(element, before);
+CElementImpl* CServiceFactory::createHeader() { return nullptr; }
+
+CElementImpl* CServiceFactory::createFault() { return nullptr; }
+
+CParameterImpl* CServiceFactory::createFieldAttribute() { return nullptr; }
+
+void CServiceFactory::append(const CElementImpl& owner, CList*& list, const XMLCh* name,
+                             DOMNode* before, DOMElement* child) {
+  if (list != nullptr) {
+    list->addChild(child);
+  } else {
+    list = owner.getFactory()->startList(owner, name, before, child);
   }
-  auto list = std::make_unique<CList>(element);
-  list->setOwned();
-  return list.release();
 }
 
-CServiceImpl* CServiceFactory::createServiceDocument(const XMLCh* xmlns,
-                                                     const XMLCh* schemaLocation,
-                                                     as::IService::TYPE type) {
+CList* CServiceFactory::startList(const CElementImpl& owner, const XMLCh* name, DOMNode* before,
+                                  DOMElement* first) {
+  DOMNode* const there = CElementImpl::getNamedChild(owner.getElement(), name);
+  auto* const element = there != nullptr ? static_cast<DOMElement*>(there) : createElement(name);
+  auto* list = as::interface_cast<CList>(CElementImpl::wrapperOf(element));
+  if (list == nullptr) list = pool_->make<CList>(element);
+  list->addChild(first);
+  if (there == nullptr) owner.getElement()->insertBefore(element, before);
+  return list;
+}
+
+std::unique_ptr<CServiceImpl> CServiceFactory::createServiceDocument(const XMLCh* xmlns,
+                                                                     const XMLCh* schemaLocation,
+                                                                     as::IService::TYPE type) {
   // Every flavour's root is created in the Web service namespace; what the document says of itself
   // stands in its "xmlns" attribute, and that is what is written.
-  owned_.reset(DOMImplementationRegistry::getDOMImplementation(XMLNS::core)
-                   ->createDocument(XSDNS::wsURI, SS::service, nullptr));
-  document_ = owned_.get();
+  DocumentPointer document(DOMImplementationRegistry::getDOMImplementation(XMLNS::core)
+                               ->createDocument(XSDNS::wsURI, SS::service, nullptr));
+  auto pool = std::make_unique<WrapperPool>();
+  document_ = document.get();
+  pool_ = pool.get();
   DOMElement* const root = document_->getDocumentElement();
   root->setAttribute(XMLNS::xmlns, xmlns);
   root->setAttributeNS(XSDNS::xmlURI, XMLNS::xmlnsxsi, XSDNS::xsiURI);
@@ -81,11 +99,12 @@ CServiceImpl* CServiceFactory::createServiceDocument(const XMLCh* xmlns,
   for (const XMLCh* const list : {SS::properties, SS::parameterTypeDefs, SS::operations}) {
     appendList(root, list);
   }
-  std::unique_ptr<CServiceImpl> service(newService(root));
-  service->collectChildren();
+  std::unique_ptr<CServiceImpl> service = newService(root);
   service->setImplementation(type);
   CElementImpl::bind(document_, service.get());
-  return service.release();
+  service->setDocument(std::move(document));
+  service->setPool(std::move(pool));
+  return service;
 }
 
 DOMElement* CServiceFactory::createElement(const XMLCh* name) {
@@ -94,8 +113,6 @@ DOMElement* CServiceFactory::createElement(const XMLCh* name) {
 
 void CServiceFactory::appendList(DOMElement* parent, const XMLCh* name) {
   DOMElement* const element = createElement(name);
-  auto list = std::make_unique<CList>(element);
+  pool_->make<CList>(element);  // Found by its element when the parent collects its children.
   parent->appendChild(element);
-  // Found by its element, and taken in, when the parent's wrapper collects its children.
-  static_cast<void>(list.release());
-}  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
+}

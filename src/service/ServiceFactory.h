@@ -9,6 +9,7 @@
 #include "as/IService.h"
 #include "xml/ElementImpl.h"
 #include "xml/List.h"
+#include "xml/WrapperPool.h"
 
 class CHiddenParameterImpl;
 class CMappingImpl;
@@ -17,27 +18,31 @@ class CParameterImpl;
 class CServiceImpl;
 
 // New elements carry no namespace of their own; the serialiser writes them into their document's.
+// New wrappers are made in the document's pool. What is created joins the document only when it is
+// complete: an addition that fails leaves the document and its lists as they were.
 class CServiceFactory {
  public:
-  // For a new document, which the factory creates and owns ...
+  // For a new document, which createService() creates ...
   CServiceFactory() = default;
-  // ... or for one that is there already and belongs to its parser.
-  explicit CServiceFactory(xercesc::DOMDocument* document) : document_(document) {}
+  // ... or for one that is there already, with its wrappers. Neither is owned.
+  CServiceFactory(xercesc::DOMDocument* document, WrapperPool& pool)
+      : document_(document), pool_(&pool) {}
   virtual ~CServiceFactory();
 
   CServiceFactory(const CServiceFactory&) = delete;
   CServiceFactory& operator=(const CServiceFactory&) = delete;
 
-  // A new, empty service document of the flavour; the caller owns the service, the factory the
-  // document.
-  virtual CServiceImpl* createService() = 0;
+  // The service of a new, empty document of the flavour, which it owns. The factory adds to that
+  // document from then on.
+  virtual std::unique_ptr<CServiceImpl> createService() = 0;
 
-  // A new wrapper around the element, its children collected.
+  // A new wrapper around the element, its children collected. A service, being a root, is not the
+  // pool's but the caller's.
   virtual CHiddenParameterImpl* newHiddenParameter(xercesc::DOMElement* element);
   virtual CParameterImpl* newParameter(xercesc::DOMElement* element);
   virtual COperationImpl* newOperation(xercesc::DOMElement* element);
   virtual CMappingImpl* newMapping(xercesc::DOMElement* element);
-  virtual CServiceImpl* newService(xercesc::DOMElement* element);
+  virtual std::unique_ptr<CServiceImpl> newService(xercesc::DOMElement* element);
 
   // A new element, not yet in the tree, with its empty lists and its wrapper.
   COperationImpl* createOperation();
@@ -45,16 +50,23 @@ class CServiceFactory {
   CParameterImpl* createField();
   CHiddenParameterImpl* createHiddenParameter();
   CMappingImpl* createMapping();
+  // The same of what only Web services have; null in every other flavour.
+  virtual CElementImpl* createHeader();
+  virtual CElementImpl* createFault();
+  virtual CParameterImpl* createFieldAttribute();
 
-  // A new list, the caller's, over the list child `name` of `owner`: over the one that is there but
-  // that the owner has not collected, else over a new one in front of `before` (null: behind
+  // Appends `child`, a complete element of the document of `owner`, to the owner's list `list`. An
+  // owner without that list (null) gets it with its first member: over its child `name`, if it has
+  // one that it has not collected, else over a new one in front of `before` (null: behind
   // everything).
-  CList* createList(const CElementImpl& owner, const XMLCh* name, xercesc::DOMNode* before);
+  static void append(const CElementImpl& owner, CList*& list, const XMLCh* name,
+                     xercesc::DOMNode* before, xercesc::DOMElement* child);
 
  protected:
   // A new document of a flavour: see createService(). `type` is what "implementation" says.
-  CServiceImpl* createServiceDocument(const XMLCh* xmlns, const XMLCh* schemaLocation,
-                                      as::IService::TYPE type);
+  std::unique_ptr<CServiceImpl> createServiceDocument(const XMLCh* xmlns,
+                                                      const XMLCh* schemaLocation,
+                                                      as::IService::TYPE type);
 
   xercesc::DOMElement* createElement(const XMLCh* name);
   // A new element `name` with the empty list children given.
@@ -65,24 +77,28 @@ class CServiceFactory {
     return element;
   }
 
-  // A new Wrapper around `element`, bound and with its children collected.
+  // A new Wrapper around `element` with its children collected, in the pool ...
   template <class Wrapper>
-  static Wrapper* newWrapper(xercesc::DOMElement* element) {
-    auto wrapper = std::make_unique<Wrapper>(element);
-    CElementImpl::bind(element, wrapper.get());
+  Wrapper* newWrapper(xercesc::DOMElement* element) {
+    Wrapper* const wrapper = pool_->make<Wrapper>(element);
     wrapper->collectChildren();
-    return wrapper.release();
+    return wrapper;
+  }
+  // ... or by itself.
+  template <class Root>
+  static std::unique_ptr<Root> newRoot(xercesc::DOMElement* element) {
+    auto root = std::make_unique<Root>(element);
+    root->collectChildren();
+    return root;
   }
 
  private:
-  struct Release {
-    void operator()(xercesc::DOMDocument* document) const { document->release(); }
-  };
-
   void appendList(xercesc::DOMElement* parent, const XMLCh* name);
+  CList* startList(const CElementImpl& owner, const XMLCh* name, xercesc::DOMNode* before,
+                   xercesc::DOMElement* first);
 
   xercesc::DOMDocument* document_ = nullptr;
-  std::unique_ptr<xercesc::DOMDocument, Release> owned_;
+  WrapperPool* pool_ = nullptr;
 };
 
 #endif  // SERVICE_SERVICEFACTORY_H_

@@ -33,15 +33,7 @@ std::string fileNameOf(const std::string& uri) {
 
 CServiceImpl::CServiceImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
 
-CServiceImpl::~CServiceImpl() {
-  delete program_;
-  delete operations_;
-  delete parameterTypeDefs_;
-  delete properties_;
-  // The document last: everything else stands on it.
-  factory_.reset();
-  parser_.reset();
-}
+CServiceImpl::~CServiceImpl() = default;
 
 std::string CServiceImpl::getNamespaceURI() {
   // The document node's own, which has none: clients rely on the empty answer.
@@ -70,7 +62,7 @@ as::IService::TYPE CServiceImpl::getImplementation() {
   return GetImplementation(wide(SS::implementation));
 }
 
-as::IProgram* CServiceImpl::getProgram() { return program_; }
+as::IProgram* CServiceImpl::getProgram() { return program_.get(); }
 
 std::string CServiceImpl::getDDFilename() { return text(SS::dataDictFilename); }
 
@@ -103,17 +95,13 @@ void CServiceImpl::setProgram(as::IProgram* pProgram) {
     write(SS::dataDictFilename, fileNameOf(uri));
   }
   // Last: should the writing fail, the program is still the caller's.
-  if (program_ != pProgram) delete program_;
-  program_ = pProgram;
+  if (program_.get() != pProgram) program_.reset(pProgram);
 }
 
 void CServiceImpl::addOperation(as::IOperation* operation) {
   auto* const wrapper = as::interface_cast<CElementImpl>(operation);
   if (wrapper == nullptr) return;
-  if (operations_ == nullptr) {
-    operations_ = getFactory()->createList(*this, SS::operations, nullptr);
-  }
-  operations_->addChild(wrapper->getElement());
+  CServiceFactory::append(*this, operations_, SS::operations, nullptr, wrapper->getElement());
 }
 
 void CServiceImpl::setImplementation(TYPE type) {

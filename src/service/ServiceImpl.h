@@ -9,7 +9,9 @@
 #include "as/IProgram.h"
 #include "as/IService.h"
 #include "service/ServiceFactory.h"
+#include "xml/DocumentPointer.h"
 #include "xml/List.h"
+#include "xml/WrapperPool.h"
 #include "xml/XMLParser.h"
 
 class CParameterImpl;
@@ -17,8 +19,7 @@ class CParameterImpl;
 class CServiceImpl : virtual public as::IService, virtual public CElementImpl {
  public:
   explicit CServiceImpl(xercesc::DOMElement* element);
-  // Releases the program, the lists with every wrapper below them, the factory, and last the
-  // document.
+  // Releases the program, the factory, every other wrapper, and last the document.
   ~CServiceImpl() override;
   AS_IDENTITY(CServiceImpl)
 
@@ -54,8 +55,13 @@ class CServiceImpl : virtual public as::IService, virtual public CElementImpl {
   // The factory of the document's flavour.
   CServiceFactory* getServiceFactory() const { return factory_.get(); }
   void setFactory(std::unique_ptr<CServiceFactory> factory) { factory_ = std::move(factory); }
-  // Hands over the parser that holds a parsed service's document.
+  // Hand over what lives as long as the service: the wrappers, and what holds the document, a
+  // parsed one's parser or a new one itself.
+  void setPool(std::unique_ptr<WrapperPool> pool) { pool_ = std::move(pool); }
   void setParser(std::unique_ptr<CXMLParser> parser) { parser_ = std::move(parser); }
+  void setDocument(DocumentPointer document) { document_ = std::move(document); }
+  // REQUIRES: it has been handed over.
+  WrapperPool& getPool() const { return *pool_; }
 
  private:
   // Finds definitions fast while the children are collected, when nobody can change a name: one
@@ -68,13 +74,16 @@ class CServiceImpl : virtual public as::IService, virtual public CElementImpl {
 
   // Null unless the children are being collected.
   std::unique_ptr<DefinitionIndex> index_;
-  // Owned; null for a list that the document lacks, and until the children are collected.
+  // Null for a list that the document lacks, and until the children are collected.
   CList* parameterTypeDefs_ = nullptr;
   CList* operations_ = nullptr;
   CList* properties_ = nullptr;
-  as::IProgram* program_ = nullptr;
-  std::unique_ptr<CServiceFactory> factory_;
+  // Destroyed from the last to the first: everything stands on the document.
   std::unique_ptr<CXMLParser> parser_;
+  DocumentPointer document_;
+  std::unique_ptr<WrapperPool> pool_;
+  std::unique_ptr<CServiceFactory> factory_;
+  std::unique_ptr<as::IProgram> program_;
 };
 
 #endif  // SERVICE_SERVICEIMPL_H_

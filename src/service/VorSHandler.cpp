@@ -1,7 +1,5 @@
 #include "service/VorSHandler.h"
 
-#include <utility>
-
 #include "cobol/PropertyImpl.h"
 #include "service/HiddenParameterImpl.h"
 #include "service/MappingImpl.h"
@@ -13,7 +11,7 @@
 using xercesc::DOMDocument;
 using xercesc::DOMNode;
 
-constinit const CElementHandler::ElementWrapping CVorSHandler::rows[] = {
+constinit const ModelBuilder::ElementWrapping CVorSHandler::rows[] = {
     {SS::field, wrapAs<CParameterImpl>},
     {SS::parameter, wrapAs<CParameterImpl>},
     {SS::operations, wrapAs<CList>},
@@ -35,13 +33,6 @@ void CVorSHandler::newElement(DOMNode* node) {
 
 bool CVorSHandler::takes(const DOMNode* node) const { return rowFor(node, rows) != nullptr; }
 
-void CVorSHandler::endParse(DOMDocument* document) {
-  service_ = as::interface_cast<CServiceImpl>(bindRoot(document));
-  if (service_ != nullptr) service_->collectChildren();
-}
+void CVorSHandler::endParse(DOMDocument* document) { setService(complete<CServiceImpl>(document)); }
 
-std::unique_ptr<CServiceImpl> CVorSHandler::takeService() {
-  if (service_ != nullptr) service_->setOwned();
-  forgetOwned();
-  return std::unique_ptr<CServiceImpl>(std::exchange(service_, nullptr));
-}
+std::unique_ptr<CServiceImpl> CVorSHandler::takeService() { return take(service_); }

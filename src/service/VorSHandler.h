@@ -6,9 +6,9 @@
 #include <memory>
 
 #include "service/ServiceImpl.h"
-#include "xml/ElementHandler.h"
+#include "xml/ModelBuilder.h"
 
-class CVorSHandler : public CElementHandler {
+class CVorSHandler : public ModelBuilder {
  public:
   // Wraps the element by its local name. A name that it does not take is a programming error that
   // ends the process: the parser has let nothing else through.
@@ -20,6 +20,10 @@ class CVorSHandler : public CElementHandler {
   // caller takes it with takeService().
   CServiceImpl* getService() const { return service_; }
   std::unique_ptr<CServiceImpl> takeService();
+
+ protected:
+  // For endParse(): the service is complete.
+  void setService(CServiceImpl* service) { service_ = service; }
 
  private:
   static const ElementWrapping rows[];
@@ -36,9 +40,10 @@ class FlavourHandler : public CVorSHandler {
     if (!wrapByName(Flavour::rows, node)) CVorSHandler::newElement(node);
   }
   void endParse(xercesc::DOMDocument* document) override {
-    CVorSHandler::endParse(document);
-    if (getService() == nullptr) return;
-    getService()->setFactory(std::make_unique<typename Flavour::Factory>(document));
+    auto* const service = complete<CServiceImpl>(document);
+    if (service == nullptr) return;
+    service->setFactory(std::make_unique<typename Flavour::Factory>(document, service->getPool()));
+    setService(service);
   }
   bool takes(const xercesc::DOMNode* node) const override {
     return rowFor(node, Flavour::rows) != nullptr || CVorSHandler::takes(node);

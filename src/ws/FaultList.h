@@ -6,16 +6,11 @@
 #include "xml/LocalNameFilter.h"
 #include "xml/UnboundList.h"
 
-class CFaultNodeFilter : public LocalNameFilter<WSS::fault> {
- public:
-  static CFaultNodeFilter filter;
-};
+class CFaultNodeFilter : public NamedNodeFilter<CFaultNodeFilter, WSS::fault> {};
 
 class CFaultList : public UnboundList<CFaultNodeFilter> {
  public:
-  // Shows the children of `element`, which stays bound to its own wrapper.
-  explicit CFaultList(xercesc::DOMElement* element);
-  ~CFaultList() override;
+  using UnboundList::UnboundList;
   AS_IDENTITY(CFaultList)
 };
 

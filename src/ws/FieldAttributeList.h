@@ -6,16 +6,12 @@
 #include "xml/LocalNameFilter.h"
 #include "xml/UnboundList.h"
 
-class CFieldAttributeNodeFilter : public LocalNameFilter<WSS::fieldAttribute> {
- public:
-  static CFieldAttributeNodeFilter filter;
-};
+class CFieldAttributeNodeFilter
+    : public NamedNodeFilter<CFieldAttributeNodeFilter, WSS::fieldAttribute> {};
 
 class CFieldAttributeList : public UnboundList<CFieldAttributeNodeFilter> {
  public:
-  // Shows the children of `element`, which stays bound to its own wrapper.
-  explicit CFieldAttributeList(xercesc::DOMElement* element);
-  ~CFieldAttributeList() override;
+  using UnboundList::UnboundList;
   AS_IDENTITY(CFieldAttributeList)
 };
 

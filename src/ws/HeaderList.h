@@ -6,16 +6,11 @@
 #include "xml/LocalNameFilter.h"
 #include "xml/UnboundList.h"
 
-class CHeaderNodeFilter : public LocalNameFilter<WSS::header> {
- public:
-  static CHeaderNodeFilter filter;
-};
+class CHeaderNodeFilter : public NamedNodeFilter<CHeaderNodeFilter, WSS::header> {};
 
 class CHeaderList : public UnboundList<CHeaderNodeFilter> {
  public:
-  // Shows the children of `element`, which stays bound to its own wrapper.
-  explicit CHeaderList(xercesc::DOMElement* element);
-  ~CHeaderList() override;
+  using UnboundList::UnboundList;
   AS_IDENTITY(CHeaderList)
 };
 

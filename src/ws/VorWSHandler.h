@@ -15,14 +15,14 @@
 // What a Web service has of its own.
 struct WebFlavour {
   using Factory = CWebServiceFactory;
-  static constexpr CElementHandler::ElementWrapping rows[] = {
-      {SS::field, CElementHandler::wrapAs<CWSParameterImpl>},
-      {SS::parameter, CElementHandler::wrapAs<CWSParameterImpl>},
-      {WSS::fieldAttribute, CElementHandler::wrapAs<CWSParameterImpl>},
-      {SS::service, CElementHandler::wrapAs<CWebServiceImpl>},
-      {SS::operation, CElementHandler::wrapAs<CWSOperationImpl>},
-      {WSS::header, CElementHandler::wrapAs<CWSHeaderImpl>},
-      {WSS::fault, CElementHandler::wrapAs<CWSFaultImpl>},
+  static constexpr ModelBuilder::ElementWrapping rows[] = {
+      {SS::field, ModelBuilder::wrapAs<CWSParameterImpl>},
+      {SS::parameter, ModelBuilder::wrapAs<CWSParameterImpl>},
+      {WSS::fieldAttribute, ModelBuilder::wrapAs<CWSParameterImpl>},
+      {SS::service, ModelBuilder::wrapAs<CWebServiceImpl>},
+      {SS::operation, ModelBuilder::wrapAs<CWSOperationImpl>},
+      {WSS::header, ModelBuilder::wrapAs<CWSHeaderImpl>},
+      {WSS::fault, ModelBuilder::wrapAs<CWSFaultImpl>},
   };
 };
 

@@ -4,26 +4,18 @@
 
 #include <string>
 
-#include "as/IWSHeader.h"
 #include "as/IWSParameter.h"
 #include "service/SSVocabulary.h"
 #include "service/ServiceFactory.h"
+#include "ws/UseWords.h"
 #include "ws/WSParameterImpl.h"
 #include "ws/WSSVocabulary.h"
 #include "xml/List.h"
-#include "xml/WordTable.h"
-
-// The words of every "use" attribute.
-inline constexpr WordCode useWords[] = {
-    {WSS::literal, as::IWSHeader::USE_LITERAL},
-    {WSS::encoded, as::IWSHeader::USE_ENCODED},
-};
 
 // Interface is as::IWSHeader or as::IWSFault.
 template <class Interface>
 class WSMessagePart : virtual public Interface, virtual public CElementImpl {
  public:
-  ~WSMessagePart() override { delete parameters_; }
   // The identity is that of the class made from this.
   RTTItypeid RTTI_vinfo() const override = 0;
   void* RTTI_cast(RTTItypeid id) override = 0;
@@ -42,20 +34,15 @@ class WSMessagePart : virtual public Interface, virtual public CElementImpl {
   void addParameter(as::IWSParameter* parameter) {
     auto* const wrapper = as::interface_cast<CElementImpl>(parameter);
     if (wrapper == nullptr) return;
-    if (parameters_ == nullptr) {
-      parameters_ = getFactory()->createList(*this, SS::parameters, nullptr);
-    }
-    parameters_->addChild(wrapper->getElement());
+    CServiceFactory::append(*this, parameters_, SS::parameters, nullptr, wrapper->getElement());
   }
 
   as::IList* getParameters() override { return CList::orEmpty(parameters_); }
   std::string getNamespace() override { return text(WSS::namespace_); }
   void setNamespace(const char* uri) override { write(WSS::namespace_, uri); }
 
-  typename Interface::USE getUse() override {
-    return static_cast<typename Interface::USE>(codeOfWord(useWords, wide(WSS::use), -1));
-  }
-  void setUse(typename Interface::USE use) override { write(WSS::use, wordOfCode(useWords, use)); }
+  typename Interface::USE getUse() override { return useOfWord<Interface>(wide(WSS::use)); }
+  void setUse(typename Interface::USE use) override { write(WSS::use, wordOfUse<Interface>(use)); }
 
   void collectChildren() override { collectNamedList(SS::parameters, parameters_); }
 
@@ -63,7 +50,7 @@ class WSMessagePart : virtual public Interface, virtual public CElementImpl {
   explicit WSMessagePart(xercesc::DOMElement* element) : CElementImpl(element) {}
 
  private:
-  CList* parameters_ = nullptr;  // Owned.
+  CList* parameters_ = nullptr;
 };
 
 #endif  // WS_WSMESSAGEPART_H_

@@ -1,9 +1,10 @@
 #include "ws/WSOperationImpl.h"
 
+#include "service/ServiceFactory.h"
+#include "ws/UseWords.h"
 #include "ws/WSFaultImpl.h"
 #include "ws/WSHeaderImpl.h"
 #include "ws/WSSVocabulary.h"
-#include "ws/WebServiceFactory.h"
 #include "xml/WordTable.h"
 
 AS_DEFINE_IDENTITY2(CWSOperationImpl, as::IWSOperation, COperationImpl)
@@ -27,18 +28,20 @@ as::IList* CWSOperationImpl::getHeaders() { return &headers_; }
 as::IList* CWSOperationImpl::getFaults() { return &faults_; }
 
 as::IWSHeader* CWSOperationImpl::addHeader(as::IWSHeader::BY_TYPE byType) {
-  auto* const factory = dynamic_cast<CWebServiceFactory*>(getFactory());
+  CServiceFactory* const factory = getFactory();
   if (factory == nullptr) return nullptr;
-  CWSHeaderImpl* const header = factory->createHeader();
+  auto* const header = as::interface_cast<CWSHeaderImpl>(factory->createHeader());
+  if (header == nullptr) return nullptr;
   header->setByType(byType);
   headers_.addChild(header->getElement());
   return header;
 }
 
 as::IWSFault* CWSOperationImpl::addFault() {
-  auto* const factory = dynamic_cast<CWebServiceFactory*>(getFactory());
+  CServiceFactory* const factory = getFactory();
   if (factory == nullptr) return nullptr;
-  CWSFaultImpl* const fault = factory->createFault();
+  auto* const fault = as::interface_cast<CWSFaultImpl>(factory->createFault());
+  if (fault == nullptr) return nullptr;
   faults_.addChild(fault->getElement());
   return fault;
 }
@@ -52,16 +55,20 @@ std::string CWSOperationImpl::getOutputNamespace() { return text(WSS::outputName
 void CWSOperationImpl::setOutputNamespace(const char* uri) { write(WSS::outputNamespace, uri); }
 
 as::IWSOperation::USE CWSOperationImpl::getInputUse() {
-  return static_cast<USE>(codeOfWord(useWords, wide(WSS::inputUse), -1));
+  return useOfWord<as::IWSOperation>(wide(WSS::inputUse));
 }
 
-void CWSOperationImpl::setInputUse(USE use) { write(WSS::inputUse, wordOfCode(useWords, use)); }
+void CWSOperationImpl::setInputUse(USE use) {
+  write(WSS::inputUse, wordOfUse<as::IWSOperation>(use));
+}
 
 as::IWSOperation::USE CWSOperationImpl::getOutputUse() {
-  return static_cast<USE>(codeOfWord(useWords, wide(WSS::outputUse), -1));
+  return useOfWord<as::IWSOperation>(wide(WSS::outputUse));
 }
 
-void CWSOperationImpl::setOutputUse(USE use) { write(WSS::outputUse, wordOfCode(useWords, use)); }
+void CWSOperationImpl::setOutputUse(USE use) {
+  write(WSS::outputUse, wordOfUse<as::IWSOperation>(use));
+}
 
 as::IWSOperation::STYLE CWSOperationImpl::getStyle() {
   return static_cast<STYLE>(codeOfWord(styles, wide(WSS::style), -1));

@@ -3,8 +3,8 @@
 #include <xercesc/util/XMLString.hpp>
 
 #include "service/SSVocabulary.h"
+#include "service/ServiceFactory.h"
 #include "ws/WSSVocabulary.h"
-#include "ws/WebServiceFactory.h"
 #include "xml/Assertion.h"
 #include "xml/WordTable.h"
 #include "xml/XStr.h"
@@ -94,9 +94,10 @@ as::IList* CWSParameterImpl::getFieldAttributes() {
 
 as::IWSParameter* CWSParameterImpl::addFieldAttribute(const char* name) {
   if (getReference() != nullptr) return nullptr;
-  auto* const factory = dynamic_cast<CWebServiceFactory*>(getFactory());
+  CServiceFactory* const factory = getFactory();
   if (factory == nullptr) return nullptr;
-  CWSParameterImpl* const attribute = factory->createFieldAttribute();
+  auto* const attribute = as::interface_cast<CWSParameterImpl>(factory->createFieldAttribute());
+  if (attribute == nullptr) return nullptr;
   attribute->setName(name);
   attribute->setOccurs(0);
   fieldAttributes_.addChild(attribute->getElement());

@@ -2,15 +2,12 @@
 
 #include "service/SSVocabulary.h"
 #include "service/ServiceImpl.h"
-#include "ws/WSFaultImpl.h"
-#include "ws/WSHeaderImpl.h"
 #include "ws/WSOperationImpl.h"
-#include "ws/WSParameterImpl.h"
 #include "ws/WSSVocabulary.h"
 #include "ws/WebServiceImpl.h"
 #include "xml/Vocabulary.h"
 
-CServiceImpl* CWebServiceFactory::createService() {
+std::unique_ptr<CServiceImpl> CWebServiceFactory::createService() {
   return createServiceDocument(XSDNS::wsURI, XSDNS::wsSchemaLocation, as::IService::TYPE_WS);
 }
 
@@ -22,8 +19,8 @@ COperationImpl* CWebServiceFactory::newOperation(xercesc::DOMElement* element) {
   return newWrapper<CWSOperationImpl>(element);
 }
 
-CServiceImpl* CWebServiceFactory::newService(xercesc::DOMElement* element) {
-  return newWrapper<CWebServiceImpl>(element);
+std::unique_ptr<CServiceImpl> CWebServiceFactory::newService(xercesc::DOMElement* element) {
+  return newRoot<CWebServiceImpl>(element);
 }
 
 CWSHeaderImpl* CWebServiceFactory::createHeader() {

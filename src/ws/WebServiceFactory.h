@@ -3,24 +3,22 @@
 #define WS_WEBSERVICEFACTORY_H_
 
 #include "service/ServiceFactory.h"
-
-class CWSFaultImpl;
-class CWSHeaderImpl;
-class CWSParameterImpl;
+#include "ws/WSFaultImpl.h"
+#include "ws/WSHeaderImpl.h"
+#include "ws/WSParameterImpl.h"
 
 class CWebServiceFactory : public CServiceFactory {
  public:
   using CServiceFactory::CServiceFactory;
 
-  CServiceImpl* createService() override;
+  std::unique_ptr<CServiceImpl> createService() override;
   CParameterImpl* newParameter(xercesc::DOMElement* element) override;
   COperationImpl* newOperation(xercesc::DOMElement* element) override;
-  CServiceImpl* newService(xercesc::DOMElement* element) override;
+  std::unique_ptr<CServiceImpl> newService(xercesc::DOMElement* element) override;
 
-  // A new element, not yet in the tree, with its empty list and its wrapper.
-  CWSHeaderImpl* createHeader();
-  CWSFaultImpl* createFault();
-  CWSParameterImpl* createFieldAttribute();
+  CWSHeaderImpl* createHeader() override;
+  CWSFaultImpl* createFault() override;
+  CWSParameterImpl* createFieldAttribute() override;
 };
 
 #endif  // WS_WEBSERVICEFACTORY_H_

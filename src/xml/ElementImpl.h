@@ -15,16 +15,14 @@ class CServiceImpl;
 // APIDATA_KEY, and the document carries the root's wrapper. There is no user-data handler: the DOM
 // never calls back into the model.
 //
-// Ownership: a wrapper never owns DOM nodes; the document must outlive it. Its destructor leaves
-// the element's user data as it is, so wrappers are deleted only when a whole model goes.
+// Ownership: a wrapper owns neither DOM nodes nor other wrappers, unless it is a root's (see
+// WrapperPool); the document must outlive it. Its destructor leaves the element's user data as it
+// is, so wrappers are destroyed only when a whole model goes.
 class CElementImpl : virtual public as::IElement {
  public:
   // Binds the wrapper to `element`, in place of any earlier one. A null element makes an unbound
-  // wrapper.
-  //
-  // A list that is a member of a model object wraps its owner's element and is constructed after
-  // the owner's CElementImpl: the link then points at the list. Whoever constructs a wrapper on an
-  // existing element therefore binds it once more when it is complete; see bind().
+  // wrapper. Nothing that the classes derived from this construct binds again, or can fail: a
+  // wrapper that an element is bound to is always a whole one.
   explicit CElementImpl(xercesc::DOMElement* element);
   ~CElementImpl() override;
   AS_IDENTITY(CElementImpl)
@@ -36,7 +34,7 @@ class CElementImpl : virtual public as::IElement {
   void setUserData(void* data) override;
   std::string getAttributeValue(const char* name) override;
 
-  // Builds the lists that the object owns. Called once every wrapper of the document exists.
+  // Fills the object's lists. Called once, when every wrapper of the document exists.
   virtual void collectChildren();
 
   // The wrapped element; null only for an unbound wrapper.
@@ -66,12 +64,10 @@ class CElementImpl : virtual public as::IElement {
   CServiceImpl* getService() const;
   CServiceFactory* getFactory() const;
 
-  // Whether some owner has taken the wrapper in. A wrapper that none did is released with its
-  // document (see CElementHandler).
-  bool isOwned() const { return owned_; }
-  void setOwned() { owned_ = true; }
-
  protected:
+  // An unbound wrapper.
+  CElementImpl() = default;
+
   // The value of an attribute as text, integer and truth (CXStr's conversions).
   std::string text(const XMLCh* attribute) const;
   int integer(const XMLCh* attribute) const;
@@ -84,16 +80,14 @@ class CElementImpl : virtual public as::IElement {
   void write(const XMLCh* attribute, const std::string& value);
   void write(const XMLCh* attribute, const XMLCh* word);
 
-  // Takes the list that wraps the child of that name into the caller's ownership, keeps it in
-  // `member` and has it collect its members. A missing child, or one whose wrapper is no such list,
-  // leaves `member` as it is. Doing it again finds the same list.
+  // Keeps the list that wraps the child of that name in `member` and has it collect its members. A
+  // missing child, or one whose wrapper is no such list, leaves `member` as it is. Done again, it
+  // finds the same list, which has its members already.
   template <class List>
   void collectNamedList(const XMLCh* localName, List*& member) {
-    CElementImpl* const child = getNamedChild(localName);
-    List* const list = as::interface_cast<List>(child);
-    if (list == nullptr) return;
+    List* const list = as::interface_cast<List>(getNamedChild(localName));
+    if (list == nullptr || list == member) return;
     member = list;
-    child->setOwned();
     list->collectChildren();
   }
 
@@ -101,9 +95,11 @@ class CElementImpl : virtual public as::IElement {
   void pointAt(xercesc::DOMElement* element) { element_ = element; }
 
  private:
+  friend class WrapperPool;
+
   void* userData_ = nullptr;
-  xercesc::DOMElement* element_;
-  bool owned_ = false;
+  xercesc::DOMElement* element_ = nullptr;
+  CElementImpl* madeBefore_ = nullptr;  // The pool's.
 };
 
 #endif  // XML_ELEMENTIMPL_H_

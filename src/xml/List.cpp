@@ -1,6 +1,5 @@
 #include "xml/List.h"
 
-#include <algorithm>
 #include <xercesc/util/XMLString.hpp>
 
 #include "xml/ElementChildren.h"
@@ -13,12 +12,7 @@ CList CList::emptyList(nullptr);
 
 CList::CList(DOMElement* element) : CElementImpl(element) {}
 
-CList::~CList() {
-  // An element may be in the list more than once; its wrapper goes only once.
-  std::sort(nodes_.begin(), nodes_.end());
-  nodes_.erase(std::unique(nodes_.begin(), nodes_.end()), nodes_.end());
-  for (DOMElement* const node : nodes_) delete wrapperOf(node);
-}
+CList::~CList() = default;
 
 int CList::getLength() { return static_cast<int>(nodes_.size()); }
 
@@ -48,16 +42,19 @@ void CList::addChildren() {
   while (DOMElement* const child = children.next()) {
     nodes_.push_back(child);
     CElementImpl* const wrapper = wrapperOf(child);
-    wrapper->setOwned();
     onAddChild(wrapper);
     wrapper->collectChildren();
   }
 }
 
 void CList::addChild(DOMElement* child) {
-  getElement()->appendChild(child);
   nodes_.push_back(child);
-  wrapperOf(child)->setOwned();
+  try {
+    getElement()->appendChild(child);
+  } catch (...) {
+    nodes_.pop_back();
+    throw;
+  }
 }
 
 as::IList* CList::orEmpty(CList* list) {

@@ -8,10 +8,10 @@
 #include "as/IList.h"
 #include "xml/ElementImpl.h"
 
-// A list wraps an element, often that of the object it belongs to. It is filled once, when its
-// owner collects its children, and grows afterwards only through addChild().
-//
-// A list owns the wrappers of its members and deletes them; the elements belong to the document.
+// A list wraps an element, or shows children of the element of the object that it is a member of
+// (see UnboundList). It is filled once, when that object collects its children, and grows
+// afterwards only through addChild(). It points at its members; they live in their document's
+// WrapperPool.
 class CList : virtual public as::IList, virtual public CElementImpl {
  public:
   // Empty, and with no filter: filled, it holds every child element.
@@ -40,8 +40,8 @@ class CList : virtual public as::IList, virtual public CElementImpl {
   // Calling it again appends them all again.
   void addChildren();
 
-  // Appends `child` to the list's element and to the list. Its wrapper exists and has collected
-  // its children already.
+  // Appends `child` to the list's element and to the list, or, when it throws, to neither. Its
+  // wrapper exists and has collected its children already.
   void addChild(xercesc::DOMElement* child);
 
   // The list that stands for an absent one. Its length is 0, it wraps nothing.
@@ -50,6 +50,8 @@ class CList : virtual public as::IList, virtual public CElementImpl {
   static as::IList* orEmpty(CList* list);
 
  protected:
+  CList() = default;
+
   // Which children are members; null for all. Not owned.
   void setFilter(const xercesc::DOMNodeFilter* filter) { filter_ = filter; }
 

@@ -18,4 +18,14 @@ class LocalNameFilter : public xercesc::DOMNodeFilter {
   }
 };
 
+// The same as a class Self of its own, derived from this, with its one object.
+template <class Self, const XMLCh*... Names>
+class NamedNodeFilter : public LocalNameFilter<Names...> {
+ public:
+  static Self filter;
+};
+
+template <class Self, const XMLCh*... Names>
+Self NamedNodeFilter<Self, Names...>::filter;
+
 #endif  // XML_LOCALNAMEFILTER_H_

@@ -4,13 +4,12 @@
 
 #include "xml/List.h"
 
-// Constructed with no element and then pointed at its owner's, so that the element stays bound to
-// the owner. Holds what Filter::filter accepts. The class derived from it constructs its virtual
-// bases CElementImpl and CList with null.
+// A member of the element's wrapper, which the element stays bound to. Holds what Filter::filter
+// accepts. The class derived from it adds its identity and takes over the constructor.
 template <class Filter>
 class UnboundList : virtual public CList {
- protected:
-  explicit UnboundList(xercesc::DOMElement* element) : CElementImpl(nullptr), CList(nullptr) {
+ public:
+  explicit UnboundList(xercesc::DOMElement* element) {
     pointAt(element);
     setFilter(&Filter::filter);
   }

@@ -52,9 +52,6 @@ class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler
   void parse(const XMLCh* systemId);
   void parse(xercesc::MemBufInputSource* source);
 
-  // Keeps the wrappers of the document that belong to nobody else as long as the document.
-  void keep(WrapperPool wrappers) { wrappers_ = std::move(wrappers); }
-
   // From the parser's document side: let the DOM parser do its work, then drive the handler.
   void startElement(const xercesc::XMLElementDecl& declaration, unsigned int uriId,
                     const XMLCh* prefix, const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
@@ -106,7 +103,6 @@ class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler
   bool rootSeen_ = false;
   int depth_ = 0;
   std::optional<as::CASParseException> firstMessage_;
-  WrapperPool wrappers_;
 };
 
 #endif  // XML_XMLPARSER_H_

@@ -123,7 +123,7 @@ class LoggingParser : public CXMLParser {
 TEST(ServiceImplEnd, LetsGoOfTheParserLast) {
   std::string log;
   auto factory = std::make_unique<LoggingFactory>(log);
-  std::unique_ptr<CServiceImpl> service(factory->createService());
+  std::unique_ptr<CServiceImpl> service = factory->createService();
   service->setFactory(std::move(factory));
   service->setParser(std::make_unique<LoggingParser>(log));
   service.reset();

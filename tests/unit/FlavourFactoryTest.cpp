@@ -37,16 +37,22 @@ using xercesc::DOMDocument;
 using xercesc::DOMElement;
 using xercesc::DOMNode;
 
+// For a new document.
 template <class Factory>
-std::unique_ptr<CServiceFactory> makeFactory(DOMDocument* document) {
-  if (document == nullptr) return std::make_unique<Factory>();
-  return std::make_unique<Factory>(document);
+std::unique_ptr<CServiceFactory> makeStarter() {
+  return std::make_unique<Factory>();
+}
+
+// For the document given.
+template <class Factory>
+std::unique_ptr<CServiceFactory> makeJoiner(DOMDocument* document, WrapperPool& pool) {
+  return std::make_unique<Factory>(document, pool);
 }
 
 struct Flavour {
   const char* label;
-  // For the document given, or for a new one when there is none.
-  std::unique_ptr<CServiceFactory> (*factory)(DOMDocument*);
+  std::unique_ptr<CServiceFactory> (*starter)();
+  std::unique_ptr<CServiceFactory> (*joiner)(DOMDocument*, WrapperPool&);
   std::shared_ptr<CVorSHandler> (*handler)();
   const char* serviceClass;
   const char* operationClass;
@@ -58,15 +64,17 @@ struct Flavour {
 void PrintTo(const Flavour& flavour, std::ostream* out) { *out << flavour.label; }
 
 constexpr Flavour flavours[] = {
-    {"Web", makeFactory<CWebServiceFactory>, makeHandler<CVorWSHandler>, "CWebServiceImpl",
-     "CWSOperationImpl", "CWSParameterImpl", "ws", XSDNS::wsURI},
-    {"COM", makeFactory<CCOMFactory>, makeHandler<CVorCHandler>, "CServiceImpl", "COperationImpl",
-     "CCOMParameterImpl", "com", XSDNS::comURI},
-    {"Java", makeFactory<CJavaFactory>, makeHandler<CVorJHandler>, "CServiceImpl",
-     "CJavaOperationImpl", "CJavaParameterImpl", "java", XSDNS::javaURI},
+    {"Web", makeStarter<CWebServiceFactory>, makeJoiner<CWebServiceFactory>,
+     makeHandler<CVorWSHandler>, "CWebServiceImpl", "CWSOperationImpl", "CWSParameterImpl", "ws",
+     XSDNS::wsURI},
+    {"COM", makeStarter<CCOMFactory>, makeJoiner<CCOMFactory>, makeHandler<CVorCHandler>,
+     "CServiceImpl", "COperationImpl", "CCOMParameterImpl", "com", XSDNS::comURI},
+    {"Java", makeStarter<CJavaFactory>, makeJoiner<CJavaFactory>, makeHandler<CVorJHandler>,
+     "CServiceImpl", "CJavaOperationImpl", "CJavaParameterImpl", "java", XSDNS::javaURI},
     // Declares the Web service namespace on purpose; only the word tells it apart.
-    {"DotNET", makeFactory<CDotNETFactory>, makeHandler<CVorDotNETHandler>, "CDotNETImpl",
-     "CDotNETOperationImpl", "CDotNETParameterImpl", "dotnet", XSDNS::wsURI},
+    {"DotNET", makeStarter<CDotNETFactory>, makeJoiner<CDotNETFactory>,
+     makeHandler<CVorDotNETHandler>, "CDotNETImpl", "CDotNETOperationImpl", "CDotNETParameterImpl",
+     "dotnet", XSDNS::wsURI},
 };
 
 class FlavourFactory : public testing::TestWithParam<Flavour> {};
@@ -85,49 +93,57 @@ void wrapBelowRoot(CElementHandler& handler, test::Dom& dom) {
 // New wrappers around elements that are there.
 
 TEST_P(FlavourFactory, WrapsByTheFlavoursClasses) {
-  using New = std::unique_ptr<CElementImpl> (*)(CServiceFactory&, DOMElement*);
+  using New = CElementImpl* (*)(CServiceFactory&, DOMElement*);
   const struct {
     const char* element;
     New wrap;
     const char* ownClass;
   } rows[] = {
-      {"service", [](auto& f, auto* e) { return std::unique_ptr<CElementImpl>(f.newService(e)); },
-       GetParam().serviceClass},
-      {"operation",
-       [](auto& f, auto* e) { return std::unique_ptr<CElementImpl>(f.newOperation(e)); },
+      {"operation", [](auto& f, auto* e) -> CElementImpl* { return f.newOperation(e); },
        GetParam().operationClass},
-      {"parameter",
-       [](auto& f, auto* e) { return std::unique_ptr<CElementImpl>(f.newParameter(e)); },
+      {"parameter", [](auto& f, auto* e) -> CElementImpl* { return f.newParameter(e); },
        GetParam().parameterClass},
-      {"field", [](auto& f, auto* e) { return std::unique_ptr<CElementImpl>(f.newParameter(e)); },
+      {"field", [](auto& f, auto* e) -> CElementImpl* { return f.newParameter(e); },
        GetParam().parameterClass},
-      {"mapping", [](auto& f, auto* e) { return std::unique_ptr<CElementImpl>(f.newMapping(e)); },
+      {"mapping", [](auto& f, auto* e) -> CElementImpl* { return f.newMapping(e); },
        "CMappingImpl"},
-      {"hiddenParameter",
-       [](auto& f, auto* e) { return std::unique_ptr<CElementImpl>(f.newHiddenParameter(e)); },
+      {"hiddenParameter", [](auto& f, auto* e) -> CElementImpl* { return f.newHiddenParameter(e); },
        "CHiddenParameterImpl"},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.element);
     test::Dom dom("<x:" + std::string(row.element) + " xmlns:x='urn:any'/>");
-    const auto factory = GetParam().factory(dom.document());
-    const auto wrapper = row.wrap(*factory, dom.root());
-    EXPECT_EQ(test::classOf(wrapper.get()), row.ownClass);
+    WrapperPool pool;
+    const auto factory = GetParam().joiner(dom.document(), pool);
+    CElementImpl* const wrapper = row.wrap(*factory, dom.root());
+    EXPECT_EQ(test::classOf(wrapper), row.ownClass);
     EXPECT_EQ(wrapper->getElement(), dom.root());
-    EXPECT_EQ(dom.root()->getUserData(u"ASAPI"), wrapper.get());
+    EXPECT_EQ(dom.root()->getUserData(u"ASAPI"), wrapper);
     EXPECT_EQ(dom.document()->getUserData(u"ASAPI"), nullptr);
   }
+}
+
+TEST_P(FlavourFactory, MakesServicesTheCallers) {
+  test::Dom dom("<x:service xmlns:x='urn:any'/>");
+  std::unique_ptr<CServiceImpl> service;
+  {
+    WrapperPool pool;
+    service = GetParam().joiner(dom.document(), pool)->newService(dom.root());
+  }
+  EXPECT_EQ(test::classOf(service.get()), GetParam().serviceClass);
+  EXPECT_EQ(service->getElement(), dom.root());
+  EXPECT_EQ(dom.root()->getUserData(u"ASAPI"), static_cast<CElementImpl*>(service.get()));
+  EXPECT_EQ(dom.document()->getUserData(u"ASAPI"), nullptr);
 }
 
 TEST_P(FlavourFactory, NewServicesHaveCollectedTheirLists) {
   test::Dom dom(
       "<service><operations><operation/><operation/></operations><properties><property/>"
       "</properties><parameterTypeDefs><parameter/></parameterTypeDefs></service>");
-  std::unique_ptr<CServiceImpl> service;
   const auto handler = GetParam().handler();
   wrapBelowRoot(*handler, dom);
-  service.reset(GetParam().factory(dom.document())->newService(dom.root()));
-  EXPECT_TRUE(handler->releaseUnowned().empty());
+  WrapperPool pool;
+  const auto service = GetParam().joiner(dom.document(), pool)->newService(dom.root());
   EXPECT_EQ(service->getOperations()->getLength(), 2);
   EXPECT_EQ(service->getProperties()->getLength(), 1);
   EXPECT_EQ(service->getParameterTypeDefs()->getLength(), 1);
@@ -139,9 +155,9 @@ TEST_P(FlavourFactory, NewOperationsHaveCollectedTheirLists) {
       "<parameter/></parameters></operation>");
   const auto handler = GetParam().handler();
   wrapBelowRoot(*handler, dom);
-  const std::unique_ptr<COperationImpl> operation(
-      GetParam().factory(dom.document())->newOperation(dom.root()));
-  EXPECT_TRUE(handler->releaseUnowned().empty());
+  WrapperPool pool;
+  COperationImpl* const operation =
+      GetParam().joiner(dom.document(), pool)->newOperation(dom.root());
   EXPECT_EQ(operation->getHiddenParameters()->getLength(), 1);
   EXPECT_EQ(operation->getParameters()->getLength(), 2);
 }
@@ -151,15 +167,15 @@ TEST_P(FlavourFactory, NewParametersHaveCollectedTheirFieldsAndMappings) {
       "<parameter><mappings><mapping/><mapping/></mappings><field><field/></field></parameter>");
   const auto handler = GetParam().handler();
   wrapBelowRoot(*handler, dom);
-  const std::unique_ptr<CParameterImpl> parameter(
-      GetParam().factory(dom.document())->newParameter(dom.root()));
-  EXPECT_TRUE(handler->releaseUnowned().empty());
+  WrapperPool pool;
+  CParameterImpl* const parameter =
+      GetParam().joiner(dom.document(), pool)->newParameter(dom.root());
   EXPECT_EQ(parameter->getChildren()->getLength(), 1);
   ASSERT_EQ(parameter->getMappings()->getLength(), 2);
   for (int i = 0; i < 2; i++) {
     auto* const mapping = as::interface_cast<CMappingImpl>(parameter->getMappings()->getItem(i));
     ASSERT_NE(mapping, nullptr);
-    EXPECT_EQ(mapping->getField(), static_cast<as::IField*>(parameter.get()));
+    EXPECT_EQ(mapping->getField(), static_cast<as::IField*>(parameter));
   }
 }
 
@@ -200,54 +216,55 @@ void expectEmptyListOf(as::IList* list, const CElementImpl& owner, const XMLCh* 
 TEST_P(FlavourFactory, CreatesElementsOfTheFlavour) {
   // In a document of its own, and in one that is there and whose root has a namespace.
   test::Dom dom("<service xmlns='urn:any'/>");
-  const auto starter = GetParam().factory(nullptr);
-  const std::unique_ptr<CServiceImpl> service(starter->createService());
-  const auto joiner = GetParam().factory(dom.document());
+  const auto starter = GetParam().starter();
+  const std::unique_ptr<CServiceImpl> service = starter->createService();
+  WrapperPool pool;
+  const auto joiner = GetParam().joiner(dom.document(), pool);
   const std::pair<CServiceFactory*, DOMDocument*> factories[] = {
       {starter.get(), service->getElement()->getOwnerDocument()}, {joiner.get(), dom.document()}};
   for (const auto& [factory, document] : factories) {
-    const std::unique_ptr<COperationImpl> operation(factory->createOperation());
-    EXPECT_EQ(test::classOf(operation.get()), GetParam().operationClass);
-    expectDetached(operation.get(), "operation", "hiddenParameters parameters ", document);
+    COperationImpl* const operation = factory->createOperation();
+    EXPECT_EQ(test::classOf(operation), GetParam().operationClass);
+    expectDetached(operation, "operation", "hiddenParameters parameters ", document);
     expectEmptyListOf(operation->getHiddenParameters(), *operation, u"hiddenParameters");
     expectEmptyListOf(operation->getParameters(), *operation, u"parameters");
 
-    const std::unique_ptr<CParameterImpl> parameter(factory->createParameter());
-    EXPECT_EQ(test::classOf(parameter.get()), GetParam().parameterClass);
-    expectDetached(parameter.get(), "parameter", "mappings ", document);
+    CParameterImpl* const parameter = factory->createParameter();
+    EXPECT_EQ(test::classOf(parameter), GetParam().parameterClass);
+    expectDetached(parameter, "parameter", "mappings ", document);
     expectEmptyListOf(parameter->getMappings(), *parameter, u"mappings");
     EXPECT_EQ(parameter->getChildren()->getLength(), 0);
 
-    const std::unique_ptr<CParameterImpl> field(factory->createField());
-    EXPECT_EQ(test::classOf(field.get()), GetParam().parameterClass);
-    expectDetached(field.get(), "field", "mappings ", document);
+    CParameterImpl* const field = factory->createField();
+    EXPECT_EQ(test::classOf(field), GetParam().parameterClass);
+    expectDetached(field, "field", "mappings ", document);
     expectEmptyListOf(field->getMappings(), *field, u"mappings");
 
-    const std::unique_ptr<CHiddenParameterImpl> hidden(factory->createHiddenParameter());
-    EXPECT_EQ(test::classOf(hidden.get()), "CHiddenParameterImpl");
-    expectDetached(hidden.get(), "hiddenParameter", "", document);
+    CHiddenParameterImpl* const hidden = factory->createHiddenParameter();
+    EXPECT_EQ(test::classOf(hidden), "CHiddenParameterImpl");
+    expectDetached(hidden, "hiddenParameter", "", document);
 
-    const std::unique_ptr<CMappingImpl> mapping(factory->createMapping());
-    EXPECT_EQ(test::classOf(mapping.get()), "CMappingImpl");
-    expectDetached(mapping.get(), "mapping", "", document);
+    CMappingImpl* const mapping = factory->createMapping();
+    EXPECT_EQ(test::classOf(mapping), "CMappingImpl");
+    expectDetached(mapping, "mapping", "", document);
     EXPECT_EQ(mapping->getField(), nullptr);
   }
 }
 
 TEST_P(FlavourFactory, CreatesAnotherElementEachTime) {
-  const auto factory = GetParam().factory(nullptr);
-  const std::unique_ptr<CServiceImpl> service(factory->createService());
-  const std::unique_ptr<CParameterImpl> first(factory->createParameter());
-  const std::unique_ptr<CParameterImpl> second(factory->createParameter());
+  const auto factory = GetParam().starter();
+  const std::unique_ptr<CServiceImpl> service = factory->createService();
+  CParameterImpl* const first = factory->createParameter();
+  CParameterImpl* const second = factory->createParameter();
   EXPECT_NE(first->getElement(), second->getElement());
   EXPECT_NE(first->getMappings(), second->getMappings());
 }
 
 TEST_P(FlavourFactory, IsFoundFromWhatItCreates) {
-  auto owned = GetParam().factory(nullptr);
+  auto owned = GetParam().starter();
   CServiceFactory* const factory = owned.get();
-  const std::unique_ptr<CServiceImpl> service(factory->createService());
-  const std::unique_ptr<COperationImpl> operation(factory->createOperation());
+  const std::unique_ptr<CServiceImpl> service = factory->createService();
+  COperationImpl* const operation = factory->createOperation();
   EXPECT_EQ(operation->getService(), service.get());
   EXPECT_EQ(operation->getFactory(), nullptr) << "the service has not been given it";
   service->setFactory(std::move(owned));
@@ -258,8 +275,8 @@ TEST_P(FlavourFactory, IsFoundFromWhatItCreates) {
 // New documents.
 
 TEST_P(FlavourFactory, StartsAnEmptyServiceDocument) {
-  const auto factory = GetParam().factory(nullptr);
-  const std::unique_ptr<CServiceImpl> service(factory->createService());
+  const auto factory = GetParam().starter();
+  const std::unique_ptr<CServiceImpl> service = factory->createService();
   ASSERT_NE(service, nullptr);
   const DOMElement* const root = service->getElement();
   const DOMDocument* const document = root->getOwnerDocument();
@@ -298,8 +315,8 @@ TEST_P(FlavourFactory, StartsAnEmptyServiceDocument) {
 }
 
 TEST_P(FlavourFactory, StartsAServiceOfTheFlavour) {
-  const auto factory = GetParam().factory(nullptr);
-  const std::unique_ptr<CServiceImpl> service(factory->createService());
+  const auto factory = GetParam().starter();
+  const std::unique_ptr<CServiceImpl> service = factory->createService();
   ASSERT_NE(service, nullptr);
   EXPECT_EQ(test::classOf(service.get()), GetParam().serviceClass);
   CElementImpl* const wrapper = service.get();
@@ -315,8 +332,8 @@ TEST_P(FlavourFactory, StartsAServiceOfTheFlavour) {
 }
 
 TEST_P(FlavourFactory, CollectingAgainFindsTheSameLists) {
-  const auto factory = GetParam().factory(nullptr);
-  const std::unique_ptr<CServiceImpl> service(factory->createService());
+  const auto factory = GetParam().starter();
+  const std::unique_ptr<CServiceImpl> service = factory->createService();
   as::IList* const properties = service->getProperties();
   as::IList* const definitions = service->getParameterTypeDefs();
   as::IList* const operations = service->getOperations();
@@ -330,42 +347,52 @@ TEST_P(FlavourFactory, CollectingAgainFindsTheSameLists) {
 
 TEST(WebServiceFactory, CreatesHeadersWithTheirEmptyList) {
   CWebServiceFactory factory;
-  const std::unique_ptr<CServiceImpl> service(factory.createService());
-  const std::unique_ptr<CWSHeaderImpl> header(factory.createHeader());
-  EXPECT_EQ(test::classOf(header.get()), "CWSHeaderImpl");
-  expectDetached(header.get(), "header", "parameters ", service->getElement()->getOwnerDocument());
+  const std::unique_ptr<CServiceImpl> service = factory.createService();
+  CWSHeaderImpl* const header = factory.createHeader();
+  EXPECT_EQ(test::classOf(header), "CWSHeaderImpl");
+  expectDetached(header, "header", "parameters ", service->getElement()->getOwnerDocument());
   expectEmptyListOf(header->getParameters(), *header, u"parameters");
 }
 
 TEST(WebServiceFactory, CreatesFaultsWithTheirEmptyList) {
   CWebServiceFactory factory;
-  const std::unique_ptr<CServiceImpl> service(factory.createService());
-  const std::unique_ptr<CWSFaultImpl> fault(factory.createFault());
-  EXPECT_EQ(test::classOf(fault.get()), "CWSFaultImpl");
-  expectDetached(fault.get(), "fault", "parameters ", service->getElement()->getOwnerDocument());
+  const std::unique_ptr<CServiceImpl> service = factory.createService();
+  CWSFaultImpl* const fault = factory.createFault();
+  EXPECT_EQ(test::classOf(fault), "CWSFaultImpl");
+  expectDetached(fault, "fault", "parameters ", service->getElement()->getOwnerDocument());
   expectEmptyListOf(fault->getParameters(), *fault, u"parameters");
 }
 
 TEST(WebServiceFactory, CreatesFieldAttributesWithTheirEmptyMappings) {
   CWebServiceFactory factory;
-  const std::unique_ptr<CServiceImpl> service(factory.createService());
-  const std::unique_ptr<CWSParameterImpl> attribute(factory.createFieldAttribute());
-  EXPECT_EQ(test::classOf(attribute.get()), "CWSParameterImpl");
-  expectDetached(attribute.get(), "fieldAttribute", "mappings ",
+  const std::unique_ptr<CServiceImpl> service = factory.createService();
+  CWSParameterImpl* const attribute = factory.createFieldAttribute();
+  EXPECT_EQ(test::classOf(attribute), "CWSParameterImpl");
+  expectDetached(attribute, "fieldAttribute", "mappings ",
                  service->getElement()->getOwnerDocument());
   expectEmptyListOf(attribute->getMappings(), *attribute, u"mappings");
   EXPECT_EQ(attribute->getFieldAttributes()->getLength(), 0);
 }
 
+TEST_P(FlavourFactory, OnlyWebServicesHaveHeadersFaultsAndFieldAttributes) {
+  const auto factory = GetParam().starter();
+  const std::unique_ptr<CServiceImpl> service = factory->createService();
+  const bool isWeb = GetParam().implementation == std::string("ws");
+  EXPECT_EQ(factory->createHeader() != nullptr, isWeb);
+  EXPECT_EQ(factory->createFault() != nullptr, isWeb);
+  EXPECT_EQ(factory->createFieldAttribute() != nullptr, isWeb);
+}
+
 TEST(WebServiceFactory, CreatesInADocumentThatIsThere) {
   test::Dom dom("<service xmlns='urn:any'/>");
-  CWebServiceFactory factory(dom.document());
-  const std::unique_ptr<CWSHeaderImpl> header(factory.createHeader());
-  const std::unique_ptr<CWSFaultImpl> fault(factory.createFault());
-  const std::unique_ptr<CWSParameterImpl> attribute(factory.createFieldAttribute());
-  expectDetached(header.get(), "header", "parameters ", dom.document());
-  expectDetached(fault.get(), "fault", "parameters ", dom.document());
-  expectDetached(attribute.get(), "fieldAttribute", "mappings ", dom.document());
+  WrapperPool pool;
+  CWebServiceFactory factory(dom.document(), pool);
+  CWSHeaderImpl* const header = factory.createHeader();
+  CWSFaultImpl* const fault = factory.createFault();
+  CWSParameterImpl* const attribute = factory.createFieldAttribute();
+  expectDetached(header, "header", "parameters ", dom.document());
+  expectDetached(fault, "fault", "parameters ", dom.document());
+  expectDetached(attribute, "fieldAttribute", "mappings ", dom.document());
 }
 
 TEST(WebServiceFactory, NewWrappersHaveCollectedHeadersFaultsAndFieldAttributes) {
@@ -374,10 +401,10 @@ TEST(WebServiceFactory, NewWrappersHaveCollectedHeadersFaultsAndFieldAttributes)
       "<fieldAttribute/></parameter></parameters></operation>");
   CVorWSHandler handler;
   wrapBelowRoot(handler, dom);
-  CWebServiceFactory factory(dom.document());
-  const std::unique_ptr<COperationImpl> operation(factory.newOperation(dom.root()));
-  EXPECT_TRUE(handler.releaseUnowned().empty());
-  auto* const web = as::interface_cast<as::IWSOperation>(operation.get());
+  WrapperPool pool;
+  CWebServiceFactory factory(dom.document(), pool);
+  COperationImpl* const operation = factory.newOperation(dom.root());
+  auto* const web = as::interface_cast<as::IWSOperation>(operation);
   ASSERT_NE(web, nullptr);
   EXPECT_EQ(web->getHeaders()->getLength(), 2);
   EXPECT_EQ(web->getFaults()->getLength(), 1);

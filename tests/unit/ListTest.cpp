@@ -13,6 +13,7 @@
 #include "cobol/NumericImpl.h"
 #include "support/Dom.h"
 #include "xml/List.h"
+#include "xml/WrapperPool.h"
 
 namespace {
 
@@ -29,12 +30,12 @@ struct Counted : CElementImpl {
 };
 int Counted::alive = 0;
 
-// Wraps every element child of `parent` by a Counted.
-std::vector<Counted*> wrapChildren(DOMElement* parent) {
+// Wraps every element child of `parent` by a Counted in `pool`.
+std::vector<Counted*> wrapChildren(WrapperPool& pool, DOMElement* parent) {
   std::vector<Counted*> wrappers;
   for (DOMElement* child = parent->getFirstElementChild(); child != nullptr;
        child = child->getNextElementSibling()) {
-    wrappers.push_back(new Counted(child));
+    wrappers.push_back(pool.make<Counted>(child));
   }
   return wrappers;
 }
@@ -61,7 +62,8 @@ TEST(List, AbsentListsAreTheEmptyOne) {
 
 TEST(List, HoldsEveryChildElementInOrder) {
   test::Dom dom("<r>t<a/><!-- c --><b/><a/></r>");
-  const std::vector<Counted*> wrappers = wrapChildren(dom.root());
+  WrapperPool pool;
+  const std::vector<Counted*> wrappers = wrapChildren(pool, dom.root());
   CList list(dom.root());
   EXPECT_EQ(list.getLength(), 0) << "not filled yet";
   list.collectChildren();
@@ -75,7 +77,8 @@ TEST(List, HoldsEveryChildElementInOrder) {
 
 TEST(List, AnIndexOutOfRangeGivesNull) {
   test::Dom dom("<r><a/></r>");
-  wrapChildren(dom.root());
+  WrapperPool pool;
+  wrapChildren(pool, dom.root());
   CList list(dom.root());
   list.addChildren();
   for (const int index : {-1, 1, 2147483647, -2147483647 - 1}) {
@@ -85,7 +88,8 @@ TEST(List, AnIndexOutOfRangeGivesNull) {
 
 TEST(List, TellsEachMemberAndHasItCollect) {
   test::Dom dom("<r><a/><b/></r>");
-  const std::vector<Counted*> wrappers = wrapChildren(dom.root());
+  WrapperPool pool;
+  const std::vector<Counted*> wrappers = wrapChildren(pool, dom.root());
   Recording list(dom.root());
   list.addChildren();
   EXPECT_EQ(list.added, (std::vector<CElementImpl*>{wrappers[0], wrappers[1]}));
@@ -93,44 +97,57 @@ TEST(List, TellsEachMemberAndHasItCollect) {
   EXPECT_EQ(wrappers[1]->collected, 1);
 }
 
-TEST(List, OwnsItsMembers) {
+TEST(List, LeavesItsMembersToTheirPool) {
   test::Dom dom("<r><a/><b/></r>");
-  wrapChildren(dom.root());
+  auto pool = std::make_unique<WrapperPool>();
+  wrapChildren(*pool, dom.root());
   auto list = std::make_unique<CList>(dom.root());
   list->addChildren();
-  EXPECT_TRUE(list->getElement(0)->isOwned());
   EXPECT_EQ(Counted::alive, 2);
   list.reset();
+  EXPECT_EQ(Counted::alive, 2);
+  pool.reset();
   EXPECT_EQ(Counted::alive, 0);
 }
 
 TEST(List, FillingAgainAppendsEveryMemberAgain) {
   test::Dom dom("<r><a/><b/></r>");
-  wrapChildren(dom.root());
-  auto list = std::make_unique<CList>(dom.root());
-  list->addChildren();
-  list->addChildren();
-  EXPECT_EQ(list->getLength(), 4);
-  EXPECT_EQ(list->getItem(0), list->getItem(2));
-  list.reset();
-  EXPECT_EQ(Counted::alive, 0) << "each is released once";
+  WrapperPool pool;
+  wrapChildren(pool, dom.root());
+  CList list(dom.root());
+  list.addChildren();
+  list.addChildren();
+  EXPECT_EQ(list.getLength(), 4);
+  EXPECT_EQ(list.getItem(0), list.getItem(2));
 }
 
 TEST(List, AddChildAppendsToElementAndList) {
   test::Dom dom("<r><a/></r>");
-  wrapChildren(dom.root());
+  WrapperPool pool;
+  wrapChildren(pool, dom.root());
   Recording list(dom.root());
   list.addChildren();
   DOMElement* const added = dom.document()->createElementNS(nullptr, u"b");
-  auto* const wrapper = new Counted(added);
+  auto* const wrapper = pool.make<Counted>(added);
   list.added.clear();
   list.addChild(added);
   EXPECT_EQ(list.getLength(), 2);
   EXPECT_EQ(list.getElement(1), wrapper);
   EXPECT_EQ(dom.root()->getLastElementChild(), added);
-  EXPECT_TRUE(wrapper->isOwned());
   EXPECT_TRUE(list.added.empty()) << "onAddChild is not called";
   EXPECT_EQ(wrapper->collected, 0) << "nor is the child collected";
+}
+
+// An element cannot become a child of what stands below it.
+TEST(List, AddChildLeavesTheListAsItWasWhenTheElementDoesNotTakeTheChild) {
+  test::Dom dom("<r><a><b/></a></r>");
+  WrapperPool pool;
+  wrapChildren(pool, dom.find(u"a"));
+  wrapChildren(pool, dom.root());
+  CList list(dom.find(u"b"));
+  EXPECT_THROW(list.addChild(dom.root()), xercesc::DOMException);
+  EXPECT_EQ(list.getLength(), 0);
+  EXPECT_EQ(dom.find(u"b")->getFirstChild(), nullptr);
 }
 
 TEST(DataItemNodeFilter, AcceptsTheKindsThatListsHold) {
@@ -180,40 +197,29 @@ TEST(ConditionNodeFilter, AcceptsNumericConditionsOnly) {
   }
 }
 
-// Binds a new data item once more when it is complete, as builders do.
-template <class Item>
-Item* newItem(DOMElement* element) {
-  auto* const item = new Item(element);
-  CElementImpl::bind(element, as::interface_cast<CElementImpl>(item));
-  return item;
-}
-
 TEST(DataItemList, LeavesAlphanumericEditedItemsOut) {
   test::Dom dom("<dataItems><alphanumeric/><alphanumericEdited/><numeric/></dataItems>");
-  auto* const first = newItem<CDataItemImpl>(dom.find(u"alphanumeric"));
-  const std::unique_ptr<CDataItemImpl> unlisted(
-      newItem<CDataItemImpl>(dom.find(u"alphanumericEdited")));
-  auto* const last = newItem<CNumericImpl>(dom.find(u"numeric"));
+  CDataItemImpl first(dom.find(u"alphanumeric"));
+  const CDataItemImpl unlisted(dom.find(u"alphanumericEdited"));
+  CNumericImpl last(dom.find(u"numeric"));
   CDataItemList list(dom.root(), nullptr);
   list.addChildren();
   ASSERT_EQ(list.getLength(), 2);
-  EXPECT_EQ(as::interface_cast<CDataItemImpl>(list.getItem(0)), first);
-  EXPECT_EQ(as::interface_cast<CNumericImpl>(list.getItem(1)), last);
-  EXPECT_FALSE(unlisted->isOwned());
+  EXPECT_EQ(as::interface_cast<CDataItemImpl>(list.getItem(0)), &first);
+  EXPECT_EQ(as::interface_cast<CNumericImpl>(list.getItem(1)), &last);
 }
 
 TEST(DataItemList, MakesItsGroupTheParent) {
   test::Dom dom("<r><group><numeric/></group><alphanumeric/></r>");
-  auto* const numeric = newItem<CNumericImpl>(dom.find(u"numeric"));
-  const std::unique_ptr<CGroupImpl> group(newItem<CGroupImpl>(dom.find(u"group")));
-  group->collectChildren();
-  EXPECT_EQ(numeric->getParent(), static_cast<as::IGroup*>(group.get()));
-  auto* const alone = newItem<CDataItemImpl>(dom.find(u"alphanumeric"));
-  alone->setParent(group.get());
+  CNumericImpl numeric(dom.find(u"numeric"));
+  CGroupImpl group(dom.find(u"group"));
+  group.collectChildren();
+  EXPECT_EQ(numeric.getParent(), static_cast<as::IGroup*>(&group));
+  CDataItemImpl alone(dom.find(u"alphanumeric"));
+  alone.setParent(&group);
   CDataItemList list(dom.find(u"alphanumeric"), nullptr);
-  list.onAddChild(as::interface_cast<CElementImpl>(alone));
-  EXPECT_EQ(alone->getParent(), nullptr) << "a list of no group clears it";
-  delete alone;
+  list.onAddChild(&alone);
+  EXPECT_EQ(alone.getParent(), nullptr) << "a list of no group clears it";
 }
 
 TEST(DataItemListDeathTest, RefusesAnythingButADataItem) {
@@ -223,21 +229,25 @@ TEST(DataItemListDeathTest, RefusesAnythingButADataItem) {
   EXPECT_DEATH(list.addChildren(), "DataItemImpl:.*Assertion `pDataItem' failed");
 }
 
-TEST(DataItemList, EmbeddedListsRebindTheirOwnersElement) {
+TEST(DataItemList, OfAGroupLeavesTheElementToTheGroup) {
   test::Dom dom("<group/>");
   CGroupImpl group(dom.root());
-  EXPECT_NE(CElementImpl::wrapperOf(dom.root()), static_cast<CElementImpl*>(&group))
-      << "which is why builders bind once more";
+  EXPECT_EQ(CElementImpl::wrapperOf(dom.root()), static_cast<CElementImpl*>(&group));
+}
+
+TEST(DataItemList, OfNoGroupIsTheWrapperOfItsElement) {
+  test::Dom dom("<dataItems/>");
+  CDataItemList list(dom.root(), nullptr);
+  EXPECT_EQ(CElementImpl::wrapperOf(dom.root()), static_cast<CElementImpl*>(&list));
 }
 
 TEST(ConditionList, LeavesAlphanumericConditionsOut) {
   test::Dom dom("<numeric><numericCondition/><alphanumericCondition/></numeric>");
-  newItem<CConditionImpl>(dom.find(u"numericCondition"));
-  const std::unique_ptr<CConditionImpl> unlisted(
-      newItem<CConditionImpl>(dom.find(u"alphanumericCondition")));
-  const std::unique_ptr<CNumericImpl> item(newItem<CNumericImpl>(dom.root()));
-  item->collectChildren();
-  EXPECT_EQ(item->getConditions()->getLength(), 1);
+  const CConditionImpl listed(dom.find(u"numericCondition"));
+  const CConditionImpl unlisted(dom.find(u"alphanumericCondition"));
+  CNumericImpl item(dom.root());
+  item.collectChildren();
+  EXPECT_EQ(item.getConditions()->getLength(), 1);
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ namespace {
 
 std::unique_ptr<CServiceImpl> newJavaService() {
   auto factory = std::make_unique<CJavaFactory>();
-  std::unique_ptr<CServiceImpl> service(factory->createService());
+  std::unique_ptr<CServiceImpl> service = factory->createService();
   service->setFactory(std::move(factory));
   return service;
 }

@@ -481,20 +481,4 @@ TEST_F(XMLParser, NullNameIsAnEmptyOne) {
   EXPECT_THROW(parser_.parse(static_cast<const XMLCh*>(nullptr)), as::CASParseException);
 }
 
-TEST_F(XMLParser, KeepsWrappersAsLongAsItself) {
-  static int alive;
-  struct Wrapper : CElementImpl {
-    Wrapper() : CElementImpl(nullptr) { alive++; }
-    ~Wrapper() override { alive--; }
-  };
-  alive = 0;
-  auto parser = std::make_unique<CXMLParser>();
-  WrapperPool pool;
-  pool.push_back(std::make_unique<Wrapper>());
-  parser->keep(std::move(pool));
-  EXPECT_EQ(alive, 1);
-  parser.reset();
-  EXPECT_EQ(alive, 0);
-}
-
 }  // namespace
