@@ -13,5 +13,6 @@
 #include "as/toolkit/Lint.h"
 #include "as/toolkit/Make.h"
 #include "as/toolkit/Render.h"
+#include "as/toolkit/Text.h"
 
 #endif  // AS_TOOLKIT_TOOLKIT_H_

@@ -8,7 +8,10 @@
 #include "as/IAlphanumeric.h"
 #include "as/INumeric.h"
 #include "as/INumericEdited.h"
+#include "toolkit/text/Phrases.h"
 #include "toolkit/text/Words.h"
+
+namespace as::toolkit {
 
 namespace {
 
@@ -77,18 +80,14 @@ Number numberIn(as::INumeric& item) {
   return number;
 }
 
-std::string count(int number, const char* what) {
-  return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
-}
-
 std::string misfit(const Capacity& capacity, const Number& number) {
   if (number.floatingBytes > 0) {
     if (isUnlimited(capacity)) return "";
     if (capacity.kind != Kind::floating) return "holds no floating-point numbers";
     if (number.floatingBytes > 4 && capacity.digits < 15) return "is too short for a double";
     if (number.digits <= capacity.digits) return "";
-    return "holds " + count(capacity.digits, "digit") + ", the item has " +
-           std::to_string(number.digits);
+    return "holds " + count(static_cast<std::size_t>(capacity.digits), "digit") +
+           ", the item has " + std::to_string(number.digits);
   }
   const int places = capacity.kind == Kind::integer ? 0 : capacity.places;
   if (places >= 0 && number.fraction > places) {
@@ -100,18 +99,20 @@ std::string misfit(const Capacity& capacity, const Number& number) {
     // An unsigned number needs a bit more where one goes to the sign.
     const int needed = number.bits + (capacity.isSigned && !number.isSigned ? 1 : 0);
     if (needed <= capacity.bits) return "";
-    return "has " + count(capacity.bits, "bit") + ", the item needs " + std::to_string(needed);
+    return "has " + count(static_cast<std::size_t>(capacity.bits), "bit") + ", the item needs " +
+           std::to_string(needed);
   }
   // Digits behind the last one that is kept count as zeros.
   int digits = number.fraction < 0 ? number.digits - number.fraction : number.digits;
   if (number.bits > 0) digits = std::max(digits, digitsOf(number.bits));
   const int whole = digits - std::max(number.fraction, 0);
   if (capacity.whole > 0 && whole > capacity.whole) {
-    return "holds " + count(capacity.whole, "digit") + " before the decimal point, the item has " +
-           std::to_string(whole);
+    return "holds " + count(static_cast<std::size_t>(capacity.whole), "digit") +
+           " before the decimal point, the item has " + std::to_string(whole);
   }
   if (capacity.digits == 0 || digits <= capacity.digits) return "";
-  return "holds " + count(capacity.digits, "digit") + ", the item has " + std::to_string(digits);
+  return "holds " + count(static_cast<std::size_t>(capacity.digits), "digit") + ", the item has " +
+         std::to_string(digits);
 }
 
 }  // namespace
@@ -155,7 +156,7 @@ std::string misfit(const Capacity& capacity, as::IDataItem& item) {
     Number number;
     number.bits = 8 * item.getLength();
     if (misfit(capacity, number).empty()) return "";
-    return "is too small for an item of " + count(number.bits, "bit");
+    return "is too small for an item of " + count(static_cast<std::size_t>(number.bits), "bit");
   }
   return "is a number, the item is " + kindOf(item);
 }
@@ -206,3 +207,5 @@ bool contains(const Capacity& larger, const Capacity& smaller) {
   if (smaller.places < 0 && (larger.kind != Kind::decimal || larger.places >= 0)) return false;
   return misfit(larger, number).empty();
 }
+
+}  // namespace as::toolkit

@@ -1,4 +1,4 @@
-#include "toolkit/lint/Lint.h"
+#include "as/toolkit/Lint.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -22,23 +22,20 @@
 #include "as/IParameter.h"
 #include "as/IProgram.h"
 #include "as/IService.h"
-#include "toolkit/findings/Findings.h"
-#include "toolkit/flavour/Flavour.h"
+#include "toolkit/findings/Report.h"
+#include "toolkit/flavour/FlavourProfile.h"
+#include "toolkit/text/Phrases.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/FieldWalk.h"
 #include "toolkit/walk/ItemWalk.h"
 #include "toolkit/walk/Subscripts.h"
 
-namespace {
+namespace as::toolkit {
 
-std::string quote(const std::string& text) { return "'" + text + "'"; }
+namespace {
 
 std::string nameOr(const std::string& name, const char* otherwise) {
   return name.empty() ? otherwise : name;
-}
-
-std::string count(std::size_t number, const char* what) {
-  return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
 }
 
 // The tables that an item stands in, itself included, the outermost first.
@@ -61,12 +58,6 @@ std::string allOf(std::size_t tables) {
 std::size_t openOnes(const std::vector<int>& subscripts) {
   return static_cast<std::size_t>(
       std::count(subscripts.begin(), subscripts.end(), everyOccurrence));
-}
-
-// Whether the text is a number as a value of a numeric item may be written.
-bool isNumeral(const std::string& text) {
-  return text.find_first_of("0123456789") != std::string::npos &&
-         text.find_first_not_of("+-.,0123456789") == std::string::npos;
 }
 
 // What the checks ask of the dictionary, answered without going through it again.
@@ -144,7 +135,7 @@ struct Definition {
 class MemberLint {
  public:
   MemberLint(as::IService& service, Findings& findings)
-      : service_(service), findings_(findings), flavour_(flavourOf(service)) {
+      : service_(service), list_(findings), findings_(findings), flavour_(profileOf(service)) {
     if (as::IProgram* const program = service.getProgram()) dictionary_.emplace(*program);
   }
 
@@ -176,9 +167,9 @@ class MemberLint {
       const std::string name = member.getName();
       const std::string where = place + nameOr(name, "(unnamed)");
       if (name.empty()) {
-        findings_.error(where, "the " + what + " has no name", "give it one");
+        findings_.error("unnamed-member", where, "the " + what + " has no name", "give it one");
       } else if (!names.insert(name).second) {
-        findings_.error(where, "another " + what + " beside it has the same name",
+        findings_.error("same-name", where, "another " + what + " beside it has the same name",
                         "rename one of them");
       }
     });
@@ -193,7 +184,7 @@ class MemberLint {
       checkWord(name, trait.attribute, operation.getAttributeValue(trait.attribute.c_str()),
                 trait.text);
     }
-    flavour_.lint(operation, name, findings_);
+    flavour_.lint(operation, name, list_);
     int number = 0;
     forEachMember<as::IHiddenParameter>(
         operation.getHiddenParameters(), [&](as::IHiddenParameter& hidden) {
@@ -220,21 +211,22 @@ class MemberLint {
   void checkEntryPoint(as::IOperation& operation, const std::string& where) {
     const std::string name = operation.getAttributeValue("entryPoint");
     if (name.empty()) {
-      findings_.error(where, "the operation is bound to no entry point",
+      findings_.error("unbound-operation", where, "the operation is bound to no entry point",
                       "name one in \"entryPoint\"");
       return;
     }
     if (!dictionary_) return;
     as::IEntryPoint* const entryPoint = operation.getEntryPoint();
     if (entryPoint == nullptr) {
-      findings_.error(where, dictionary_->name() + " has no entry point " + quote(name),
+      findings_.error("lost-entry-point", where,
+                      dictionary_->name() + " has no entry point " + quote(name),
                       "bind the operation to one of the program's");
       return;
     }
     interface_ = &dictionary_->interfaceOf(*entryPoint);
     entryPointName_ = name;
     for (const std::string& lost : interface_->lost) {
-      findings_.error(where,
+      findings_.error("lost-linkage-record", where,
                       "entry point " + quote(name) + " is called with " + quote(lost) +
                           ", which is no record of the dictionary",
                       "make the dictionary anew");
@@ -245,11 +237,12 @@ class MemberLint {
                  const std::string& word) {
     if (written.empty() || written == word) return;
     if (flavour_.findDataType(written) != nullptr) {
-      findings_.warning(where, attribute + " " + quote(written) + " reads as " + quote(word),
+      findings_.warning("word-by-alias", where,
+                        attribute + " " + quote(written) + " reads as " + quote(word),
                         "write " + quote(word));
       return;
     }
-    findings_.error(where,
+    findings_.error("unknown-word", where,
                     attribute + " " + quote(written) + " is unknown and reads as " + quote(word),
                     "use a word of " + flavour_.name() + " services");
   }
@@ -259,9 +252,10 @@ class MemberLint {
     if (item != nullptr) checkStorage(*dictionary_->storageOf(*item), where, as::IParameter::BY_IN);
     const std::string value = hidden.getValue();
     if (value.empty()) {
-      findings_.warning(where, "it has no value", "give it one");
+      findings_.warning("no-hidden-value", where, "it has no value", "give it one");
     } else if (as::interface_cast<as::INumeric>(item) != nullptr && !isNumeral(value)) {
-      findings_.error(where, "value " + quote(value) + " is no number, " + item->getName() + " is",
+      findings_.error("hidden-value-no-number", where,
+                      "value " + quote(value) + " is no number, " + item->getName() + " is",
                       "write a number");
     }
   }
@@ -311,7 +305,8 @@ class MemberLint {
     as::IList* const attributes = flavour_.attributesOf(field);
     const bool hasAttributes = attributes != nullptr && attributes->getLength() > 0;
     if (isLeaf && !hasAttributes && field.getMappings()->getLength() == 0) {
-      findings_.warning(where(), "it is mapped to no data item", "add a mapping or remove it");
+      findings_.warning("unmapped-field", where(), "it is mapped to no data item",
+                        "add a mapping or remove it");
     }
     forEachMember<as::IMapping>(field.getMappings(), [&](as::IMapping& mapping) {
       as::IDataItem* const item = checkMapping(mapping, where());
@@ -343,7 +338,8 @@ class MemberLint {
     }
     if (!(field.getAttributeValue("occurs") + field.getAttributeValue("dataType")).empty()) {
       findings_.warning(
-          where(), "it refers to " + quote(name) + ": its own occurs and data type do not count",
+          "ignored-beside-reference", where(),
+          "it refers to " + quote(name) + ": its own occurs and data type do not count",
           "remove them");
     }
     const auto found = definitions_.find(target);
@@ -361,19 +357,20 @@ class MemberLint {
   }
 
   void reportRecursion(const std::string& name) {
-    findings_.error(where(), "type definition " + quote(name) + " refers to itself",
+    findings_.error("recursive-type", where(),
+                    "type definition " + quote(name) + " refers to itself",
                     "refer to another definition or spell the fields out");
   }
 
   void reportLostReference(const std::string& name) {
     const auto last = lastOfName_.find(name);
     if (last == lastOfName_.end()) {
-      findings_.error(where(), "there is no type definition " + quote(name),
+      findings_.error("lost-type", where(), "there is no type definition " + quote(name),
                       "correct \"ref\" or add the definition");
     } else if (definition_ != nullptr && last->second == definition_->index) {
       reportRecursion(name);
     } else {
-      findings_.error(where(), "type definition " + quote(name) + " comes only later",
+      findings_.error("late-type", where(), "type definition " + quote(name) + " comes only later",
                       "move it in front of this one");
     }
   }
@@ -383,7 +380,8 @@ class MemberLint {
     if (mapping.getType() != as::IMapping::MAP_DATA_ITEM) return nullptr;
     const std::string text = mapping.getRawMapping();
     if (text.empty()) {
-      findings_.error(where, "the mapping names no data item", "name one in \"item\"");
+      findings_.error("empty-mapping", where, "the mapping names no data item",
+                      "name one in \"item\"");
       return nullptr;
     }
     const std::vector<int> inner = dataItemSubscripts(mapping);
@@ -393,11 +391,13 @@ class MemberLint {
     const bool badInner = hasInner && inner.empty();
     const bool badOuter = !outerText.empty() && outer.empty();
     if (badInner) {
-      findings_.error(where, "the subscripts of " + quote(text) + " cannot be read",
+      findings_.error("unreadable-subscripts", where,
+                      "the subscripts of " + quote(text) + " cannot be read",
                       "write numbers or * with commas between, as in ITEM(1,*)");
     }
     if (badOuter) {
-      findings_.error(where, "subscript " + quote(outerText) + " cannot be read",
+      findings_.error("unreadable-subscripts", where,
+                      "subscript " + quote(outerText) + " cannot be read",
                       "write numbers or * with commas between, as in 1,*");
     }
     if (!dictionary_) return nullptr;
@@ -423,14 +423,15 @@ class MemberLint {
                    dictionary_->firstOfName(path.substr(path.rfind('.') + 1))) {
       advice = "did you mean " + quote(dottedPath(*other)) + "?";
     }
-    findings_.error(where, dictionary_->name() + " has no data item " + quote(path), advice);
+    findings_.error("lost-data-item", where,
+                    dictionary_->name() + " has no data item " + quote(path), advice);
   }
 
   // False when something was wrong.
   bool checkInnerSubscripts(const std::string& path, const std::vector<int>& subscripts,
                             const std::vector<as::IDataItem*>& tables, const std::string& where) {
     if (subscripts.size() != tables.size()) {
-      findings_.error(where,
+      findings_.error("subscript-count", where,
                       quote(path) + " has " + count(subscripts.size(), "subscript") +
                           " but stands in " + count(tables.size(), "table"),
                       tables.empty() ? "write " + quote(path)
@@ -443,7 +444,7 @@ class MemberLint {
       if (subscripts[i] == everyOccurrence || (subscripts[i] >= 1 && subscripts[i] <= most)) {
         continue;
       }
-      findings_.error(where,
+      findings_.error("subscript-range", where,
                       "subscript " + std::to_string(subscripts[i]) + " of " + quote(path) +
                           " is outside of " + tables[i]->getName() + ", which occurs " +
                           std::to_string(most) + " times",
@@ -464,13 +465,13 @@ class MemberLint {
               ? "the mapping has no subscripts of the interface for " + count(inner.size(), "table")
               : "subscript " + quote(text) + " has " + count(outer.size(), "subscript") + " for " +
                     count(inner.size(), "table");
-      findings_.error(where, problem,
+      findings_.error("interface-subscript-count", where, problem,
                       inner.empty() ? "remove it"
                                     : "write " + quote(allOf(inner.size())) + " in \"subscript\"");
       return;
     }
     if (openOnes(outer) > open) {
-      findings_.error(where,
+      findings_.error("interface-subscript-open", where,
                       "subscript " + quote(text) + " is open (*) where the item's is a number",
                       "open both or neither");
     }
@@ -481,7 +482,7 @@ class MemberLint {
       if (!isCounted) continue;
       const int other = outer[at++];
       if (subscript != everyOccurrence || other == everyOccurrence) continue;
-      findings_.error(where,
+      findings_.error("interface-subscript-open", where,
                       "all occurrences (*) of the item go to occurrence " + std::to_string(other) +
                           " of the interface",
                       "open both or neither");
@@ -489,7 +490,7 @@ class MemberLint {
     }
     for (const int subscript : outer) {
       if (subscript == everyOccurrence || subscript >= 1) continue;
-      findings_.error(where,
+      findings_.error("interface-subscript-range", where,
                       "subscript " + std::to_string(subscript) + " is outside of every table",
                       "count from 1, or write *");
     }
@@ -509,7 +510,7 @@ class MemberLint {
     const std::vector<int> outer = interfaceSubscripts(mapping);
     for (std::size_t i = 0; outer.size() == occurs.size() && i < outer.size(); ++i) {
       if (outer[i] <= occurs[i]) continue;
-      findings_.error(where(),
+      findings_.error("interface-subscript-range", where(),
                       "subscript " + std::to_string(outer[i]) + " is beyond the " +
                           std::to_string(occurs[i]) + " occurrences of the field",
                       "write a smaller number or raise \"occurs\"");
@@ -524,12 +525,12 @@ class MemberLint {
     const auto fixed = static_cast<std::size_t>(std::count_if(
         outer.begin(), outer.end(), [](int subscript) { return subscript != everyOccurrence; }));
     if (occurs.size() > open.size() + fixed) {
-      findings_.error(where(),
+      findings_.error("too-many-field-tables", where(),
                       "the field stands in " + count(occurs.size(), "table") + ", the item in " +
                           count(open.size(), "open one"),
                       "take \"occurs\" away, or map to the table's items");
     } else if (occurs.size() < open.size()) {
-      findings_.error(where(),
+      findings_.error("too-few-field-tables", where(),
                       "all occurrences in " + count(open.size(), "table") + " are mapped to " +
                           (occurs.empty() ? std::string("a single field")
                                           : count(occurs.size(), "table") + " of fields"),
@@ -537,7 +538,7 @@ class MemberLint {
     } else if (occurs.size() == open.size()) {
       for (std::size_t i = 0; i < open.size(); ++i) {
         if (occurs[i] >= open[i]) continue;
-        findings_.warning(where(),
+        findings_.warning("small-field-table", where(),
                           "a table of " + std::to_string(open[i]) + " occurrences is mapped to " +
                               std::to_string(occurs[i]),
                           "raise \"occurs\"");
@@ -553,17 +554,19 @@ class MemberLint {
       std::string names;
       for (const std::string& name : interface_->names) names += (names.empty() ? "" : ", ") + name;
       findings_.error(
-          where,
+          "unreachable-storage", where,
           storage.getName() + " is nothing that entry point " + quote(entryPointName_) +
               " is called with",
           names.empty() ? "it takes no parameters" : "map to something within " + names);
     } else if (record->second == as::ILinkageItem::BY_VALUE &&
                direction == as::IParameter::BY_OUT) {
-      findings_.warning(where, storage.getName() + " is handed over by value: nothing comes back",
+      findings_.warning("nothing-comes-back", where,
+                        storage.getName() + " is handed over by value: nothing comes back",
                         "make the parameter \"in\"");
     } else if (record->second == as::ILinkageItem::BY_RETURNING &&
                direction == as::IParameter::BY_IN) {
-      findings_.warning(where, storage.getName() + " is only returned: nothing goes in",
+      findings_.warning("nothing-goes-in", where,
+                        storage.getName() + " is only returned: nothing goes in",
                         "make the parameter \"out\"");
     }
   }
@@ -574,12 +577,13 @@ class MemberLint {
     const DataType* const known = flavour_.findDataType(*type);
     const std::string written = field.getAttributeValue("dataType");
     if (known == nullptr && written.empty()) {
-      findings_.error(where(), "it has no data type", "write \"dataType\"");
+      findings_.error("no-data-type", where(), "it has no data type", "write \"dataType\"");
     } else if (known == nullptr) {
-      findings_.error(where(), "data type " + quote(written) + " is unknown",
+      findings_.error("unknown-data-type", where(), "data type " + quote(written) + " is unknown",
                       "use a word of " + flavour_.name() + " services");
     } else if (written.empty()) {
-      findings_.warning(where(), "it has no data type and reads as " + quote(known->word),
+      findings_.warning("default-data-type", where(),
+                        "it has no data type and reads as " + quote(known->word),
                         "write \"dataType\"");
     } else {
       checkWord(where(), "dataType", written, known->word);
@@ -594,14 +598,15 @@ class MemberLint {
     if (problem.empty()) return;
     const DataType* const better = flavour_.bestTypeFor(item);
     findings_.error(
-        where(),
+        "narrow-data-type", where(),
         "data type " + quote(type->word) + " cannot hold " + item.getName() + ": it " + problem,
         better == nullptr ? "map to another item" : "use " + quote(better->word));
   }
 
   as::IService& service_;
-  Findings& findings_;
-  const Flavour& flavour_;
+  Findings& list_;
+  Report findings_;
+  const FlavourProfile& flavour_;
   std::optional<Dictionary> dictionary_;
   std::unordered_map<as::IParameter*, Definition> definitions_;
   std::unordered_map<std::string, std::size_t> lastOfName_;
@@ -616,19 +621,19 @@ class MemberLint {
   std::string entryPointName_;
 };
 
-}  // namespace
-
-void lintService(as::IService& service, Findings& findings) {
-  const Flavour& flavour = flavourOf(service);
+// The service's own attributes, as the document has them.
+void lintService(as::IService& service, Findings& list) {
+  const FlavourProfile& flavour = profileOf(service);
+  Report findings(list);
   if (service.getName().empty()) {
-    findings.warning("service", "the service has no name", "write \"name\"");
+    findings.warning("unnamed-service", "service", "the service has no name", "write \"name\"");
   }
   if (service.getDDFilename().empty()) {
-    findings.error("service", "the service names no dictionary", "write \"dataDictFilename\"");
+    findings.error("no-dictionary", "service", "the service names no dictionary",
+                   "write \"dataDictFilename\"");
   }
-  if (service.getImplementation() != flavour.implementation() && flavour.owns(service) &&
-      !flavour.dataTypes().empty()) {
-    findings.error("service",
+  if (service.getImplementation() != flavour.flavour().implementation && flavour.owns(service)) {
+    findings.error("wrong-implementation", "service",
                    "implementation " + quote(service.getAttributeValue("implementation")) +
                        " is not that of a " + flavour.name() + " service",
                    "correct \"implementation\"");
@@ -636,3 +641,99 @@ void lintService(as::IService& service, Findings& findings) {
 }
 
 void lintMembers(as::IService& service, Findings& findings) { MemberLint(service, findings).run(); }
+
+}  // namespace
+
+const std::vector<LintRule>& lintRules() {
+  static const std::vector<LintRule> rules = {
+      {"unnamed-service", Severity::warning, "a service has a name"},
+      {"no-dictionary", Severity::error, "a service names its dictionary"},
+      {"wrong-implementation", Severity::error,
+       "the implementation is that of the document's namespace"},
+      {"unusable-dictionary", Severity::error, "the dictionary can be read"},
+      {"other-program", Severity::warning, "the dictionary is that of the service's program"},
+      {"unnamed-member", Severity::error,
+       "operations, parameters, fields and type definitions have names"},
+      {"same-name", Severity::error, "no two members of a list have the same name"},
+      {"unbound-operation", Severity::error, "an operation is bound to an entry point"},
+      {"lost-entry-point", Severity::error, "the program has the entry point of an operation"},
+      {"lost-linkage-record", Severity::error,
+       "what an entry point is called with is in the dictionary"},
+      {"word-by-alias", Severity::warning, "a word is written as it reads"},
+      {"unknown-word", Severity::error, "a word is one that the flavour knows"},
+      {"no-style", Severity::error, "an operation of a Web service has a style"},
+      {"no-use", Severity::error,
+       "an operation of a Web service, a header and a fault have their uses"},
+      {"encoded-document", Severity::error, "with style document all uses are literal"},
+      {"no-operation-namespace", Severity::error, "with style rpc an operation has its namespaces"},
+      {"no-element-namespace", Severity::error, "with style document a parameter has a namespace"},
+      {"empty-message", Severity::error, "a header or fault has parameters"},
+      {"no-message-namespace", Severity::error, "a header or fault has a namespace"},
+      {"no-hidden-value", Severity::warning, "a hidden parameter has a value"},
+      {"hidden-value-no-number", Severity::error, "the value for a numeric item is a number"},
+      {"unmapped-field", Severity::warning, "an elementary field is mapped"},
+      {"ignored-beside-reference", Severity::warning,
+       "a parameter that refers to a type definition has no occurs and data type of its own"},
+      {"recursive-type", Severity::error, "a type definition does not refer to itself"},
+      {"lost-type", Severity::error, "there is the type definition that a parameter refers to"},
+      {"late-type", Severity::error, "a type definition stands in front of those that refer to it"},
+      {"empty-mapping", Severity::error, "a mapping names a data item"},
+      {"unreadable-subscripts", Severity::error, "subscripts are numbers or *"},
+      {"lost-data-item", Severity::error, "a mapping leads to a data item"},
+      {"subscript-count", Severity::error, "an item has a subscript for each of its tables"},
+      {"subscript-range", Severity::error, "a subscript is within its table"},
+      {"interface-subscript-count", Severity::error,
+       "a mapping has a subscript of the interface for each table"},
+      {"interface-subscript-open", Severity::error, "open subscripts (*) stand on both sides"},
+      {"interface-subscript-range", Severity::error,
+       "a subscript of the interface is within the field's occurrences"},
+      {"too-many-field-tables", Severity::error, "a field stands in no more tables than its item"},
+      {"too-few-field-tables", Severity::error, "a field stands in as many tables as its item"},
+      {"small-field-table", Severity::warning, "a field occurs as often as its item"},
+      {"unreachable-storage", Severity::error, "what is mapped is handed over to the entry point"},
+      {"nothing-comes-back", Severity::warning, "what is handed over by value is no output"},
+      {"nothing-goes-in", Severity::warning, "what is only returned is no input"},
+      {"no-data-type", Severity::error, "a field has a data type"},
+      {"unknown-data-type", Severity::error, "a data type is one that the flavour knows"},
+      {"default-data-type", Severity::warning, "a data type is written"},
+      {"narrow-data-type", Severity::error, "a data type holds the item"},
+  };
+  return rules;
+}
+
+Findings lint(as::IService& service) {
+  Findings findings;
+  lintService(service, findings);
+  lintMembers(service, findings);
+  return findings;
+}
+
+Findings lintFile(const DocumentReader& reader, const std::string& file,
+                  const std::optional<std::string>& dictionary) {
+  const std::unique_ptr<as::IService> service = reader.readService(file);
+  Findings findings;
+  lintService(*service, findings);
+  ServiceDocument complete;
+  if (dictionary || !service->getDDFilename().empty()) {
+    try {
+      complete = reader.withProgram(*service, file, ProgramChoice{dictionary});
+    } catch (const RefusedDocument& refused) {
+      Report(findings).error("unusable-dictionary", "service",
+                             "the dictionary cannot be used: " + textOf(refused.refusal()),
+                             "mappings and entry points were not checked");
+    }
+  }
+  if (complete.service) {
+    const std::string actual = complete.service->getProgram()->getName();
+    if (!complete.programName.empty() && complete.programName != actual) {
+      Report(findings).warning("other-program", "service",
+                               "it names program " + quote(complete.programName) +
+                                   ", the dictionary is of " + quote(actual),
+                               R"(correct "programName" or "dataDictFilename")");
+    }
+  }
+  lintMembers(complete.service ? *complete.service : *service, findings);
+  return findings;
+}
+
+}  // namespace as::toolkit

@@ -6,6 +6,8 @@
 #include "as/IProgram.h"
 #include "toolkit/walk/ItemWalk.h"
 
+namespace as::toolkit {
+
 namespace {
 
 // Periods and parentheses separate the parts of a path, and a "$" starts what is no item.
@@ -40,3 +42,5 @@ as::IDataItem* ItemIndex::find(const std::string& path) const {
   const auto found = items_.find(path);
   return found == items_.end() ? nullptr : found->second;
 }
+
+}  // namespace as::toolkit

@@ -8,51 +8,18 @@
 #include "as/IWSOperation.h"
 #include "as/IWSParameter.h"
 #include "as/IWebService.h"
-#include "toolkit/findings/Findings.h"
-#include "toolkit/flavour/Flavour.h"
-#include "toolkit/text/Words.h"
-#include "toolkit/walk/FieldWalk.h"
+#include "toolkit/findings/Report.h"
+#include "toolkit/flavour/FlavourProfile.h"
+#include "toolkit/flavour/Profiles.h"
+#include "toolkit/flavour/WebParts.h"
+
+namespace as::toolkit {
 
 namespace {
 
 using Kind = Capacity::Kind;
 using Web = as::IWSField;
 using Operation = as::IWSOperation;
-
-// Neither word: the accessors answer this for a missing or unknown text.
-constexpr int unknownCode = -1;
-
-// A trait whose accessor answers a number for one of two words, or unknownCode.
-Trait wordTrait(const char* key, const char* attribute, int code, const char* first,
-                const char* second) {
-  return {key, attribute, code, code == 0 ? first : code == 1 ? second : ""};
-}
-
-Trait useTrait(const char* key, int code) {
-  return wordTrait(key, key, code, "literal", "encoded");
-}
-
-Trait formTrait(const char* key, int code) {
-  return wordTrait(key, key, code, "qualified", "unqualified");
-}
-
-Trait textTrait(const char* key, const std::string& text) { return {key, key, std::nullopt, text}; }
-
-// What the operation's headers, or faults, are like.
-template <class T>
-void addMessages(std::vector<Message>& messages, const char* kind, as::IList* list) {
-  forEachMember<T>(list, [&](T& message) {
-    int direction = as::IParameter::BY_OUT;
-    std::vector<Trait> traits;
-    if constexpr (std::is_same_v<T, as::IWSHeader>) {
-      direction = message.getByType();
-      traits.push_back({"byType", "byType", direction, directionWord(direction)});
-    }
-    traits.push_back(textTrait("namespace", message.getNamespace()));
-    traits.push_back(useTrait("use", message.getUse()));
-    messages.push_back({kind, &message, direction, std::move(traits), message.getParameters()});
-  });
-}
 
 // The checks of one operation.
 class WebLint {
@@ -63,7 +30,8 @@ class WebLint {
   void run() {
     const int style = operation_.getStyle();
     if (style == unknownCode) {
-      findings_.error(where_, "the operation has no style", R"(write "rpc" or "document")");
+      findings_.error("no-style", where_, "the operation has no style",
+                      R"(write "rpc" or "document")");
     }
     checkUse("inputUse", operation_.getInputUse());
     checkUse("outputUse", operation_.getOutputUse());
@@ -88,17 +56,18 @@ class WebLint {
 
   void checkUse(const char* attribute, int use) {
     if (use == unknownCode) {
-      findings_.error(where_, std::string("the operation has no ") + attribute,
+      findings_.error("no-use", where_, std::string("the operation has no ") + attribute,
                       R"(write "literal" or "encoded")");
     } else if (use == Operation::USE_ENCODED && isDocument()) {
-      findings_.error(where_, std::string(attribute) + " is encoded, but the style is document",
+      findings_.error("encoded-document", where_,
+                      std::string(attribute) + " is encoded, but the style is document",
                       "make it literal, or the style rpc");
     }
   }
 
   void checkNamespace(const char* attribute, const std::string& uri) {
     if (!uri.empty()) return;
-    findings_.error(where_,
+    findings_.error("no-operation-namespace", where_,
                     std::string("style rpc needs a namespace, and there is no ") + attribute,
                     std::string("write \"") + attribute + "\"");
   }
@@ -114,7 +83,7 @@ class WebLint {
       const bool lacksOutput =
           direction != as::IParameter::BY_IN && operation_.getOutputNamespace().empty();
       if (!lacksInput && !lacksOutput) return;
-      findings_.error(where_ + "." + parameter.getName(),
+      findings_.error("no-element-namespace", where_ + "." + parameter.getName(),
                       std::string("style document needs a namespace, and there is none, nor an ") +
                           (lacksInput ? "inputNamespace" : "outputNamespace"),
                       "write \"namespace\", or that of the operation");
@@ -125,38 +94,35 @@ class WebLint {
   void check(T& message, const std::string& name) {
     const std::string place = where_ + ", " + name;
     if (message.getParameters()->getLength() == 0) {
-      findings_.error(place, "it has no parameters", "add one or remove it");
+      findings_.error("empty-message", place, "it has no parameters", "add one or remove it");
     }
     if (message.getNamespace().empty()) {
-      findings_.error(place, "it has no namespace", "write \"namespace\"");
+      findings_.error("no-message-namespace", place, "it has no namespace", "write \"namespace\"");
     }
     const int use = message.getUse();
     if (use == unknownCode) {
-      findings_.error(place, "it has no use", R"(write "literal" or "encoded")");
+      findings_.error("no-use", place, "it has no use", R"(write "literal" or "encoded")");
     } else if (use == T::USE_ENCODED && isDocument()) {
-      findings_.error(place, "its use is encoded, but the style is document",
+      findings_.error("encoded-document", place, "its use is encoded, but the style is document",
                       "make it literal, or the style rpc");
     }
   }
 
   Operation& operation_;
   const std::string& where_;
-  Findings& findings_;
+  Report findings_;
 };
 
-class WebFlavour : public Flavour {
+class WebProfile : public FlavourProfile {
  public:
-  std::string name() const override { return "Web"; }
-  int implementation() const override { return as::IService::TYPE_WS; }
-  const char* word() const override { return "ws"; }
-  const char* namespaceURI() const override {
-    return "http://agentservices.example/schema/ws/v1.0/vorws.xsd";
-  }
+  WebProfile() : FlavourProfile({"ws", "Web", as::IService::TYPE_WS, as::namespaces::ws}) {}
+
   const Additions& additions() const override {
     static const Additions additions = {
         {"style", "inputUse", "outputUse", "inputNamespace", "outputNamespace"},
         {"namespace", "elementForm", "attributeForm"},
-        {"header", "fault"}};
+        {"header", "fault"},
+        {"fieldAttribute"}};
     return additions;
   }
 
@@ -167,8 +133,8 @@ class WebFlavour : public Flavour {
   std::vector<Trait> traitsOf(as::IOperation& operation) const override {
     auto* const web = as::interface_cast<Operation>(&operation);
     if (web == nullptr) return {};
-    return {wordTrait("style", "style", web->getStyle(), "rpc", "document"),
-            useTrait("inputUse", web->getInputUse()), useTrait("outputUse", web->getOutputUse()),
+    return {styleTrait("style", web->getStyle()), useTrait("inputUse", web->getInputUse()),
+            useTrait("outputUse", web->getOutputUse()),
             textTrait("inputNamespace", web->getInputNamespace()),
             textTrait("outputNamespace", web->getOutputNamespace())};
   }
@@ -182,18 +148,9 @@ class WebFlavour : public Flavour {
   }
 
   std::vector<Message> messagesOf(as::IOperation& operation) const override {
-    std::vector<Message> messages;
-    if (auto* const web = as::interface_cast<Operation>(&operation)) {
-      addMessages<as::IWSHeader>(messages, "header", web->getHeaders());
-      addMessages<as::IWSFault>(messages, "fault", web->getFaults());
-    }
-    return messages;
+    return webMessagesOf(operation);
   }
-
-  as::IList* attributesOf(as::IField& field) const override {
-    auto* const web = as::interface_cast<Web>(&field);
-    return web == nullptr ? nullptr : web->getFieldAttributes();
-  }
+  as::IList* attributesOf(as::IField& field) const override { return webAttributesOf(field); }
 
   const std::vector<DataType>& dataTypes() const override { return types_; }
 
@@ -212,7 +169,7 @@ class WebFlavour : public Flavour {
   }
 
   std::unique_ptr<as::IService> newService(std::unique_ptr<as::IProgram> program) const override {
-    return makeService(as::CAgentServicesFactory::NewWebService, std::move(program));
+    return newServiceOf(as::CAgentServicesFactory::NewWebService, std::move(program));
   }
 
   // What is missing of style, uses and namespaces.
@@ -259,7 +216,9 @@ class WebFlavour : public Flavour {
 
 }  // namespace
 
-const Flavour& webFlavour() {
-  static const WebFlavour flavour;
-  return flavour;
+const FlavourProfile& webProfile() {
+  static const WebProfile profile;
+  return profile;
 }
+
+}  // namespace as::toolkit

@@ -1,7 +1,7 @@
-// What the tool knows of the flavours of services. All that a flavour adds to the plain service is
-// told by one object; a new flavour is a new source file and a line in Flavour.cpp.
-#ifndef TOOLKIT_FLAVOUR_FLAVOUR_H_
-#define TOOLKIT_FLAVOUR_FLAVOUR_H_
+// What the toolkit knows of a flavour of services. All that a flavour adds to the plain service is
+// told by one object; a new flavour is a new source file and a row in Profiles.def.
+#ifndef TOOLKIT_FLAVOUR_FLAVOURPROFILE_H_
+#define TOOLKIT_FLAVOUR_FLAVOURPROFILE_H_
 
 #include <memory>
 #include <optional>
@@ -12,10 +12,12 @@
 #include "as/IParameter.h"
 #include "as/IProgram.h"
 #include "as/IService.h"
+#include "as/toolkit/Finding.h"
+#include "as/toolkit/Flavours.h"
 #include "toolkit/flavour/Capacity.h"
 #include "toolkit/walk/TreeWalk.h"
 
-class Findings;
+namespace as::toolkit {
 
 // Something that a flavour adds to an object of the model.
 struct Trait {
@@ -49,23 +51,20 @@ struct Additions {
   std::vector<std::string> operationAttributes;
   std::vector<std::string> fieldAttributes;  // Of parameters and fields, the data type left out.
   std::vector<std::string> operationElements;
+  std::vector<std::string> fieldElements;
 };
 
-class Flavour {
+class FlavourProfile {
  public:
-  Flavour() = default;
-  virtual ~Flavour();
-  Flavour(const Flavour&) = delete;
-  Flavour& operator=(const Flavour&) = delete;
+  explicit FlavourProfile(const Flavour& flavour) : flavour_(flavour) {}
+  virtual ~FlavourProfile();
+  FlavourProfile(const FlavourProfile&) = delete;
+  FlavourProfile& operator=(const FlavourProfile&) = delete;
 
+  const Flavour& flavour() const { return flavour_; }
   // As it is called in texts.
-  virtual std::string name() const = 0;
-  // The value of the service's attribute "implementation", one of as::IService::TYPE, and its word,
-  // which the command line uses, too.
-  virtual int implementation() const = 0;
-  virtual const char* word() const = 0;
-  // The namespace of its documents.
-  virtual const char* namespaceURI() const = 0;
+  std::string name() const { return flavour_.name; }
+
   virtual const Additions& additions() const = 0;
   // Whether the service's objects are of this flavour.
   virtual bool owns(as::IService& service) const = 0;
@@ -87,6 +86,9 @@ class Flavour {
   virtual std::optional<int> dataTypeOf(as::IField& field) const = 0;
   // The type that an absent attribute stands for; null when it stands for none.
   virtual const DataType* defaultType() const = 0;
+  // The type that a service with `word` for a data type has; an empty one counts as absent. Null
+  // when it has none.
+  virtual const DataType* typeReadAs(const std::string& word) const;
 
   // Reports what is wrong with what the flavour adds to the operation, which stands at `where`.
   virtual void lint(as::IOperation& operation, const std::string& where, Findings& findings) const;
@@ -109,24 +111,23 @@ class Flavour {
   const DataType* bestTypeFor(as::IDataItem& item) const;
   // The type that holds all that `capacity` can; null when there is none.
   const DataType* bestTypeFor(const Capacity& capacity) const;
+
+ private:
+  Flavour flavour_;
 };
 
-// The flavour of `service`; one that adds nothing when the tool knows none.
-const Flavour& flavourOf(as::IService& service);
+// The profile of `service`; one that adds nothing when there is none.
+const FlavourProfile& profileOf(as::IService& service);
 
-// The flavours by the word of "implementation"; null for a word that is none.
-const Flavour* findFlavour(const std::string& word);
-std::vector<std::string> flavourWords();
+// The profile of one of flavours(). Throws std::invalid_argument for any other.
+const FlavourProfile& profileOf(const Flavour& flavour);
 
-// The flavours.
-const Flavour& comFlavour();
-const Flavour& dotNetFlavour();
-const Flavour& javaFlavour();
-const Flavour& webFlavour();
+// The profile of the documents in that namespace; null when there is none.
+const FlavourProfile* findProfileOfDocuments(const std::string& namespaceURI);
 
 // What one of the library's New...Service operations makes. Throws as::CASException.
 template <class Make>
-std::unique_ptr<as::IService> makeService(Make make, std::unique_ptr<as::IProgram> program) {
+std::unique_ptr<as::IService> newServiceOf(Make make, std::unique_ptr<as::IProgram> program) {
   std::unique_ptr<as::IService> service(make(program.get()));
   static_cast<void>(program.release());
   return service;
@@ -136,4 +137,6 @@ std::unique_ptr<as::IService> makeService(Make make, std::unique_ptr<as::IProgra
 // when it has none.
 as::IParameter* firstParameterOf(as::IService& service);
 
-#endif  // TOOLKIT_FLAVOUR_FLAVOUR_H_
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_FLAVOUR_FLAVOURPROFILE_H_

@@ -1,4 +1,4 @@
-#include "toolkit/io/FileReplacement.h"
+#include "as/toolkit/Files.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -8,15 +8,18 @@
 #include <cstddef>
 #include <filesystem>
 #include <optional>
-#include <stdexcept>
 #include <system_error>
+
+#include "toolkit/io/ServiceText.h"
+
+namespace as::toolkit {
 
 namespace {
 
 namespace fs = std::filesystem;
 
 [[noreturn]] void fail(const std::string& what, int reason) {
-  throw std::runtime_error(what + ": " + std::generic_category().message(reason));
+  throw FileError(what + ": " + std::generic_category().message(reason));
 }
 
 // An open file. Closing it may fail like any other writing.
@@ -115,6 +118,10 @@ void writeThrough(const std::string& file, const std::string& content) {
 
 }  // namespace
 
+FileError::FileError(const FileError& other) = default;
+FileError& FileError::operator=(const FileError& other) = default;
+FileError::~FileError() = default;
+
 void replaceFile(const std::string& file, const std::string& content) {
   const std::string unchanged = file + " cannot be written and is as it was";
   struct stat old = {};
@@ -143,6 +150,21 @@ void replaceFile(const std::string& file, const std::string& content) {
   }
 }
 
+void writeService(as::IService& service, const std::string& file) {
+  replaceFile(file, documentOf(service, file));
+}
+
+std::string besideFile(const std::string& file, const std::string& name) {
+  const fs::path folder = fs::path(file).parent_path();
+  const fs::path plain = folder / name;
+  // The library takes ".." out of a name as if folders were no links.
+  std::error_code failure;
+  if (!fs::exists(plain, failure) || fs::equivalent(plain, plain.lexically_normal(), failure)) {
+    return plain.string();
+  }
+  return (fs::canonical(folder, failure) / name).lexically_normal().string();
+}
+
 std::string nameSeenFrom(const std::string& from, const std::string& to) {
   // Folders may be links, which would lead elsewhere on the way back; the file's own name stays.
   std::error_code failure;
@@ -153,3 +175,5 @@ std::string nameSeenFrom(const std::string& from, const std::string& to) {
   const fs::path name = target.lexically_proximate(folderOf(from));
   return failure ? to : name.string();
 }
+
+}  // namespace as::toolkit

@@ -4,7 +4,10 @@
 #include "as/CAgentServicesFactory.h"
 #include "as/IJavaOperation.h"
 #include "as/IJavaParameter.h"
-#include "toolkit/flavour/Flavour.h"
+#include "toolkit/flavour/FlavourProfile.h"
+#include "toolkit/flavour/Profiles.h"
+
+namespace as::toolkit {
 
 namespace {
 
@@ -28,21 +31,17 @@ std::string transactionWord(int type) {
   }
 }
 
-class JavaFlavour : public Flavour {
+class JavaProfile : public FlavourProfile {
  public:
-  std::string name() const override { return "Java"; }
-  int implementation() const override { return as::IService::TYPE_JAVA; }
-  const char* word() const override { return "java"; }
-  const char* namespaceURI() const override {
-    return "http://agentservices.example/schema/java/v2.0/vorjava.xsd";
-  }
+  JavaProfile() : FlavourProfile({"java", "Java", as::IService::TYPE_JAVA, as::namespaces::java}) {}
+
   const Additions& additions() const override {
-    static const Additions additions = {{"transactionType"}, {}, {}};
+    static const Additions additions = {{"transactionType"}, {}, {}, {}};
     return additions;
   }
 
   bool owns(as::IService& service) const override {
-    if (service.getAttributeValue("xmlns") == namespaceURI()) return true;
+    if (service.getAttributeValue("xmlns") == flavour().documents.uri) return true;
     as::IElement* const operation = service.getOperations()->getItem(0);
     return as::interface_cast<as::IJavaOperation>(operation) != nullptr ||
            as::interface_cast<as::IJavaField>(firstParameterOf(service)) != nullptr;
@@ -54,7 +53,7 @@ class JavaFlavour : public Flavour {
     const int type = java->getTransactionType();
     return {{"transactionType", "transactionType", type, transactionWord(type)}};
   }
-  using Flavour::traitsOf;
+  using FlavourProfile::traitsOf;
 
   const std::vector<DataType>& dataTypes() const override { return types_; }
 
@@ -66,7 +65,7 @@ class JavaFlavour : public Flavour {
   const DataType* defaultType() const override { return findDataType(Java::JAVA_SHORT); }
 
   std::unique_ptr<as::IService> newService(std::unique_ptr<as::IProgram> program) const override {
-    return makeService(as::CAgentServicesFactory::NewJavaService, std::move(program));
+    return newServiceOf(as::CAgentServicesFactory::NewJavaService, std::move(program));
   }
 
   void complete(as::IService& /*service*/, as::IOperation& operation) const override {
@@ -99,7 +98,9 @@ class JavaFlavour : public Flavour {
 
 }  // namespace
 
-const Flavour& javaFlavour() {
-  static const JavaFlavour flavour;
-  return flavour;
+const FlavourProfile& javaProfile() {
+  static const JavaProfile profile;
+  return profile;
 }
+
+}  // namespace as::toolkit

@@ -5,22 +5,22 @@
 #include "as/IDotNET.h"
 #include "as/IDotNETParameter.h"
 #include "as/IWebService.h"
-#include "toolkit/flavour/Flavour.h"
-#include "toolkit/walk/FieldWalk.h"
+#include "toolkit/flavour/FlavourProfile.h"
+#include "toolkit/flavour/Profiles.h"
+#include "toolkit/flavour/WebParts.h"
+
+namespace as::toolkit {
 
 namespace {
 
 using Kind = Capacity::Kind;
 using Net = as::IDotNETField;
 
-class DotNetFlavour : public Flavour {
+class DotNetProfile : public FlavourProfile {
  public:
-  std::string name() const override { return ".NET"; }
-  int implementation() const override { return as::IService::TYPE_DOTNET; }
-  const char* word() const override { return "dotnet"; }
-  const char* namespaceURI() const override {
-    return "http://agentservices.example/schema/dotnet/v1.0/vordotnet.xsd";
-  }
+  DotNetProfile()
+      : FlavourProfile({"dotnet", ".NET", as::IService::TYPE_DOTNET, as::namespaces::dotnet}) {}
+
   const Additions& additions() const override {
     static const Additions additions;
     return additions;
@@ -31,16 +31,14 @@ class DotNetFlavour : public Flavour {
   bool owns(as::IService& service) const override {
     return as::interface_cast<as::IDotNET>(&service) != nullptr ||
            (as::interface_cast<as::IWebService>(&service) != nullptr &&
-            service.getImplementation() == implementation());
+            service.getImplementation() == flavour().implementation);
   }
 
   // What one in the namespace of Web services may hold beside.
   std::vector<Message> messagesOf(as::IOperation& operation) const override {
-    return webFlavour().messagesOf(operation);
+    return webMessagesOf(operation);
   }
-  as::IList* attributesOf(as::IField& field) const override {
-    return webFlavour().attributesOf(field);
-  }
+  as::IList* attributesOf(as::IField& field) const override { return webAttributesOf(field); }
 
   const std::vector<DataType>& dataTypes() const override { return types_; }
 
@@ -62,7 +60,7 @@ class DotNetFlavour : public Flavour {
   const DataType* defaultType() const override { return findDataType(Net::NET_BYTE); }
 
   std::unique_ptr<as::IService> newService(std::unique_ptr<as::IProgram> program) const override {
-    return makeService(as::CAgentServicesFactory::NewDotNETService, std::move(program));
+    return newServiceOf(as::CAgentServicesFactory::NewDotNETService, std::move(program));
   }
 
   void setDataType(as::IField& field, const DataType& type) const override {
@@ -92,7 +90,9 @@ class DotNetFlavour : public Flavour {
 
 }  // namespace
 
-const Flavour& dotNetFlavour() {
-  static const DotNetFlavour flavour;
-  return flavour;
+const FlavourProfile& dotNetProfile() {
+  static const DotNetProfile profile;
+  return profile;
 }
+
+}  // namespace as::toolkit

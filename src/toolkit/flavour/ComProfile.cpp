@@ -6,28 +6,27 @@
 #include "as/IDotNET.h"
 #include "as/IJavaOperation.h"
 #include "as/IWebService.h"
-#include "toolkit/flavour/Flavour.h"
+#include "toolkit/flavour/FlavourProfile.h"
+#include "toolkit/flavour/Profiles.h"
+
+namespace as::toolkit {
 
 namespace {
 
 using Kind = Capacity::Kind;
 using Com = as::ICOMField;
 
-class ComFlavour : public Flavour {
+class ComProfile : public FlavourProfile {
  public:
-  std::string name() const override { return "COM"; }
-  int implementation() const override { return as::IService::TYPE_COM; }
-  const char* word() const override { return "com"; }
-  const char* namespaceURI() const override {
-    return "http://agentservices.example/schema/com/v1.0/vorcom.xsd";
-  }
+  ComProfile() : FlavourProfile({"com", "COM", as::IService::TYPE_COM, as::namespaces::com}) {}
+
   const Additions& additions() const override {
-    static const Additions additions = {{}, {"returnParameter"}, {}};
+    static const Additions additions = {{}, {"returnParameter"}, {}, {}};
     return additions;
   }
 
   bool owns(as::IService& service) const override {
-    if (service.getAttributeValue("xmlns") == namespaceURI()) return true;
+    if (service.getAttributeValue("xmlns") == flavour().documents.uri) return true;
     if (as::IParameter* const parameter = firstParameterOf(service)) {
       return as::interface_cast<Com>(parameter) != nullptr;
     }
@@ -44,7 +43,7 @@ class ComFlavour : public Flavour {
     const bool isReturned = com->isReturnParameter();
     return {{"returnParameter", "returnParameter", isReturned ? 1 : 0, isReturned ? "yes" : "no"}};
   }
-  using Flavour::traitsOf;
+  using FlavourProfile::traitsOf;
 
   const std::vector<DataType>& dataTypes() const override { return types_; }
 
@@ -55,8 +54,13 @@ class ComFlavour : public Flavour {
 
   const DataType* defaultType() const override { return findDataType(Com::COM_OBJECT); }
 
+  // "object" is written for objects, but it reads as any other unknown word: as text.
+  const DataType* typeReadAs(const std::string& word) const override {
+    return FlavourProfile::typeReadAs(word == "object" ? "string" : word);
+  }
+
   std::unique_ptr<as::IService> newService(std::unique_ptr<as::IProgram> program) const override {
-    return makeService(as::CAgentServicesFactory::NewCOMService, std::move(program));
+    return newServiceOf(as::CAgentServicesFactory::NewCOMService, std::move(program));
   }
 
   void setDataType(as::IField& field, const DataType& type) const override {
@@ -90,7 +94,9 @@ class ComFlavour : public Flavour {
 
 }  // namespace
 
-const Flavour& comFlavour() {
-  static const ComFlavour flavour;
-  return flavour;
+const FlavourProfile& comProfile() {
+  static const ComProfile profile;
+  return profile;
 }
+
+}  // namespace as::toolkit

@@ -1,0 +1,19 @@
+// Text of documents on its way to a terminal.
+#ifndef AS_TOOLKIT_TEXT_H_
+#define AS_TOOLKIT_TEXT_H_
+
+#include <string>
+#include <string_view>
+
+#include "as/Export.h"
+
+namespace as::toolkit {
+
+// The UTF-8 `text` with its control characters written as \u001B: a document may hold them, and
+// they would break lines or steer the terminal. Findings, refusals and exceptions tell text as the
+// document has it.
+AS_EXPORT std::string printable(std::string_view text);
+
+}  // namespace as::toolkit
+
+#endif  // AS_TOOLKIT_TEXT_H_
