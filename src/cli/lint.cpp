@@ -14,10 +14,6 @@ namespace cli {
 
 namespace {
 
-std::string count(std::size_t number, const char* what) {
-  return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
-}
-
 // ID  SEVERITY  SUMMARY, a line each.
 void printRules() {
   int idWidth = 0;
@@ -64,7 +60,8 @@ class Lint : public Command {
       if (errors == 0 && warnings == 0) {
         std::cout << "clean\n";
       } else {
-        std::cout << count(errors, "error") << ", " << count(warnings, "warning") << "\n";
+        std::cout << toolkit::count(errors, "error") << ", " << toolkit::count(warnings, "warning")
+                  << "\n";
       }
       return errors == 0 ? exitFine : exitRefused;
     });

@@ -1,7 +1,8 @@
-// Text of documents on its way to a terminal.
+// Text for people.
 #ifndef AS_TOOLKIT_TEXT_H_
 #define AS_TOOLKIT_TEXT_H_
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,9 @@ namespace as::toolkit {
 // they would break lines or steer the terminal. Findings, refusals and exceptions tell text as the
 // document has it.
 AS_EXPORT std::string printable(std::string_view text);
+
+// "1 table", "3 tables"
+AS_EXPORT std::string count(std::size_t number, const char* what);
 
 }  // namespace as::toolkit
 

@@ -138,7 +138,7 @@ class Conversion {
       const bool repeats = std::strtol(field.get("occurs").c_str(), nullptr, 10) > 1;
       const DataType* const type = to_.groupType(repeats);
       write(field, type);
-      if (type == nullptr && !word.empty() && word != "Array") lose("the data type of a group");
+      if (type == nullptr && !word.empty() && !isGroupWord(word)) lose("the data type of a group");
       return;
     }
     const DataType* const old = from_.typeReadAs(word);

@@ -119,6 +119,13 @@ const FlavourProfile* findProfileOfDocuments(const std::string& namespaceURI) {
   return nullptr;
 }
 
+bool isGroupWord(const std::string& word) {
+  return std::any_of(profiles().begin(), profiles().end(), [&word](const FlavourProfile* profile) {
+    const DataType* const type = profile->findDataType(word);
+    return type != nullptr && type->capacity.kind == Capacity::Kind::group;
+  });
+}
+
 const std::vector<Flavour>& flavours() {
   static const std::vector<Flavour> all = [] {
     std::vector<Flavour> rows;

@@ -125,6 +125,9 @@ const FlavourProfile& profileOf(const Flavour& flavour);
 // The profile of the documents in that namespace; null when there is none.
 const FlavourProfile* findProfileOfDocuments(const std::string& namespaceURI);
 
+// Whether a flavour has that word for the data type of groups.
+bool isGroupWord(const std::string& word);
+
 // What one of the library's New...Service operations makes. Throws as::CASException.
 template <class Make>
 std::unique_ptr<as::IService> newServiceOf(Make make, std::unique_ptr<as::IProgram> program) {

@@ -6,10 +6,6 @@ namespace as::toolkit {
 
 std::string quote(const std::string& text) { return "'" + text + "'"; }
 
-std::string count(std::size_t number, const char* what) {
-  return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
-}
-
 std::string dotted(const std::vector<std::string>& names) {
   std::string path;
   for (std::size_t i = 0; i < names.size(); ++i) {

@@ -7,13 +7,12 @@
 #include <string_view>
 #include <vector>
 
+#include "as/toolkit/Text.h"
+
 namespace as::toolkit {
 
 // 'text'
 std::string quote(const std::string& text);
-
-// "1 table", "3 tables"
-std::string count(std::size_t number, const char* what);
 
 // The names with periods between: RECORD.GROUP.ITEM.
 std::string dotted(const std::vector<std::string>& names);

@@ -37,4 +37,8 @@ std::string printable(std::string_view text) {
   return result;
 }
 
+std::string count(std::size_t number, const char* what) {
+  return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
+}
+
 }  // namespace as::toolkit

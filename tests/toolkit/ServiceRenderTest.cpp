@@ -1,21 +1,19 @@
-// Tests of the tool's show and validate over services.
-#include <gmock/gmock.h>
+// Tests of how services are shown, alone and with their programs.
 #include <gtest/gtest.h>
 
-#include <filesystem>
+#include <memory>
 #include <nlohmann/json.hpp>
 #include <string>
 
 #include "support/JavaService.h"
-#include "support/Tool.h"
+#include "support/Toolkit.h"
 
 namespace {
 
 using nlohmann::json;
-using testing::HasSubstr;
 
 // A service in a folder beside that of its dictionary, with something of everything.
-class ToolServiceTest : public test::ToolTest {
+class ServiceRenderTest : public test::ToolkitTest {
  protected:
   void writeBoth() const {
     write("d/PAY.xml", test::payProgram());
@@ -52,16 +50,14 @@ class ToolServiceTest : public test::ToolTest {
       </operations>)xml"));
   }
 
-  json shownJson(const std::vector<std::string>& arguments) const {
-    const test::ToolOutcome outcome = run(arguments);
-    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
-    return json::parse(outcome.out, nullptr, false);
+  std::unique_ptr<as::IService> withProgram() const {
+    return reader().readServiceWithProgram("s/pay.xml").service;
   }
 };
 
-TEST_F(ToolServiceTest, ShowPrintsEverySectionAsATree) {
+TEST_F(ServiceRenderTest, ShowPrintsEverySectionAsATree) {
   writeBoth();
-  EXPECT_EQ(run({"show", "s/pay.xml"}).out, R"text(SERVICE Pay
+  EXPECT_EQ(treeOfFile("s/pay.xml"), R"text(SERVICE Pay
 
   flavour       Java
   program       PAYROLL
@@ -96,9 +92,9 @@ OPERATIONS
 )text");
 }
 
-TEST_F(ToolServiceTest, ShowWithTheProgramTellsWhereMappingsLead) {
+TEST_F(ServiceRenderTest, ShowWithTheProgramTellsWhereMappingsLead) {
   writeBoth();
-  EXPECT_EQ(run({"show", "--program", "s/pay.xml"}).out, R"text(SERVICE Pay
+  EXPECT_EQ(treeOf(*withProgram()), R"text(SERVICE Pay
 
   flavour       Java
   program       PAYROLL
@@ -133,26 +129,9 @@ OPERATIONS
 )text");
 }
 
-TEST_F(ToolServiceTest, AMissingDictionaryIsNamed) {
+TEST_F(ServiceRenderTest, JsonHoldsWhatTheAccessorsAnswer) {
   writeBoth();
-  std::filesystem::remove(pathOf("d/PAY.xml"));
-  EXPECT_EQ(run({"show", "s/pay.xml"}).exitCode, 0);
-  const test::ToolOutcome outcome = run({"show", "--program", "s/pay.xml"});
-  EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.out, testing::IsEmpty());
-  EXPECT_EQ(outcome.err, "s/../d/PAY.xml: error: cannot be read: No such file or directory\n");
-}
-
-TEST_F(ToolServiceTest, AServiceThatNamesNoDictionaryIsTold) {
-  write("s.xml", test::javaService("", ""));
-  const test::ToolOutcome outcome = run({"show", "--program", "s.xml"});
-  EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.err, HasSubstr("s.xml: error: the service names no dictionary\nhint: "));
-}
-
-TEST_F(ToolServiceTest, JsonHoldsWhatTheAccessorsAnswer) {
-  writeBoth();
-  const json service = shownJson({"show", "--json", "s/pay.xml"});
+  const json service = jsonOfFile("s/pay.xml");
   EXPECT_EQ(service.at("flavour"), "Java");
   EXPECT_EQ(service.at("implementation"), 1);
   EXPECT_EQ(service.at("ddFilename"), "../d/PAY.xml");
@@ -173,9 +152,9 @@ TEST_F(ToolServiceTest, JsonHoldsWhatTheAccessorsAnswer) {
          "interfaceSubscripts": []}]})json"));
 }
 
-TEST_F(ToolServiceTest, JsonWithTheProgramHoldsWhatIsFound) {
+TEST_F(ServiceRenderTest, JsonWithTheProgramHoldsWhatIsFound) {
   writeBoth();
-  const json service = shownJson({"show", "--program", "--json", "s/pay.xml"});
+  const json service = jsonOf(*withProgram());
   EXPECT_EQ(service.at("program"), "PAYROLL");
   const json& pay = service.at("operations").at(0);
   EXPECT_EQ(pay.at("entryPoint"), "PAY");
@@ -186,24 +165,13 @@ TEST_F(ToolServiceTest, JsonWithTheProgramHoldsWhatIsFound) {
   EXPECT_EQ(mapping.at("dataItemSubscripts"), json::parse("[-1]"));
 }
 
-TEST_F(ToolServiceTest, JsonDoesNotFollowReferences) {
+TEST_F(ServiceRenderTest, JsonDoesNotFollowReferences) {
   writeBoth();
-  const json service = shownJson({"show", "--json", "s/pay.xml"});
+  const json service = jsonOfFile("s/pay.xml");
   const json& more = service.at("/parameterTypeDefs/0/children/1"_json_pointer);
   EXPECT_EQ(more.at("referenceType"), "Line");
   EXPECT_FALSE(more.contains("children"));
   EXPECT_FALSE(more.contains("mappings"));
-}
-
-TEST_F(ToolServiceTest, ValidateTakesBothKinds) {
-  writeBoth();
-  EXPECT_EQ(run({"validate", "s/pay.xml", "d/PAY.xml"}).out, "s/pay.xml: ok\nd/PAY.xml: ok\n");
-}
-
-TEST_F(ToolServiceTest, AServiceWithoutASchemaLocationIsHelped) {
-  write("s.xml", "<service xmlns='http://agentservices.example/schema/java/v2.0/vorjava.xsd'/>");
-  EXPECT_THAT(run({"validate", "s.xml"}).err,
-              HasSubstr("hint: name the schema in the root element: "));
 }
 
 }  // namespace

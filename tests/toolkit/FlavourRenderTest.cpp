@@ -1,4 +1,4 @@
-// Tests of what the tool shows of the flavours beside Java: Web, COM and .NET services.
+// Tests of how the flavours beside Java are shown: Web, COM and .NET services.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <string>
 
 #include "support/Flavours.h"
-#include "support/Tool.h"
+#include "support/Toolkit.h"
 
 namespace {
 
@@ -46,9 +46,9 @@ std::string webService() {
       </operations></service>)xml";
 }
 
-class ToolFlavourTest : public test::ToolTest {};
+class FlavourRenderTest : public test::ToolkitTest {};
 
-TEST_F(ToolFlavourTest, ShowPrintsWebServicesWhole) {
+TEST_F(FlavourRenderTest, ShowPrintsWebServicesWhole) {
   EXPECT_EQ(shown(webService()), R"text(SERVICE Pay
 
   flavour       Web
@@ -82,7 +82,7 @@ OPERATIONS
 )text");
 }
 
-TEST_F(ToolFlavourTest, JsonHoldsHeadersAndFaults) {
+TEST_F(FlavourRenderTest, JsonHoldsHeadersAndFaults) {
   const json operation = shownJson(webService())["operations"][0];
   EXPECT_EQ(operation["style"], 0);
   EXPECT_EQ(operation["styleText"], "rpc");
@@ -103,7 +103,7 @@ TEST_F(ToolFlavourTest, JsonHoldsHeadersAndFaults) {
   EXPECT_EQ(operation["faults"][0]["parameters"], json::array());
 }
 
-TEST_F(ToolFlavourTest, JsonHoldsFormsAndFieldAttributes) {
+TEST_F(FlavourRenderTest, JsonHoldsFormsAndFieldAttributes) {
   const json service = shownJson(webService());
   const json line = service["parameterTypeDefs"][0];
   EXPECT_EQ(line["namespace"], "urn:t");
@@ -119,13 +119,13 @@ TEST_F(ToolFlavourTest, JsonHoldsFormsAndFieldAttributes) {
 }
 
 // To ask for the name of such a type would end the process.
-TEST_F(ToolFlavourTest, AMissingDataTypeOfAWebServiceIsUnknown) {
+TEST_F(FlavourRenderTest, AMissingDataTypeOfAWebServiceIsUnknown) {
   const json odd = shownJson(webService())["operations"][0]["parameters"][1];
   EXPECT_EQ(odd["type"], -1);
   EXPECT_EQ(odd["typeText"], "unknown");
 }
 
-TEST_F(ToolFlavourTest, ComServicesTellTheirReturnParameter) {
+TEST_F(FlavourRenderTest, ComServicesTellTheirReturnParameter) {
   const std::string document = test::flavours::document(
       test::flavours::comNamespace,
       "<parameter name='a' dataType='currency' returnParameter='1'/><parameter name='b'/>");
@@ -138,7 +138,7 @@ TEST_F(ToolFlavourTest, ComServicesTellTheirReturnParameter) {
   EXPECT_EQ(parameters[1]["typeText"], "object");
 }
 
-TEST_F(ToolFlavourTest, NetServicesTellTheirDataTypes) {
+TEST_F(FlavourRenderTest, NetServicesTellTheirDataTypes) {
   const json service = shownJson(test::flavours::document(
       test::flavours::dotNetNamespace,
       "<parameter name='a' dataType='UInt32'/><parameter name='b'/><parameter name='c' ref='D'/>",
@@ -152,7 +152,7 @@ TEST_F(ToolFlavourTest, NetServicesTellTheirDataTypes) {
 
 // A new .NET service is written in the namespace of Web services and read back as one of these:
 // "implementation" tells the tool what it is.
-TEST_F(ToolFlavourTest, NetServicesInTheNamespaceOfWebServicesAreKnown) {
+TEST_F(FlavourRenderTest, NetServicesInTheNamespaceOfWebServicesAreKnown) {
   std::string document = test::flavours::document(
       test::flavours::webNamespace,
       "<parameter name='a' dataType='UInt32'/><parameter name='b'/><parameter name='c' ref='D'/>"
@@ -170,7 +170,7 @@ TEST_F(ToolFlavourTest, NetServicesInTheNamespaceOfWebServicesAreKnown) {
 }
 
 // Whatever of a document tells its flavour, down to an empty one.
-TEST_F(ToolFlavourTest, TheFlavourIsKnownHoweverLittleThereIs) {
+TEST_F(FlavourRenderTest, TheFlavourIsKnownHoweverLittleThereIs) {
   const struct {
     const char* ns;
     const char* name;
@@ -206,7 +206,7 @@ TEST_F(ToolFlavourTest, TheFlavourIsKnownHoweverLittleThereIs) {
   }
 }
 
-TEST_F(ToolFlavourTest, AnEmptyPrefixedServiceIsWhatItsImplementationSays) {
+TEST_F(FlavourRenderTest, AnEmptyPrefixedServiceIsWhatItsImplementationSays) {
   const std::string ns = test::flavours::comNamespace;
   EXPECT_EQ(shownJson("<p:service xmlns:p='" + ns +
                       "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
