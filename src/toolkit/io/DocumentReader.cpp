@@ -2,12 +2,14 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "as/CASException.h"
 #include "as/CASInvalidNamespaceException.h"
@@ -18,6 +20,7 @@
 #include "as/IService.h"
 #include "as/Namespaces.h"
 #include "as/toolkit/Files.h"
+#include "as/toolkit/Flavours.h"
 #include "toolkit/io/ServiceText.h"
 
 namespace as::toolkit {
@@ -33,10 +36,11 @@ std::string noDictionary() {
 
 std::string noService() {
   std::string text = "not a service: its root element is in none of the namespaces";
-  for (const as::Namespace& documents :
-       {as::namespaces::ws, as::namespaces::java, as::namespaces::com, as::namespaces::dotnet}) {
-    text.append(" ").append(documents.uri);
-  }
+  std::vector<Flavour> all = flavours();
+  std::sort(all.begin(), all.end(), [](const Flavour& left, const Flavour& right) {
+    return left.implementation < right.implementation;
+  });
+  for (const Flavour& flavour : all) text.append(" ").append(flavour.documents.uri);
   return text;
 }
 

@@ -1,0 +1,246 @@
+#include "toolkit/make/ServiceMaker.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <unordered_set>
+#include <utility>
+
+#include "as/IEntryPoint.h"
+#include "as/ILinkageItem.h"
+#include "as/IMapping.h"
+#include "toolkit/findings/Report.h"
+#include "toolkit/text/Names.h"
+#include "toolkit/text/Phrases.h"
+#include "toolkit/text/Words.h"
+#include "toolkit/walk/ItemIndex.h"
+#include "toolkit/walk/ItemWalk.h"
+
+namespace as::toolkit {
+
+namespace {
+
+// How items without a name are called.
+bool isUnnamed(as::IDataItem& item) {
+  const std::string name = item.getName();
+  return name.empty() || name == "FILLER";
+}
+
+// An item that becomes a field, with what becomes of its members.
+struct Plan {
+  as::IDataItem* item = nullptr;
+  const DataType* type = nullptr;  // Of elementary items.
+  std::vector<Plan> members;       // Of groups.
+};
+
+class ServiceMaker {
+ public:
+  ServiceMaker(MadeService& made, const FlavourProfile& flavour)
+      : service_(*made.service),
+        flavour_(flavour),
+        made_(made),
+        notes_(made.notes),
+        items_(*made.service->getProgram()) {}
+
+  void fill(const std::vector<std::string>& entryPoints) {
+    Names names;
+    std::unordered_set<std::string> done;
+    forEachMember<as::IEntryPoint>(
+        service_.getProgram()->getEntryPoints(), [&](as::IEntryPoint& entryPoint) {
+          const std::string name = entryPoint.getName();
+          const bool isWanted =
+              entryPoints.empty() ||
+              std::find(entryPoints.begin(), entryPoints.end(), name) != entryPoints.end();
+          if (!isWanted) return;
+          if (!done.insert(name).second) {
+            notes_.note("same-entry-point", name,
+                        "the program has another entry point of that name, which cannot be "
+                        "bound: left out");
+            return;
+          }
+          addOperation(entryPoint, names.unique(name));
+          ++made_.operations;
+        });
+  }
+
+ private:
+  void addOperation(as::IEntryPoint& entryPoint, const std::string& name) {
+    operation_ = name;
+    as::IOperation& operation = *service_.addOperation(name.c_str(), &entryPoint);
+    flavour_.complete(service_, operation);
+    Names names;
+    bool hasResult = false;
+    forEachMember<as::ILinkageItem>(&entryPoint, [&](as::ILinkageItem& linkage) {
+      as::IDataItem* const item = linkage.getDataItem();
+      const std::string itemName =
+          item == nullptr ? linkage.getAttributeValue("dataItem") : item->getName();
+      place_ = dotted({name, itemName});
+      if (item == nullptr) {
+        notes_.note("lost-record", place_, "it is no record of the dictionary: left out");
+        return;
+      }
+      unnamed_ = 0;
+      const std::optional<Plan> plan = planOf(*item, 0);
+      if (unnamed_ > 0) {
+        notes_.note("unnamed-items", place_,
+                    count(static_cast<std::size_t>(unnamed_), "item") + " without a name left out");
+      }
+      if (!plan) {
+        // Of an elementary item it is told already why.
+        if (as::interface_cast<as::IGroup>(item) == nullptr) return;
+        notes_.note("empty-parameter", place_, "nothing in it can be mapped: left out");
+        return;
+      }
+      const bool isReturned = linkage.getByType() == as::ILinkageItem::BY_RETURNING;
+      as::IParameter& parameter = *operation.addParameter(
+          directionOf(linkage), names.unique(itemName).c_str(), item->getMaxOccurs());
+      complete(parameter, *plan);
+      if (isReturned && !hasResult) flavour_.markReturned(parameter);
+      hasResult = hasResult || isReturned;
+    });
+  }
+
+  static as::IParameter::BY_TYPE directionOf(as::ILinkageItem& linkage) {
+    switch (linkage.getByType()) {
+      case as::ILinkageItem::BY_VALUE:
+        return as::IParameter::BY_IN;
+      case as::ILinkageItem::BY_RETURNING:
+        return as::IParameter::BY_OUT;
+      default:
+        return as::IParameter::BY_IO;
+    }
+  }
+
+  // What becomes of `item`, which stands in so many tables; none when it is left out.
+  std::optional<Plan> planOf(as::IDataItem& item, std::size_t tables) {
+    if (item.getMaxOccurs() != 0) ++tables;
+    auto* const group = as::interface_cast<as::IGroup>(&item);
+    if (group == nullptr) return planOfElementary(item, tables);
+    noteCount(item);
+    Plan plan;
+    plan.item = &item;
+    bool isThere = false;  // What a redefinition redefines.
+    forEachMember<as::IDataItem>(group->getChildren(), [&](as::IDataItem& member) {
+      if (member.isRenamed()) {
+        note("renamed-item", member, "it renames other items, which are there already: left out");
+        return;
+      }
+      if (member.isRedefined() && isThere) {
+        note("redefined-item", member,
+             "it redefines other items, which are there already: left out");
+        return;
+      }
+      std::optional<Plan> planned = planOf(member, tables);
+      isThere = planned.has_value();
+      if (!planned) return;
+      if (member.isRedefined()) {
+        note("redefinition-in-place", member,
+             "it redefines an item that cannot be mapped: it stands in its place");
+      }
+      // A group without a name is none to the service, unless it is a table.
+      if (isUnnamed(member) && member.getMaxOccurs() == 0) {
+        for (Plan& inner : planned->members) plan.members.push_back(std::move(inner));
+      } else {
+        plan.members.push_back(std::move(*planned));
+      }
+    });
+    if (plan.members.empty()) return std::nullopt;
+    return plan;
+  }
+
+  std::optional<Plan> planOfElementary(as::IDataItem& item, std::size_t tables) {
+    if (isUnnamed(item)) {
+      ++unnamed_;
+      return std::nullopt;
+    }
+    as::IDataItem* const found = items_.find(dottedPath(item));
+    if (found == nullptr) {
+      note(
+          "unreachable-path", item,
+          "no mapping can name it, for its path holds a period, a parenthesis or a leading $: left "
+          "out");
+      return std::nullopt;
+    }
+    if (found != &item) {
+      note("same-path", item,
+           "no mapping leads to it, for another item has the same path: left out");
+      return std::nullopt;
+    }
+    if (tables > static_cast<std::size_t>(as::IMapping::MAX_SUBSCRIPTS)) {
+      note("too-many-tables", item,
+           "it stands in more than " + std::to_string(as::IMapping::MAX_SUBSCRIPTS) +
+               " tables: left out");
+      return std::nullopt;
+    }
+    const DataType* const type = flavour_.bestTypeFor(item);
+    if (type == nullptr) {
+      note("no-fitting-data-type", item,
+           "no data type of " + flavour_.name() + " services holds an item that is " +
+               kindOf(item) + ": left out");
+      return std::nullopt;
+    }
+    if (item.getDataType() == as::IDataItem::TYPE_NUMERIC_EDITED ||
+        item.getDataType() == as::IDataItem::TYPE_ALPHANUMERIC_EDITED) {
+      note("edited-item", item,
+           "it is edited: handed over as the text that it shows, " + quote(type->word));
+    } else if (item.getDataType() == as::IDataItem::TYPE_NUMERIC &&
+               type->capacity.kind == Capacity::Kind::text) {
+      note("number-as-text", item,
+           "no numeric data type of " + flavour_.name() + " services holds it: made " +
+               quote(type->word));
+    }
+    noteCount(item);
+    Plan plan;
+    plan.item = &item;
+    plan.type = type;
+    return plan;
+  }
+
+  void noteCount(as::IDataItem& item) {
+    as::IDataItem* const count = item.hasODO() ? item.getODO() : nullptr;
+    if (!item.hasODO() || item.getMaxOccurs() == 0) return;
+    note("variable-table", item,
+         "it occurs up to " + std::to_string(item.getMaxOccurs()) + " times, as often as " +
+             (count == nullptr ? item.getAttributeValue("odo") : dottedPath(*count)) + " tells");
+  }
+
+  void note(const char* rule, as::IDataItem& item, const std::string& text) {
+    notes_.note(rule, dotted({operation_, dottedPath(item)}), text);
+  }
+
+  // Gives the field its type and mapping, or its fields.
+  void complete(as::IField& field, const Plan& plan) {
+    if (plan.type != nullptr) {
+      flavour_.setDataType(field, *plan.type);
+      field.addMapping(plan.item);
+      ++made_.mappings;
+      return;
+    }
+    const DataType* const type = flavour_.groupType(plan.item->getMaxOccurs() > 1);
+    if (type != nullptr) flavour_.setDataType(field, *type);
+    Names names;
+    for (const Plan& member : plan.members) {
+      const std::string name = names.unique(member.item->getName());
+      complete(*field.addField(name.c_str(), member.item->getMaxOccurs()), member);
+    }
+  }
+
+  as::IService& service_;
+  const FlavourProfile& flavour_;
+  MadeService& made_;
+  Report notes_;
+  ItemIndex items_;
+  // Where the work is: the operation and, in it, the parameter.
+  std::string operation_;
+  std::string place_;
+  int unnamed_ = 0;
+};
+
+}  // namespace
+
+void fillService(MadeService& made, const FlavourProfile& flavour,
+                 const std::vector<std::string>& entryPoints) {
+  ServiceMaker(made, flavour).fill(entryPoints);
+}
+
+}  // namespace as::toolkit
