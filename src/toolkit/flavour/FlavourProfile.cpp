@@ -46,7 +46,7 @@ std::vector<Trait> FlavourProfile::traitsOf(as::IOperation& /*operation*/) const
 std::vector<Trait> FlavourProfile::traitsOf(as::IField& /*field*/) const { return {}; }
 std::vector<Message> FlavourProfile::messagesOf(as::IOperation& /*operation*/) const { return {}; }
 as::IList* FlavourProfile::attributesOf(as::IField& /*field*/) const { return nullptr; }
-void FlavourProfile::lint(as::IOperation& /*operation*/, const std::string& /*where*/,
+void FlavourProfile::lint(as::IOperation& /*operation*/, const Place& /*place*/,
                           Findings& /*findings*/) const {}
 void FlavourProfile::complete(as::IService& /*service*/, as::IOperation& /*operation*/) const {}
 void FlavourProfile::markReturned(as::IField& /*field*/) const {}

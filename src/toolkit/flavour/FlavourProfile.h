@@ -19,6 +19,8 @@
 
 namespace as::toolkit {
 
+class Place;
+
 // Something that a flavour adds to an object of the model.
 struct Trait {
   std::string key;  // The accessor without "get".
@@ -90,8 +92,8 @@ class FlavourProfile {
   // when it has none.
   virtual const DataType* typeReadAs(const std::string& word) const;
 
-  // Reports what is wrong with what the flavour adds to the operation, which stands at `where`.
-  virtual void lint(as::IOperation& operation, const std::string& where, Findings& findings) const;
+  // Has lint look at what the flavour adds to the operation, which stands at `place`.
+  virtual void lint(as::IOperation& operation, const Place& place, Findings& findings) const;
 
   // A new service, which takes the program over. Throws as::CASException.
   virtual std::unique_ptr<as::IService> newService(std::unique_ptr<as::IProgram> program) const = 0;

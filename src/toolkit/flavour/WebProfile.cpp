@@ -8,10 +8,10 @@
 #include "as/IWSOperation.h"
 #include "as/IWSParameter.h"
 #include "as/IWebService.h"
-#include "toolkit/findings/Report.h"
 #include "toolkit/flavour/FlavourProfile.h"
 #include "toolkit/flavour/Profiles.h"
 #include "toolkit/flavour/WebParts.h"
+#include "toolkit/lint/WebWalk.h"
 
 namespace as::toolkit {
 
@@ -20,98 +20,6 @@ namespace {
 using Kind = Capacity::Kind;
 using Web = as::IWSField;
 using Operation = as::IWSOperation;
-
-// The checks of one operation.
-class WebLint {
- public:
-  WebLint(Operation& operation, const std::string& where, Findings& findings)
-      : operation_(operation), where_(where), findings_(findings) {}
-
-  void run() {
-    const int style = operation_.getStyle();
-    if (style == unknownCode) {
-      findings_.error("no-style", where_, "the operation has no style",
-                      R"(write "rpc" or "document")");
-    }
-    checkUse("inputUse", operation_.getInputUse());
-    checkUse("outputUse", operation_.getOutputUse());
-    if (style == Operation::STYLE_RPC) {
-      checkNamespace("inputNamespace", operation_.getInputNamespace());
-      checkNamespace("outputNamespace", operation_.getOutputNamespace());
-    } else if (style == Operation::STYLE_DOCUMENT) {
-      checkElements();
-    }
-    int number = 0;
-    forEachMember<as::IWSHeader>(operation_.getHeaders(), [&](as::IWSHeader& header) {
-      check(header, "header " + std::to_string(++number));
-    });
-    number = 0;
-    forEachMember<as::IWSFault>(operation_.getFaults(), [&](as::IWSFault& fault) {
-      check(fault, "fault " + std::to_string(++number));
-    });
-  }
-
- private:
-  bool isDocument() { return operation_.getStyle() == Operation::STYLE_DOCUMENT; }
-
-  void checkUse(const char* attribute, int use) {
-    if (use == unknownCode) {
-      findings_.error("no-use", where_, std::string("the operation has no ") + attribute,
-                      R"(write "literal" or "encoded")");
-    } else if (use == Operation::USE_ENCODED && isDocument()) {
-      findings_.error("encoded-document", where_,
-                      std::string(attribute) + " is encoded, but the style is document",
-                      "make it literal, or the style rpc");
-    }
-  }
-
-  void checkNamespace(const char* attribute, const std::string& uri) {
-    if (!uri.empty()) return;
-    findings_.error("no-operation-namespace", where_,
-                    std::string("style rpc needs a namespace, and there is no ") + attribute,
-                    std::string("write \"") + attribute + "\"");
-  }
-
-  // With style document every parameter is an element of the message, which has a namespace of its
-  // own or else the operation's.
-  void checkElements() {
-    forEachMember<as::IWSParameter>(operation_.getParameters(), [&](as::IWSParameter& parameter) {
-      if (!parameter.getNamespace().empty()) return;
-      const int direction = parameter.getByType();
-      const bool lacksInput =
-          direction != as::IParameter::BY_OUT && operation_.getInputNamespace().empty();
-      const bool lacksOutput =
-          direction != as::IParameter::BY_IN && operation_.getOutputNamespace().empty();
-      if (!lacksInput && !lacksOutput) return;
-      findings_.error("no-element-namespace", where_ + "." + parameter.getName(),
-                      std::string("style document needs a namespace, and there is none, nor an ") +
-                          (lacksInput ? "inputNamespace" : "outputNamespace"),
-                      "write \"namespace\", or that of the operation");
-    });
-  }
-
-  template <class T>
-  void check(T& message, const std::string& name) {
-    const std::string place = where_ + ", " + name;
-    if (message.getParameters()->getLength() == 0) {
-      findings_.error("empty-message", place, "it has no parameters", "add one or remove it");
-    }
-    if (message.getNamespace().empty()) {
-      findings_.error("no-message-namespace", place, "it has no namespace", "write \"namespace\"");
-    }
-    const int use = message.getUse();
-    if (use == unknownCode) {
-      findings_.error("no-use", place, "it has no use", R"(write "literal" or "encoded")");
-    } else if (use == T::USE_ENCODED && isDocument()) {
-      findings_.error("encoded-document", place, "its use is encoded, but the style is document",
-                      "make it literal, or the style rpc");
-    }
-  }
-
-  Operation& operation_;
-  const std::string& where_;
-  Report findings_;
-};
 
 class WebProfile : public FlavourProfile {
  public:
@@ -161,10 +69,9 @@ class WebProfile : public FlavourProfile {
 
   const DataType* defaultType() const override { return nullptr; }
 
-  void lint(as::IOperation& operation, const std::string& where,
-            Findings& findings) const override {
+  void lint(as::IOperation& operation, const Place& place, Findings& findings) const override {
     if (auto* const web = as::interface_cast<Operation>(&operation)) {
-      WebLint(*web, where, findings).run();
+      lintWebOperation(*web, place, findings);
     }
   }
 
