@@ -22,7 +22,7 @@ using Clock = std::chrono::steady_clock;
 
 // A dictionary of `count` items: records of ten, in groups, with conditions and tables.
 std::string dictionary(long count) {
-  const std::string ns = "http://agentservices.example/schema/cobol/v2.0/vorcobol.xsd";
+  const std::string ns = as::namespaces::dd.uri;
   std::string text = "<program xmlns=\"" + ns +
                      "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
                      "xsi:schemaLocation=\"" +

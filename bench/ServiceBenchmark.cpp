@@ -28,8 +28,7 @@ std::string rootOf(const std::string& element, const std::string& ns) {
 
 // A program of `records` records with nine fields each, and an entry point for each.
 std::string program(int records) {
-  std::string text =
-      rootOf("program", "http://agentservices.example/schema/cobol/v2.0/vorcobol.xsd");
+  std::string text = rootOf("program", as::namespaces::dd.uri);
   text += "><dataItems>";
   for (int r = 0; r < records; r++) {
     text += "<group name=\"RECORD-" + std::to_string(r) + "\">";
@@ -58,9 +57,8 @@ struct Flavour {
   int messages;  // Headers and faults in each operation, with a mapped parameter each.
 };
 
-constexpr Flavour java = {"java", "http://agentservices.example/schema/java/v2.0/vorjava.xsd",
-                          " transactionType=\"requires\"", 0};
-constexpr Flavour web = {"ws", "http://agentservices.example/schema/ws/v1.0/vorws.xsd",
+constexpr Flavour java = {"java", as::namespaces::java.uri, " transactionType=\"requires\"", 0};
+constexpr Flavour web = {"ws", as::namespaces::ws.uri,
                          " style=\"rpc\" inputUse=\"literal\" outputUse=\"literal\""
                          " inputNamespace=\"urn:in\" outputNamespace=\"urn:out\"",
                          2};

@@ -26,6 +26,9 @@ class AS_EXPORT IMapping : virtual public IElement {
     MAP_STDOUT = 4,
   };
 
+  // The most subscripts that a mapping has: 16, the room that the operations below want.
+  static constexpr int MAX_SUBSCRIPTS = 16;
+
   ~IMapping() override;
   AS_RTTI(IMapping)
 

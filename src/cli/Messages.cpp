@@ -5,20 +5,21 @@
 #include <string>
 #include <system_error>
 
-#include "toolkit/io/DocumentReader.h"
-#include "toolkit/text/Text.h"
+#include "as/toolkit/Text.h"
+
+namespace cli {
 
 // std::cerr is tied to std::cout: both keep their order where they go to the same place.
 
 void printError(std::string_view text) {
-  std::cerr << "agentservices: error: " << printable(text) << "\n";
+  std::cerr << "agentservices: error: " << as::toolkit::printable(text) << "\n";
 }
 
-void printRefusal(const Refusal& refusal) {
-  std::cerr << printable(refusal.file);
+void printRefusal(const as::toolkit::Refusal& refusal) {
+  std::cerr << as::toolkit::printable(refusal.file);
   if (refusal.line > 0) std::cerr << ":" << refusal.line << ":" << refusal.column;
-  std::cerr << ": error: " << printable(refusal.text) << "\n";
-  if (!refusal.hint.empty()) std::cerr << "hint: " << printable(refusal.hint) << "\n";
+  std::cerr << ": error: " << as::toolkit::printable(refusal.text) << "\n";
+  if (!refusal.hint.empty()) std::cerr << "hint: " << as::toolkit::printable(refusal.hint) << "\n";
 }
 
 bool flushOutput() {
@@ -31,3 +32,5 @@ bool flushOutput() {
   printError(text);
   return false;
 }
+
+}  // namespace cli

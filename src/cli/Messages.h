@@ -4,16 +4,20 @@
 
 #include <string_view>
 
-struct Refusal;
+#include "as/toolkit/DocumentReader.h"
+
+namespace cli {
 
 // "agentservices: error: TEXT": about the call, not about a document.
 void printError(std::string_view text);
 
 // "FILE:LINE:COLUMN: error: TEXT" and, when there is one, a line "hint: HINT". A message without a
 // place leaves line and column out.
-void printRefusal(const Refusal& refusal);
+void printRefusal(const as::toolkit::Refusal& refusal);
 
 // Flushes standard output. False, after a message, when anything written to it was lost.
 bool flushOutput();
+
+}  // namespace cli
 
 #endif  // CLI_MESSAGES_H_

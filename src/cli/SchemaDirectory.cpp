@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <system_error>
 
+namespace cli {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -48,3 +50,5 @@ std::string findSchemaDirectory(const std::optional<std::string>& named) {
                                (installed / dictionarySchema).string() +
                                "; name the directory that holds it with --schemas DIR");
 }
+
+}  // namespace cli

@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <string>
 
+namespace cli {
+
 // Tells why there is no schema directory, and how to name one.
 class SchemaDirectoryMissing : public std::runtime_error {
  public:
@@ -16,5 +18,7 @@ class SchemaDirectoryMissing : public std::runtime_error {
 // one of the source tree that the tool was built from.
 // Throws SchemaDirectoryMissing when the one named has no schemas, or none was found.
 std::string findSchemaDirectory(const std::optional<std::string>& named);
+
+}  // namespace cli
 
 #endif  // CLI_SCHEMADIRECTORY_H_

@@ -22,7 +22,6 @@ constexpr WordCode types[] = {
 };
 
 // What a caller's array of subscripts holds.
-constexpr int maxSubscripts = 16;
 constexpr int everyOccurrence = -1;
 
 bool isTable(as::IDataItem* item) { return item->getMaxOccurs() != 0; }
@@ -44,7 +43,7 @@ int readSubscripts(std::string_view list, int* subscripts) {
     if (token != "*") {
       int value = 0;
       if (!readInteger(token, value)) return 0;
-      if (count < maxSubscripts) subscripts[count] = value;
+      if (count < as::IMapping::MAX_SUBSCRIPTS) subscripts[count] = value;
     }
     count++;
     if (comma == std::string_view::npos) return count;
@@ -92,14 +91,14 @@ void CMappingImpl::setDataItem(as::IDataItem* item) {
 
 int CMappingImpl::getInterfaceSubscripts(int* subscripts) {
   if (subscripts == nullptr) return 0;
-  std::fill_n(subscripts, maxSubscripts, everyOccurrence);
+  std::fill_n(subscripts, as::IMapping::MAX_SUBSCRIPTS, everyOccurrence);
   const std::string list = text(SS::subscript);
   return list.empty() ? 0 : readSubscripts(list, subscripts);
 }
 
 int CMappingImpl::getDataItemSubscripts(int* subscripts) {
   if (subscripts == nullptr) return 0;
-  std::fill_n(subscripts, maxSubscripts, everyOccurrence);
+  std::fill_n(subscripts, as::IMapping::MAX_SUBSCRIPTS, everyOccurrence);
   const std::string item = getRawMapping();
   const std::size_t open = item.find('(');
   const std::size_t close = item.find(')');

@@ -1,12 +1,6 @@
 # Installs the build in BUILD below WORK, then configures, builds and runs the clients beside this
 # file with what was installed, and the installed tool.
-function(run)
-  execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
-  if(NOT result EQUAL 0)
-    message(FATAL_ERROR "${ARGN}: ${result}\n${output}")
-  endif()
-  set(output "${output}" PARENT_SCOPE)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/RunCommand.cmake)
 
 file(REMOVE_RECURSE ${WORK})
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix)
@@ -23,5 +17,18 @@ run(${WORK}/build/walk ${schemas} ${EXAMPLES} ${WORK}/walk)
 if(NOT output MATCHES "[1-9][0-9]* operations walked, 0 failures")
   message(FATAL_ERROR "the walk printed: ${output}")
 endif()
+file(MAKE_DIRECTORY ${WORK}/toolkit)
+run(${WORK}/build/toolkit ${schemas} ${EXAMPLES} ${WORK}/toolkit)
+if(NOT output MATCHES "made [1-9][0-9]* operations, [1-9][0-9]* mappings\nconverted from Web to Java\n0 errors, of [1-9][0-9]* rules\nSERVICE MOTPREM, program MOTPREM, JSON of more\nrefused: not a data dictionary\n$")
+  message(FATAL_ERROR "the toolkit's client printed: ${output}")
+endif()
+# What the toolkit writes JSON with is its own affair.
+file(GLOB_RECURSE package ${WORK}/prefix/*.cmake ${WORK}/prefix/*.h)
+foreach(file IN LISTS package)
+  file(STRINGS ${file} found REGEX nlohmann)
+  if(found)
+    message(FATAL_ERROR "${file}: ${found}")
+  endif()
+endforeach()
 # Without --schemas: the tool finds the schemas that were installed with it.
 run(${WORK}/prefix/bin/agentservices validate ${EXAMPLES}/MOTPREM.xml)

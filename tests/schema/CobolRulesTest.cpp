@@ -1,6 +1,8 @@
 // The sample dictionaries against COBOL's own rules: every length and offset is worked out anew
 // from picture, usage, sign, occurrences, redefinitions and synchronisation, and every entry is
-// held against the line of the program it claims to stand for.
+// held against the line of the program it claims to stand for. The rules are those that
+// examples/README.md tells under "How sizes and offsets are counted". They stand here a second
+// time, apart from the toolkit's (as/toolkit/Storage.h), so that neither is its own witness.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -42,7 +44,7 @@ using as::INumeric;
 
 const char* const kExamples[] = {"DEPINT01", "MOTPREM", "WHSLOTS", "PAYSLIP"};
 
-// The platform of the examples: 64 bits.
+// The platform of the examples, as their README tells it: 64 bits.
 constexpr int kPointerSize = 8;
 constexpr int kObjectSize = 8;
 constexpr int kIndexSize = 4;

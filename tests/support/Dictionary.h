@@ -12,8 +12,7 @@
 
 namespace test {
 
-inline constexpr char dictionaryNamespace[] =
-    "http://agentservices.example/schema/cobol/v2.0/vorcobol.xsd";
+inline constexpr const char* dictionaryNamespace = as::namespaces::dd.uri;
 
 // A dictionary document: the root with the namespace and the schema location, around `content`.
 inline std::string dictionary(const std::string& content) {

@@ -13,11 +13,10 @@
 
 namespace test::flavours {
 
-inline constexpr char webNamespace[] = "http://agentservices.example/schema/ws/v1.0/vorws.xsd";
-inline constexpr char comNamespace[] = "http://agentservices.example/schema/com/v1.0/vorcom.xsd";
-inline constexpr char javaNamespace[] = "http://agentservices.example/schema/java/v2.0/vorjava.xsd";
-inline constexpr char dotNetNamespace[] =
-    "http://agentservices.example/schema/dotnet/v1.0/vordotnet.xsd";
+inline constexpr const char* webNamespace = as::namespaces::ws.uri;
+inline constexpr const char* comNamespace = as::namespaces::com.uri;
+inline constexpr const char* javaNamespace = as::namespaces::java.uri;
+inline constexpr const char* dotNetNamespace = as::namespaces::dotnet.uri;
 
 struct Flavour {
   const char* label;

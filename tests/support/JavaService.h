@@ -10,7 +10,7 @@ namespace test {
 
 // The root of a Java service document around `content`.
 inline std::string javaService(const std::string& attributes, const std::string& content) {
-  const std::string ns = "http://agentservices.example/schema/java/v2.0/vorjava.xsd";
+  const std::string ns = as::namespaces::java.uri;
   return "<service xmlns=\"" + ns +
          "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:schemaLocation=\"" + ns +
          " " + ns + "\" " + attributes + ">" + content + "</service>";

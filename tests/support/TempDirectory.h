@@ -1,4 +1,4 @@
-// A directory of a test's own, gone with the object.
+// Files of tests, and a directory of a test's own, gone with the object.
 #ifndef TESTS_SUPPORT_TEMPDIRECTORY_H_
 #define TESTS_SUPPORT_TEMPDIRECTORY_H_
 
@@ -7,10 +7,18 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 
 namespace test {
+
+inline std::string contentOf(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  std::ostringstream content;
+  content << in.rdbuf();
+  return content.str();
+}
 
 class TempDirectory {
  public:
@@ -29,9 +37,10 @@ class TempDirectory {
   // The path, without a separator at the end.
   std::string path() const { return path_.string(); }
 
-  // Writes a file into the directory and returns its path.
+  // Writes a file into the directory, or into one below it, and returns its path.
   std::string write(const std::string& name, const std::string& content) const {
     const std::filesystem::path file = path_ / name;
+    std::filesystem::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << content;
     return file.string();
   }

@@ -16,6 +16,7 @@ namespace as::toolkit {
 
 struct ConvertedService {
   std::unique_ptr<as::IService> service;  // Without a program.
+  const Flavour* from = nullptr;          // What it was; never null.
   Findings notes;                         // What has no equivalent in the new flavour.
 };
 

@@ -48,9 +48,10 @@ struct Document {
   std::unique_ptr<as::IService> service;
 };
 
-// A service with what its document says of its program. Attaching a program rewrites both
-// attributes in the model, so whoever wants to check or keep them needs them from here.
+// A service with its program, and what its document says of that. Attaching a program writes the
+// program's own name into the model, so whoever wants to check the document's needs it from here.
 struct ServiceDocument {
+  // Its "dataDictFilename" is the document's unless that has none.
   std::unique_ptr<as::IService> service;
   std::string programName;  // Attribute "programName"; empty when absent.
   std::string dictionary;   // Attribute "dataDictFilename"; empty when absent.
@@ -95,12 +96,10 @@ class AS_EXPORT DocumentReader {
   ServiceDocument readServiceWithProgram(const std::string& file,
                                          const ProgramChoice& choice = {}) const;
 
-  // `service`, read from `file`, once more and with the program in the file `dictionary`: the
-  // attributes "programName" and "dataDictFilename" of the result tell that program. `service`
-  // stays the caller's and keeps what it says. Throws RefusedDocument, which is about the
-  // dictionary.
-  std::unique_ptr<as::IService> withProgram(as::IService& service, const std::string& file,
-                                            const std::string& dictionary) const;
+  // The same of `service`, which was read from `file`. `service` stays the caller's and keeps what
+  // it says.
+  ServiceDocument withProgram(as::IService& service, const std::string& file,
+                              const ProgramChoice& choice = {}) const;
 
  private:
   std::unique_ptr<as::IAgentServices> services_;

@@ -12,6 +12,9 @@
 #include "as/toolkit/Flavours.h"
 #include "as/toolkit/Lint.h"
 #include "as/toolkit/Make.h"
+#include "as/toolkit/Picture.h"
 #include "as/toolkit/Render.h"
+#include "as/toolkit/Storage.h"
+#include "as/toolkit/Text.h"
 
 #endif  // AS_TOOLKIT_TOOLKIT_H_

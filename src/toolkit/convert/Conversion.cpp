@@ -9,34 +9,38 @@
 
 #include "as/IDataItem.h"
 #include "toolkit/convert/XmlDocument.h"
-#include "toolkit/findings/Findings.h"
-#include "toolkit/flavour/Flavour.h"
-#include "toolkit/walk/ItemIndex.h"
+#include "toolkit/findings/Report.h"
+#include "toolkit/text/Names.h"
+#include "toolkit/text/Phrases.h"
+
+namespace as::toolkit {
 
 namespace {
-
-std::string quote(const std::string& text) { return "'" + text + "'"; }
 
 bool holds(const std::vector<std::string>& names, const std::string& name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
+constexpr char attribute[] = "fieldAttribute";
+
 bool isField(const std::string& name) {
-  return name == "parameter" || name == "field" || name == "fieldAttribute";
+  return name == "parameter" || name == "field" || name == attribute;
 }
 
 class Conversion {
  public:
-  Conversion(const Flavour& from, const Flavour& to, const ItemIndex* items, Findings& notes)
+  Conversion(const FlavourProfile& from, const FlavourProfile& to, const ItemIndex* items,
+             Findings& notes)
       : from_(from), to_(to), items_(items), notes_(notes) {}
 
   void convert(XmlElement root) {
     const std::string prefix = root.prefix();
     const std::string old = root.get(prefix.empty() ? "xmlns" : "xmlns:" + prefix);
     // A .NET service may come in the namespace of Web services, with what those may hold.
-    if (old == webFlavour().namespaceURI()) old_ = &webFlavour().additions();
+    const FlavourProfile* const documents = findProfileOfDocuments(old);
+    if (documents != nullptr) old_ = &documents->additions();
     replaceNamespace(root, old);
-    root.set("implementation", to_.word());
+    root.set("implementation", to_.flavour().word);
     for (const XmlElement& element : root.descendants()) {
       replaceNamespace(element, old);
       const std::string name = element.localName();
@@ -47,8 +51,7 @@ class Conversion {
       }
     }
     for (const auto& [text, number] : lost_) {
-      notes_.note("service",
-                  text + " (" + std::to_string(number) + (number == 1 ? " time)" : " times)"));
+      notes_.note("no-equivalent", "service", text + " (" + count(number, "time") + ")");
     }
   }
 
@@ -60,7 +63,7 @@ class Conversion {
       const std::string value = element.get(name);
       const bool isDeclaration = name == "xmlns" || name.rfind("xmlns:", 0) == 0;
       if (isDeclaration && value == old) {
-        element.set(name, to_.namespaceURI());
+        element.set(name, to_.flavour().documents.uri);
       } else if (name.size() > location.size() &&
                  name.compare(name.size() - location.size(), location.size(), location) == 0) {
         element.set(name, relocated(value, old));
@@ -75,7 +78,7 @@ class Conversion {
     std::string name;
     std::string place;
     while (words >> name >> place) {
-      if (name == old) name = place = to_.namespaceURI();
+      if (name == old) name = place = to_.flavour().documents.uri;
       if (!result.empty()) result += ' ';
       result.append(name).append(" ").append(place);
     }
@@ -103,7 +106,8 @@ class Conversion {
       const bool isLost =
           holds(old_->operationElements, name) && !holds(to_.additions().operationElements, name);
       if (!isLost) continue;
-      notes_.note(operation.get("name") + ", " + name + " " + std::to_string(++numbers[name]),
+      notes_.note("lost-message",
+                  operation.get("name") + ", " + name + " " + std::to_string(++numbers[name]),
                   to_.name() + " services have none: left out with its parameters");
       child.detach();
     }
@@ -113,7 +117,7 @@ class Conversion {
     // Its header or fault is gone already.
     if (!field.isAttached()) return;
     dropAttributes(field, old_->fieldAttributes, to_.additions().fieldAttributes);
-    if (field.localName() == "fieldAttribute" && &to_ != &webFlavour()) makeField(field);
+    if (field.localName() == attribute && !keepsAttributes_) makeField(field);
     if (!field.get("ref").empty()) {
       if (field.has("dataType")) lose("a data type beside a reference");
       field.remove("dataType");
@@ -121,16 +125,16 @@ class Conversion {
     }
     if (&from_ == &to_) return;
     const bool isGroup =
-        field.hasChild("field") || (&to_ != &webFlavour() && field.hasChild("fieldAttribute"));
+        field.hasChild("field") || (!keepsAttributes_ && field.hasChild(attribute));
     const std::string word = field.get("dataType");
     if (isGroup) {
       const bool repeats = std::strtol(field.get("occurs").c_str(), nullptr, 10) > 1;
       const DataType* const type = to_.groupType(repeats);
       write(field, type);
-      if (type == nullptr && !word.empty() && word != "Array") lose("the data type of a group");
+      if (type == nullptr && !word.empty() && !isGroupWord(word)) lose("the data type of a group");
       return;
     }
-    const DataType* const old = oldType(word);
+    const DataType* const old = from_.typeReadAs(word);
     const DataType* type = old == nullptr ? nullptr : to_.bestTypeFor(old->capacity);
     if (type == nullptr) type = substitute(field, old);
     write(field, type);
@@ -141,26 +145,17 @@ class Conversion {
     const std::string place = placeOf(field);
     std::string text =
         "it was a field attribute, which " + to_.name() + " services have not: made a field";
-    std::vector<std::string> others;
+    Names names;
     for (const XmlElement& sibling : field.parent().children()) {
-      if (!sibling.isSame(field)) others.push_back(sibling.get("name"));
+      if (!sibling.isSame(field)) names.reserve(sibling.get("name"));
     }
     const std::string name = field.get("name");
-    std::string unique = name;
-    for (int number = 2; holds(others, unique); ++number) {
-      unique = name + "-" + std::to_string(number);
-    }
+    const std::string unique = names.unique(name);
     if (unique != name) {
       field.set("name", unique);
       text += " and called " + quote(unique) + ", for there is a field of its name";
     }
-    notes_.note(place, text);
-  }
-
-  const DataType* oldType(const std::string& word) const {
-    // It is written for objects, but it reads as any other word: as text.
-    if (&from_ == &comFlavour() && word == "object") return from_.findDataType("string");
-    return word.empty() ? from_.defaultType() : from_.findDataType(word);
+    notes_.note("attribute-made-field", place, text);
   }
 
   // The type that is the nearest where none holds all that the old one could: one that holds the
@@ -203,7 +198,7 @@ class Conversion {
         if (gap != nullptr) text += std::string(", which reads as ") + quote(gap->word);
       }
     }
-    notes_.note(placeOf(field), text);
+    notes_.note("data-type-replaced", placeOf(field), text);
     return type;
   }
 
@@ -232,28 +227,33 @@ class Conversion {
 
   // OPERATION.PARAMETER.FIELD
   static std::string placeOf(const XmlElement& field) {
-    std::string place = field.get("name");
+    std::vector<std::string> names = {field.get("name")};
+    const char* start = "";
     for (XmlElement at = field.parent(); at.isElement(); at = at.parent()) {
       const std::string name = at.localName();
-      if (isField(name) || name == "operation") place.insert(0, at.get("name") + ".");
-      if (name == "parameterTypeDefs") place.insert(0, "type ");
+      if (isField(name) || name == "operation") names.push_back(at.get("name"));
+      if (name == "parameterTypeDefs") start = "type ";
     }
-    return place;
+    std::reverse(names.begin(), names.end());
+    return start + dotted(names);
   }
 
-  const Flavour& from_;
-  const Flavour& to_;
-  const Additions* old_ = &from_.additions();
+  const FlavourProfile& from_;
+  const FlavourProfile& to_;
+  const bool keepsAttributes_ = holds(to_.additions().fieldElements, attribute);
+  const Additions* old_ = &from_.additions();  // What the document may hold.
   const ItemIndex* items_;
-  Findings& notes_;
-  std::map<std::string, int> lost_;
+  Report notes_;
+  std::map<std::string, std::size_t> lost_;
 };
 
 }  // namespace
 
-std::string convertDocument(const std::string& document, const Flavour& from, const Flavour& to,
-                            const ItemIndex* items, Findings& notes) {
+std::string convertDocument(const std::string& document, const FlavourProfile& from,
+                            const FlavourProfile& to, const ItemIndex* items, Findings& notes) {
   XmlDocument xml(document);
   Conversion(from, to, items, notes).convert(xml.root());
   return xml.text();
 }
+
+}  // namespace as::toolkit

@@ -13,6 +13,8 @@ using xercesc::DOMNode;
 using xercesc::TranscodeFromStr;
 using xercesc::TranscodeToStr;
 
+namespace as::toolkit {
+
 namespace {
 
 std::string narrow(const XMLCh* text) {
@@ -141,3 +143,5 @@ std::string XmlDocument::text() {
   serializer->write(parser_->getDocument(), output.get());
   return {reinterpret_cast<const char*>(target.getRawBuffer()), target.getLen()};
 }
+
+}  // namespace as::toolkit

@@ -13,6 +13,8 @@ class DOMElement;
 class XercesDOMParser;
 XERCES_CPP_NAMESPACE_END
 
+namespace as::toolkit {
+
 // A handle of an element, good as long as the document lives. All text is UTF-8.
 class XmlElement {
  public:
@@ -61,5 +63,7 @@ class XmlDocument {
  private:
   std::unique_ptr<xercesc::XercesDOMParser> parser_;
 };
+
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_CONVERT_XMLDOCUMENT_H_

@@ -1,14 +1,17 @@
 #include "toolkit/flavour/Capacity.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <cstdlib>
+#include <optional>
 
-#include "as/IAlphanumeric.h"
 #include "as/INumeric.h"
 #include "as/INumericEdited.h"
+#include "as/toolkit/Storage.h"
+#include "toolkit/text/Phrases.h"
 #include "toolkit/text/Words.h"
+
+namespace as::toolkit {
 
 namespace {
 
@@ -20,75 +23,58 @@ struct Number {
   int fraction = 0;
   int bits = 0;  // Of a binary item that uses its bytes to the full; 0 for others.
   bool isSigned = false;
-  int floatingBytes = 0;  // Of a floating-point number; 0 for others.
+  int floatingDigits = 0;  // Of a floating-point number: those that are never lost; 0 for others.
 };
 
-// The decimal digits of the largest number of so many bits.
-int digitsOf(int bits) { return static_cast<int>(std::ceil(bits * std::log10(2.0))); }
-
-// How many P a picture has: digits that the item's bytes do not hold.
-int scalingPositions(const std::string& picture) {
-  int positions = 0;
-  for (std::size_t at = 0; (at = picture.find('P', at)) != std::string::npos; ++at) {
-    const bool isRepeated = at + 1 < picture.size() && picture[at + 1] == '(';
-    positions +=
-        isRepeated ? static_cast<int>(std::strtol(picture.c_str() + at + 2, nullptr, 10)) : 1;
-  }
-  return positions;
+// Keeps sums of such numbers within an int; documents may hold any.
+int limited(int number) {
+  constexpr int most = 1'000'000'000;
+  return std::clamp(number, -most, most);
 }
 
-// The most digits that fit into the bytes of an item of that usage.
-int digitsIn(int usage, int bytes) {
-  switch (usage) {
-    case as::INumeric::USAGE_DISPLAY:
-      return bytes;
-    case as::INumeric::USAGE_COMP_3:
-      return bytes == 0 ? 0 : 2 * bytes - 1;
-    case as::INumeric::USAGE_COMP_6:
-      return 2 * bytes;
-    default:
-      return digitsOf(8 * bytes);
-  }
+// What a picture says whose program's currency symbol and decimal point are unknown.
+std::optional<Picture> readAnyPicture(const std::string& text) {
+  PictureRules rules;
+  rules.currencySymbol = "";
+  const std::optional<Picture> picture = readPicture(text, rules);
+  if (picture) return picture;
+  rules.isDecimalPointComma = true;
+  return readPicture(text, rules);
 }
 
 Number numberIn(as::INumeric& item) {
+  const Usage usage = usageOf(item).value_or(Usage::display);
+  const int bytes = item.getLength();
   Number number;
-  number.digits = item.getDigits();
-  number.fraction = item.getAlignment();
+  number.digits = limited(item.getDigits());
+  number.fraction = limited(item.getAlignment());
   number.isSigned = item.getSign() != as::INumeric::SIGN_NONE;
-  const int usage = item.getUsage();
-  if (usage == as::INumeric::USAGE_COMP_1) {
-    number.floatingBytes = 4;
+  if (isFloating(usage)) {
+    // Programs calculate with external ones as with the longer of the others.
+    number.floatingDigits = digitsIn(usage == Usage::externalFloat ? Usage::comp2 : usage, bytes);
     return number;
   }
-  if (usage == as::INumeric::USAGE_COMP_2 || usage == as::INumeric::USAGE_EXTERNAL_FLOAT) {
-    number.floatingBytes = 8;
-    return number;
-  }
-  const int scaling = scalingPositions(item.getPicture());
-  const int most = digitsIn(usage, item.getLength()) + scaling;
-  if (usage == as::INumeric::USAGE_COMP_5 || usage == as::INumeric::USAGE_COMP_X) {
-    // These are not cut to the digits of their picture.
+  // Digits that the bytes do not hold.
+  const std::optional<Picture> picture = readAnyPicture(item.getPicture());
+  const int scaling = picture ? picture->scaling : 0;
+  const int most = limited(digitsIn(usage, bytes)) + scaling;
+  if (isOfAllBits(usage)) {
     number.digits = most;
-    if (scaling == 0) number.bits = 8 * item.getLength();
-  } else if (number.digits == 0 && item.getLength() > 0) {
+    if (scaling == 0) number.bits = limited(bitsOf(bytes));
+  } else if (number.digits == 0 && bytes > 0) {
     number.digits = most;
   }
   return number;
 }
 
-std::string count(int number, const char* what) {
-  return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
-}
-
 std::string misfit(const Capacity& capacity, const Number& number) {
-  if (number.floatingBytes > 0) {
+  if (number.floatingDigits > 0) {
     if (isUnlimited(capacity)) return "";
     if (capacity.kind != Kind::floating) return "holds no floating-point numbers";
-    if (number.floatingBytes > 4 && capacity.digits < 15) return "is too short for a double";
+    if (capacity.digits < number.floatingDigits) return "is too short for a double";
     if (number.digits <= capacity.digits) return "";
-    return "holds " + count(capacity.digits, "digit") + ", the item has " +
-           std::to_string(number.digits);
+    return "holds " + count(static_cast<std::size_t>(capacity.digits), "digit") +
+           ", the item has " + std::to_string(number.digits);
   }
   const int places = capacity.kind == Kind::integer ? 0 : capacity.places;
   if (places >= 0 && number.fraction > places) {
@@ -100,26 +86,25 @@ std::string misfit(const Capacity& capacity, const Number& number) {
     // An unsigned number needs a bit more where one goes to the sign.
     const int needed = number.bits + (capacity.isSigned && !number.isSigned ? 1 : 0);
     if (needed <= capacity.bits) return "";
-    return "has " + count(capacity.bits, "bit") + ", the item needs " + std::to_string(needed);
+    return "has " + count(static_cast<std::size_t>(capacity.bits), "bit") + ", the item needs " +
+           std::to_string(needed);
   }
   // Digits behind the last one that is kept count as zeros.
   int digits = number.fraction < 0 ? number.digits - number.fraction : number.digits;
   if (number.bits > 0) digits = std::max(digits, digitsOf(number.bits));
   const int whole = digits - std::max(number.fraction, 0);
   if (capacity.whole > 0 && whole > capacity.whole) {
-    return "holds " + count(capacity.whole, "digit") + " before the decimal point, the item has " +
-           std::to_string(whole);
+    return "holds " + count(static_cast<std::size_t>(capacity.whole), "digit") +
+           " before the decimal point, the item has " + std::to_string(whole);
   }
   if (capacity.digits == 0 || digits <= capacity.digits) return "";
-  return "holds " + count(capacity.digits, "digit") + ", the item has " + std::to_string(digits);
+  return "holds " + count(static_cast<std::size_t>(capacity.digits), "digit") + ", the item has " +
+         std::to_string(digits);
 }
 
 }  // namespace
 
-bool isObject(as::IDataItem& item) {
-  return item.getDataType() == as::IDataItem::TYPE_ALPHANUMERIC &&
-         as::interface_cast<as::IAlphanumeric>(&item) == nullptr;
-}
+bool isObject(as::IDataItem& item) { return usageOf(item) == Usage::objectReference; }
 
 std::string kindOf(as::IDataItem& item) {
   return isObject(item) ? "an object reference" : dataTypeWord(item.getDataType());
@@ -140,22 +125,20 @@ std::string misfit(const Capacity& capacity, as::IDataItem& item) {
     return misfit(capacity, numberIn(*numeric));
   }
   if (auto* const edited = as::interface_cast<as::INumericEdited>(&item)) {
+    const std::optional<Picture> picture = readAnyPicture(item.getPicture());
     Number number;
-    number.digits = edited->getDigits();
-    const std::string picture = item.getPicture();
-    number.isSigned = picture.find_first_of("+-") != std::string::npos ||
-                      picture.find("CR") != std::string::npos ||
-                      picture.find("DB") != std::string::npos;
+    number.digits = limited(edited->getDigits());
+    number.isSigned = picture && picture->isSigned;
     // No accessor tells it. An absent one reads as 0.
-    number.fraction =
-        static_cast<int>(std::strtol(item.getAttributeValue("alignment").c_str(), nullptr, 10));
+    number.fraction = limited(
+        static_cast<int>(std::strtol(item.getAttributeValue("alignment").c_str(), nullptr, 10)));
     return misfit(capacity, number);
   }
   if (type == as::IDataItem::TYPE_POINTER || type == as::IDataItem::TYPE_INDEX) {
     Number number;
-    number.bits = 8 * item.getLength();
+    number.bits = limited(bitsOf(item.getLength()));
     if (misfit(capacity, number).empty()) return "";
-    return "is too small for an item of " + count(number.bits, "bit");
+    return "is too small for an item of " + count(static_cast<std::size_t>(number.bits), "bit");
   }
   return "is a number, the item is " + kindOf(item);
 }
@@ -168,12 +151,12 @@ bool isOfKnownSize(as::IDataItem& item) {
   auto* const numeric = as::interface_cast<as::INumeric>(&item);
   if (numeric == nullptr) return true;
   const Number number = numberIn(*numeric);
-  return number.floatingBytes > 0 || number.digits > 0 || number.bits > 0;
+  return number.floatingDigits > 0 || number.digits > 0 || number.bits > 0;
 }
 
 bool isFloating(as::IDataItem& item) {
-  auto* const numeric = as::interface_cast<as::INumeric>(&item);
-  return numeric != nullptr && numberIn(*numeric).floatingBytes > 0;
+  const std::optional<Usage> usage = usageOf(item);
+  return usage && isFloating(*usage);
 }
 
 bool isUnlimited(const Capacity& capacity) {
@@ -206,3 +189,5 @@ bool contains(const Capacity& larger, const Capacity& smaller) {
   if (smaller.places < 0 && (larger.kind != Kind::decimal || larger.places >= 0)) return false;
   return misfit(larger, number).empty();
 }
+
+}  // namespace as::toolkit

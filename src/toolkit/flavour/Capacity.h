@@ -8,6 +8,8 @@ namespace as {
 class IDataItem;
 }
 
+namespace as::toolkit {
+
 struct Capacity {
   // A group type is for groups only. An open type holds what its user makes of it: dates, objects.
   enum class Kind { integer, floating, decimal, text, bytes, group, open };
@@ -46,5 +48,7 @@ bool isOfKnownSize(as::IDataItem& item);
 
 // Whether `item` is a floating-point number.
 bool isFloating(as::IDataItem& item);
+
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_FLAVOUR_CAPACITY_H_

@@ -1,12 +1,15 @@
-#include "toolkit/io/DocumentReader.h"
+#include "as/toolkit/DocumentReader.h"
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
 #include <type_traits>
+#include <utility>
+#include <vector>
 
 #include "as/CASException.h"
 #include "as/CASInvalidNamespaceException.h"
@@ -15,44 +18,43 @@
 #include "as/IAgentServices.h"
 #include "as/IProgram.h"
 #include "as/IService.h"
+#include "as/Namespaces.h"
+#include "as/toolkit/Files.h"
+#include "as/toolkit/Flavours.h"
+#include "toolkit/io/ServiceText.h"
+
+namespace as::toolkit {
 
 namespace {
 
 namespace fs = std::filesystem;
 
-const std::string dictionaryNamespace =
-    "http://agentservices.example/schema/cobol/v2.0/vorcobol.xsd";
-
-constexpr const char* serviceNamespaces[] = {
-    "http://agentservices.example/schema/ws/v1.0/vorws.xsd",
-    "http://agentservices.example/schema/java/v2.0/vorjava.xsd",
-    "http://agentservices.example/schema/com/v1.0/vorcom.xsd",
-    "http://agentservices.example/schema/dotnet/v1.0/vordotnet.xsd",
-};
-
-const std::string noDictionary =
-    "not a data dictionary: its root element is not in the namespace " + dictionaryNamespace;
+std::string noDictionary() {
+  return std::string("not a data dictionary: its root element is not in the namespace ") +
+         as::namespaces::dd.uri;
+}
 
 std::string noService() {
   std::string text = "not a service: its root element is in none of the namespaces";
-  for (const char* name : serviceNamespaces) text += std::string(" ") + name;
+  std::vector<Flavour> all = flavours();
+  std::sort(all.begin(), all.end(), [](const Flavour& left, const Flavour& right) {
+    return left.implementation < right.implementation;
+  });
+  for (const Flavour& flavour : all) text.append(" ").append(flavour.documents.uri);
   return text;
 }
 
-Refusal refusal(const std::string& file, const std::string& text) {
-  Refusal result;
-  result.file = file;
-  result.text = text;
-  return result;
+RefusedDocument refused(const std::string& file, const std::string& text) {
+  return RefusedDocument({file, 0, 0, text, ""});
 }
 
 // The library tells less about a file that it cannot read.
 void checkReadable(const std::string& file) {
   std::error_code ignored;
-  if (fs::is_directory(file, ignored)) throw refusal(file, "is a directory, not a document");
+  if (fs::is_directory(file, ignored)) throw refused(file, "is a directory, not a document");
   if (::access(file.c_str(), R_OK) != 0) {
     const int reason = errno;
-    throw refusal(file, "cannot be read: " + std::generic_category().message(reason));
+    throw refused(file, "cannot be read: " + std::generic_category().message(reason));
   }
 }
 
@@ -74,17 +76,16 @@ std::string hintFor(std::string_view message) {
   const std::string advice =
       "name the schema in the root element: "
       "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:schemaLocation=\"";
-  if (name == "program") return advice + dictionaryNamespace + " " + dictionaryNamespace + "\"";
+  const std::string uri = as::namespaces::dd.uri;
+  if (name == "program") return advice + uri + " " + uri + "\"";
   if (name == "service") return advice + "NAMESPACE NAMESPACE\", with that of the root element";
   return "";
 }
 
-Refusal refusal(const std::string& file, const as::CASParseException& failure) {
-  Refusal result = refusal(nameFor(failure.getSystemId(), file), failure.getErrorText());
-  result.line = failure.getLineNum();
-  result.column = failure.getColNum();
-  result.hint = hintFor(result.text);
-  return result;
+RefusedDocument refused(const std::string& file, const as::CASParseException& failure) {
+  const std::string text = failure.getErrorText();
+  return RefusedDocument({nameFor(failure.getSystemId(), file), failure.getLineNum(),
+                          failure.getColNum(), text, hintFor(text)});
 }
 
 // The root that `request` answers for `file`; null when that is of another kind.
@@ -94,13 +95,13 @@ auto rootFrom(const std::string& file, const Request& request) {
   try {
     root.reset(request());
   } catch (const as::CASParseException& failure) {
-    throw refusal(file, failure);
+    throw refused(file, failure);
   } catch (const as::CASInvalidNamespaceException&) {
     return root;
   } catch (const as::CASException& failure) {
-    throw refusal(file, failure.getErrorText());
+    throw refused(file, failure.getErrorText());
   }
-  if (!root) throw refusal(file, "nothing found in it");
+  if (!root) throw refused(file, "nothing found in it");
   return root;
 }
 
@@ -110,7 +111,37 @@ as::IService* parseText(as::IAgentServices& services, const std::string& text,
                                static_cast<unsigned int>(text.size()), loadProgram);
 }
 
+// Has a service name another dictionary for a while.
+class OtherDictionary {
+ public:
+  OtherDictionary(as::IService& service, const std::string& dictionary)
+      : service_(service), own_(service.getDDFilename()) {
+    service_.setDDFilename(dictionary.c_str());
+  }
+  ~OtherDictionary() { service_.setDDFilename(own_.c_str()); }
+  OtherDictionary(const OtherDictionary&) = delete;
+  OtherDictionary& operator=(const OtherDictionary&) = delete;
+
+ private:
+  as::IService& service_;
+  std::string own_;
+};
+
 }  // namespace
+
+std::string textOf(const Refusal& refusal) {
+  std::string text = refusal.file;
+  if (refusal.line > 0) {
+    text += ":" + std::to_string(refusal.line) + ":" + std::to_string(refusal.column);
+  }
+  return text + ": " + refusal.text;
+}
+
+RefusedDocument::RefusedDocument(Refusal refusal)
+    : std::runtime_error(textOf(refusal)), refusal_(std::move(refusal)) {}
+RefusedDocument::RefusedDocument(const RefusedDocument& other) = default;
+RefusedDocument& RefusedDocument::operator=(const RefusedDocument& other) = default;
+RefusedDocument::~RefusedDocument() = default;
 
 DocumentReader::DocumentReader(const std::string& schemaDirectory)
     : services_(as::CAgentServicesFactory::CreateAgentServices()) {
@@ -125,7 +156,7 @@ Document DocumentReader::read(const std::string& file) const {
   document.dictionary = rootFrom(file, [&] { return services_->parseCobolDD(file.c_str()); });
   if (document.dictionary) return document;
   document.service = rootFrom(file, [&] { return services_->parseService(file.c_str(), false); });
-  if (!document.service) throw refusal(file, noDictionary + "; and " + noService());
+  if (!document.service) throw refused(file, noDictionary() + "; and " + noService());
   return document;
 }
 
@@ -133,7 +164,7 @@ std::unique_ptr<as::IService> DocumentReader::readService(const std::string& fil
   checkReadable(file);
   std::unique_ptr<as::IService> service =
       rootFrom(file, [&] { return services_->parseService(file.c_str(), false); });
-  if (!service) throw refusal(file, noService());
+  if (!service) throw refused(file, noService());
   return service;
 }
 
@@ -141,7 +172,7 @@ std::unique_ptr<as::IProgram> DocumentReader::readDictionary(const std::string& 
   checkReadable(file);
   std::unique_ptr<as::IProgram> dictionary =
       rootFrom(file, [&] { return services_->parseCobolDD(file.c_str()); });
-  if (!dictionary) throw refusal(file, noDictionary);
+  if (!dictionary) throw refused(file, noDictionary());
   return dictionary;
 }
 
@@ -149,31 +180,40 @@ std::unique_ptr<as::IService> DocumentReader::readServiceText(const std::string&
                                                               const std::string& file) const {
   std::unique_ptr<as::IService> service =
       rootFrom(file, [&] { return parseText(*services_, text, file, false); });
-  if (!service) throw refusal(file, noService());
+  if (!service) throw refused(file, noService());
   return service;
 }
 
-std::unique_ptr<as::IService> DocumentReader::withProgram(as::IService& service,
-                                                          const std::string& file,
-                                                          const std::string& dictionary) const {
+ServiceDocument DocumentReader::withProgram(as::IService& service, const std::string& file,
+                                            const ProgramChoice& choice) const {
+  ServiceDocument result;
+  result.programName = service.getAttributeValue("programName");
+  result.dictionary = service.getDDFilename();
+  if (!choice.dictionary && result.dictionary.empty()) {
+    throw RefusedDocument({file, 0, 0, "the service names no dictionary",
+                           "write attribute dataDictFilename, or name a dictionary"});
+  }
+  const std::string dictionary =
+      choice.dictionary ? *choice.dictionary : besideFile(file, result.dictionary);
   checkReadable(dictionary);
-  // The library reads the dictionary that the document names, counted from the current directory:
-  // name the right one in the document.
-  service.setDDFilename(dictionary.c_str());
-  const std::string text = as::CAgentServicesFactory::SerializeToString(&service);
-  std::unique_ptr<as::IService> result =
-      rootFrom(dictionary, [&] { return parseText(*services_, text, file, true); });
-  if (!result) throw refusal(dictionary, noDictionary);
+  // What a model has not been told it cannot be made to forget: a copy is told in its place.
+  std::unique_ptr<as::IService> copy;
+  if (result.dictionary.empty()) copy = readServiceText(documentOf(service, file), file);
+  std::string text;
+  {
+    // The library reads the dictionary that the document names, counted from the current directory.
+    const OtherDictionary named(copy ? *copy : service, dictionary);
+    text = documentOf(copy ? *copy : service, file);
+  }
+  result.service = rootFrom(dictionary, [&] { return parseText(*services_, text, file, true); });
+  if (!result.service) throw refused(dictionary, noDictionary());
+  if (!result.dictionary.empty()) result.service->setDDFilename(result.dictionary.c_str());
   return result;
 }
 
-std::string besideFile(const std::string& file, const std::string& name) {
-  const fs::path folder = fs::path(file).parent_path();
-  const fs::path plain = folder / name;
-  // The library takes ".." out of a name as if folders were no links.
-  std::error_code failure;
-  if (!fs::exists(plain, failure) || fs::equivalent(plain, plain.lexically_normal(), failure)) {
-    return plain.string();
-  }
-  return (fs::canonical(folder, failure) / name).lexically_normal().string();
+ServiceDocument DocumentReader::readServiceWithProgram(const std::string& file,
+                                                       const ProgramChoice& choice) const {
+  return withProgram(*readService(file), file, choice);
 }
+
+}  // namespace as::toolkit

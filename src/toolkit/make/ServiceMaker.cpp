@@ -3,21 +3,22 @@
 #include <algorithm>
 #include <cstddef>
 #include <optional>
-#include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 #include "as/IEntryPoint.h"
 #include "as/ILinkageItem.h"
-#include "toolkit/findings/Findings.h"
-#include "toolkit/flavour/Flavour.h"
+#include "as/IMapping.h"
+#include "toolkit/findings/Report.h"
+#include "toolkit/text/Names.h"
+#include "toolkit/text/Phrases.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/ItemIndex.h"
 #include "toolkit/walk/ItemWalk.h"
 
-namespace {
+namespace as::toolkit {
 
-// As many subscripts as a mapping can have.
-constexpr std::size_t mostTables = 16;
+namespace {
 
 // How items without a name are called.
 bool isUnnamed(as::IDataItem& item) {
@@ -32,28 +33,16 @@ struct Plan {
   std::vector<Plan> members;       // Of groups.
 };
 
-// Gives out names of which no two are alike.
-class Names {
- public:
-  std::string unique(const std::string& name) {
-    std::string result = name;
-    for (int number = 2; !used_.insert(result).second; ++number) {
-      result = name + "-" + std::to_string(number);
-    }
-    return result;
-  }
-
- private:
-  std::unordered_set<std::string> used_;
-};
-
 class ServiceMaker {
  public:
-  ServiceMaker(as::IService& service, const Flavour& flavour, Findings& notes)
-      : service_(service), flavour_(flavour), notes_(notes), items_(*service.getProgram()) {}
+  ServiceMaker(MadeService& made, const FlavourProfile& flavour)
+      : service_(*made.service),
+        flavour_(flavour),
+        made_(made),
+        notes_(made.notes),
+        items_(*made.service->getProgram()) {}
 
-  ServiceSize fill(const std::vector<std::string>& entryPoints) {
-    ServiceSize size;
+  void fill(const std::vector<std::string>& entryPoints) {
     Names names;
     std::unordered_set<std::string> done;
     forEachMember<as::IEntryPoint>(
@@ -64,16 +53,14 @@ class ServiceMaker {
               std::find(entryPoints.begin(), entryPoints.end(), name) != entryPoints.end();
           if (!isWanted) return;
           if (!done.insert(name).second) {
-            notes_.note(name,
+            notes_.note("same-entry-point", name,
                         "the program has another entry point of that name, which cannot be "
                         "bound: left out");
             return;
           }
           addOperation(entryPoint, names.unique(name));
-          ++size.operations;
+          ++made_.operations;
         });
-    size.mappings = mappings_;
-    return size;
   }
 
  private:
@@ -87,21 +74,21 @@ class ServiceMaker {
       as::IDataItem* const item = linkage.getDataItem();
       const std::string itemName =
           item == nullptr ? linkage.getAttributeValue("dataItem") : item->getName();
-      place_ = name + "." + itemName;
+      place_ = dotted({name, itemName});
       if (item == nullptr) {
-        notes_.note(place_, "it is no record of the dictionary: left out");
+        notes_.note("lost-record", place_, "it is no record of the dictionary: left out");
         return;
       }
       unnamed_ = 0;
       const std::optional<Plan> plan = planOf(*item, 0);
       if (unnamed_ > 0) {
-        notes_.note(place_, std::to_string(unnamed_) + (unnamed_ == 1 ? " item" : " items") +
-                                " without a name left out");
+        notes_.note("unnamed-items", place_,
+                    count(static_cast<std::size_t>(unnamed_), "item") + " without a name left out");
       }
       if (!plan) {
         // Of an elementary item it is told already why.
         if (as::interface_cast<as::IGroup>(item) == nullptr) return;
-        notes_.note(place_, "nothing in it can be mapped: left out");
+        notes_.note("empty-parameter", place_, "nothing in it can be mapped: left out");
         return;
       }
       const bool isReturned = linkage.getByType() == as::ILinkageItem::BY_RETURNING;
@@ -135,18 +122,20 @@ class ServiceMaker {
     bool isThere = false;  // What a redefinition redefines.
     forEachMember<as::IDataItem>(group->getChildren(), [&](as::IDataItem& member) {
       if (member.isRenamed()) {
-        note(member, "it renames other items, which are there already: left out");
+        note("renamed-item", member, "it renames other items, which are there already: left out");
         return;
       }
       if (member.isRedefined() && isThere) {
-        note(member, "it redefines other items, which are there already: left out");
+        note("redefined-item", member,
+             "it redefines other items, which are there already: left out");
         return;
       }
       std::optional<Plan> planned = planOf(member, tables);
       isThere = planned.has_value();
       if (!planned) return;
       if (member.isRedefined()) {
-        note(member, "it redefines an item that cannot be mapped: it stands in its place");
+        note("redefinition-in-place", member,
+             "it redefines an item that cannot be mapped: it stands in its place");
       }
       // A group without a name is none to the service, unless it is a table.
       if (isUnnamed(member) && member.getMaxOccurs() == 0) {
@@ -167,33 +156,38 @@ class ServiceMaker {
     as::IDataItem* const found = items_.find(dottedPath(item));
     if (found == nullptr) {
       note(
-          item,
+          "unreachable-path", item,
           "no mapping can name it, for its path holds a period, a parenthesis or a leading $: left "
           "out");
       return std::nullopt;
     }
     if (found != &item) {
-      note(item, "no mapping leads to it, for another item has the same path: left out");
+      note("same-path", item,
+           "no mapping leads to it, for another item has the same path: left out");
       return std::nullopt;
     }
-    if (tables > mostTables) {
-      note(item, "it stands in more than " + std::to_string(mostTables) + " tables: left out");
+    if (tables > static_cast<std::size_t>(as::IMapping::MAX_SUBSCRIPTS)) {
+      note("too-many-tables", item,
+           "it stands in more than " + std::to_string(as::IMapping::MAX_SUBSCRIPTS) +
+               " tables: left out");
       return std::nullopt;
     }
     const DataType* const type = flavour_.bestTypeFor(item);
     if (type == nullptr) {
-      note(item, "no data type of " + flavour_.name() + " services holds an item that is " +
-                     kindOf(item) + ": left out");
+      note("no-fitting-data-type", item,
+           "no data type of " + flavour_.name() + " services holds an item that is " +
+               kindOf(item) + ": left out");
       return std::nullopt;
     }
     if (item.getDataType() == as::IDataItem::TYPE_NUMERIC_EDITED ||
         item.getDataType() == as::IDataItem::TYPE_ALPHANUMERIC_EDITED) {
-      note(item, std::string("it is edited: handed over as the text that it shows, '") +
-                     type->word + "'");
+      note("edited-item", item,
+           "it is edited: handed over as the text that it shows, " + quote(type->word));
     } else if (item.getDataType() == as::IDataItem::TYPE_NUMERIC &&
                type->capacity.kind == Capacity::Kind::text) {
-      note(item, "no numeric data type of " + flavour_.name() + " services holds it: made '" +
-                     type->word + "'");
+      note("number-as-text", item,
+           "no numeric data type of " + flavour_.name() + " services holds it: made " +
+               quote(type->word));
     }
     noteCount(item);
     Plan plan;
@@ -205,13 +199,13 @@ class ServiceMaker {
   void noteCount(as::IDataItem& item) {
     as::IDataItem* const count = item.hasODO() ? item.getODO() : nullptr;
     if (!item.hasODO() || item.getMaxOccurs() == 0) return;
-    note(item, "it occurs up to " + std::to_string(item.getMaxOccurs()) + " times, as often as " +
-                   (count == nullptr ? item.getAttributeValue("odo") : dottedPath(*count)) +
-                   " tells");
+    note("variable-table", item,
+         "it occurs up to " + std::to_string(item.getMaxOccurs()) + " times, as often as " +
+             (count == nullptr ? item.getAttributeValue("odo") : dottedPath(*count)) + " tells");
   }
 
-  void note(as::IDataItem& item, const std::string& text) {
-    notes_.note(operation_ + "." + dottedPath(item), text);
+  void note(const char* rule, as::IDataItem& item, const std::string& text) {
+    notes_.note(rule, dotted({operation_, dottedPath(item)}), text);
   }
 
   // Gives the field its type and mapping, or its fields.
@@ -219,7 +213,7 @@ class ServiceMaker {
     if (plan.type != nullptr) {
       flavour_.setDataType(field, *plan.type);
       field.addMapping(plan.item);
-      ++mappings_;
+      ++made_.mappings;
       return;
     }
     const DataType* const type = flavour_.groupType(plan.item->getMaxOccurs() > 1);
@@ -232,19 +226,21 @@ class ServiceMaker {
   }
 
   as::IService& service_;
-  const Flavour& flavour_;
-  Findings& notes_;
+  const FlavourProfile& flavour_;
+  MadeService& made_;
+  Report notes_;
   ItemIndex items_;
   // Where the work is: the operation and, in it, the parameter.
   std::string operation_;
   std::string place_;
   int unnamed_ = 0;
-  int mappings_ = 0;
 };
 
 }  // namespace
 
-ServiceSize fillService(as::IService& service, const Flavour& flavour,
-                        const std::vector<std::string>& entryPoints, Findings& notes) {
-  return ServiceMaker(service, flavour, notes).fill(entryPoints);
+void fillService(MadeService& made, const FlavourProfile& flavour,
+                 const std::vector<std::string>& entryPoints) {
+  ServiceMaker(made, flavour).fill(entryPoints);
 }
+
+}  // namespace as::toolkit

@@ -1,27 +1,22 @@
-// Makes a first service out of a program.
+// Puts operations into a new service.
 #ifndef TOOLKIT_MAKE_SERVICEMAKER_H_
 #define TOOLKIT_MAKE_SERVICEMAKER_H_
 
 #include <string>
 #include <vector>
 
-class Findings;
-class Flavour;
+#include "as/toolkit/Make.h"
+#include "toolkit/flavour/FlavourProfile.h"
 
-namespace as {
-class IService;
-}
+namespace as::toolkit {
 
-// What was put into a service.
-struct ServiceSize {
-  int operations = 0;
-  int mappings = 0;
-};
+// Adds an operation for each entry point of the program of `made.service`, or for those of the
+// names given: a parameter for each linkage item, fields for the members of groups, a mapping and a
+// data type for each elementary item that a data type holds. Counts them and notes what is left
+// out, or needs a word.
+void fillService(MadeService& made, const FlavourProfile& flavour,
+                 const std::vector<std::string>& entryPoints);
 
-// Adds an operation for each entry point of the service's program, or for those of the names given:
-// a parameter for each linkage item, fields for the members of groups, a mapping and a data type
-// for each elementary item that a data type holds. What is left out, or needs a word, is noted.
-ServiceSize fillService(as::IService& service, const Flavour& flavour,
-                        const std::vector<std::string>& entryPoints, Findings& notes);
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_MAKE_SERVICEMAKER_H_

@@ -1,5 +1,3 @@
-#include "toolkit/render/DictionaryJson.h"
-
 #include <cstddef>
 #include <string>
 
@@ -16,10 +14,13 @@
 #include "as/INumeric.h"
 #include "as/INumericEdited.h"
 #include "as/IProgram.h"
+#include "as/toolkit/Render.h"
 #include "toolkit/render/JsonParts.h"
 #include "toolkit/render/JsonWriter.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/ItemWalk.h"
+
+namespace as::toolkit {
 
 namespace {
 
@@ -155,6 +156,6 @@ class DictionaryJson {
 
 }  // namespace
 
-void writeDictionaryJson(std::ostream& out, as::IProgram& program) {
-  DictionaryJson(out).write(program);
-}
+void renderJson(std::ostream& out, as::IProgram& program) { DictionaryJson(out).write(program); }
+
+}  // namespace as::toolkit

@@ -1,5 +1,3 @@
-#include "toolkit/render/DictionaryPrinter.h"
-
 #include <cstddef>
 #include <ostream>
 #include <string>
@@ -17,11 +15,15 @@
 #include "as/INumeric.h"
 #include "as/INumericEdited.h"
 #include "as/IProgram.h"
+#include "as/toolkit/Render.h"
+#include "as/toolkit/Text.h"
 #include "toolkit/render/PrinterParts.h"
-#include "toolkit/text/Text.h"
+#include "toolkit/text/Phrases.h"
 #include "toolkit/text/TextTable.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/ItemWalk.h"
+
+namespace as::toolkit {
 
 namespace {
 
@@ -48,10 +50,6 @@ std::string unlessZero(int number) { return number == 0 ? "" : std::to_string(nu
 // its own.
 std::string unlessAbsent(as::IDataItem& item, const char* attribute, int number) {
   return item.getAttributeValue(attribute).empty() ? "" : std::to_string(number);
-}
-
-bool isNumeral(const std::string& text) {
-  return !text.empty() && text.find_first_not_of("+-.,0123456789") == std::string::npos;
 }
 
 std::string quoted(const std::string& text) {
@@ -269,6 +267,8 @@ class DictionaryPrinter {
 
 }  // namespace
 
-void printDictionary(std::ostream& out, as::IProgram& program) {
+void renderText(std::ostream& out, as::IProgram& program) {
   DictionaryPrinter(out, program).print();
 }
+
+}  // namespace as::toolkit

@@ -3,6 +3,8 @@
 #include "as/INumeric.h"
 #include "toolkit/text/Words.h"
 
+namespace as::toolkit {
+
 std::string itemSummary(as::IDataItem& item) {
   std::string summary = dottedPath(item);
   const std::string picture = item.getPicture();
@@ -12,3 +14,5 @@ std::string itemSummary(as::IDataItem& item) {
                                        : numericUsageWord(numeric->getUsage()));
   return summary + " at " + std::to_string(item.getOffset());
 }
+
+}  // namespace as::toolkit

@@ -6,6 +6,8 @@
 #include "toolkit/render/JsonWriter.h"
 #include "toolkit/walk/TreeWalk.h"
 
+namespace as::toolkit {
+
 // A member `key` with an array of objects, one for each T in `list`, filled by writeMembers(T&).
 template <class T, class WriteMembers>
 void writeObjects(JsonWriter& writer, const char* key, as::IList* list,
@@ -26,5 +28,7 @@ inline void writeProperties(JsonWriter& writer, as::IList* properties) {
     writer.member("value", property.getValue());
   });
 }
+
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_RENDER_JSONPARTS_H_

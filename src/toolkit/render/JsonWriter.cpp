@@ -4,6 +4,8 @@
 #include <ostream>
 #include <string>
 
+namespace as::toolkit {
+
 using nlohmann::ordered_json;
 
 void JsonWriter::end() {
@@ -58,3 +60,5 @@ void JsonWriter::newLine() {
 void JsonWriter::write(const ordered_json& scalar) {
   out_ << scalar.dump(-1, ' ', false, ordered_json::error_handler_t::replace);
 }
+
+}  // namespace as::toolkit

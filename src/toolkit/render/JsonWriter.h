@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+namespace as::toolkit {
+
 // Every value inside an object needs a key() before it. One line a member, indented.
 class JsonWriter {
  public:
@@ -39,5 +41,7 @@ class JsonWriter {
   std::vector<Level> levels_;
   bool afterKey_ = false;
 };
+
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_RENDER_JSONWRITER_H_

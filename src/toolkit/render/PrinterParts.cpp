@@ -3,9 +3,11 @@
 #include <ostream>
 
 #include "as/IProperty.h"
-#include "toolkit/text/Text.h"
+#include "as/toolkit/Text.h"
 #include "toolkit/text/TextTable.h"
 #include "toolkit/walk/TreeWalk.h"
+
+namespace as::toolkit {
 
 std::string indented(std::size_t depth, const std::string& text) {
   return std::string(2 * depth, ' ') + text;
@@ -32,3 +34,5 @@ void printProperties(std::ostream& out, as::IList* properties) {
   out << "\nPROPERTIES\n\n";
   forEachRow([&](const TextTable::Row& row) { table.print(out, row); });
 }
+
+}  // namespace as::toolkit

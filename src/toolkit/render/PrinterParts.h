@@ -10,6 +10,8 @@ namespace as {
 class IList;
 }
 
+namespace as::toolkit {
+
 // `text` as a cell at that depth of a tree.
 std::string indented(std::size_t depth, const std::string& text);
 
@@ -26,5 +28,7 @@ class Clauses {
 
 // The section of a document's properties; nothing when there are none.
 void printProperties(std::ostream& out, as::IList* properties);
+
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_RENDER_PRINTERPARTS_H_

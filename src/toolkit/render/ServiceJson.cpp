@@ -1,5 +1,3 @@
-#include "toolkit/render/ServiceJson.h"
-
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -13,12 +11,15 @@
 #include "as/IParameter.h"
 #include "as/IProgram.h"
 #include "as/IService.h"
-#include "toolkit/flavour/Flavour.h"
+#include "as/toolkit/Render.h"
+#include "toolkit/flavour/FlavourProfile.h"
 #include "toolkit/render/JsonParts.h"
 #include "toolkit/render/JsonWriter.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/FieldWalk.h"
 #include "toolkit/walk/Subscripts.h"
+
+namespace as::toolkit {
 
 namespace {
 
@@ -31,7 +32,7 @@ ordered_json nameOrNull(Named* object) {
 
 class ServiceJson {
  public:
-  ServiceJson(std::ostream& out, const Flavour& flavour) : writer_(out), flavour_(flavour) {}
+  ServiceJson(std::ostream& out, const FlavourProfile& flavour) : writer_(out), flavour_(flavour) {}
 
   void write(as::IService& service) {
     writer_.beginObject();
@@ -163,11 +164,13 @@ class ServiceJson {
   }
 
   JsonWriter writer_;
-  const Flavour& flavour_;
+  const FlavourProfile& flavour_;
 };
 
 }  // namespace
 
-void writeServiceJson(std::ostream& out, as::IService& service) {
-  ServiceJson(out, flavourOf(service)).write(service);
+void renderJson(std::ostream& out, as::IService& service) {
+  ServiceJson(out, profileOf(service)).write(service);
 }
+
+}  // namespace as::toolkit

@@ -1,5 +1,3 @@
-#include "toolkit/render/ServicePrinter.h"
-
 #include <cstddef>
 #include <ostream>
 #include <string>
@@ -12,13 +10,16 @@
 #include "as/IOperation.h"
 #include "as/IParameter.h"
 #include "as/IService.h"
-#include "toolkit/flavour/Flavour.h"
+#include "as/toolkit/Render.h"
+#include "as/toolkit/Text.h"
+#include "toolkit/flavour/FlavourProfile.h"
 #include "toolkit/render/ItemSummary.h"
 #include "toolkit/render/PrinterParts.h"
-#include "toolkit/text/Text.h"
 #include "toolkit/text/TextTable.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/FieldWalk.h"
+
+namespace as::toolkit {
 
 namespace {
 
@@ -39,7 +40,7 @@ TextTable fieldTable() {
 class ServicePrinter {
  public:
   ServicePrinter(std::ostream& out, as::IService& service)
-      : out_(out), service_(service), flavour_(flavourOf(service)), table_(fieldTable()) {}
+      : out_(out), service_(service), flavour_(profileOf(service)), table_(fieldTable()) {}
 
   void print() {
     out_ << "SERVICE " << printable(service_.getName()) << "\n";
@@ -74,7 +75,7 @@ class ServicePrinter {
  private:
   void printHeader() {
     const std::vector<std::pair<const char*, std::string>> lines = {
-        {"flavour       ", flavour_.implementation() == service_.getImplementation()
+        {"flavour       ", flavour_.flavour().implementation == service_.getImplementation()
                                ? flavour_.name()
                                : implementationWord(service_.getImplementation())},
         {"program       ", service_.getAttributeValue("programName")},
@@ -216,12 +217,12 @@ class ServicePrinter {
 
   std::ostream& out_;
   as::IService& service_;
-  const Flavour& flavour_;
+  const FlavourProfile& flavour_;
   TextTable table_;
 };
 
 }  // namespace
 
-void printService(std::ostream& out, as::IService& service) {
-  ServicePrinter(out, service).print();
-}
+void renderText(std::ostream& out, as::IService& service) { ServicePrinter(out, service).print(); }
+
+}  // namespace as::toolkit

@@ -1,6 +1,8 @@
-#include "toolkit/text/Text.h"
+#include "as/toolkit/Text.h"
 
-#include <algorithm>
+#include <cstddef>
+
+namespace as::toolkit {
 
 namespace {
 
@@ -35,10 +37,8 @@ std::string printable(std::string_view text) {
   return result;
 }
 
-std::size_t characterCount(std::string_view text) {
-  constexpr unsigned int continuationMask = 0xC0;
-  constexpr unsigned int continuation = 0x80;
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
-    return (static_cast<unsigned char>(byte) & continuationMask) != continuation;
-  }));
+std::string count(std::size_t number, const char* what) {
+  return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
 }
+
+}  // namespace as::toolkit

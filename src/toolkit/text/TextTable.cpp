@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <ostream>
 
-#include "toolkit/text/Text.h"
+#include "toolkit/text/Phrases.h"
+
+namespace as::toolkit {
 
 namespace {
 
@@ -60,3 +62,5 @@ void TextTable::print(std::ostream& out, const Row& row) const {
   put(row.rest, start);
   out << line << '\n';
 }
+
+}  // namespace as::toolkit

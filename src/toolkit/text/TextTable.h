@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+namespace as::toolkit {
+
 // A column takes the room of its widest cell and its title. One in which every cell is empty is
 // left out. The last column is for the rows' loose ends and takes what it needs.
 class TextTable {
@@ -44,5 +46,7 @@ class TextTable {
 
   std::vector<MeasuredColumn> columns_;
 };
+
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_TEXT_TEXTTABLE_H_

@@ -1,10 +1,14 @@
 #include "toolkit/text/Words.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
 #include "as/IDataItem.h"
 #include "as/IGroup.h"
+#include "toolkit/text/Phrases.h"
+
+namespace as::toolkit {
 
 namespace {
 
@@ -58,7 +62,8 @@ std::string dottedPath(as::IDataItem& item) {
   for (as::IGroup* group = item.getParent(); group != nullptr; group = group->getParent()) {
     names.push_back(group->getName());
   }
-  std::string path = names.back();
-  for (std::size_t i = names.size() - 1; i > 0; --i) path += "." + names[i - 1];
-  return path;
+  std::reverse(names.begin(), names.end());
+  return dotted(names);
 }
+
+}  // namespace as::toolkit

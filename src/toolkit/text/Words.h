@@ -8,6 +8,8 @@ namespace as {
 class IDataItem;
 }
 
+namespace as::toolkit {
+
 // Every function answers "unknown" for a number that has no meaning.
 std::string dataTypeWord(int type);
 std::string numericUsageWord(int usage);
@@ -22,5 +24,7 @@ std::string mappingTypeWord(int type);
 
 // The name of `item` dotted from its record down: RECORD.GROUP.ITEM.
 std::string dottedPath(as::IDataItem& item);
+
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_TEXT_WORDS_H_

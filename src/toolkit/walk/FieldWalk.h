@@ -7,6 +7,8 @@
 #include "as/IField.h"
 #include "toolkit/walk/TreeWalk.h"
 
+namespace as::toolkit {
+
 // The name of the type definition that the field refers to, found or not; empty for none.
 inline std::string referenceOf(as::IField& field) { return field.getAttributeValue("ref"); }
 
@@ -19,5 +21,7 @@ void walkFields(as::IList* list, const Enter& enter, const Leave& leave) {
       [](as::IField& field) { return referenceOf(field).empty() ? field.getChildren() : nullptr; },
       enter, leave);
 }
+
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_WALK_FIELDWALK_H_

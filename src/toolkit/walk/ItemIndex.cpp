@@ -6,6 +6,8 @@
 #include "as/IProgram.h"
 #include "toolkit/walk/ItemWalk.h"
 
+namespace as::toolkit {
+
 namespace {
 
 // Periods and parentheses separate the parts of a path, and a "$" starts what is no item.
@@ -37,6 +39,11 @@ ItemIndex::ItemIndex(as::IProgram& program) {
 }
 
 as::IDataItem* ItemIndex::find(const std::string& path) const {
-  const auto found = items_.find(path);
+  if (path.empty()) return nullptr;
+  // A period at the end separates nothing.
+  const bool isCut = path.back() == '.';
+  const auto found = items_.find(isCut ? path.substr(0, path.size() - 1) : path);
   return found == items_.end() ? nullptr : found->second;
 }
+
+}  // namespace as::toolkit

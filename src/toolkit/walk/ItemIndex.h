@@ -10,6 +10,8 @@ class IDataItem;
 class IProgram;
 }  // namespace as
 
+namespace as::toolkit {
+
 class ItemIndex {
  public:
   explicit ItemIndex(as::IProgram& program);
@@ -21,5 +23,7 @@ class ItemIndex {
  private:
   std::unordered_map<std::string, as::IDataItem*> items_;
 };
+
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_WALK_ITEMINDEX_H_

@@ -6,6 +6,8 @@
 #include "as/IGroup.h"
 #include "toolkit/walk/TreeWalk.h"
 
+namespace as::toolkit {
+
 // walkTree over data items and the members of groups.
 template <class Enter, class Leave>
 void walkItems(as::IList* list, const Enter& enter, const Leave& leave) {
@@ -17,5 +19,7 @@ void walkItems(as::IList* list, const Enter& enter, const Leave& leave) {
       },
       enter, leave);
 }
+
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_WALK_ITEMWALK_H_

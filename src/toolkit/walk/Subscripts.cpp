@@ -6,13 +6,15 @@
 
 #include "as/IMapping.h"
 
+namespace as::toolkit {
+
 namespace {
 
 // `source` is the attribute that `read` reads.
 std::vector<int> subscripts(as::IMapping& mapping, int (as::IMapping::*read)(int*),
                             const std::string& source) {
   // The library does not know the room that it is given.
-  constexpr std::size_t leastRoom = 16;
+  constexpr std::size_t leastRoom = as::IMapping::MAX_SUBSCRIPTS;
   const auto tokens = static_cast<std::size_t>(std::count(source.begin(), source.end(), ',')) + 1;
   std::vector<int> result(std::max(leastRoom, tokens), everyOccurrence);
   const int count = (mapping.*read)(result.data());
@@ -30,3 +32,5 @@ std::vector<int> interfaceSubscripts(as::IMapping& mapping) {
   return subscripts(mapping, &as::IMapping::getInterfaceSubscripts,
                     mapping.getAttributeValue("subscript"));
 }
+
+}  // namespace as::toolkit

@@ -8,10 +8,14 @@ namespace as {
 class IMapping;
 }
 
+namespace as::toolkit {
+
 inline constexpr int everyOccurrence = -1;
 
 // Empty when there are none, and when one is neither "*" nor a number.
 std::vector<int> dataItemSubscripts(as::IMapping& mapping);
 std::vector<int> interfaceSubscripts(as::IMapping& mapping);
+
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_WALK_SUBSCRIPTS_H_

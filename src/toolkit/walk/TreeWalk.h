@@ -7,6 +7,8 @@
 #include "as/IList.h"
 #include "as/RTTI.h"
 
+namespace as::toolkit {
+
 // Calls enter(T&, depth) for every T in `list` and below, and leave(T&) when everything below it
 // has been visited. The members of the list have depth 0; childrenOf(T&) is the list below a T,
 // null for none. A null list has no members. Documents nest deeply: the walk keeps its way in a
@@ -42,5 +44,7 @@ void forEachMember(as::IList* list, const Visit& visit) {
     if (T* const member = as::interface_cast<T>(list->getItem(i))) visit(*member);
   }
 }
+
+}  // namespace as::toolkit
 
 #endif  // TOOLKIT_WALK_TREEWALK_H_

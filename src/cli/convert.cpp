@@ -1,0 +1,45 @@
+// agentservices convert: carries a service over to another flavour.
+#include "as/toolkit/Convert.h"
+
+#include <iostream>
+
+#include "as/toolkit/Text.h"
+#include "cli/Command.h"
+
+namespace cli {
+
+namespace {
+
+class Convert : public Command {
+ public:
+  Convert() : Command("convert", "Carry a service over to another flavour") {}
+
+  void declare(CLI::App& app) override {
+    app.add_option("SERVICE", file_, "The service")->required();
+    addFlavourOption(app, flavour_);
+    addOutputOption(app, output_);
+  }
+
+  int run(const std::optional<std::string>& schemas) override {
+    return withReader(schemas, [this](const toolkit::DocumentReader& reader) {
+      const toolkit::Flavour& flavour = *toolkit::findFlavour(flavour_);
+      const toolkit::ConvertedService converted =
+          toolkit::convertServiceFile(reader, file_, output_, flavour);
+      printFindings(output_, converted.notes);
+      std::cout << toolkit::printable(output_) << ": " << converted.from->name << " service made a "
+                << flavour.name << " service\n";
+      return exitFine;
+    });
+  }
+
+ private:
+  std::string file_;
+  std::string flavour_;
+  std::string output_;
+};
+
+}  // namespace
+
+std::unique_ptr<Command> convertCommand() { return std::make_unique<Convert>(); }
+
+}  // namespace cli

@@ -1,0 +1,51 @@
+// agentservices new: makes a first service for a program.
+#include <iostream>
+
+#include "as/toolkit/Make.h"
+#include "as/toolkit/Text.h"
+#include "cli/Command.h"
+
+namespace cli {
+
+namespace {
+
+class New : public Command {
+ public:
+  New() : Command("new", "Make a first service for the program of a data dictionary") {}
+
+  void declare(CLI::App& app) override {
+    app.add_option("DICTIONARY", dictionary_, "The data dictionary")->required();
+    addFlavourOption(app, flavour_);
+    addOutputOption(app, output_);
+    app.add_option("--name", options_.name, "The service's name, in place of the program's");
+    app.add_option("--operations", options_.entryPoints,
+                   "The entry points to make operations of, with commas between; all unless told")
+        ->delimiter(',')
+        ->allow_extra_args(false)
+        ->type_name("ENTRY,...");
+  }
+
+  int run(const std::optional<std::string>& schemas) override {
+    return withReader(schemas, [this](const toolkit::DocumentReader& reader) {
+      const toolkit::Flavour& flavour = *toolkit::findFlavour(flavour_);
+      const toolkit::MadeService made =
+          toolkit::makeServiceFile(reader, dictionary_, output_, flavour, options_);
+      printFindings(output_, made.notes);
+      std::cout << toolkit::printable(output_) << ": " << flavour.name << " service, operations "
+                << made.operations << ", mapped items " << made.mappings << "\n";
+      return exitFine;
+    });
+  }
+
+ private:
+  std::string dictionary_;
+  std::string flavour_;
+  std::string output_;
+  toolkit::MakeOptions options_;
+};
+
+}  // namespace
+
+std::unique_ptr<Command> newCommand() { return std::make_unique<New>(); }
+
+}  // namespace cli

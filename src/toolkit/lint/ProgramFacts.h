@@ -1,0 +1,61 @@
+// What lint asks of a program, answered without going through it again.
+#ifndef TOOLKIT_LINT_PROGRAMFACTS_H_
+#define TOOLKIT_LINT_PROGRAMFACTS_H_
+
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "toolkit/walk/ItemIndex.h"
+
+namespace as {
+class IDataItem;
+class IEntryPoint;
+class IProgram;
+}  // namespace as
+
+namespace as::toolkit {
+
+// What a caller of an entry point hands over.
+struct CallInterface {
+  std::string entryPoint;
+  std::unordered_map<as::IDataItem*, int> records;  // With how they are handed over.
+  std::vector<std::string> names;
+  std::vector<std::string> lost;  // Names that no record has.
+};
+
+class ProgramFacts {
+ public:
+  explicit ProgramFacts(as::IProgram& program);
+
+  std::string name() const;
+
+  // The item that a mapping with that text leads to; null when there is none.
+  as::IDataItem* find(const std::string& mapping);
+
+  // The first item of that name, wherever it stands; null when there is none.
+  as::IDataItem* firstOfName(const std::string& name);
+
+  // The record whose storage `item` lies in. The same storage under another name is the same
+  // record.
+  as::IDataItem* recordOf(as::IDataItem& item) const;
+
+  // The interface of the entry point of that name; null when there is none. Stays where it is.
+  const CallInterface* interfaceOf(const std::string& entryPoint);
+
+ private:
+  CallInterface read(as::IEntryPoint& entryPoint) const;
+
+  as::IProgram& program_;
+  std::unordered_map<as::IDataItem*, as::IDataItem*> records_;     // Of the items at the top.
+  std::unordered_map<std::string, as::IDataItem*> recordsByName_;  // The first of each name.
+  std::unordered_map<std::string, as::IEntryPoint*> entryPoints_;  // The first of each name.
+  std::unordered_map<std::string, CallInterface> interfaces_;      // Those asked for.
+  std::optional<ItemIndex> index_;                                 // Once an item was looked for.
+  std::optional<std::unordered_map<std::string, as::IDataItem*>> byName_;  // Likewise.
+};
+
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_LINT_PROGRAMFACTS_H_

@@ -1,0 +1,19 @@
+// Goes through a service and has the rules of lint look at everything in it.
+#ifndef TOOLKIT_LINT_SERVICEWALK_H_
+#define TOOLKIT_LINT_SERVICEWALK_H_
+
+#include "as/toolkit/Finding.h"
+
+namespace as {
+class IService;
+}
+
+namespace as::toolkit {
+
+// Looks at type definitions and operations, with the program that the service has. Takes time in
+// proportion to service and program.
+void lintMembers(as::IService& service, Findings& findings);
+
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_LINT_SERVICEWALK_H_

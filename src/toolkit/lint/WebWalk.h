@@ -1,0 +1,19 @@
+// Has lint look at what a Web service's operation has beyond a plain one.
+#ifndef TOOLKIT_LINT_WEBWALK_H_
+#define TOOLKIT_LINT_WEBWALK_H_
+
+#include "as/toolkit/Finding.h"
+
+namespace as {
+class IWSOperation;
+}
+
+namespace as::toolkit {
+
+class Place;
+
+void lintWebOperation(as::IWSOperation& operation, const Place& place, Findings& findings);
+
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_LINT_WEBWALK_H_

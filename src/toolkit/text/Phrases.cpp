@@ -1,0 +1,31 @@
+#include "toolkit/text/Phrases.h"
+
+#include <algorithm>
+
+namespace as::toolkit {
+
+std::string quote(const std::string& text) { return "'" + text + "'"; }
+
+std::string dotted(const std::vector<std::string>& names) {
+  std::string path;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (i > 0) path += '.';
+    path += names[i];
+  }
+  return path;
+}
+
+bool isNumeral(const std::string& text) {
+  return text.find_first_of("0123456789") != std::string::npos &&
+         text.find_first_not_of("+-.,0123456789") == std::string::npos;
+}
+
+std::size_t characterCount(std::string_view text) {
+  constexpr unsigned int continuationMask = 0xC0;
+  constexpr unsigned int continuation = 0x80;
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
+    return (static_cast<unsigned char>(byte) & continuationMask) != continuation;
+  }));
+}
+
+}  // namespace as::toolkit

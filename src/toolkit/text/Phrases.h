@@ -1,0 +1,28 @@
+// Turns of phrase that texts have in common.
+#ifndef TOOLKIT_TEXT_PHRASES_H_
+#define TOOLKIT_TEXT_PHRASES_H_
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "as/toolkit/Text.h"
+
+namespace as::toolkit {
+
+// 'text'
+std::string quote(const std::string& text);
+
+// The names with periods between: RECORD.GROUP.ITEM.
+std::string dotted(const std::vector<std::string>& names);
+
+// Whether the text is a number as COBOL programs write it.
+bool isNumeral(const std::string& text);
+
+// How many characters the UTF-8 `text` has.
+std::size_t characterCount(std::string_view text);
+
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_TEXT_PHRASES_H_

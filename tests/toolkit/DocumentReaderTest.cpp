@@ -1,0 +1,184 @@
+// Tests of reading documents: either kind, with programs, and what is said of refused ones.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <ostream>
+#include <string>
+
+#include "support/Flavours.h"
+#include "support/JavaService.h"
+#include "support/Toolkit.h"
+
+namespace {
+
+using test::labelOf;
+using test::refusalOf;
+using testing::HasSubstr;
+using testing::StartsWith;
+namespace toolkit = as::toolkit;
+
+class DocumentReaderTest : public test::ToolkitTest {};
+
+TEST_F(DocumentReaderTest, ADocumentOfEitherKindIsRead) {
+  write("d.xml", test::payProgram());
+  write("s.xml", test::payService(""));
+  const toolkit::Document dictionary = reader().read("d.xml");
+  ASSERT_NE(dictionary.dictionary, nullptr);
+  EXPECT_EQ(dictionary.service, nullptr);
+  EXPECT_EQ(dictionary.dictionary->getName(), "PAYROLL");
+  const toolkit::Document service = reader().read("s.xml");
+  ASSERT_NE(service.service, nullptr);
+  EXPECT_EQ(service.dictionary, nullptr);
+  EXPECT_EQ(service.service->getProgram(), nullptr);
+}
+
+// Programs
+
+TEST_F(DocumentReaderTest, AServiceComesWithTheProgramThatItNames) {
+  write("d/PAY.xml", test::payProgram());
+  write("s/s.xml", test::javaService("programName='OTHER' dataDictFilename='../d/PAY.xml'", ""));
+  const toolkit::ServiceDocument document = reader().readServiceWithProgram("s/s.xml");
+  ASSERT_NE(document.service->getProgram(), nullptr);
+  EXPECT_EQ(document.service->getProgram()->getName(), "PAYROLL");
+  EXPECT_EQ(document.programName, "OTHER");
+  EXPECT_EQ(document.dictionary, "../d/PAY.xml");
+  EXPECT_EQ(document.service->getAttributeValue("programName"), "PAYROLL");
+  EXPECT_EQ(document.service->getDDFilename(), "../d/PAY.xml");
+}
+
+TEST_F(DocumentReaderTest, AnotherDictionaryCountsFromTheCurrentDirectory) {
+  write("d/OTHER.xml", test::payProgram());
+  write("s/s.xml", test::payService(""));
+  write("s/none.xml", test::javaService("", ""));
+  const toolkit::ProgramChoice other{"d/OTHER.xml"};
+  const toolkit::ServiceDocument document = reader().readServiceWithProgram("s/s.xml", other);
+  EXPECT_NE(document.service->getProgram(), nullptr);
+  EXPECT_EQ(document.service->getDDFilename(), "PAY.xml");
+  const toolkit::ServiceDocument unnamed = reader().readServiceWithProgram("s/none.xml", other);
+  EXPECT_NE(unnamed.service->getProgram(), nullptr);
+  EXPECT_EQ(unnamed.dictionary, "");
+}
+
+TEST_F(DocumentReaderTest, AServiceGivenAProgramKeepsWhatItSays) {
+  write("PAY.xml", test::payProgram());
+  for (const std::string& text : {test::payService(""), test::javaService("", "")}) {
+    const auto service = reader().readServiceText(text, "s.xml");
+    const std::string before = as::CAgentServicesFactory::SerializeToString(service.get());
+    const auto complete = reader().withProgram(*service, "s.xml", {"PAY.xml"});
+    EXPECT_NE(complete.service->getProgram(), nullptr);
+    EXPECT_EQ(service->getProgram(), nullptr);
+    EXPECT_EQ(as::CAgentServicesFactory::SerializeToString(service.get()), before);
+  }
+}
+
+TEST_F(DocumentReaderTest, ADictionaryThatCannotBeReadIsTheOneTold) {
+  write("s/s.xml", test::javaService("dataDictFilename='../d/PAY.xml'", ""));
+  const toolkit::Refusal missing =
+      refusalOf([this] { reader().readServiceWithProgram("s/s.xml"); });
+  EXPECT_EQ(textOf(missing), "s/../d/PAY.xml: cannot be read: No such file or directory");
+  write("d/PAY.xml", test::payService(""));
+  const toolkit::Refusal wrong = refusalOf([this] { reader().readServiceWithProgram("s/s.xml"); });
+  EXPECT_EQ(wrong.file, "s/../d/PAY.xml");
+  EXPECT_THAT(wrong.text, StartsWith("not a data dictionary: "));
+}
+
+TEST_F(DocumentReaderTest, AServiceThatNamesNoDictionaryIsTold) {
+  write("s.xml", test::javaService("", ""));
+  const toolkit::Refusal refusal = refusalOf([this] { reader().readServiceWithProgram("s.xml"); });
+  EXPECT_EQ(textOf(refusal), "s.xml: the service names no dictionary");
+  EXPECT_THAT(refusal.hint, HasSubstr("dataDictFilename"));
+}
+
+// Refusals
+
+// A document that is refused, and the whole of what is said about it.
+struct RefusalCase {
+  std::string label;
+  std::string document;
+  std::string text;
+  std::string hint;
+};
+
+void PrintTo(const RefusalCase& refusal, std::ostream* out) { *out << refusal.document; }
+
+class RefusedDocumentTest : public DocumentReaderTest,
+                            public testing::WithParamInterface<RefusalCase> {};
+
+TEST_P(RefusedDocumentTest, IsTold) {
+  write("refused.xml", GetParam().document);
+  const toolkit::Refusal refusal = refusalOf([this] { reader().read("refused.xml"); });
+  EXPECT_EQ(textOf(refusal), GetParam().text);
+  EXPECT_EQ(refusal.hint, GetParam().hint);
+}
+
+const std::string neitherKind =
+    std::string("refused.xml: not a data dictionary: its root element is not in the namespace ") +
+    test::dictionaryNamespace +
+    "; and not a service: its root element is in none of the namespaces"
+    " http://agentservices.example/schema/ws/v1.0/vorws.xsd"
+    " http://agentservices.example/schema/java/v2.0/vorjava.xsd"
+    " http://agentservices.example/schema/com/v1.0/vorcom.xsd"
+    " http://agentservices.example/schema/dotnet/v1.0/vordotnet.xsd";
+
+const std::string schemaHint =
+    std::string(
+        "name the schema in the root element: "
+        "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:schemaLocation=\"") +
+    test::dictionaryNamespace + " " + test::dictionaryNamespace + "\"";
+
+INSTANTIATE_TEST_SUITE_P(
+    Documents, RefusedDocumentTest,
+    testing::Values(
+        RefusalCase{"MistypedAttribute", test::dictionaryOf("\n\n<pointer name='A' lenght='4'/>"),
+                    "refused.xml:3:31: attribute 'lenght' is not declared for element "
+                    "'pointer'",
+                    ""},
+        RefusalCase{"MistypedElement", test::dictionaryOf("\n<pointr name='A'/>"),
+                    "refused.xml:2:19: no declaration found for element 'pointr'", ""},
+        RefusalCase{"OtherNamespace", "<service xmlns='http://elsewhere.example/service'/>",
+                    neitherKind, ""},
+        RefusalCase{"NoNamespace", "<program name='PAYROLL'/>", neitherKind, ""},
+        RefusalCase{"NoSchemaLocation",
+                    std::string("<program xmlns=\"") + test::dictionaryNamespace +
+                        "\" name=\"PAYROLL\"></program>",
+                    "refused.xml:1:93: no declaration found for element 'program'", schemaHint},
+        RefusalCase{
+            "NoSchemaLocationBehindAPrefix",
+            std::string("<d:program name='P' xmlns:d='") + test::dictionaryNamespace + "'/>",
+            "refused.xml:1:92: no declaration found for element 'd:program'", schemaHint},
+        RefusalCase{"Empty", "", "refused.xml:1:1: invalid document structure", ""},
+        RefusalCase{"ControlCharactersInAMessage",
+                    test::dictionaryOf("\n<pointer name='A' sync='&#9;'/>"),
+                    "refused.xml:2:32: value '\t' does not match regular expression "
+                    "facet '[Tt][Rr][Uu][Ee]|[Ff][Aa][Ll][Ss][Ee]'",
+                    ""}),
+    labelOf<RefusalCase>);
+
+TEST_F(DocumentReaderTest, AServiceWithoutASchemaLocationIsHelped) {
+  for (const char* const ns : {test::flavours::webNamespace, test::flavours::comNamespace,
+                               test::flavours::javaNamespace, test::flavours::dotNetNamespace}) {
+    write("s.xml", std::string("<service xmlns='") + ns + "'/>");
+    EXPECT_THAT(refusalOf([this] { reader().read("s.xml"); }).hint,
+                StartsWith("name the schema in the root element: "));
+  }
+}
+
+TEST_F(DocumentReaderTest, ADocumentOfTheOtherKindIsRefused) {
+  write("d.xml", test::payProgram());
+  write("s.xml", test::payService(""));
+  EXPECT_THAT(refusalOf([this] { reader().readService("d.xml"); }).text,
+              StartsWith("not a service: "));
+  EXPECT_THAT(refusalOf([this] { reader().readDictionary("s.xml"); }).text,
+              StartsWith("not a data dictionary: "));
+}
+
+TEST_F(DocumentReaderTest, WhatIsNoFileIsNamed) {
+  EXPECT_EQ(textOf(refusalOf([this] { reader().read("missing.xml"); })),
+            "missing.xml: cannot be read: No such file or directory");
+  std::filesystem::create_directory("folder");
+  EXPECT_EQ(textOf(refusalOf([this] { reader().read("folder"); })),
+            "folder: is a directory, not a document");
+}
+
+}  // namespace
