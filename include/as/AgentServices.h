@@ -1,5 +1,6 @@
 // The whole public interface of the library, for clients that want one include. Begin with
-// as::CAgentServicesFactory, which creates the entry object.
+// as::CAgentServicesFactory, which creates the entry object. The rules of all model objects
+// (ownership, text, threads) stand with as::IElement, those of reading with as::IAgentServices.
 // Only as/Globals.h is left out: it needs the headers of Xerces-C.
 #ifndef AS_AGENTSERVICES_H_
 #define AS_AGENTSERVICES_H_

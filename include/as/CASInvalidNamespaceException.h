@@ -6,8 +6,9 @@
 
 namespace as {
 
-// Carries nothing: a dictionary was expected and something else came (a service, say), or the
-// other way round. Derives from nothing: catch it by this type.
+// Carries nothing: a dictionary was expected and something else came (a service, say), or the other
+// way round. A root in no namespace, and a service's in the plain service namespace, count as
+// something else too. Derives from nothing: catch it by this type.
 class AS_EXPORT CASInvalidNamespaceException {};
 
 }  // namespace as

@@ -17,11 +17,13 @@ class AS_EXPORT CASParseException {
   CASParseException& operator=(const CASParseException& other);
   ~CASParseException();
 
-  // The XML parser's number for the message; 0 for a refusal of this library's own.
+  // The XML parser's number for the message; 0 for a refusal of this library's own. The parser
+  // counts its groups of messages apart from each other, so that one number may stand for several
+  // messages; the text tells them apart.
   int getErrorCode() const;
 
-  // Where in the document the problem was found, counted from 1; 0 when it has no place there
-  // (a document that cannot be opened).
+  // Where in the document the problem was found, counted from 1; 0 when it has no place there (a
+  // document that cannot be opened).
   int getLineNum() const;
   int getColNum() const;
 

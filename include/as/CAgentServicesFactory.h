@@ -14,12 +14,14 @@ class IProgram;
 class IService;
 class IWebService;
 
+// All its operations are static; no object of it is needed.
 class AS_EXPORT CAgentServicesFactory {
  public:
   virtual ~CAgentServicesFactory();
   AS_RTTI_ROOT(CAgentServicesFactory)
 
-  // A new entry object with no schema directory yet; the caller owns it and deletes it.
+  // A new entry object with no schema directory yet; the caller owns it and deletes it. What it has
+  // parsed outlives it.
   // Throws as::CASException: "AgentServices: Unable to initialise the Xerces XML parser" when the
   // XML parser could not be started as the library was loaded, "AgentServices: An error occurred
   // the AgentServices processor" on any other failure.
@@ -27,7 +29,11 @@ class AS_EXPORT CAgentServicesFactory {
 
   // A new, empty service definition of a flavour for `program`, to be extended through its
   // operations and written with Serialize(). The caller owns the service; the service owns the
-  // program from now on. Null for a null program.
+  // program from now on, and deletes it with itself. Null for a null program.
+  // The service has no name yet. Its attributes "implementation", "programName" and
+  // "dataDictFilename" are written: the flavour, the program's name, and the file name or buffer
+  // identifier that the program was read under, from behind its last "/" on.
+  // REQUIRES: the program belongs to no service yet.
   // Throws as::CASException: "AgentServices: Unable to initialise the Xerces XML parser", or
   // "AgentServices: An error occurred during service initialisaton" on any other failure; the
   // program is still the caller's then.
@@ -40,14 +46,25 @@ class AS_EXPORT CAgentServicesFactory {
   static IDotNET* NewDotNETService(IProgram* program);
 
   // Writes the whole document of `service` to the file named `file`, in place of what that held, as
-  // indented XML 1.0 in UTF-8. The indentation is put into the document itself and stays there; a
-  // second time changes nothing more. A file that cannot be opened or written is left so without a
-  // word: to handle such errors use SerializeToString() and write the text yourself.
+  // indented XML 1.0 in UTF-8, whatever it was read as. Comments and processing instructions are
+  // written; a DOCTYPE is not, the text of its entities stands in their places. The indentation is
+  // put into the document itself and stays there; a second time changes nothing more.
+  //
+  // A file that cannot be opened or written (a null name counts as an empty one) is passed over
+  // without a word, and one that can be written only in part is left so: to handle such errors use
+  // SerializeToString() and write the text yourself.
+  //
   // Throws as::CASException, "AgentServices: An error occurred serializing the XML to file "
-  // followed by the name, for a null service and on any failure to make the text.
+  // followed by the name, and leaves the file as it was, for a null service and when no text can be
+  // made: when the document holds a character that XML cannot hold (see as::IElement) or elements
+  // nested deeper than the 2,048 levels that can be read.
+  //
+  // Nothing is validated; an operation that can write what the schemas refuse to read says so.
+  //
+  // The service stays the caller's. A program cannot be written: dictionaries are only read.
   static void Serialize(IService* service, const char* file);
 
-  // The same text, given back instead of written. Throws the same with an empty name.
+  // The same text, given back instead of written. Throws the same, with nothing for the name.
   static std::string SerializeToString(IService* service);
 };
 

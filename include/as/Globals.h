@@ -11,6 +11,8 @@ XERCES_CPP_NAMESPACE_BEGIN
 class XMLTranscoder;
 XERCES_CPP_NAMESPACE_END
 
+// Clients read these; only the library writes them.
+
 // 1 when the XML parser was started as the library was loaded, 0 when that failed.
 extern AS_EXPORT int nXercesInitStatus;
 
@@ -18,8 +20,9 @@ extern AS_EXPORT int nXercesInitStatus;
 // running. Not guarded by a lock: one thread at a time.
 extern AS_EXPORT XERCES_CPP_NAMESPACE_QUALIFIER XMLTranscoder* gUTF8Transcoder;
 
-// The key of the DOM user data that binds every wrapped element to its wrapper, and the document
-// to the root's.
+// The key of the DOM user data that binds every wrapped element to its wrapper, and the document to
+// the root's. The data is a pointer to a class of the library's inside: a client can tell by it
+// that an element is wrapped, and must not replace it.
 extern AS_EXPORT const XMLCh APIDATA_KEY[];
 
 #endif  // AS_GLOBALS_H_

@@ -17,7 +17,7 @@ class AS_EXPORT IAlphanumeric : virtual public IDataItem {
   ~IAlphanumeric() override;
   AS_RTTI(IAlphanumeric)
 
-  // Attribute "justified": JUSTIFIED_RIGHT for "right", else JUSTIFIED_LEFT.
+  // Attribute "justified": JUSTIFIED_RIGHT for "right", else JUSTIFIED_LEFT, also when absent.
   virtual int getJustification() = 0;
 };
 

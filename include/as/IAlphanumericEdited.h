@@ -1,4 +1,5 @@
-// An alphanumeric edited item. Dictionaries hold none yet: the builder accepts no such element.
+// An alphanumeric edited item. Dictionaries hold none: a document with an "alphanumericEdited"
+// element is refused.
 #ifndef AS_IALPHANUMERICEDITED_H_
 #define AS_IALPHANUMERICEDITED_H_
 
@@ -6,7 +7,7 @@
 
 namespace as {
 
-// Has no operations of its own.
+// Has no operations of its own. No object of the model casts to this interface.
 class AS_EXPORT IAlphanumericEdited : virtual public IDataItem {
  public:
   ~IAlphanumericEdited() override;

@@ -25,10 +25,10 @@ class AS_EXPORT ICOMField : virtual public IField {
   ~ICOMField() override;
   AS_RTTI(ICOMField)
 
-  // Attribute "dataType", one of TYPE, of the definition when there is a reference to a parameter
-  // type definition. The text is the type's name in small letters ("currency"). COM_OBJECT when
-  // absent or empty, COM_STRING for every other text. The text "object" is not recognised: it
-  // reads as COM_STRING.
+  // Attribute "dataType", one of TYPE, of the definition at the end of the chain when there is a
+  // reference (see as::IField). The text is the type's name in small letters ("currency").
+  // COM_OBJECT when absent or empty, COM_STRING for every other text. The text "object" is not
+  // recognised: it reads as COM_STRING.
   virtual TYPE getType() = 0;
 
   // Writes attribute "dataType" of the element itself, reference or not; "string" for a value that

@@ -12,9 +12,9 @@ class AS_EXPORT ICOMParameter : virtual public IParameter, virtual public ICOMFi
   ~ICOMParameter() override;
   AS_RTTI(ICOMParameter)
 
-  // Attribute "returnParameter": the parameter is the operation's return value. True for "1",
-  // which the setter writes, and for "true" in any case; false for anything else, also when
-  // absent.
+  // Attribute "returnParameter" of the element itself, reference or not: the parameter is the
+  // operation's return value. True for "1", which the setter writes, and for "true" in any case;
+  // false for anything else, also when absent.
   virtual bool isReturnParameter() = 0;
 
   // Writes "1" for true, "0" for false. The operation's other parameters keep their flags.

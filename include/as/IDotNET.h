@@ -7,7 +7,8 @@
 namespace as {
 
 // Has no operations of its own. The service of a .NET document casts to this interface, the
-// services of the other flavours do not. Its operations are as::IDotNETOperation objects, its
+// services of the other flavours do not: neither does a new .NET service once it is written and
+// read, which makes it a Web service. Its operations are as::IDotNETOperation objects, its
 // parameters and fields as::IDotNETParameter objects.
 class AS_EXPORT IDotNET : virtual public IService {
  public:

@@ -29,16 +29,16 @@ class AS_EXPORT IDotNETField : virtual public IField {
   ~IDotNETField() override;
   AS_RTTI(IDotNETField)
 
-  // Attribute "dataType", one of TYPE, of the definition when there is a reference to a parameter
-  // type definition. The text is the framework's own name of the type ("SByte", "UInt16"); letter
-  // case counts. NET_BYTE when absent or of any other text.
+  // Attribute "dataType", one of TYPE, of the definition at the end of the chain when there is a
+  // reference (see as::IField). The text is the framework's own name of the type ("SByte",
+  // "UInt16"); letter case counts. NET_BYTE when absent or of any other text.
   virtual TYPE getType() = 0;
 
   // The framework's name of getType(); never empty.
   virtual std::string getTypeToString() = 0;
 
-  // Writes attribute "dataType" of the element itself, reference or not. Aborts the process for a
-  // value that is no enumerator.
+  // Writes attribute "dataType" of the element itself, reference or not.
+  // REQUIRES: `type` is an enumerator. Else the process is aborted.
   virtual void setType(TYPE type) = 0;
 };
 

@@ -11,22 +11,35 @@ namespace as {
 // A model object is a thin wrapper around one element of a document. It holds no copy of the
 // document's data: every getter reads the element when it is called, every setter writes it.
 //
-// Ownership: a client owns only the roots that it was given (a program, a service) and deletes
-// only those. Everything reached from a root lives exactly as long as the root; never delete it.
+// Ownership: a client owns only the roots that it was given (a program, a service) and deletes only
+// those, before the library is unloaded. Everything reached from a root lives exactly as long as
+// the root; never delete it.
 //
-// Text is UTF-8 throughout. Objects of one document must not be used by two threads at a time.
+// Threads: the library serves one thread at a time, process-wide, since every conversion of text
+// goes through one shared transcoder. Two threads with a document each have to take turns too.
+//
+// Text is UTF-8; a text returned is a copy. A text given to an operation ends at its first zero
+// byte; each byte of it that is no part of well-formed UTF-8 becomes U+FFFD; a null text counts as
+// an empty one. Nothing else is checked: a setter also takes characters that XML cannot hold (most
+// control characters, U+FFFE, U+FFFF), and its getter gives them back, but the document cannot be
+// written while it holds one (see CAgentServicesFactory::Serialize).
+//
+// Where an interface says nothing else, its operations throw nothing, unless memory runs out.
 class AS_EXPORT IElement {
  public:
   virtual ~IElement();
 
-  // The pointer that the client stored with setUserData; null before that.
+  // The pointer that the client stored with setUserData, through whichever interface of the object;
+  // null before that.
   virtual void* getUserData() = 0;
 
-  // Stores a pointer of the client's. The library neither reads nor releases what it points to.
+  // Stores a pointer of the client's. The library neither reads nor releases what it points to, and
+  // does not write it to the document.
   virtual void setUserData(void* data) = 0;
 
-  // The value of the element's attribute `name`; empty when there is no such attribute (which
-  // cannot be told from an empty one) and when name is null.
+  // The value of the element's own attribute `name`, with its prefix if it has one
+  // ("xsi:schemaLocation"); empty when there is no such attribute (which cannot be told from an
+  // empty one) and when name is null or empty.
   virtual std::string getAttributeValue(const char* name) = 0;
 
   AS_RTTI_ROOT(IElement)

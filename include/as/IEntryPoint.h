@@ -6,7 +6,8 @@
 
 namespace as {
 
-// The members are as::ILinkageItem objects, in the order of the call.
+// The members are as::ILinkageItem objects, in the order of the call; the list is empty for an
+// entry point without parameters.
 class AS_EXPORT IEntryPoint : virtual public IList {
  public:
   ~IEntryPoint() override;
@@ -15,8 +16,8 @@ class AS_EXPORT IEntryPoint : virtual public IList {
   // Attribute "name"; empty when absent.
   virtual std::string getName() = 0;
 
-  // Attribute "callConvention": the number of the calling convention, handed through as it
-  // stands; 0 when absent or no number.
+  // Attribute "callConvention": the number of the calling convention, handed through as it stands;
+  // 0 when absent or no number.
   virtual int getCallConv() = 0;
 };
 

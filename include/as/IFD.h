@@ -24,8 +24,8 @@ class AS_EXPORT IFD : virtual public IElement {
   // getAttributeValue("organization") for the word in the document.
   virtual int getOrganization() = 0;
 
-  // The file's records, as::IDataItem objects. Unlike the lists of a program this is null when
-  // the file has none.
+  // The file's records, as::IDataItem objects. Unlike the lists of a program this is null when the
+  // file has no "dataItems" section; an empty section reads as an empty list. The file keeps it.
   virtual IList* getDataItems() = 0;
 };
 

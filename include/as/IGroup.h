@@ -12,7 +12,7 @@ class AS_EXPORT IGroup : virtual public IDataItem {
   AS_RTTI(IGroup)
 
   // The data items that the group holds, as::IDataItem objects, in document order; never null,
-  // possibly empty. Condition names are no members.
+  // possibly empty. Condition names are no members: see getConditions(). The group keeps the list.
   virtual IList* getChildren() = 0;
 };
 

@@ -8,6 +8,7 @@
 
 namespace as {
 
+// Its data item is set and read as that of any mapping.
 class AS_EXPORT IHiddenParameter : virtual public IMapping {
  public:
   ~IHiddenParameter() override;
@@ -17,7 +18,7 @@ class AS_EXPORT IHiddenParameter : virtual public IMapping {
   // data item.
   virtual std::string getValue() = 0;
 
-  // Null counts as an empty text.
+  // Writes the attribute. What setters do with texts is told with as::IElement.
   virtual void setValue(const char* value) = 0;
 };
 

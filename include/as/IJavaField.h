@@ -25,10 +25,10 @@ class AS_EXPORT IJavaField : virtual public IField {
   ~IJavaField() override;
   AS_RTTI(IJavaField)
 
-  // Attribute "dataType", one of TYPE, of the definition when there is a reference to a parameter
-  // type definition. The text is Java's own name of the type ("short", "BigDecimal", "String"),
-  // "byteArray" for JAVA_BYTE_ARRAY; letter case counts. JAVA_SHORT when absent or of any other
-  // text.
+  // Attribute "dataType", one of TYPE, of the definition at the end of the chain when there is a
+  // reference (see as::IField). The text is Java's own name of the type ("short", "BigDecimal",
+  // "String"), "byteArray" for JAVA_BYTE_ARRAY; letter case counts. JAVA_SHORT when absent or of
+  // any other text.
   virtual TYPE getType() = 0;
 
   // Writes attribute "dataType" of the element itself, reference or not; a value that is no

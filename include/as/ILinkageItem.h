@@ -24,8 +24,8 @@ class AS_EXPORT ILinkageItem : virtual public IElement {
   virtual int getByType() = 0;
 
   // The data item that attribute "dataItem" names: the first of that name among the program's
-  // top-level items; null when there is none. Items inside groups and items of the file section
-  // are never found.
+  // top-level items; null when there is none. Items inside groups and items of the file section are
+  // never found. Names are compared exactly, letter case included. The program keeps the item.
   virtual IDataItem* getDataItem() = 0;
 };
 

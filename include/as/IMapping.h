@@ -10,11 +10,11 @@ namespace as {
 
 class IDataItem;
 
-// Attribute "item" holds the dotted path of the data item from the record down, with the
-// subscripts of the tables on the way behind it in parentheses: "RECORD.GROUP.ITEM(2,*)". Or it is
-// one of four special names. Attribute "subscript" holds the subscripts on the interface's side.
-// Subscripts are separated by commas, outermost table first; each is a decimal integer, or "*" for
-// all occurrences.
+// Attribute "item" holds the dotted path of the data item from the record down, with the subscripts
+// of the tables on the way behind it in parentheses: "RECORD.GROUP.ITEM(2,*)". Or it is one of four
+// special names. Attribute "subscript" holds the subscripts on the interface's side. Subscripts are
+// separated by commas, outermost table first; each is a decimal integer, or "*" for all
+// occurrences.
 class AS_EXPORT IMapping : virtual public IElement {
  public:
   // What getType() answers.
@@ -33,23 +33,25 @@ class AS_EXPORT IMapping : virtual public IElement {
   AS_RTTI(IMapping)
 
   // The data item that "item" names in the service's program; subscripts do not matter, and the
-  // first match in document order wins at every level of the path. Null when nothing is found,
-  // for a special name, and always while the service has no program. The program keeps it.
+  // first match in document order wins at every level of the path (of several items called FILLER
+  // in a group, say). Items of the file section are never found. Null when nothing is found, for a
+  // special name, and always while the service has no program. The program keeps it.
   virtual IDataItem* getDataItem() = 0;
 
-  // Maps to `item`: writes its path to "item". For an item in one or more tables (its own OCCURS
-  // counts), "*" for each of them goes behind the path and to "subscript". For any other item
-  // "subscript" stays as it was, neither removed nor cleared: it may hold the list of an earlier
-  // table item. Null writes nothing.
-  // An item in more than 16 tables is written like any other, but no schema of services takes so
-  // many subscripts: such a document is not read back.
+  // Maps to `item`: writes its path to "item". Only the path is kept: `item` may be of any program,
+  // but only a data item of the service's program is found again by it, no record of a file. For an
+  // item in one or more tables (its own OCCURS counts), "*" for each of them goes behind the path
+  // and to "subscript". For any other item "subscript" stays as it was, neither removed nor
+  // cleared: it may hold the list of an earlier table item. Null writes nothing. An item in more
+  // than 16 tables is written like any other, but no schema of services takes so many subscripts:
+  // such a document is not read back.
   virtual void setDataItem(IDataItem* item) = 0;
 
   // The subscripts in "subscript". Sets the first 16 entries of `subscripts` to -1, then stores
   // each number in its entry; a "*" stays -1. Returns how many there are, each "*" counted.
-  // `subscripts` must have room for 16 entries; more than 16 are counted but not stored.
-  // 0 when the attribute is absent or empty, for a null `subscripts`, and when a subscript is
-  // neither "*" nor a number; the entries before that one are stored then all the same.
+  // `subscripts` must have room for 16 entries; more than 16 are counted but not stored. 0 when the
+  // attribute is absent or empty, for a null `subscripts`, and when a subscript is neither "*" nor
+  // a number; the entries before that one are stored then all the same.
   virtual int getInterfaceSubscripts(int* subscripts) = 0;
 
   // The same for the subscripts in parentheses in "item"; 0 also when it has none, or when its
@@ -64,8 +66,8 @@ class AS_EXPORT IMapping : virtual public IElement {
   virtual std::string getRawMapping() = 0;
 
   // By the whole text of "item": MAP_COMMAND_LINE for "$command_line", MAP_RETURN_CODE for
-  // "$return_code", MAP_STDIN for "$stdin", MAP_STDOUT for "$stdout", else MAP_DATA_ITEM, also
-  // when absent.
+  // "$return_code", MAP_STDIN for "$stdin", MAP_STDOUT for "$stdout", else MAP_DATA_ITEM, also when
+  // absent. Letter case counts. No operation writes a special name.
   virtual TYPE getType() = 0;
 };
 

@@ -17,7 +17,7 @@ class AS_EXPORT INational : virtual public IDataItem {
   ~INational() override;
   AS_RTTI(INational)
 
-  // Attribute "usage": USAGE_UNICODE for "unicode", else USAGE_DISPLAY.
+  // Attribute "usage": USAGE_UNICODE for "unicode", else USAGE_DISPLAY, also when absent.
   virtual int getUsage() = 0;
 };
 

@@ -35,16 +35,19 @@ class AS_EXPORT INumeric : virtual public IDataItem {
   ~INumeric() override;
   AS_RTTI(INumeric)
 
-  // Attribute "usage", one of USAGE; USAGE_DISPLAY when absent or of no other known text.
+  // Attribute "usage", one of USAGE, by "comp", "comp-x", "comp-1" to "comp-6" and "externalFloat";
+  // USAGE_DISPLAY for any other text ("display"), also when absent.
   virtual int getUsage() = 0;
 
-  // Attribute "sign", one of SIGN; SIGN_NONE when absent or of no other known text.
+  // Attribute "sign", one of SIGN: SIGN_LEADING for "li", SIGN_LEADING_SEPARATE for "ls",
+  // SIGN_TRAILING for "ti", SIGN_TRAILING_SEPARATE for "ts", and SIGN_SIGNED for "true" (signed,
+  // where the usage keeps the sign); SIGN_NONE for any other text ("false"), also when absent.
   virtual int getSign() = 0;
 
-  // Attribute "digits": how many digits the item holds.
+  // Attribute "digits": how many digits the item holds; 0 when absent, as for COMP-1 and COMP-2.
   virtual int getDigits() = 0;
 
-  // Attribute "alignment": how many of the digits stand after the decimal point.
+  // Attribute "alignment": how many of the digits stand after the decimal point; 0 when absent.
   virtual int getAlignment() = 0;
 };
 

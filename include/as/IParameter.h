@@ -27,9 +27,9 @@ class AS_EXPORT IParameter : virtual public IField {
   // Writes attribute "byType": "in", "out", and "io" for every other value.
   virtual void setByType(BY_TYPE byType) = 0;
 
-  // The parameter type definition that attribute "ref" names, the first of that name; null when
-  // the attribute is absent or empty or the service has no such definition. Resolved once, when
-  // the object is made: what changes in the document later does not change it.
+  // The parameter type definition that attribute "ref" names, the nearest of a chain (see
+  // as::IField); null when the attribute is absent or empty or finds none. Resolved once, when the
+  // document is read: what changes later does not change it. No operation makes a reference.
   virtual IParameter* getReferenceType() = 0;
 };
 

@@ -33,7 +33,7 @@ class AS_EXPORT IWSFault : virtual public IElement {
   // Attribute "namespace"; empty when absent.
   virtual std::string getNamespace() = 0;
 
-  // Null counts as an empty text.
+  // Writes the attribute. What setters do with texts is told with as::IElement.
   virtual void setNamespace(const char* uri) = 0;
 
   // Attribute "use": USE_LITERAL for "literal", USE_ENCODED for "encoded", else -1, which is no

@@ -13,8 +13,9 @@ class IWSParameter;
 // All model objects that have this interface are as::IWSParameter objects too; the setters of
 // namespace and forms are there.
 //
-// With a reference to a parameter type definition (attribute "ref") every getter here answers for
-// the definition, while the setters write to the element itself.
+// With a reference to a parameter type definition (attribute "ref", see as::IField) every getter
+// here answers for a definition: getNamespace() for the nearest one, all others for the one at the
+// end of the chain. The setters write to the element itself.
 class AS_EXPORT IWSField : virtual public IField {
  public:
   // The data type: the built-in types of XML Schema, a repeated group and an XML fragment.
@@ -45,15 +46,17 @@ class AS_EXPORT IWSField : virtual public IField {
   ~IWSField() override;
   AS_RTTI(IWSField)
 
-  // Attribute "dataType", one of TYPE: XML Schema's own name of the type ("unsignedByte"),
-  // "Array" or "XML". Compared exactly; -1, which is no enumerator, when absent or of any other
-  // text.
+  // Attribute "dataType", one of TYPE: XML Schema's own name of the type ("unsignedByte"), "Array"
+  // or "XML". Compared exactly; -1, which is no enumerator, when absent or of any other text: also
+  // for the types of new .NET services, which the schema lets stand here ("Int32").
   virtual TYPE getType() = 0;
 
-  // The text of "dataType" for getType(). Aborts the process when that is -1: ask it first.
+  // The text of "dataType" for getType().
+  // REQUIRES: getType() is not -1. Else the process is aborted: ask it first.
   virtual std::string getTypeToString() = 0;
 
-  // Writes attribute "dataType". Aborts the process for a value that is no enumerator.
+  // Writes attribute "dataType" of the element itself.
+  // REQUIRES: `type` is an enumerator. Else the process is aborted, also by -1 from getType().
   virtual void setType(TYPE type) = 0;
 
   // The field attributes, as::IWSParameter objects, in document order; never null. They are values
@@ -64,19 +67,20 @@ class AS_EXPORT IWSField : virtual public IField {
   // service keeps it. Null, and nothing changes, when there is a reference. A null name counts as
   // an empty one.
   // REQUIRES: the object is no field attribute itself. Those hold mappings only: a document in
-  // which one holds fields or field attributes is not read back.
+  // which one holds fields or field attributes is not read back. (The same holds for addField.)
+  // With a "ref" that finds nothing the field attributes are shown all the same, read or added.
   virtual IWSParameter* addFieldAttribute(const char* name) = 0;
 
   // For a "parameter" element: attribute "namespace"; empty when absent.
   // For any other element (a field, a field attribute): always empty, whatever its own attribute
   // says; such an element has a namespace only through a reference.
-  // With a reference, both: attribute "namespace" of the definition.
+  // With a reference, both: attribute "namespace" of the nearest definition.
   virtual std::string getNamespace() = 0;
 
   // For a "parameter" element: attribute "elementForm", FORM_QUALIFIED for "qualified",
   // FORM_UNQUALIFIED for "unqualified", else -1, which is no enumerator.
   // For any other element: always -1, whatever its own attribute says.
-  // With a reference, both: what the definition answers.
+  // With a reference, both: that of the definition at the end of the chain.
   virtual FORM getElementForm() = 0;
 
   // The same by attribute "attributeForm".

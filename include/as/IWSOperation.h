@@ -13,7 +13,7 @@ class IWSFault;
 
 // The getters of uses and style answer -1, which is no enumerator, when the attribute is absent or
 // of no known text (letter case counts). Their setters write nothing for a value that is no
-// enumerator. A null text given to a setter counts as an empty one.
+// enumerator. What setters do with texts is told with as::IElement.
 class AS_EXPORT IWSOperation : virtual public IOperation {
  public:
   // How a message is encoded.
@@ -37,8 +37,9 @@ class AS_EXPORT IWSOperation : virtual public IOperation {
   // The faults, as::IWSFault objects, in document order; never null.
   virtual IList* getFaults() = 0;
 
-  // Adds a header with that direction behind all children of the operation and returns it; the
-  // service keeps it. It has no parameters yet. Works on parsed documents as on new ones.
+  // Adds a header with that direction ("io" for a value that is no enumerator) behind all children
+  // of the operation and returns it; the service keeps it. It has no parameters yet. Works on
+  // parsed documents as on new ones.
   virtual IWSHeader* addHeader(IWSHeader::BY_TYPE byType) = 0;
 
   // The same for a fault, which has no direction.

@@ -21,18 +21,19 @@ class AS_EXPORT IWSParameter : virtual public IParameter, virtual public IWSFiel
   ~IWSParameter() override;
   AS_RTTI(IWSParameter)
 
-  // Attribute "namespace", of the definition when there is a reference; empty when absent.
+  // Attribute "namespace", of the nearest definition when there is a reference; empty when absent.
   virtual std::string getNamespaceForParam() = 0;
 
-  // See IWSField. The body here is a stand-in that answers an empty text; objects of the model
-  // have their own.
+  // See IWSField. The body here is a stand-in that answers an empty text; objects of the model have
+  // their own.
   std::string getNamespace() override;
 
-  // Null counts as an empty text.
+  // Writes attribute "namespace". What setters do with texts is told with as::IElement.
   virtual void setNamespace(const char* uri) = 0;
 
   // Attribute "elementForm": FORM_QUALIFIED for "qualified", FORM_UNQUALIFIED for "unqualified",
-  // else -1, which is no enumerator. With a reference what the definition's answers.
+  // else -1, which is no enumerator. With a reference that of the definition at the end of the
+  // chain.
   virtual FORM getElementFormForParam() = 0;
 
   // See IWSField. The body here is a stand-in that answers -1; objects of the model have their own.

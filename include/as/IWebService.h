@@ -7,8 +7,9 @@
 namespace as {
 
 // Has no operations of its own. The service of a Web service document casts to this interface, the
-// services of the other flavours do not. Its operations are as::IWSOperation objects, its
-// parameters and fields as::IWSParameter objects.
+// services of the other flavours do not. It is one by its namespace, whatever getImplementation()
+// answers. Its operations are as::IWSOperation objects, its parameters and fields as::IWSParameter
+// objects.
 class AS_EXPORT IWebService : virtual public IService {
  public:
   ~IWebService() override;
