@@ -11,11 +11,6 @@ constexpr WordCode justifications[] = {{DD::right, as::IAlphanumeric::JUSTIFIED_
 
 }  // namespace
 
-CAlphanumericImpl::CAlphanumericImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), CDataItemImpl(element) {}
-
-CAlphanumericImpl::~CAlphanumericImpl() = default;
-
 int CAlphanumericImpl::getJustification() {
   return codeOfWord(justifications, wide(DD::justified), JUSTIFIED_LEFT);
 }

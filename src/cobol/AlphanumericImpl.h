@@ -7,8 +7,8 @@
 
 class CAlphanumericImpl : virtual public as::IAlphanumeric, virtual public CDataItemImpl {
  public:
-  explicit CAlphanumericImpl(xercesc::DOMElement* element);
-  ~CAlphanumericImpl() override;
+  explicit CAlphanumericImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), CDataItemImpl(element) {}
   AS_IDENTITY(CAlphanumericImpl)
 
   int getJustification() override;

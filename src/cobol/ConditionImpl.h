@@ -8,8 +8,7 @@
 // Every child element is one of its values.
 class CConditionImpl : virtual public as::ICondition, virtual public CList {
  public:
-  explicit CConditionImpl(xercesc::DOMElement* element);
-  ~CConditionImpl() override;
+  explicit CConditionImpl(xercesc::DOMElement* element) : CElementImpl(element), CList(element) {}
   AS_IDENTITY(CConditionImpl)
 
   std::string getName() override;

@@ -14,10 +14,6 @@ constexpr WordCode types[] = {
 
 }  // namespace
 
-CConditionValueImpl::CConditionValueImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
-
-CConditionValueImpl::~CConditionValueImpl() = default;
-
 int CConditionValueImpl::getType() {
   return codeOfWord(types, getElement()->getLocalName(), TYPE_RANGE);
 }

@@ -9,8 +9,7 @@
 // The wrapper is no public base: a value is reached through its interface, or through RTTI_cast.
 class CConditionValueImpl : virtual public as::IConditionValue, virtual private CElementImpl {
  public:
-  explicit CConditionValueImpl(xercesc::DOMElement* element);
-  ~CConditionValueImpl() override;
+  explicit CConditionValueImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
   AS_IDENTITY(CConditionValueImpl)
 
   int getType() override;

@@ -26,11 +26,6 @@ constexpr WordCode dataTypes[] = {
 
 }  // namespace
 
-CDataItemImpl::CDataItemImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), conditions_(element) {}
-
-CDataItemImpl::~CDataItemImpl() = default;
-
 int CDataItemImpl::getDataType() {
   return codeOfWord(dataTypes, getElement()->getLocalName(), TYPE_ALPHANUMERIC);
 }

@@ -10,8 +10,8 @@ class CGroupImpl;
 
 class CDataItemImpl : virtual public as::IDataItem, virtual public CElementImpl {
  public:
-  explicit CDataItemImpl(xercesc::DOMElement* element);
-  ~CDataItemImpl() override;
+  explicit CDataItemImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), conditions_(element) {}
   AS_IDENTITY(CDataItemImpl)
 
   int getDataType() override;

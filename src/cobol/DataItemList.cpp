@@ -11,8 +11,6 @@ CDataItemList::CDataItemList(xercesc::DOMElement* element, CGroupImpl* group)
   setFilter(&CDataItemNodeFilter::filter);
 }
 
-CDataItemList::~CDataItemList() = default;
-
 void CDataItemList::onAddChild(CElementImpl* child) {
   auto* const pDataItem = as::interface_cast<CDataItemImpl>(child);
   AS_ASSERT(pDataItem, "DataItemImpl");

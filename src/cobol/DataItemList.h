@@ -19,13 +19,11 @@ class CDataItemList : virtual public as::IList, virtual public CList {
   // `group` is the group that the list is a member of, and whose element stays bound to it; null
   // for the list of a section or a file, which wraps an element of its own.
   CDataItemList(xercesc::DOMElement* element, CGroupImpl* group);
-  ~CDataItemList() override;
   AS_IDENTITY(CDataItemList)
 
   // Makes the list's group the parent of the data item. Anything but a data item is a programming
   // error that ends the process.
   void onAddChild(CElementImpl* child) override;
-  using CList::setFilter;
 
  private:
   CGroupImpl* group_;

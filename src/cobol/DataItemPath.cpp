@@ -3,24 +3,18 @@
 #include <cstddef>
 
 #include "as/IGroup.h"
-#include "cobol/DDVocabulary.h"
-#include "xml/List.h"
+#include "cobol/NamedItems.h"
 #include "xml/XStr.h"
 
 namespace {
 
 using Components = std::vector<CXStr>;
 
-// Follows the components from number `at` on through `items`. Names are compared where they stand
-// in the document: a service resolves thousands of paths against thousands of items.
+// Follows the components from number `at` on through `items`.
 as::IDataItem* follow(Components& components, std::size_t at, as::IList* items) {
-  auto* const list = as::interface_cast<CList>(items);
-  if (list == nullptr) return nullptr;
   const bool isLast = at + 1 == components.size();
-  const XMLCh* const wanted = components[at];
-  for (int i = list->find(DD::name, wanted); i >= 0; i = list->find(DD::name, wanted, i + 1)) {
-    auto* const item = as::interface_cast<as::IDataItem>(list->getElement(i));
-    if (item == nullptr) continue;
+  NamedItems<as::IDataItem> named(items, components[at]);
+  while (as::IDataItem* const item = named.next()) {
     if (isLast) return item;
     // An item that is no group cannot lead on, but one of the same name behind it may.
     auto* const group = as::interface_cast<as::IGroup>(item);

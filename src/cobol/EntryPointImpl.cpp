@@ -4,11 +4,6 @@
 
 AS_DEFINE_IDENTITY2(CEntryPointImpl, as::IEntryPoint, CList)
 
-CEntryPointImpl::CEntryPointImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), CList(element) {}
-
-CEntryPointImpl::~CEntryPointImpl() = default;
-
 std::string CEntryPointImpl::getName() { return text(DD::name); }
 
 int CEntryPointImpl::getCallConv() { return integer(DD::callConvention); }

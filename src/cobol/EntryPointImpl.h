@@ -7,8 +7,7 @@
 
 class CEntryPointImpl : virtual public as::IEntryPoint, virtual public CList {
  public:
-  explicit CEntryPointImpl(xercesc::DOMElement* element);
-  ~CEntryPointImpl() override;
+  explicit CEntryPointImpl(xercesc::DOMElement* element) : CElementImpl(element), CList(element) {}
   AS_IDENTITY(CEntryPointImpl)
 
   std::string getName() override;

@@ -4,10 +4,6 @@
 
 AS_DEFINE_IDENTITY2(CFDImpl, as::IFD, CElementImpl)
 
-CFDImpl::CFDImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
-
-CFDImpl::~CFDImpl() = default;
-
 std::string CFDImpl::getName() { return text(DD::name); }
 
 int CFDImpl::getAccessMode() { return 1; }

@@ -8,8 +8,7 @@
 
 class CFDImpl : virtual public as::IFD, virtual public CElementImpl {
  public:
-  explicit CFDImpl(xercesc::DOMElement* element);
-  ~CFDImpl() override;
+  explicit CFDImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
   AS_IDENTITY(CFDImpl)
 
   std::string getName() override;

@@ -8,8 +8,8 @@
 
 class CGroupImpl : virtual public as::IGroup, virtual public CDataItemImpl {
  public:
-  explicit CGroupImpl(xercesc::DOMElement* element);
-  ~CGroupImpl() override;
+  explicit CGroupImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), CDataItemImpl(element), children_(element, this) {}
   AS_IDENTITY(CGroupImpl)
 
   as::IList* getChildren() override;

@@ -1,7 +1,8 @@
 #include "cobol/LinkageItemImpl.h"
 
+#include "as/IDataItem.h"
 #include "cobol/DDVocabulary.h"
-#include "cobol/DataItemImpl.h"
+#include "cobol/NamedItems.h"
 #include "cobol/ProgramImpl.h"
 #include "xml/WordTable.h"
 
@@ -16,20 +17,11 @@ constexpr WordCode byTypes[] = {
 
 }  // namespace
 
-CLinkageItemImpl::CLinkageItemImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
-
-CLinkageItemImpl::~CLinkageItemImpl() = default;
-
 int CLinkageItemImpl::getByType() { return codeOfWord(byTypes, wide(DD::byType), BY_REFERENCE); }
 
 as::IDataItem* CLinkageItemImpl::getDataItem() {
   auto* const program = as::interface_cast<CProgramImpl>(rootOf(getElement()));
   if (program == nullptr) return nullptr;
   // The top level only: what can be handed over at a call are whole records.
-  auto* const items = as::interface_cast<CList>(program->getDataItems());
-  const XMLCh* const name = wide(DD::dataItem);
-  for (int i = items->find(DD::name, name); i >= 0; i = items->find(DD::name, name, i + 1)) {
-    if (auto* const item = as::interface_cast<as::IDataItem>(items->getElement(i))) return item;
-  }
-  return nullptr;
+  return NamedItems<as::IDataItem>(program->getDataItems(), wide(DD::dataItem)).next();
 }

@@ -7,8 +7,7 @@
 
 class CLinkageItemImpl : virtual public as::ILinkageItem, virtual public CElementImpl {
  public:
-  explicit CLinkageItemImpl(xercesc::DOMElement* element);
-  ~CLinkageItemImpl() override;
+  explicit CLinkageItemImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
   AS_IDENTITY(CLinkageItemImpl)
 
   int getByType() override;

@@ -11,9 +11,4 @@ constexpr WordCode usages[] = {{DD::unicode, as::INational::USAGE_UNICODE}};
 
 }  // namespace
 
-CNationalImpl::CNationalImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), CDataItemImpl(element) {}
-
-CNationalImpl::~CNationalImpl() = default;
-
 int CNationalImpl::getUsage() { return codeOfWord(usages, wide(DD::usage), USAGE_DISPLAY); }

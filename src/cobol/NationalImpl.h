@@ -7,8 +7,8 @@
 
 class CNationalImpl : virtual public as::INational, virtual public CDataItemImpl {
  public:
-  explicit CNationalImpl(xercesc::DOMElement* element);
-  ~CNationalImpl() override;
+  explicit CNationalImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), CDataItemImpl(element) {}
   AS_IDENTITY(CNationalImpl)
 
   int getUsage() override;

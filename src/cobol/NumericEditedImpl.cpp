@@ -4,11 +4,6 @@
 
 AS_DEFINE_IDENTITY2(CNumericEditedImpl, as::INumericEdited, CDataItemImpl)
 
-CNumericEditedImpl::CNumericEditedImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), CDataItemImpl(element) {}
-
-CNumericEditedImpl::~CNumericEditedImpl() = default;
-
 int CNumericEditedImpl::getDigits() { return integer(DD::digits); }
 
 bool CNumericEditedImpl::isBlankWhenZero() { return truth(DD::blankWhenZero); }

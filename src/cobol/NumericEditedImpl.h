@@ -7,8 +7,8 @@
 
 class CNumericEditedImpl : virtual public as::INumericEdited, virtual public CDataItemImpl {
  public:
-  explicit CNumericEditedImpl(xercesc::DOMElement* element);
-  ~CNumericEditedImpl() override;
+  explicit CNumericEditedImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), CDataItemImpl(element) {}
   AS_IDENTITY(CNumericEditedImpl)
 
   int getDigits() override;

@@ -19,18 +19,17 @@ constexpr WordCode usages[] = {
     {DD::externalFloat, as::INumeric::USAGE_EXTERNAL_FLOAT},
 };
 
+// clang-format off
 constexpr WordCode signs[] = {
-    {DD::li, as::INumeric::SIGN_LEADING},   {DD::ls, as::INumeric::SIGN_LEADING_SEPARATE},
-    {DD::ti, as::INumeric::SIGN_TRAILING},  {DD::ts, as::INumeric::SIGN_TRAILING_SEPARATE},
+    {DD::li, as::INumeric::SIGN_LEADING},
+    {DD::ls, as::INumeric::SIGN_LEADING_SEPARATE},
+    {DD::ti, as::INumeric::SIGN_TRAILING},
+    {DD::ts, as::INumeric::SIGN_TRAILING_SEPARATE},
     {DD::true_, as::INumeric::SIGN_SIGNED},
 };
+// clang-format on
 
 }  // namespace
-
-CNumericImpl::CNumericImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), CDataItemImpl(element) {}
-
-CNumericImpl::~CNumericImpl() = default;
 
 int CNumericImpl::getUsage() { return codeOfWord(usages, wide(DD::usage), USAGE_DISPLAY); }
 

@@ -7,8 +7,8 @@
 
 class CNumericImpl : virtual public as::INumeric, virtual public CDataItemImpl {
  public:
-  explicit CNumericImpl(xercesc::DOMElement* element);
-  ~CNumericImpl() override;
+  explicit CNumericImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), CDataItemImpl(element) {}
   AS_IDENTITY(CNumericImpl)
 
   int getUsage() override;

@@ -4,10 +4,6 @@
 
 AS_DEFINE_IDENTITY2(CProgramImpl, as::IProgram, CElementImpl)
 
-CProgramImpl::CProgramImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
-
-CProgramImpl::~CProgramImpl() = default;
-
 std::string CProgramImpl::getName() { return text(DD::name); }
 
 as::IList* CProgramImpl::getFileSection() { return CList::orEmpty(fileSection_); }

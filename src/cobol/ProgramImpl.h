@@ -9,11 +9,10 @@
 #include "xml/WrapperPool.h"
 #include "xml/XMLParser.h"
 
+// Deleted, it releases every other wrapper of its document, and last the document.
 class CProgramImpl : virtual public as::IProgram, virtual public CElementImpl {
  public:
-  explicit CProgramImpl(xercesc::DOMElement* element);
-  // Releases every other wrapper, and last the document.
-  ~CProgramImpl() override;
+  explicit CProgramImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
   AS_IDENTITY(CProgramImpl)
 
   std::string getName() override;

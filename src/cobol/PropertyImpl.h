@@ -7,8 +7,7 @@
 
 class CPropertyImpl : virtual public as::IProperty, virtual public CElementImpl {
  public:
-  explicit CPropertyImpl(xercesc::DOMElement* element);
-  ~CPropertyImpl() override;
+  explicit CPropertyImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
   AS_IDENTITY(CPropertyImpl)
 
   std::string getValue() override;

@@ -7,20 +7,21 @@ AS_DEFINE_IDENTITY3(CCOMParameterImpl, as::ICOMParameter, CParameterImpl, as::IC
 
 namespace {
 
+// clang-format off
 constexpr WordCode dataTypes[] = {
-    {CS::byte, as::ICOMField::COM_BYTE},         {CS::short_, as::ICOMField::COM_SHORT},
-    {CS::int_, as::ICOMField::COM_INT},          {CS::long_, as::ICOMField::COM_LONG},
-    {CS::float_, as::ICOMField::COM_FLOAT},      {CS::double_, as::ICOMField::COM_DOUBLE},
-    {CS::currency, as::ICOMField::COM_CURRENCY}, {CS::date, as::ICOMField::COM_DATE},
+    {CS::byte, as::ICOMField::COM_BYTE},
+    {CS::short_, as::ICOMField::COM_SHORT},
+    {CS::int_, as::ICOMField::COM_INT},
+    {CS::long_, as::ICOMField::COM_LONG},
+    {CS::float_, as::ICOMField::COM_FLOAT},
+    {CS::double_, as::ICOMField::COM_DOUBLE},
+    {CS::currency, as::ICOMField::COM_CURRENCY},
+    {CS::date, as::ICOMField::COM_DATE},
     {CS::string, as::ICOMField::COM_STRING},
 };
+// clang-format on
 
 }  // namespace
-
-CCOMParameterImpl::CCOMParameterImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), CParameterImpl(element) {}
-
-CCOMParameterImpl::~CCOMParameterImpl() = default;
 
 as::ICOMField::TYPE CCOMParameterImpl::getType() {
   const XMLCh* const word = wideAtSource(CS::dataType);

@@ -9,8 +9,8 @@ class CCOMParameterImpl : virtual public as::ICOMParameter,
                           virtual public CParameterImpl,
                           virtual public as::ICOMField {
  public:
-  explicit CCOMParameterImpl(xercesc::DOMElement* element);
-  ~CCOMParameterImpl() override;
+  explicit CCOMParameterImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), CParameterImpl(element) {}
   AS_IDENTITY(CCOMParameterImpl)
 
   TYPE getType() override;

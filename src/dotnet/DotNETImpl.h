@@ -7,8 +7,8 @@
 
 class CDotNETImpl : virtual public as::IDotNET, virtual public CServiceImpl {
  public:
-  explicit CDotNETImpl(xercesc::DOMElement* element);
-  ~CDotNETImpl() override;
+  explicit CDotNETImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), CServiceImpl(element) {}
   AS_IDENTITY(CDotNETImpl)
 };
 

@@ -7,8 +7,8 @@
 
 class CDotNETOperationImpl : virtual public as::IDotNETOperation, virtual public COperationImpl {
  public:
-  explicit CDotNETOperationImpl(xercesc::DOMElement* element);
-  ~CDotNETOperationImpl() override;
+  explicit CDotNETOperationImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), COperationImpl(element) {}
   AS_IDENTITY(CDotNETOperationImpl)
 };
 

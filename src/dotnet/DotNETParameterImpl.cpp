@@ -9,21 +9,24 @@ AS_DEFINE_IDENTITY3(CDotNETParameterImpl, as::IDotNETParameter, CParameterImpl, 
 
 namespace {
 
+// clang-format off
 constexpr WordCode dataTypes[] = {
-    {DNS::byte, as::IDotNETField::NET_BYTE},       {DNS::sByte, as::IDotNETField::NET_SBYTE},
-    {DNS::int16, as::IDotNETField::NET_INT16},     {DNS::int32, as::IDotNETField::NET_INT32},
-    {DNS::int64, as::IDotNETField::NET_INT64},     {DNS::uint16, as::IDotNETField::NET_UINT16},
-    {DNS::uint32, as::IDotNETField::NET_UINT32},   {DNS::uint64, as::IDotNETField::NET_UINT64},
-    {DNS::single_, as::IDotNETField::NET_SINGLE},  {DNS::double_, as::IDotNETField::NET_DOUBLE},
-    {DNS::decimal, as::IDotNETField::NET_DECIMAL}, {DNS::string, as::IDotNETField::NET_STRING},
+    {DNS::byte, as::IDotNETField::NET_BYTE},
+    {DNS::sByte, as::IDotNETField::NET_SBYTE},
+    {DNS::int16, as::IDotNETField::NET_INT16},
+    {DNS::int32, as::IDotNETField::NET_INT32},
+    {DNS::int64, as::IDotNETField::NET_INT64},
+    {DNS::uint16, as::IDotNETField::NET_UINT16},
+    {DNS::uint32, as::IDotNETField::NET_UINT32},
+    {DNS::uint64, as::IDotNETField::NET_UINT64},
+    {DNS::single_, as::IDotNETField::NET_SINGLE},
+    {DNS::double_, as::IDotNETField::NET_DOUBLE},
+    {DNS::decimal, as::IDotNETField::NET_DECIMAL},
+    {DNS::string, as::IDotNETField::NET_STRING},
 };
+// clang-format on
 
 }  // namespace
-
-CDotNETParameterImpl::CDotNETParameterImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), CParameterImpl(element) {}
-
-CDotNETParameterImpl::~CDotNETParameterImpl() = default;
 
 as::IDotNETField::TYPE CDotNETParameterImpl::getType() {
   return StringToDataType(wideAtSource(DNS::dataType));
@@ -38,7 +41,8 @@ std::string CDotNETParameterImpl::getTypeToString() {
 const XMLCh* CDotNETParameterImpl::DataTypeToString(TYPE type) {
   const XMLCh* const word = wordOfCode(dataTypes, type);
   if (word != nullptr) return word;
-  // Place and signature are known to those who watch for this message.
+  // Clients' log watchers match this message to the letter: what stands in for line and signature
+  // never changes, wherever the check itself may move.
   assertionFailed("false", "DotnetParameterImpl", 68,
                   "static const XMLCh* "
                   "CDotNETParameterImpl::DataTypeToString(as::IDotNETField::TYPE)");

@@ -11,8 +11,8 @@ class CDotNETParameterImpl : virtual public as::IDotNETParameter,
                              virtual public CParameterImpl,
                              virtual public as::IDotNETField {
  public:
-  explicit CDotNETParameterImpl(xercesc::DOMElement* element);
-  ~CDotNETParameterImpl() override;
+  explicit CDotNETParameterImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), CParameterImpl(element) {}
   AS_IDENTITY(CDotNETParameterImpl)
 
   TYPE getType() override;

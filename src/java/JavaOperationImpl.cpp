@@ -18,11 +18,6 @@ constexpr WordCode transactionTypes[] = {
 
 }  // namespace
 
-CJavaOperationImpl::CJavaOperationImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), COperationImpl(element) {}
-
-CJavaOperationImpl::~CJavaOperationImpl() = default;
-
 as::IJavaOperation::TRANS_TYPE CJavaOperationImpl::getTransactionType() {
   return static_cast<TRANS_TYPE>(
       codeOfWord(transactionTypes, wide(JS::transactionType), TRANS_NEVER));

@@ -7,8 +7,8 @@
 
 class CJavaOperationImpl : virtual public as::IJavaOperation, virtual public COperationImpl {
  public:
-  explicit CJavaOperationImpl(xercesc::DOMElement* element);
-  ~CJavaOperationImpl() override;
+  explicit CJavaOperationImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), COperationImpl(element) {}
   AS_IDENTITY(CJavaOperationImpl)
 
   TRANS_TYPE getTransactionType() override;

@@ -22,11 +22,6 @@ constexpr WordCode dataTypes[] = {
 
 }  // namespace
 
-CJavaParameterImpl::CJavaParameterImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), CParameterImpl(element) {}
-
-CJavaParameterImpl::~CJavaParameterImpl() = default;
-
 as::IJavaField::TYPE CJavaParameterImpl::getType() {
   return static_cast<TYPE>(codeOfWord(dataTypes, wideAtSource(JS::dataType), JAVA_SHORT));
 }

@@ -7,8 +7,8 @@
 
 class CJavaParameterImpl : virtual public as::IJavaParameter, virtual public CParameterImpl {
  public:
-  explicit CJavaParameterImpl(xercesc::DOMElement* element);
-  ~CJavaParameterImpl() override;
+  explicit CJavaParameterImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), CParameterImpl(element) {}
   AS_IDENTITY(CJavaParameterImpl)
 
   TYPE getType() override;

@@ -4,11 +4,6 @@
 
 AS_DEFINE_IDENTITY2(CHiddenParameterImpl, as::IHiddenParameter, CMappingImpl)
 
-CHiddenParameterImpl::CHiddenParameterImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), CMappingImpl(element) {}
-
-CHiddenParameterImpl::~CHiddenParameterImpl() = default;
-
 std::string CHiddenParameterImpl::getValue() { return text(SS::value); }
 
 void CHiddenParameterImpl::setValue(const char* value) { write(SS::value, value); }

@@ -7,8 +7,8 @@
 
 class CHiddenParameterImpl : virtual public as::IHiddenParameter, virtual public CMappingImpl {
  public:
-  explicit CHiddenParameterImpl(xercesc::DOMElement* element);
-  ~CHiddenParameterImpl() override;
+  explicit CHiddenParameterImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), CMappingImpl(element) {}
   AS_IDENTITY(CHiddenParameterImpl)
 
   std::string getValue() override;

@@ -62,10 +62,6 @@ std::string GetNormalizedName(as::IDataItem* item) {
   return name;
 }
 
-CMappingImpl::CMappingImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
-
-CMappingImpl::~CMappingImpl() = default;
-
 as::IDataItem* CMappingImpl::getDataItem() {
   CServiceImpl* const service = getService();
   if (service == nullptr) return nullptr;

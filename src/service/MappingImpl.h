@@ -14,8 +14,7 @@ std::string GetNormalizedName(as::IDataItem* item);
 
 class CMappingImpl : virtual public as::IMapping, virtual public CElementImpl {
  public:
-  explicit CMappingImpl(xercesc::DOMElement* element);
-  ~CMappingImpl() override;
+  explicit CMappingImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
   AS_IDENTITY(CMappingImpl)
 
   as::IDataItem* getDataItem() override;

@@ -2,6 +2,7 @@
 
 #include "as/IEntryPoint.h"
 #include "as/IService.h"
+#include "cobol/NamedItems.h"
 #include "service/HiddenParameterImpl.h"
 #include "service/ParameterImpl.h"
 #include "service/SSVocabulary.h"
@@ -9,10 +10,6 @@
 #include "xml/XStr.h"
 
 AS_DEFINE_IDENTITY2(COperationImpl, as::IOperation, CElementImpl)
-
-COperationImpl::COperationImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
-
-COperationImpl::~COperationImpl() = default;
 
 std::string COperationImpl::getName() { return text(SS::name); }
 
@@ -80,23 +77,6 @@ void COperationImpl::addParameter(as::IParameter* parameter) {
 
 as::IEntryPoint* COperationImpl::GetEntryPoint(as::IProgram* program, const std::string& name) {
   if (program == nullptr) return nullptr;
-  as::IList* const entryPoints = program->getEntryPoints();
-  const auto at = [entryPoints](int i) {
-    return as::interface_cast<as::IEntryPoint>(entryPoints->getItem(i));
-  };
-  if (auto* const list = as::interface_cast<CList>(entryPoints)) {
-    CXStr wide(name);
-    const XMLCh* const wanted = wide;
-    for (int i = list->find(SS::name, wanted); i >= 0; i = list->find(SS::name, wanted, i + 1)) {
-      if (as::IEntryPoint* const found = at(i)) return found;
-    }
-    return nullptr;
-  }
-  // A program of the client's own making.
-  const int count = entryPoints->getLength();
-  for (int i = 0; i < count; i++) {
-    as::IEntryPoint* const found = at(i);
-    if (found != nullptr && found->getName() == name) return found;
-  }
-  return nullptr;
+  CXStr wide(name);
+  return NamedItems<as::IEntryPoint>(program->getEntryPoints(), wide).next();
 }

@@ -10,8 +10,7 @@
 
 class COperationImpl : virtual public as::IOperation, virtual public CElementImpl {
  public:
-  explicit COperationImpl(xercesc::DOMElement* element);
-  ~COperationImpl() override;
+  explicit COperationImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
   AS_IDENTITY(COperationImpl)
 
   std::string getName() override;

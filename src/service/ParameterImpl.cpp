@@ -16,11 +16,6 @@ using xercesc::XMLString;
 
 AS_DEFINE_IDENTITY3(CParameterImpl, as::IParameter, as::IField, CElementImpl)
 
-CParameterImpl::CParameterImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), fields_(element) {}
-
-CParameterImpl::~CParameterImpl() = default;
-
 std::string CParameterImpl::getName() { return text(SS::name); }
 
 void CParameterImpl::setName(const char* name) { write(SS::name, name); }

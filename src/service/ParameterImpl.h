@@ -13,8 +13,7 @@ class CParameterImpl : virtual public as::IParameter,
                        virtual public as::IField,
                        virtual public CElementImpl {
  public:
-  explicit CParameterImpl(xercesc::DOMElement* element);
-  ~CParameterImpl() override;
+  explicit CParameterImpl(xercesc::DOMElement* element) : CElementImpl(element), fields_(element) {}
   AS_IDENTITY(CParameterImpl)
 
   std::string getName() override;

@@ -16,11 +16,15 @@ AS_DEFINE_IDENTITY2(CServiceImpl, as::IService, CElementImpl)
 
 namespace {
 
+// clang-format off
 constexpr WordCode implementations[] = {
-    {SS::java, as::IService::TYPE_JAVA}, {SS::xd, as::IService::TYPE_XD},
-    {SS::com, as::IService::TYPE_COM},   {SS::dotnet, as::IService::TYPE_DOTNET},
+    {SS::java, as::IService::TYPE_JAVA},
+    {SS::xd, as::IService::TYPE_XD},
+    {SS::com, as::IService::TYPE_COM},
+    {SS::dotnet, as::IService::TYPE_DOTNET},
     {SS::ws, as::IService::TYPE_WS},
 };
+// clang-format on
 
 // The part of a path or URI behind its last directory separator; all of it when nothing is left
 // there.
@@ -30,10 +34,6 @@ std::string fileNameOf(const std::string& uri) {
 }
 
 }  // namespace
-
-CServiceImpl::CServiceImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
-
-CServiceImpl::~CServiceImpl() = default;
 
 std::string CServiceImpl::getNamespaceURI() {
   // The document node's own, which has none: clients rely on the empty answer.

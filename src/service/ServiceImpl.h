@@ -16,11 +16,11 @@
 
 class CParameterImpl;
 
+// Deleted, it releases the program, the factory, every other wrapper of its document, and last the
+// document.
 class CServiceImpl : virtual public as::IService, virtual public CElementImpl {
  public:
-  explicit CServiceImpl(xercesc::DOMElement* element);
-  // Releases the program, the factory, every other wrapper, and last the document.
-  ~CServiceImpl() override;
+  explicit CServiceImpl(xercesc::DOMElement* element) : CElementImpl(element) {}
   AS_IDENTITY(CServiceImpl)
 
   std::string getNamespaceURI() override;

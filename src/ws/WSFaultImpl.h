@@ -7,8 +7,8 @@
 
 class CWSFaultImpl : public WSMessagePart<as::IWSFault> {
  public:
-  explicit CWSFaultImpl(xercesc::DOMElement* element);
-  ~CWSFaultImpl() override;
+  explicit CWSFaultImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), WSMessagePart(element) {}
   AS_IDENTITY(CWSFaultImpl)
 };
 

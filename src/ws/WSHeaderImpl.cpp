@@ -4,11 +4,6 @@
 
 AS_DEFINE_IDENTITY2(CWSHeaderImpl, as::IWSHeader, CElementImpl)
 
-CWSHeaderImpl::CWSHeaderImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), WSMessagePart(element) {}
-
-CWSHeaderImpl::~CWSHeaderImpl() = default;
-
 as::IWSHeader::BY_TYPE CWSHeaderImpl::getByType() {
   return byTypeOfWord<as::IWSHeader>(wide(SS::byType));
 }

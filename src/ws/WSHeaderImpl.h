@@ -7,8 +7,8 @@
 
 class CWSHeaderImpl : public WSMessagePart<as::IWSHeader> {
  public:
-  explicit CWSHeaderImpl(xercesc::DOMElement* element);
-  ~CWSHeaderImpl() override;
+  explicit CWSHeaderImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), WSMessagePart(element) {}
   AS_IDENTITY(CWSHeaderImpl)
 
   BY_TYPE getByType() override;

@@ -18,11 +18,6 @@ constexpr WordCode styles[] = {
 
 }  // namespace
 
-CWSOperationImpl::CWSOperationImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), COperationImpl(element), headers_(element), faults_(element) {}
-
-CWSOperationImpl::~CWSOperationImpl() = default;
-
 as::IList* CWSOperationImpl::getHeaders() { return &headers_; }
 
 as::IList* CWSOperationImpl::getFaults() { return &faults_; }

@@ -11,8 +11,8 @@
 
 class CWSOperationImpl : virtual public as::IWSOperation, virtual public COperationImpl {
  public:
-  explicit CWSOperationImpl(xercesc::DOMElement* element);
-  ~CWSOperationImpl() override;
+  explicit CWSOperationImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), COperationImpl(element), headers_(element), faults_(element) {}
   AS_IDENTITY(CWSOperationImpl)
 
   as::IList* getHeaders() override;

@@ -20,23 +20,27 @@ constexpr WordCode forms[] = {
     {WSS::unqualified, as::IWSField::FORM_UNQUALIFIED},
 };
 
+// clang-format off
 constexpr WordCode dataTypes[] = {
-    {WSS::byte, as::IWSField::WS_BYTE},       {WSS::unsignedByte, as::IWSField::WS_UNSIGNED_BYTE},
-    {WSS::short_, as::IWSField::WS_SHORT},    {WSS::unsignedShort, as::IWSField::WS_UNSIGNED_SHORT},
-    {WSS::int_, as::IWSField::WS_INT},        {WSS::unsignedInt, as::IWSField::WS_UNSIGNED_INT},
-    {WSS::long_, as::IWSField::WS_LONG},      {WSS::unsignedLong, as::IWSField::WS_UNSIGNED_LONG},
-    {WSS::float_, as::IWSField::WS_FLOAT},    {WSS::double_, as::IWSField::WS_DOUBLE},
-    {WSS::integer, as::IWSField::WS_INTEGER}, {WSS::decimal, as::IWSField::WS_DECIMAL},
-    {WSS::string, as::IWSField::WS_STRING},   {WSS::Array, as::IWSField::WS_ARRAY},
+    {WSS::byte, as::IWSField::WS_BYTE},
+    {WSS::unsignedByte, as::IWSField::WS_UNSIGNED_BYTE},
+    {WSS::short_, as::IWSField::WS_SHORT},
+    {WSS::unsignedShort, as::IWSField::WS_UNSIGNED_SHORT},
+    {WSS::int_, as::IWSField::WS_INT},
+    {WSS::unsignedInt, as::IWSField::WS_UNSIGNED_INT},
+    {WSS::long_, as::IWSField::WS_LONG},
+    {WSS::unsignedLong, as::IWSField::WS_UNSIGNED_LONG},
+    {WSS::float_, as::IWSField::WS_FLOAT},
+    {WSS::double_, as::IWSField::WS_DOUBLE},
+    {WSS::integer, as::IWSField::WS_INTEGER},
+    {WSS::decimal, as::IWSField::WS_DECIMAL},
+    {WSS::string, as::IWSField::WS_STRING},
+    {WSS::Array, as::IWSField::WS_ARRAY},
     {WSS::XML, as::IWSField::WS_XML},
 };
+// clang-format on
 
 }  // namespace
-
-CWSParameterImpl::CWSParameterImpl(xercesc::DOMElement* element)
-    : CElementImpl(element), CParameterImpl(element), fieldAttributes_(element) {}
-
-CWSParameterImpl::~CWSParameterImpl() = default;
 
 std::string CWSParameterImpl::getNamespaceForParam() {
   const CWSParameterImpl* const from = definition();
@@ -117,7 +121,8 @@ std::string CWSParameterImpl::getTypeToString() {
 const XMLCh* CWSParameterImpl::DataTypeToString(TYPE type) {
   const XMLCh* const word = wordOfCode(dataTypes, type);
   if (word != nullptr) return word;
-  // Place and signature are known to those who watch for this message.
+  // Clients' log watchers match this message to the letter: what stands in for line and signature
+  // never changes, wherever the check itself may move.
   assertionFailed("false", "WSParameterImpl", 82,
                   "static const XMLCh* CWSParameterImpl::DataTypeToString(as::IWSField::TYPE)");
 }

@@ -12,8 +12,8 @@ class CWSParameterImpl : virtual public as::IWSParameter,
                          virtual public CParameterImpl,
                          virtual public as::IWSField {
  public:
-  explicit CWSParameterImpl(xercesc::DOMElement* element);
-  ~CWSParameterImpl() override;
+  explicit CWSParameterImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), CParameterImpl(element), fieldAttributes_(element) {}
   AS_IDENTITY(CWSParameterImpl)
 
   // "For param" and "for field" differ on purpose: a parameter has a namespace and forms of its

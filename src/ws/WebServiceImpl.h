@@ -7,8 +7,8 @@
 
 class CWebServiceImpl : virtual public as::IWebService, virtual public CServiceImpl {
  public:
-  explicit CWebServiceImpl(xercesc::DOMElement* element);
-  ~CWebServiceImpl() override;
+  explicit CWebServiceImpl(xercesc::DOMElement* element)
+      : CElementImpl(element), CServiceImpl(element) {}
   AS_IDENTITY(CWebServiceImpl)
 };
 

@@ -10,10 +10,6 @@ AS_DEFINE_IDENTITY2(CList, as::IList, CElementImpl)
 
 CList CList::emptyList(nullptr);
 
-CList::CList(DOMElement* element) : CElementImpl(element) {}
-
-CList::~CList() = default;
-
 int CList::getLength() { return static_cast<int>(nodes_.size()); }
 
 as::IElement* CList::getItem(int index) {

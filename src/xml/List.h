@@ -15,8 +15,7 @@
 class CList : virtual public as::IList, virtual public CElementImpl {
  public:
   // Empty, and with no filter: filled, it holds every child element.
-  explicit CList(xercesc::DOMElement* element);
-  ~CList() override;
+  explicit CList(xercesc::DOMElement* element) : CElementImpl(element) {}
   AS_IDENTITY(CList)
 
   int getLength() override;

@@ -66,6 +66,49 @@ TEST(Reference, FindsOnlyDefinitionsInFrontOfIt) {
   EXPECT_NE(parameterOf<as::IParameter>(*service)->getReferenceType(), nullptr);
 }
 
+// A definition is found by what stands behind it, and by itself: only the latter leads back.
+TEST(Reference, NeverLeadsBackToWhereItStarted) {
+  const struct {
+    const char* label;
+    const char* definitions;
+    const char* references;  // Of each definition and of the parameter, by name; "-" for none.
+  } rows[] = {
+      {"to itself", "<parameter name='A' ref='A'/>", "- A"},
+      {"to each other", "<parameter name='A' ref='B'/><parameter name='B' ref='A'/>", "- A A"},
+      {"in a ring",
+       "<parameter name='A' ref='C'/><parameter name='B' ref='A'/><parameter name='C' ref='B'/>",
+       "- A B A"},
+      {"to one of its own name", "<parameter name='A'/><parameter name='A' ref='A'/>", "- A A"},
+      {"to itself in front of another", "<parameter name='A' ref='A'/><parameter name='A'/>",
+       "- - A"},
+  };
+  for (const auto& row : rows) {
+    const auto service = parsed("<parameter name='p' ref='A'/>", row.definitions);
+    std::string references;
+    const auto tell = [&](as::IParameter* parameter) {
+      as::IParameter* const to = parameter->getReferenceType();
+      references += (references.empty() ? "" : " ") + (to == nullptr ? "-" : to->getName());
+      EXPECT_EQ(parameter->getChildren()->getLength(), 0) << row.label;
+      EXPECT_EQ(parameter->getMappings()->getLength(), 0) << row.label;
+    };
+    as::IList* const definitions = service->getParameterTypeDefs();
+    for (int i = 0; i < definitions->getLength(); i++) {
+      tell(test::itemOf<as::IParameter>(definitions, i));
+    }
+    tell(parameterOf<as::IParameter>(*service));
+    EXPECT_EQ(references, row.references) << row.label;
+  }
+}
+
+// Which describes a value of any depth.
+TEST(Reference, OfAFieldMayBeToTheDefinitionAroundIt) {
+  const auto service = parsed("<parameter name='p' ref='Node'/>",
+                              "<parameter name='Node'><field name='next' ref='Node'/></parameter>");
+  auto* const definition = test::itemOf<as::IParameter>(service->getParameterTypeDefs(), 0);
+  auto* const next = test::itemOf<as::IField>(definition->getChildren(), 0);
+  EXPECT_EQ(test::itemOf<as::IField>(next->getChildren(), 0), next);
+}
+
 TEST(Reference, IsToTheFirstDefinitionOfTheName) {
   const auto service = parsed("<parameter name='p' ref='A'/>",
                               "<parameter name='A' occurs='1'/><parameter name='A' occurs='2'/>");

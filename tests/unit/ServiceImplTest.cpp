@@ -129,6 +129,23 @@ TEST(ServiceImpl, FindsTheFirstTypeDefinitionOfAName) {
   EXPECT_EQ(CElementImpl::rootOf(dom.root()), static_cast<CElementImpl*>(service.get()));
 }
 
+// The second time definitions could find those behind them, and so lead back to themselves.
+TEST(ServiceImpl, CollectingAgainResolvesNoMoreReferences) {
+  test::Dom dom(
+      "<service><parameterTypeDefs><parameter name='A' ref='B'/><parameter name='B' ref='A'/>"
+      "</parameterTypeDefs></service>");
+  CVorJHandler handler;
+  test::buildWrappers(handler, dom.root());
+  handler.endParse(dom.document());
+  const auto service = handler.takeService();
+  ASSERT_NE(service, nullptr);
+  service->collectChildren();
+  EXPECT_EQ(service->getParameterTypeDefs()->getLength(), 2);
+  EXPECT_EQ(service->getPrototypeByName("A")->getReferenceType(), nullptr);
+  EXPECT_EQ(service->getPrototypeByName("B")->getReferenceType(),
+            static_cast<as::IParameter*>(service->getPrototypeByName("A")));
+}
+
 TEST(ServiceImpl, HasNoTypeDefinitionsWithoutTheirList) {
   test::Dom dom("<service/>");
   CServiceImpl service(dom.root());

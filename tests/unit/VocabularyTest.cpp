@@ -59,13 +59,12 @@ TEST(Vocabulary, SharedTexts) {
 TEST(Vocabulary, DictionaryConstantsAreNamedLikeTheirText) {
   const std::set<std::string> renamed = {"comp1", "comp2", "comp3", "comp4",
                                          "comp5", "comp6", "compx", "true_"};
-#define CHECK(constant, text)                                                             \
+#define AS_WORD(constant, text)                                                           \
   {                                                                                       \
     EXPECT_EQ(Text(DD::constant), u##text);                                               \
     EXPECT_EQ(std::string(#constant) != text, renamed.count(#constant) > 0) << #constant; \
   }
-  DD_WORDS(CHECK)
-#undef CHECK
+#include "cobol/DDVocabulary.def"
 }
 
 TEST(Vocabulary, DictionaryHasTheseWords) {
@@ -150,9 +149,8 @@ TEST(Vocabulary, DictionaryHasTheseWords) {
                                           "true",
                                           "value"};
   std::multiset<std::string> words;
-#define COLLECT(constant, text) words.insert(text);
-  DD_WORDS(COLLECT)
-#undef COLLECT
+#define AS_WORD(constant, text) words.insert(text);
+#include "cobol/DDVocabulary.def"
   EXPECT_EQ(std::set<std::string>(words.begin(), words.end()), expected);
   EXPECT_EQ(words.size(), expected.size()) << "a word stands in the table twice";
 }

@@ -1,0 +1,54 @@
+// Steps through the items of a list that have one name.
+#ifndef COBOL_NAMEDITEMS_H_
+#define COBOL_NAMEDITEMS_H_
+
+#include <string>
+
+#include "as/IList.h"
+#include "cobol/DDVocabulary.h"
+#include "xml/List.h"
+#include "xml/XStr.h"
+
+// Yields the Items of a list whose name is the one given, in order. In the library's own lists
+// names are compared where they stand in the document, which is much faster than asking for them: a
+// service resolves thousands of names against thousands of items. Lists of a program of a client's
+// own making are asked item by item.
+template <class Item>
+class NamedItems {
+ public:
+  // `list` may be null, and must like `name` outlive the object.
+  NamedItems(as::IList* list, const XMLCh* name)
+      : asked_(list), own_(as::interface_cast<CList>(list)), name_(name) {
+    if (own_ == nullptr) text_ = std::string(CXStr(name, false));
+  }
+
+  // The next one; null when there is none left.
+  Item* next() { return own_ != nullptr ? nextOfOwn() : nextOfAsked(); }
+
+ private:
+  Item* nextOfOwn() {
+    for (int i = own_->find(DD::name, name_, at_); i >= 0; i = own_->find(DD::name, name_, at_)) {
+      at_ = i + 1;
+      if (auto* const item = as::interface_cast<Item>(own_->getElement(i))) return item;
+    }
+    at_ = own_->getLength();
+    return nullptr;
+  }
+
+  Item* nextOfAsked() {
+    const int count = asked_ == nullptr ? 0 : asked_->getLength();
+    while (at_ < count) {
+      auto* const item = as::interface_cast<Item>(asked_->getItem(at_++));
+      if (item != nullptr && item->getName() == text_) return item;
+    }
+    return nullptr;
+  }
+
+  as::IList* asked_;
+  CList* own_;
+  const XMLCh* name_;
+  std::string text_;
+  int at_ = 0;
+};
+
+#endif  // COBOL_NAMEDITEMS_H_
