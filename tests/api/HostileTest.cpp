@@ -17,7 +17,9 @@
 #include <thread>
 #include <vector>
 
+#include "as/Namespaces.h"
 #include "support/Dictionary.h"
+#include "support/OwnProcess.h"
 #include "support/TempDirectory.h"
 
 namespace {
@@ -389,11 +391,6 @@ TEST_F(HostileReference, OfTheClientToANetworkIsRefused) {
 
 // No way round the schema.
 
-// What becomes of the request in a process of its own, which a failed assertion would end.
-#define EXPECT_RESULT_WITHOUT_ABORT(expected, request)        \
-  EXPECT_EXIT(std::_Exit(static_cast<int>((request).result)), \
-              testing::ExitedWithCode(static_cast<int>(Result::expected)), "")
-
 TEST(HostileSchemaDeathTest, DtdDoesNotReplaceTheSchema) {
   const std::string fixed = "<!ATTLIST program xmlns CDATA #FIXED '" + ns + "'>";
   const std::string inNamespace = "<program xmlns='" + ns + "'";
@@ -453,6 +450,81 @@ TEST(HostileSchemaDeathTest, ADocumentDoesNotBringItsOwnSchema) {
     EXPECT_RESULT_WITHOUT_ABORT(parseException,
                                 outcomeOf(*test::newServices(), document, id.c_str()));
   }
+}
+
+// A schema may import a namespace without telling where its schema is.
+TEST(HostileSchemaDeathTest, ImportsWithoutALocationAreNotFetched) {
+  const std::string start =
+      "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='";
+  const std::string any =
+      "<xs:complexType mixed='true'><xs:sequence><xs:any processContents='lax' minOccurs='0' "
+      "maxOccurs='unbounded'/></xs:sequence><xs:anyAttribute processContents='lax'/>"
+      "</xs:complexType>";
+  const std::string program = "<xs:element name='program'>" + any + "</xs:element></xs:schema>";
+  const std::string xmlImport = "<xs:import namespace='http://www.w3.org/XML/1998/namespace'/>";
+  const struct {
+    const char* what;
+    std::string declarations;
+    Result result;
+  } rows[] = {
+      {"of the xml namespace", xmlImport, Result::root},
+      {"of another", "<xs:import namespace='urn:o'/>", Result::root},
+      {"of several", "<xs:import namespace='urn:o'/>" + xmlImport, Result::root},
+      {"of one of ours", "<xs:import namespace='" + std::string(as::namespaces::ws.uri) + "'/>",
+       Result::root},
+      {"of no namespace", "<xs:import/>", Result::root},
+      {"of the schemas' own", "<xs:import namespace='" + ns + "'/>", Result::parseException},
+      {"with an empty one", "<xs:import namespace='urn:o' schemaLocation=''/>",
+       Result::parseException},
+      {"with a blank one", "<xs:import namespace='urn:o' schemaLocation=' '/>",
+       Result::parseException},
+      {"include", "<xs:include/>", Result::parseException},
+      {"include with an empty one", "<xs:include schemaLocation=''/>", Result::parseException},
+      {"redefine", "<xs:redefine/>", Result::parseException},
+      {"redefine with an empty one", "<xs:redefine schemaLocation=''/>", Result::parseException},
+      // What the import was for is not there.
+      {"with a reference into it",
+       xmlImport + "<xs:complexType name='t'><xs:attribute ref='xml:lang'/></xs:complexType>",
+       Result::parseException},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    // The document's own.
+    const TempDirectory own;
+    own.write("own.xsd", start + ns + "'>" + row.declarations + program);
+    const std::string id = own.path() + "/d.xml";
+    const std::string document = programWithHint("own.xsd", "");
+    const auto expected = testing::ExitedWithCode(static_cast<int>(row.result));
+    EXPECT_EXIT(test::tellAndExit(outcomeOf(*servicesWithoutSchemas(), document, id.c_str())),
+                expected, "");
+    // That of the schema directory.
+    const TempDirectory schemas;
+    schemas.write("vorcobol.xsd", start + ns + "'>" + row.declarations + program);
+    std::filesystem::copy(AS_SCHEMA_DIR "/vorws.xsd", schemas.path());
+    const auto services = servicesWithoutSchemas();
+    services->setSchemaLocation(schemas.path().c_str());
+    EXPECT_EXIT(test::tellAndExit(outcomeOf(*services, programWithHint(ns))), expected, "");
+  }
+}
+
+// Where there is a schema directory, our schemas are found without a location.
+TEST(HostileSchemaDeathTest, ImportsOfOurNamespacesNeedNoLocation) {
+  const TempDirectory directory;
+  const std::string ws = as::namespaces::ws.uri;
+  directory.write("importing.xsd",
+                  "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' xmlns:w='" + ws +
+                      "' targetNamespace='urn:o'><xs:import namespace='" + ws +
+                      "'/><xs:element name='e' type='w:service'/></xs:schema>");
+  const std::string id = directory.path() + "/d.xml";
+  const std::string document =
+      programWith("xsi:schemaLocation='" + ns + " " + ns + " urn:o importing.xsd'");
+  EXPECT_RESULT_WITHOUT_ABORT(root, outcomeOf(*test::newServices(), document, id.c_str()));
+  const TempDirectory empty;
+  const auto services = servicesWithoutSchemas();
+  services->setSchemaLocation(empty.path().c_str());
+  std::filesystem::copy(AS_SCHEMA_DIR "/vorcobol.xsd", empty.path());
+  EXPECT_RESULT_IN_OWN_PROCESS(parseException, outcomeOf(*services, document, id.c_str()),
+                               HasSubstr("vorws.xsd"));
 }
 
 TEST(HostileSchema, WhatNoSchemaDescribesIsRefused) {

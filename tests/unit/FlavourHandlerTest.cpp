@@ -100,6 +100,7 @@ TEST_P(FlavourWrapping, GoesByTheLocalName) {
         "<x:" + name + " xmlns:x='urn:any' name='service'><other/>text</x:" + name + ">"}) {
     test::Dom dom(document);
     const auto handler = GetParam().builder.make();
+    EXPECT_TRUE(handler->takes(dom.root())) << document;
     handler->newElement(dom.root());
     EXPECT_EQ(classAt(dom.root()), GetParam().ownClass) << document;
   }
@@ -151,6 +152,7 @@ TEST_P(FlavourWrappingDeathTest, AnUnknownElementEndsTheProcess) {
   for (const std::string& document :
        {"<" + name + "/>", "<service:" + name + " xmlns:service='urn:any'/>"}) {
     test::Dom dom(document);
+    EXPECT_FALSE(GetParam().builder.make()->takes(dom.root())) << document;
     EXPECT_DEATH(GetParam().builder.make()->newElement(dom.root()),
                  "VorSHandler:[0-9]+: .*CVorSHandler::newElement.*Assertion `false' failed")
         << document;
@@ -416,6 +418,27 @@ TEST(DelegatingHandler, BuildsTheFlavourOfTheRootsNamespace) {
       ASSERT_NE(service, nullptr);
       EXPECT_EQ(handler.getService(), nullptr);
     }
+  }
+}
+
+TEST(DelegatingHandler, TakesWhatTheFlavourTakes) {
+  const struct {
+    const XMLCh* uri;
+    const char* name;
+    bool takes;
+  } rows[] = {
+      {XSDNS::wsURI, "header", true},     {XSDNS::wsURI, "mapping", true},
+      {XSDNS::wsURI, "program", false},   {XSDNS::comURI, "field", true},
+      {XSDNS::comURI, "header", false},   {XSDNS::javaURI, "operation", true},
+      {XSDNS::javaURI, "program", false}, {XSDNS::dotnetURI, "service", true},
+      {XSDNS::dotnetURI, "fault", false},
+  };
+  for (const auto& row : rows) {
+    test::Dom dom("<service xmlns='" + test::narrow(row.uri) + "'><" + row.name + "/></service>");
+    CDelegatingHandler handler;
+    handler.startDocument(dom.root());
+    EXPECT_EQ(handler.takes(dom.root()->getFirstElementChild()), row.takes)
+        << test::narrow(row.uri) << " " << row.name;
   }
 }
 

@@ -64,6 +64,7 @@ TEST(VorDDHandler, WrapsEachElementByItsLocalName) {
     for (const char* prefix : {"", "x:"}) {
       test::Dom dom("<" + std::string(prefix) + row.element + " xmlns:x='urn:any'/>");
       CVorDDHandler handler;
+      EXPECT_TRUE(handler.takes(dom.root())) << row.element;
       handler.newElement(dom.root());
       EXPECT_EQ(classAt(dom.root()), row.wrapper) << row.element;
       EXPECT_EQ(dom.root()->getUserData(u"ASAPI"),
@@ -77,6 +78,7 @@ TEST(VorDDHandlerDeathTest, AnUnknownElementEndsTheProcess) {
   for (const char* name :
        {"alphanumericEdited", "nullConditionValue", "object", "service", "Program", "programs"}) {
     test::Dom dom("<" + std::string(name) + "/>");
+    EXPECT_FALSE(CVorDDHandler().takes(dom.root())) << name;
     EXPECT_DEATH(CVorDDHandler().newElement(dom.root()),
                  "VorDDHandler:.*CVorDDHandler::newElement.*Assertion `false' failed")
         << name;
@@ -183,6 +185,7 @@ TEST(DelegatingHandler, RefusesEveryNamespaceOfNoFlavour) {
 TEST(DelegatingHandler, IgnoresEverythingWithoutARoot) {
   test::Dom dom("<service/>");
   CDelegatingHandler handler;
+  EXPECT_TRUE(handler.takes(dom.root()));
   handler.startElement(dom.root());
   handler.newElement(dom.root());
   handler.endParse(dom.document());

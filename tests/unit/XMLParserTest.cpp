@@ -50,6 +50,9 @@ class Recorder : public CElementHandler {
     note("newElement", node);
     if (failAt == test::narrow(node->getLocalName())) throw std::runtime_error("handler");
   }
+  bool takes(const xercesc::DOMNode* node) const override {
+    return test::narrow(node->getLocalName()) != doesNotTake;
+  }
   void endParse(xercesc::DOMDocument* document) override {
     calls.emplace_back("endParse");
     textChildren = document->getDocumentElement()->getChildNodes()->getLength();
@@ -59,6 +62,7 @@ class Recorder : public CElementHandler {
   XMLSize_t textChildren = 0;
   bool refuseRoot = false;
   std::string failAt;
+  std::string doesNotTake;
 
  private:
   void note(const std::string& call, const xercesc::DOMNode* node) {
@@ -234,6 +238,53 @@ TEST_F(XMLParser, ElementsThatAWildcardSkippedAreRefused) {
   const as::CASParseException message =
       failure(document("<open><x xmlns='urn:x'/></open>"), &recorder_);
   EXPECT_EQ(message.getErrorText(), "no schema declares the element 'x'");
+}
+
+TEST_F(XMLParser, ElementsThatTheHandlerDoesNotTakeAreRefusedAsTheyStart) {
+  recorder_.doesNotTake = "b";
+  const as::CASParseException message = failure(document("\n<a>\n<b><a/></b></a>"), &recorder_);
+  EXPECT_EQ(
+      message.getErrorText(),
+      "the element 'b' has no place in a document of the namespace '" + std::string(ns) + "'");
+  EXPECT_EQ(message.getErrorCode(), 0);
+  EXPECT_EQ(message.getLineNum(), 3);
+  EXPECT_EQ(message.getColNum(), 4);
+  EXPECT_EQ(message.getSystemId(), "doc");
+  EXPECT_EQ(recorder_.calls, (Calls{"startDocument(r)", "startElement(r)", "startElement(a)"}));
+}
+
+TEST_F(XMLParser, ARootThatTheHandlerDoesNotTakeIsRefused) {
+  recorder_.doesNotTake = "r";
+  const as::CASParseException message = failure(document(""), &recorder_);
+  EXPECT_EQ(
+      message.getErrorText(),
+      "the element 'r' has no place in a document of the namespace '" + std::string(ns) + "'");
+  EXPECT_EQ(recorder_.calls, Calls{"startDocument(r)"});
+}
+
+TEST_F(XMLParser, ElementsOfAnotherNamespaceAreRefusedAsTheyStart) {
+  const std::string other = directory_.write(
+      "other.xsd",
+      "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:x'>"
+      "<xs:element name='a'/></xs:schema>");
+  const std::string text =
+      document("<open><x:a xmlns:x='urn:x' xsi:schemaLocation='urn:x " + other + "'/></open>");
+  const as::CASParseException message = failure(text, &recorder_);
+  EXPECT_EQ(
+      message.getErrorText(),
+      "the element 'x:a' has no place in a document of the namespace '" + std::string(ns) + "'");
+  EXPECT_EQ(recorder_.calls, (Calls{"startDocument(r)", "startElement(r)", "startElement(open)"}));
+}
+
+// Nothing is wrapped then.
+TEST_F(XMLParser, WithoutAHandlerElementsOfEveryNamespaceAreRead) {
+  const std::string other = directory_.write(
+      "other.xsd",
+      "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:x'>"
+      "<xs:element name='a'/></xs:schema>");
+  EXPECT_NO_THROW(parse(
+      document("<open><x:a xmlns:x='urn:x' xsi:schemaLocation='urn:x " + other + "'/></open>"),
+      nullptr));
 }
 
 TEST_F(XMLParser, RootOfADtdIsCheckedByTheHandlerFirst) {
@@ -423,6 +474,45 @@ TEST_F(XMLParser, SchemasAreNotReadFromANetworkOrADevice) {
       EXPECT_NE(message.getErrorText().find(row.message), std::string::npos)
           << message.getErrorText();
     }
+  }
+}
+
+using xercesc::XMLResourceIdentifier;
+
+// A schema that imports a namespace need not tell where its schema is.
+TEST_F(XMLParser, ReferencesMayHaveNoNameOfAFile) {
+  const struct {
+    const char* what;
+    XMLResourceIdentifier::ResourceIdentifierType type;
+    const XMLCh* uri;
+    bool isOurs;
+  } rows[] = {
+      {"import", XMLResourceIdentifier::SchemaImport, u"urn:x", false},
+      {"import of no namespace", XMLResourceIdentifier::SchemaImport, nullptr, false},
+      {"import of ours", XMLResourceIdentifier::SchemaImport, XSDNS::ddURI, true},
+      {"schema", XMLResourceIdentifier::SchemaGrammar, u"urn:x", false},
+      {"schema of no namespace", XMLResourceIdentifier::SchemaGrammar, nullptr, false},
+      {"schema of ours", XMLResourceIdentifier::SchemaGrammar, XSDNS::ddURI, true},
+      {"include", XMLResourceIdentifier::SchemaInclude, XSDNS::ddURI, false},
+      {"redefine", XMLResourceIdentifier::SchemaRedefine, XSDNS::ddURI, false},
+  };
+  for (const auto& row : rows) {
+    for (const XMLCh* base : {static_cast<const XMLCh*>(nullptr), u"", u"/some/where/s.xsd"}) {
+      SCOPED_TRACE(row.what);
+      CXMLParser parser;
+      XMLResourceIdentifier reference(row.type, nullptr, row.uri, nullptr, base);
+      EXPECT_EQ(parser.resolveEntity(&reference), nullptr) << "no schema directory";
+      parser.setSchemaLocation((directory_.path() + "/").c_str());
+      const std::unique_ptr<xercesc::InputSource> source(parser.resolveEntity(&reference));
+      ASSERT_EQ(source != nullptr, row.isOurs);
+      if (source) {
+        EXPECT_EQ(test::narrow(source->getSystemId()), directory_.path() + "/vorcobol.xsd");
+      }
+    }
+  }
+  for (const auto type : {XMLResourceIdentifier::ExternalEntity, XMLResourceIdentifier::UnKnown}) {
+    XMLResourceIdentifier reference(type, nullptr);
+    EXPECT_THROW(parser_.resolveEntity(&reference), as::CASParseException);
   }
 }
 
