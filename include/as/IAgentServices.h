@@ -35,9 +35,9 @@ class IService;
 //  - a document, schema or entity on a network: nothing is ever fetched over one;
 //  - a directory in place of a document, and whatever is no regular file in place of a schema that
 //    the document names. (The client may name a device or pipe as the document.)
-// These protect from hostile documents as long as a schema directory is set. Without one, a
-// document brings schemas of its own, and one that lets unknown elements through ends the process:
-// read only documents that you trust.
+// These, and what is said here of the content of documents, hold as long as a schema directory is
+// set. Without one, a document brings schemas of its own, which may let anything through: read only
+// documents that you trust then.
 //
 // A relative file name counts from the current directory; a URL of a local file (file:///...) is
 // taken too. A null file name or buffer identifier counts as an empty one, a null buffer as a

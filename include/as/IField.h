@@ -67,9 +67,8 @@ class AS_EXPORT IField : virtual public IElement {
 
   // Adds a field of that name and number of occurrences (see setName() and setOccurs()) behind the
   // others and returns it; null, and nothing changes, when there is a reference.
-  // REQUIRES: elements are nested no deeper than can be written, 2,048 levels; many times that
-  // overflows the stack when the service is deleted. The object is no field attribute: see
-  // IWSField::addFieldAttribute.
+  // REQUIRES: elements are nested no deeper than can be written, 2,048 levels, and the object is no
+  // field attribute (see IWSField::addFieldAttribute).
   virtual IField* addField(const char* name, int occurs) = 0;
 
   // Adds a mapping to `item` (see IMapping::setDataItem) behind the others and returns it; null,
