@@ -17,13 +17,14 @@
 #include <thread>
 #include <vector>
 
-#include "support/Dictionary.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 #include "support/TempDirectory.h"
 
 namespace {
 
 using test::dictionary;
-using test::dictionaryNamespace;
 using test::dictionaryOf;
 using test::itemOf;
 using test::Outcome;
@@ -34,7 +35,7 @@ using test::topItem;
 using testing::AnyOf;
 using testing::HasSubstr;
 
-const std::string ns = dictionaryNamespace;
+const std::string ns = as::namespaces::dd.uri;
 
 std::string repeated(const std::string& text, int times) {
   std::string result;

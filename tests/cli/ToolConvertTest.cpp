@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -29,10 +30,10 @@ std::string service(const std::string& ns, const std::string& implementation,
 }
 
 const char* namespaceOf(const std::string& flavour) {
-  if (flavour == "ws") return test::flavours::webNamespace;
-  if (flavour == "com") return test::flavours::comNamespace;
-  if (flavour == "java") return test::flavours::javaNamespace;
-  return test::flavours::dotNetNamespace;
+  if (flavour == "ws") return as::namespaces::ws.uri;
+  if (flavour == "com") return as::namespaces::com.uri;
+  if (flavour == "java") return as::namespaces::java.uri;
+  return as::namespaces::dotnet.uri;
 }
 
 std::string operation(const std::string& parameters, const std::string& attributes = "",
@@ -154,7 +155,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(ToolConvertTest, TheItemHelpsWhereNoTypeHoldsAsMuch) {
   write("PAY.xml", test::payProgram());
   const test::ToolOutcome outcome =
-      convert(service(test::flavours::javaNamespace, "java",
+      convert(service(as::namespaces::java.uri, "java",
                       operation("<parameter name='p' dataType='BigDecimal'><mappings><mapping "
                                 "item='REQ.LINE.AMOUNT(1)'/></mappings></parameter>"),
                       "dataDictFilename='PAY.xml'"),
@@ -168,7 +169,7 @@ TEST_F(ToolConvertTest, TheItemHelpsWhereNoTypeHoldsAsMuch) {
 TEST_F(ToolConvertTest, EveryItemOfAFieldCounts) {
   write("PAY.xml", test::payProgram());
   const test::ToolOutcome outcome =
-      convert(service(test::flavours::javaNamespace, "java",
+      convert(service(as::namespaces::java.uri, "java",
                       operation("<parameter name='p' dataType='BigDecimal'><mappings>"
                                 "<mapping item='REQ.LINE.CELL(1,1)'/>"
                                 "<mapping item='REQ.LINE.AMOUNT(1)'/></mappings></parameter>"),
@@ -180,17 +181,16 @@ TEST_F(ToolConvertTest, EveryItemOfAFieldCounts) {
 }
 
 TEST_F(ToolConvertTest, ATypeOfNoWordIsToldAsOne) {
-  const test::ToolOutcome outcome =
-      convert(service(test::flavours::webNamespace, "ws",
-                      operation("<parameter name='p' dataType='Int32'/>")),
-              "java");
+  const test::ToolOutcome outcome = convert(
+      service(as::namespaces::ws.uri, "ws", operation("<parameter name='p' dataType='Int32'/>")),
+      "java");
   EXPECT_THAT(notesOf(outcome),
               ElementsAre("op.p: data type 'Int32' is none of Web services: made 'String'"));
 }
 
 TEST_F(ToolConvertTest, NamespacesAreReplacedWhereverTheyAreDeclared) {
-  const std::string java = test::flavours::javaNamespace;
-  const std::string web = test::flavours::webNamespace;
+  const std::string java = as::namespaces::java.uri;
+  const std::string web = as::namespaces::ws.uri;
   convert("<service xmlns='" + java +
               "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" +
               java + " " + java + "' name='see " + java + " for more' implementation='java'>" +
@@ -205,7 +205,7 @@ TEST_F(ToolConvertTest, NamespacesAreReplacedWhereverTheyAreDeclared) {
 
 TEST_F(ToolConvertTest, AFieldAttributeOfAFieldsNameIsRenamed) {
   const test::ToolOutcome outcome =
-      convert(service(test::flavours::webNamespace, "ws",
+      convert(service(as::namespaces::ws.uri, "ws",
                       operation("<parameter name='p'><field name='a' dataType='int'/>"
                                 "<fieldAttribute name='a' dataType='short'/></parameter>")),
               "java");
@@ -217,7 +217,7 @@ TEST_F(ToolConvertTest, AFieldAttributeOfAFieldsNameIsRenamed) {
 
 TEST_F(ToolConvertTest, TheDictionaryIsNeverTheOutput) {
   write("PAY.xml", test::payProgram());
-  write("s.xml", service(test::flavours::javaNamespace, "java", "", "dataDictFilename='PAY.xml'"));
+  write("s.xml", service(as::namespaces::java.uri, "java", "", "dataDictFilename='PAY.xml'"));
   const test::ToolOutcome outcome = run({"convert", "--flavour", "com", "s.xml", "-o", "PAY.xml"});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.err, HasSubstr("PAY.xml: error: this is the dictionary"));
@@ -226,8 +226,8 @@ TEST_F(ToolConvertTest, TheDictionaryIsNeverTheOutput) {
 
 TEST_F(ToolConvertTest, ADictionaryThatCannotBeReadIsToldAndDoneWithout) {
   const test::ToolOutcome outcome = convert(
-      service(test::flavours::javaNamespace, "java",
-              operation("<parameter name='p' dataType='int'/>"), "dataDictFilename='gone.xml'"),
+      service(as::namespaces::java.uri, "java", operation("<parameter name='p' dataType='int'/>"),
+              "dataDictFilename='gone.xml'"),
       "ws");
   EXPECT_THAT(outcome.out, HasSubstr("the dictionary cannot be used"));
   EXPECT_THAT(output(),
@@ -235,7 +235,7 @@ TEST_F(ToolConvertTest, ADictionaryThatCannotBeReadIsToldAndDoneWithout) {
 }
 
 TEST_F(ToolConvertTest, ReferencesHaveNoTypeOfTheirOwn) {
-  convert(service(test::flavours::javaNamespace, "java",
+  convert(service(as::namespaces::java.uri, "java",
                   "<parameterTypeDefs><parameter name='D' dataType='int'/></parameterTypeDefs>" +
                       operation("<parameter name='p' ref='D' dataType='byte'/>")),
           "dotnet");
@@ -248,7 +248,7 @@ TEST_F(ToolConvertTest, ReferencesHaveNoTypeOfTheirOwn) {
 TEST_F(ToolConvertTest, RepeatedGroupsAreArraysInWebServicesAlone) {
   const std::string group =
       operation("<parameter name='p' occurs='5'><field name='f' dataType='int'/></parameter>");
-  convert(service(test::flavours::javaNamespace, "java", group), "ws");
+  convert(service(as::namespaces::java.uri, "java", group), "ws");
   EXPECT_EQ(converted()["operations"][0]["parameters"][0]["typeText"], "Array");
   const test::ToolOutcome back = convert(output(), "com");
   EXPECT_THAT(output(), Not(HasSubstr("Array")));
@@ -257,21 +257,21 @@ TEST_F(ToolConvertTest, RepeatedGroupsAreArraysInWebServicesAlone) {
 
 TEST_F(ToolConvertTest, WhatTheNewFlavourNeedsIsAdded) {
   const std::string plain = operation("<parameter name='p' dataType='int'/>");
-  convert(service(test::flavours::comNamespace, "com", plain), "ws");
+  convert(service(as::namespaces::com.uri, "com", plain), "ws");
   const nlohmann::json web = converted()["operations"][0];
   EXPECT_EQ(web["styleText"], "document");
   EXPECT_EQ(web["inputUseText"], "literal");
   EXPECT_EQ(web["outputUseText"], "literal");
   EXPECT_EQ(web["inputNamespace"], "urn:agentservices:PAYROLL");
   EXPECT_EQ(web["outputNamespace"], "urn:agentservices:PAYROLL");
-  convert(service(test::flavours::comNamespace, "com", plain), "java");
+  convert(service(as::namespaces::com.uri, "com", plain), "java");
   EXPECT_THAT(output(), HasSubstr("transactionType=\"requires\""));
 }
 
 TEST_F(ToolConvertTest, HeadersAndFaultsAreLeftOutAndTold) {
   const std::string message = "<parameters><parameter name='x' dataType='int'/></parameters>";
   const test::ToolOutcome outcome = convert(
-      service(test::flavours::webNamespace, "ws",
+      service(as::namespaces::ws.uri, "ws",
               operation("<parameter name='p' dataType='int' namespace='urn:x' "
                         "elementForm='qualified' attributeForm='unqualified'/>",
                         "style='rpc' inputUse='literal' outputUse='literal' inputNamespace='urn:x' "
@@ -303,7 +303,7 @@ TEST_F(ToolConvertTest, HeadersAndFaultsAreLeftOutAndTold) {
 
 TEST_F(ToolConvertTest, FieldAttributesBecomeFields) {
   const test::ToolOutcome outcome =
-      convert(service(test::flavours::webNamespace, "ws",
+      convert(service(as::namespaces::ws.uri, "ws",
                       operation("<parameter name='p'><field name='f' dataType='int'/>"
                                 "<fieldAttribute name='a' dataType='short'/></parameter>")),
               "dotnet");
@@ -317,14 +317,14 @@ TEST_F(ToolConvertTest, FieldAttributesBecomeFields) {
 
 TEST_F(ToolConvertTest, ReturnParametersAndTransactionTypesAreLeftOutAndTold) {
   const test::ToolOutcome com =
-      convert(service(test::flavours::comNamespace, "com",
+      convert(service(as::namespaces::com.uri, "com",
                       operation("<parameter name='p' dataType='int' returnParameter='1'/>")),
               "java");
   EXPECT_THAT(notesOf(com), ElementsAre("service: returnParameter has no equivalent in Java "
                                         "services: left out (1 time)"));
   EXPECT_THAT(output(), Not(HasSubstr("returnParameter")));
   const test::ToolOutcome java =
-      convert(service(test::flavours::javaNamespace, "java",
+      convert(service(as::namespaces::java.uri, "java",
                       operation("<parameter name='p' dataType='int'/>", "transactionType='never'")),
               "com");
   EXPECT_THAT(notesOf(java), ElementsAre("service: transactionType has no equivalent in COM "
@@ -332,7 +332,7 @@ TEST_F(ToolConvertTest, ReturnParametersAndTransactionTypesAreLeftOutAndTold) {
 }
 
 TEST_F(ToolConvertTest, EverythingElseStays) {
-  const std::string ns = test::flavours::javaNamespace;
+  const std::string ns = as::namespaces::java.uri;
   convert("<?first note?><!-- before --><j:service xmlns:j='" + ns +
               "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" + ns +
               " " + ns +
@@ -342,7 +342,7 @@ TEST_F(ToolConvertTest, EverythingElseStays) {
               "<j:hiddenParameters><j:hiddenParameter item='$stdin' value='v'/>"
               "</j:hiddenParameters><?pi x?></j:operation></j:operations></j:service>",
           "com");
-  const std::string com = test::flavours::comNamespace;
+  const std::string com = as::namespaces::com.uri;
   EXPECT_THAT(output(),
               AllOf(HasSubstr("<?first note?>"), HasSubstr("<!-- before -->"),
                     HasSubstr("<j:service"), HasSubstr("xmlns:j=\"" + com + "\""),
@@ -363,20 +363,19 @@ TEST_F(ToolConvertTest, ANetServiceInTheNamespaceOfWebServicesIsOne) {
   write("p.xml", test::payProgram());
   ASSERT_EQ(run({"new", "--flavour", "dotnet", "p.xml", "-o", "s.xml"}).exitCode, 0);
   const std::string written = contentOf(pathOf("s.xml"));
-  ASSERT_THAT(written, HasSubstr(test::flavours::webNamespace));
+  ASSERT_THAT(written, HasSubstr(as::namespaces::ws.uri));
   convert(written, "dotnet");
   EXPECT_THAT(output(),
-              AllOf(HasSubstr(test::flavours::dotNetNamespace),
-                    Not(HasSubstr(test::flavours::webNamespace)), HasSubstr("dataType=\"Int32\"")));
+              AllOf(HasSubstr(as::namespaces::dotnet.uri), Not(HasSubstr(as::namespaces::ws.uri)),
+                    HasSubstr("dataType=\"Int32\"")));
   convert(written, "ws");
-  EXPECT_THAT(output(), AllOf(HasSubstr(test::flavours::webNamespace),
-                              HasSubstr("implementation=\"ws\""), HasSubstr("dataType=\"int\"")));
+  EXPECT_THAT(output(), AllOf(HasSubstr(as::namespaces::ws.uri), HasSubstr("implementation=\"ws\""),
+                              HasSubstr("dataType=\"int\"")));
 }
 
 TEST_F(ToolConvertTest, TheDictionaryIsNamedAsSeenFromTheOutput) {
   write("a/PAY.xml", test::payProgram());
-  write("a/s.xml",
-        service(test::flavours::javaNamespace, "java", "", "dataDictFilename='PAY.xml'"));
+  write("a/s.xml", service(as::namespaces::java.uri, "java", "", "dataDictFilename='PAY.xml'"));
   std::filesystem::create_directory(directory() / "b");
   // Whether it is there or not.
   for (int i = 0; i < 2; i++) {
@@ -398,7 +397,7 @@ TEST_F(ToolConvertTest, AFailureLeavesTheOldFile) {
 }
 
 TEST_F(ToolConvertTest, AServiceCanTakeItsOwnPlace) {
-  write("s.xml", service(test::flavours::javaNamespace, "java",
+  write("s.xml", service(as::namespaces::java.uri, "java",
                          operation("<parameter name='p' dataType='int'/>")));
   ASSERT_EQ(run({"convert", "--flavour", "dotnet", "s.xml", "-o", "s.xml"}).exitCode, 0);
   EXPECT_THAT(contentOf(pathOf("s.xml")), HasSubstr("Int32"));

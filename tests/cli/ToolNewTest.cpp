@@ -9,11 +9,13 @@
 #include <filesystem>
 #include <memory>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
-#include "support/Dictionary.h"
-#include "support/JavaService.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 #include "support/Tool.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "support/JavaService.h"
+#include "support/Documents.h"
 #include "support/Tool.h"
 
 namespace {

@@ -9,7 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "support/Dictionary.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 #include "support/Tool.h"
 
 namespace {
@@ -25,8 +27,7 @@ using testing::Not;
 using testing::StartsWith;
 
 std::string dictionaryStart(const std::string& rootAttributes) {
-  return std::string("<program xmlns=\"") + test::dictionaryNamespace + "\" " + rootAttributes +
-         ">";
+  return std::string("<program xmlns=\"") + as::namespaces::dd.uri + "\" " + rootAttributes + ">";
 }
 
 // A dictionary with something of everything.
@@ -470,7 +471,7 @@ TEST_P(ToolRefusalTest, IsTold) {
 const std::string neitherKind =
     std::string(
         "refused.xml: error: not a data dictionary: its root element is not in the namespace ") +
-    test::dictionaryNamespace +
+    as::namespaces::dd.uri +
     "; and not a service: its root element is in none of the namespaces"
     " http://agentservices.example/schema/ws/v1.0/vorws.xsd"
     " http://agentservices.example/schema/java/v2.0/vorjava.xsd"
@@ -481,7 +482,7 @@ const std::string schemaHint =
     std::string(
         "hint: name the schema in the root element: "
         "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:schemaLocation=\"") +
-    test::dictionaryNamespace + " " + test::dictionaryNamespace + "\"";
+    as::namespaces::dd.uri + " " + as::namespaces::dd.uri + "\"";
 
 INSTANTIATE_TEST_SUITE_P(
     Documents, ToolRefusalTest,
@@ -499,7 +500,7 @@ INSTANTIATE_TEST_SUITE_P(
             "refused.xml:1:93: error: no declaration found for element 'program'\n" + schemaHint},
         RefusalCase{
             "NoSchemaLocationBehindAPrefix",
-            std::string("<d:program name='P' xmlns:d='") + test::dictionaryNamespace + "'/>",
+            std::string("<d:program name='P' xmlns:d='") + as::namespaces::dd.uri + "'/>",
             "refused.xml:1:92: error: no declaration found for element 'd:program'\n" + schemaHint},
         RefusalCase{"Empty", "", "refused.xml:1:1: error: invalid document structure"},
         RefusalCase{"ControlCharactersInAMessage",

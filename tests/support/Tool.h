@@ -8,23 +8,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <nlohmann/json.hpp>
-#include <sstream>
 #include <string>
-#include <system_error>
 #include <vector>
 
-namespace test {
+#include "support/Labels.h"
+#include "support/TempDirectory.h"
 
-inline std::string contentOf(const std::filesystem::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::ostringstream content;
-  content << in.rdbuf();
-  return content.str();
-}
+namespace test {
 
 struct ToolOutcome {
   int exitCode;  // -1 when a signal ended the tool.
@@ -35,24 +27,12 @@ struct ToolOutcome {
 // Has a directory of its own, in which the tool runs.
 class ToolTest : public testing::Test {
  protected:
-  void SetUp() override {
-    std::string pattern = testing::TempDir() + "/agentservices-tool-XXXXXX";
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    directory_ = pattern;
-  }
+  std::filesystem::path directory() const { return directory_.path(); }
 
-  void TearDown() override {
-    std::error_code ignored;
-    std::filesystem::remove_all(directory_, ignored);
-  }
-
-  const std::filesystem::path& directory() const { return directory_; }
-
-  std::string pathOf(const std::string& name) const { return (directory_ / name).string(); }
+  std::string pathOf(const std::string& name) const { return (directory() / name).string(); }
 
   void write(const std::string& name, const std::string& content) const {
-    std::filesystem::create_directories((directory_ / name).parent_path());
-    std::ofstream(directory_ / name, std::ios::binary) << content;
+    directory_.write(name, content);
   }
 
   // Runs `program` with its standard output on the descriptor `out`, which is closed afterwards.
@@ -66,7 +46,7 @@ class ToolTest : public testing::Test {
     const pid_t child = fork();
     if (child == 0) {
       const int err = open(errorFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-      if (chdir(directory_.c_str()) == 0 && dup2(out, 1) == 1 && dup2(err, 2) == 2) {
+      if (chdir(directory().c_str()) == 0 && dup2(out, 1) == 1 && dup2(err, 2) == 2) {
         execv(program.c_str(), argv.data());
       }
       _exit(127);
@@ -109,14 +89,8 @@ class ToolTest : public testing::Test {
   }
 
  private:
-  std::filesystem::path directory_;
+  const TempDirectory directory_;
 };
-
-// The name of a test with parameters.
-template <class Case>
-std::string labelOf(const testing::TestParamInfo<Case>& info) {
-  return info.param.label;
-}
 
 }  // namespace test
 
