@@ -111,7 +111,7 @@ class OwnProgram : public Own<as::IProgram> {
   OwnList<> entryPoints_;
 };
 
-class ClientProgram : public testing::TestWithParam<test::flavours::Flavour> {
+class ClientProgram : public testing::TestWithParam<test::Flavour> {
  protected:
   ClientProgram()
       : program_(new OwnProgram),
@@ -133,7 +133,7 @@ class ClientProgram : public testing::TestWithParam<test::flavours::Flavour> {
   as::IParameter* parameter_;
 };
 
-INSTANTIATE_TEST_SUITE_P(Flavours, ClientProgram, testing::ValuesIn(test::flavours::all()),
+INSTANTIATE_TEST_SUITE_P(Flavours, ClientProgram, testing::ValuesIn(test::flavours::all),
                          [](const auto& value) { return std::string(value.param.label); });
 
 TEST_P(ClientProgram, MappingsLeadToItsItems) {

@@ -4,7 +4,10 @@
 #include <string>
 #include <vector>
 
-#include "support/Dictionary.h"
+#include "as/AgentServices.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace {
 

@@ -13,8 +13,10 @@
 #include <string>
 #include <vector>
 
-#include "support/Dictionary.h"
+#include "support/Documents.h"
+#include "support/Model.h"
 #include "support/ModelText.h"
+#include "support/Requests.h"
 
 namespace {
 

@@ -1,15 +1,19 @@
 // Tests of the kinds of data items: what each kind adds and which interfaces it has.
 #include <gtest/gtest.h>
 
-#include <iterator>
+#include <memory>
+#include <ostream>
 #include <string>
-#include <vector>
 
-#include "support/Dictionary.h"
+#include "as/AgentServices.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace {
 
 using test::dictionaryOf;
+using test::element;
 using test::parse;
 using test::topItem;
 

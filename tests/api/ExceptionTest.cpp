@@ -2,11 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <exception>
+#include <memory>
 #include <string>
 #include <type_traits>
 
 #include "as/AgentServices.h"
-#include "support/Dictionary.h"
+#include "support/Requests.h"
 
 namespace {
 
@@ -58,10 +59,16 @@ TEST(Exceptions, AreUnrelatedValueClasses) {
   EXPECT_TRUE(std::is_empty_v<as::CASInvalidNamespaceException>);
 }
 
+// Asks for the dictionary `document`.
+void request(const std::string& document, const char* id) {
+  const std::unique_ptr<as::IProgram> program(
+      test::newServices()->parseCobolDD(id, test::bytesOf(document), test::lengthOf(document)));
+}
+
 // A document of which line 3, column 7 is where the parser meets something impossible.
 TEST(ParseException, TellsWhereAndWhatInTheDocument) {
   try {
-    test::parse("<?xml version='1.0'?>\n<program\n a='1'<", "orders.xml");
+    request("<?xml version='1.0'?>\n<program\n a='1'<", "orders.xml");
     FAIL() << "no exception";
   } catch (const as::CASParseException& exception) {
     EXPECT_EQ(exception.getLineNum(), 3);
@@ -76,7 +83,7 @@ TEST(ParseException, TellsWhereAndWhatInTheDocument) {
 TEST(Exceptions, AreNotCaughtAsStandardOnes) {
   const auto caughtAsStandard = [](const std::string& document) {
     try {
-      test::parse(document);
+      request(document, "test.xml");
     } catch (const std::exception&) {
       return true;
     } catch (const as::CASParseException&) {

@@ -10,8 +10,10 @@
 #include <vector>
 
 #include "as/Namespaces.h"
-#include "support/Dictionary.h"
+#include "support/Documents.h"
+#include "support/Model.h"
 #include "support/OwnProcess.h"
+#include "support/Requests.h"
 #include "support/TempDirectory.h"
 
 namespace {

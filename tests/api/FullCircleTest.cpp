@@ -5,14 +5,22 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "as/AgentServices.h"
 #include "support/Flavours.h"
+#include "support/Labels.h"
+#include "support/Model.h"
 #include "support/ModelText.h"
+#include "support/Requests.h"
+#include "support/XmlText.h"
 
 namespace {
 
-using test::flavours::Flavour;
+using test::countOf;
+using test::Flavour;
+using test::labelOf;
 
 struct Circle {
   std::string label;
@@ -24,7 +32,7 @@ void PrintTo(const Circle& circle, std::ostream* out) { *out << circle.label; }
 
 std::vector<Circle> circles() {
   std::vector<Circle> all;
-  for (const Flavour& flavour : test::flavours::all()) {
+  for (const Flavour& flavour : test::flavours::all) {
     for (const char* const program : {"DEPINT01", "MOTPREM", "PAYSLIP", "WHSLOTS"}) {
       all.push_back({flavour.label + std::string(program), program, flavour});
     }
@@ -159,7 +167,7 @@ class FullCircle : public testing::TestWithParam<Circle> {
 
   // The document as it is written, which declares the namespace of the flavour once.
   std::string written(as::IService& service) const {
-    const std::string text = test::flavours::written(service);
+    const std::string text = test::written(service);
     EXPECT_EQ(countOf(text, "xmlns=\""), 1) << text.substr(0, 600);
     EXPECT_EQ(countOf(text, "xmlns=\"" + std::string(xmlns_) + "\""), 1) << text.substr(0, 600);
     EXPECT_EQ(countOf(text, "xmlns:xsi="), 1) << text.substr(0, 600);
@@ -170,23 +178,12 @@ class FullCircle : public testing::TestWithParam<Circle> {
   // services; in that of its own it is read back as what it was.
   std::unique_ptr<as::IService> readBack(std::string text) {
     if (GetParam().flavour.implementation == as::IService::TYPE_DOTNET) {
-      xmlns_ = test::flavours::dotNetNamespace;
-      const std::string old = test::flavours::webNamespace;
-      for (std::size_t at = 0; (at = text.find(old, at)) != std::string::npos;) {
-        text.replace(at, old.size(), test::flavours::dotNetNamespace);
-      }
+      xmlns_ = as::namespaces::dotnet.uri;
+      text = test::replaced(std::move(text), as::namespaces::ws.uri, as::namespaces::dotnet.uri);
     }
-    std::unique_ptr<as::IService> service(test::newServices()->parseService(
-        "service.xml", reinterpret_cast<const unsigned char*>(text.data()),
-        static_cast<unsigned int>(text.size()), true));
+    std::unique_ptr<as::IService> service = test::parseService(text, true);
     service->setDDFilename(dictionary().c_str());
     return service;
-  }
-
-  static int countOf(const std::string& text, const std::string& part) {
-    int count = 0;
-    for (std::size_t at = 0; (at = text.find(part, at)) != std::string::npos; at++) count++;
-    return count;
   }
 
  private:
@@ -219,23 +216,21 @@ TEST_P(FullCircle, NewServicesCanBeEditedAfterTheyWereWritten) {
 }
 
 INSTANTIATE_TEST_SUITE_P(FlavoursAndPrograms, FullCircle, testing::ValuesIn(circles()),
-                         [](const testing::TestParamInfo<Circle>& test) {
-                           return test.param.label;
-                         });
+                         labelOf<Circle>);
 
 // As it is written, a new .NET service is read back as a Web service with .NET words.
 TEST(FullCircleOfNet, ANewNetServiceIsReadBackAsAWebServiceWithItsWords) {
-  const Flavour& flavour = test::flavours::all().back();
+  const Flavour& flavour = test::flavours::all.back();
   ASSERT_EQ(flavour.implementation, as::IService::TYPE_DOTNET);
-  const auto created = test::flavours::newService(flavour);
+  const auto created = test::newService(flavour);
   as::IParameter* const parameter =
       created->addOperation("o", nullptr)->addParameter(as::IParameter::BY_IN, "p", 1);
   as::interface_cast<as::IDotNETField>(parameter)->setType(as::IDotNETField::NET_DECIMAL);
-  const auto parsed = test::flavours::writtenAndRead(*created);
+  const auto parsed = test::writtenAndRead(*created);
   EXPECT_NE(as::interface_cast<as::IWebService>(parsed.get()), nullptr);
   EXPECT_EQ(as::interface_cast<as::IDotNET>(parsed.get()), nullptr);
   EXPECT_EQ(parsed->getImplementation(), as::IService::TYPE_DOTNET);
-  auto* const read = test::flavours::parameterOf<as::IWSParameter>(*parsed);
+  auto* const read = test::parameterOf<as::IWSParameter>(*parsed);
   EXPECT_EQ(read->getAttributeValue("dataType"), "Decimal");
   EXPECT_EQ(static_cast<int>(read->getType()), -1);
 }

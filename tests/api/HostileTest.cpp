@@ -18,14 +18,15 @@
 #include <vector>
 
 #include "as/Namespaces.h"
-#include "support/Dictionary.h"
+#include "support/Documents.h"
+#include "support/Model.h"
 #include "support/OwnProcess.h"
+#include "support/Requests.h"
 #include "support/TempDirectory.h"
 
 namespace {
 
 using test::dictionary;
-using test::dictionaryNamespace;
 using test::dictionaryOf;
 using test::itemOf;
 using test::Outcome;
@@ -36,7 +37,7 @@ using test::topItem;
 using testing::AnyOf;
 using testing::HasSubstr;
 
-const std::string ns = dictionaryNamespace;
+const std::string ns = as::namespaces::dd.uri;
 
 std::string repeated(const std::string& text, int times) {
   std::string result;

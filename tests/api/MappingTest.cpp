@@ -1,4 +1,4 @@
-// Tests of parameters, fields and mappings of a parsed service, and of the Java words on them.
+// Tests of mappings and hidden parameters: paths, subscripts, and the data item that is found.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -6,132 +6,24 @@
 #include <memory>
 #include <string>
 
-#include "support/Dictionary.h"
-#include "support/JavaService.h"
+#include "as/AgentServices.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/ParsedJava.h"
+#include "support/Requests.h"
 #include "support/TempDirectory.h"
 
 namespace {
 
+using test::mappingOf;
+using test::operationOf;
+using test::parameterOf;
+using test::parsedJava;
 using test::parseService;
 
-// A service with one operation around `parameters`, and `definitions` of types.
-std::string serviceOf(const std::string& parameters, const std::string& definitions = "",
-                      const std::string& dictionary = "none.xml") {
-  return test::javaService("dataDictFilename='" + dictionary + "'",
-                           "<parameterTypeDefs>" + definitions +
-                               "</parameterTypeDefs><operations><operation name='op'><parameters>" +
-                               parameters + "</parameters></operation></operations>");
-}
-
-as::IOperation* operationOf(as::IService& service) {
-  return test::itemOf<as::IOperation>(service.getOperations(), 0);
-}
-
-template <class T = as::IParameter>
-T* parameterOf(as::IService& service, int index = 0) {
-  return test::itemOf<T>(operationOf(service)->getParameters(), index);
-}
-
-as::IMapping* mappingOf(as::IService& service) {
-  return test::itemOf<as::IMapping>(parameterOf(service)->getMappings(), 0);
-}
-
 std::unique_ptr<as::IService> serviceWithMapping(const std::string& attributes) {
-  return parseService(serviceOf("<parameter name='p'><mappings><mapping " + attributes +
-                                "/></mappings></parameter>"));
-}
-
-TEST(Parameter, ReadsAndWritesItsDirection) {
-  const struct {
-    const char* attribute;
-    int direction;
-  } rows[] = {{"byType='in'", 0}, {"byType='out'", 1}, {"byType='io'", 2}, {"", 2}};
-  for (const auto& row : rows) {
-    const auto service = parseService(serviceOf("<parameter " + std::string(row.attribute) + "/>"));
-    EXPECT_EQ(parameterOf(*service)->getByType(), row.direction) << row.attribute;
-  }
-  const auto service = parseService(serviceOf("<parameter/>"));
-  as::IParameter* const parameter = parameterOf(*service);
-  const char* const words[] = {"in", "out", "io"};
-  for (int direction = 0; direction < 3; direction++) {
-    parameter->setByType(static_cast<as::IParameter::BY_TYPE>(direction));
-    EXPECT_EQ(parameter->getAttributeValue("byType"), words[direction]);
-  }
-  parameter->setByType(as::IParameter::BY_IN);
-  parameter->setByType(static_cast<as::IParameter::BY_TYPE>(7));
-  EXPECT_EQ(parameter->getAttributeValue("byType"), "io");
-}
-
-TEST(Parameter, TakesAllButItsNameFromItsDefinition) {
-  const auto service = parseService(
-      serviceOf("<parameter name='own' ref='D' occurs='9'/>",
-                "<parameter name='D' occurs='3' dataType='BigDecimal'><mappings><mapping item='A'/>"
-                "</mappings><field name='f'/></parameter>"));
-  as::IParameter* const parameter = parameterOf(*service);
-  EXPECT_EQ(parameter->getName(), "own");
-  EXPECT_EQ(parameter->getOccurs(), 3);
-  EXPECT_EQ(parameter->getChildren()->getLength(), 1);
-  EXPECT_EQ(parameter->getMappings()->getLength(), 1);
-  ASSERT_NE(parameter->getReferenceType(), nullptr);
-  EXPECT_EQ(parameter->getReferenceType()->getName(), "D");
-  auto* const java = as::interface_cast<as::IJavaParameter>(parameter);
-  EXPECT_EQ(java->getType(), as::IJavaField::JAVA_BIG_DECIMAL);
-  java->setType(as::IJavaField::JAVA_INT);
-  EXPECT_EQ(parameter->getAttributeValue("dataType"), "int");
-  EXPECT_EQ(java->getType(), as::IJavaField::JAVA_BIG_DECIMAL);
-  EXPECT_EQ(parameter->addField("g", 1), nullptr);
-  const auto program = test::parse(test::payProgram());
-  EXPECT_EQ(parameter->addMapping(test::topItem<as::IDataItem>(*program)), nullptr);
-}
-
-// Unknown, forward, self, and from a field to the definition around it: every accessor ends.
-TEST(Parameter, ReferencesThatLeadNowhereOrBackEnd) {
-  const struct {
-    const char* definitions;
-    bool resolved;
-  } rows[] = {
-      {"", false},
-      {"<parameter name='D' ref='D'/>", true},
-      {"<parameter name='D' ref='E'/><parameter name='E' ref='D'/>", true},
-      {"<parameter name='D'><field name='f' ref='D'/></parameter>", true},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.definitions);
-    const auto service =
-        parseService(serviceOf("<parameter name='p' ref='D' occurs='4'/>", row.definitions));
-    as::IParameter* const parameter = parameterOf(*service);
-    EXPECT_EQ(parameter->getReferenceType() != nullptr, row.resolved);
-    EXPECT_EQ(parameter->getOccurs(), row.resolved ? 0 : 4);
-    EXPECT_EQ(parameter->getMappings()->getLength(), 0);
-    EXPECT_LE(parameter->getChildren()->getLength(), 1);
-    EXPECT_EQ(as::interface_cast<as::IJavaParameter>(parameter)->getType(),
-              as::IJavaField::JAVA_SHORT);
-  }
-}
-
-TEST(Parameter, QualifiedNameJoinsNamesWithoutASeparator) {
-  const auto service = parseService(
-      serviceOf("<parameter name='p'><field name='f1'><field name='f2'/></field></parameter>",
-                "<parameter name='D'><field name='x'/></parameter>"));
-  auto* const outer = test::itemOf<as::IField>(parameterOf(*service)->getChildren(), 0);
-  EXPECT_EQ(test::itemOf<as::IField>(outer->getChildren(), 0)->getQualifiedName(), "oppf1f2");
-  EXPECT_EQ(parameterOf(*service)->getQualifiedName(), "opp");
-  auto* const definition = test::itemOf<as::IParameter>(service->getParameterTypeDefs(), 0);
-  EXPECT_EQ(test::itemOf<as::IField>(definition->getChildren(), 0)->getQualifiedName(), "Dx");
-}
-
-TEST(Parameter, AddsFieldsAndMappingsWhereTheSchemaWantsThem) {
-  const auto service = parseService(serviceOf("<parameter name='p'><field name='f'/></parameter>"));
-  const auto program = test::parse(test::payProgram());
-  as::IParameter* const parameter = parameterOf(*service);
-  EXPECT_EQ(parameter->addMapping(nullptr), nullptr);
-  ASSERT_NE(parameter->addMapping(test::topItem<as::IDataItem>(*program)), nullptr);
-  as::IField* const field = parameter->addField("g", 2);
-  EXPECT_EQ(field->getOccurs(), 2);
-  EXPECT_TRUE(parameter->hasChildren());
-  const auto again = parseService(as::CAgentServicesFactory::SerializeToString(service.get()));
-  EXPECT_EQ(parameterOf(*again)->getChildren()->getLength(), 2);
-  EXPECT_EQ(mappingOf(*again)->getRawMapping(), "WS-COUNT");
+  return parsedJava("<parameter name='p'><mappings><mapping " + attributes +
+                    "/></mappings></parameter>");
 }
 
 TEST(Mapping, WritesThePathWithASubscriptForEachTable) {
@@ -257,18 +149,19 @@ TEST(Mapping, FindsItsItemInTheProgram) {
   } rows[] = {
       {"REQ.LINE.CELL(*,2)", "CELL"}, {"REQ", "REQ"}, {"REQ.NONE", ""}, {"ID", ""}, {"$stdin", ""}};
   for (const auto& row : rows) {
-    const auto service =
-        parseService(serviceOf("<parameter><mappings><mapping item='" + std::string(row.item) +
-                                   "'/></mappings></parameter>",
-                               "", file),
-                     true);
+    const auto service = parseService(
+        test::parameterDocument(as::namespaces::java.uri,
+                                "<parameter><mappings><mapping item='" + std::string(row.item) +
+                                    "'/></mappings></parameter>",
+                                "", file),
+        true);
     as::IDataItem* const item = mappingOf(*service)->getDataItem();
     EXPECT_EQ(item == nullptr ? "" : item->getName(), row.name) << row.item;
   }
 }
 
 TEST(HiddenParameter, ReadsAndWritesItsValue) {
-  const auto service = parseService(serviceOf(""));
+  const auto service = parsedJava("");
   as::IHiddenParameter* const hidden = operationOf(*service)->addHiddenParameter(nullptr, "x");
   EXPECT_EQ(hidden->getValue(), "");
   hidden->setValue("B\xC3\xA4r");
@@ -277,46 +170,19 @@ TEST(HiddenParameter, ReadsAndWritesItsValue) {
   EXPECT_EQ(hidden->getValue(), "");
 }
 
-TEST(JavaService, ReadsAndWritesTransactionTypes) {
-  const char* const words[] = {"notSupported", "mandatory",   "never",
-                               "requires",     "requiresNew", "supports"};
-  const auto service = parseService(serviceOf(""));
-  auto* const operation = as::interface_cast<as::IJavaOperation>(operationOf(*service));
-  ASSERT_NE(operation, nullptr);
-  EXPECT_EQ(operation->getTransactionType(), as::IJavaOperation::TRANS_NEVER) << "absent";
-  for (int type = 0; type < 6; type++) {
-    operation->setTransactionType(static_cast<as::IJavaOperation::TRANS_TYPE>(type));
-    EXPECT_EQ(operation->getAttributeValue("transactionType"), words[type]);
-    EXPECT_EQ(operation->getTransactionType(), type);
+// Whatever the smallest number of occurrences is, the greatest tells that there is a table.
+TEST(MappingDimensions, GoByTheGreatestNumberOfOccurrences) {
+  const auto program = test::parse(test::dictionaryOf(
+      "<group name='G' maxOccurs='5'><group name='H' minOccurs='0' maxOccurs='10'>"
+      "<numeric name='N' digits='1' minOccurs='1'/></group></group>"));
+  as::IDataItem* item = test::topItem<as::IDataItem>(*program);
+  for (int depth = 0; depth < 2; depth++) {
+    item = test::itemOf<as::IDataItem>(as::interface_cast<as::IGroup>(item)->getChildren(), 0);
   }
-  operation->setTransactionType(static_cast<as::IJavaOperation::TRANS_TYPE>(9));
-  EXPECT_EQ(operation->getAttributeValue("transactionType"), "never");
-}
-
-TEST(JavaService, ReadsAndWritesDataTypes) {
-  const char* const words[] = {"byte",   "short",      "int",    "long",      "float",
-                               "double", "BigDecimal", "String", "byteArray", "BigInteger"};
-  const auto service = parseService(serviceOf("<parameter><field/></parameter>"));
-  auto* const field = test::itemOf<as::IJavaParameter>(parameterOf(*service)->getChildren(), 0);
-  ASSERT_NE(field, nullptr) << "fields are Java ones, too";
-  EXPECT_EQ(field->getType(), as::IJavaField::JAVA_SHORT) << "absent";
-  for (int type = 0; type < 10; type++) {
-    field->setType(static_cast<as::IJavaField::TYPE>(type));
-    EXPECT_EQ(field->getAttributeValue("dataType"), words[type]);
-    EXPECT_EQ(field->getType(), type);
-  }
-  field->setType(static_cast<as::IJavaField::TYPE>(10));
-  EXPECT_EQ(field->getAttributeValue("dataType"), "BigInteger");
-}
-
-TEST(JavaService, CastsToNoOtherFlavour) {
-  const auto service = parseService(serviceOf("<parameter/>"));
-  EXPECT_EQ(as::interface_cast<as::IWebService>(service.get()), nullptr);
-  EXPECT_EQ(as::interface_cast<as::IDotNET>(service.get()), nullptr);
-  EXPECT_EQ(parameterOf<as::IWSParameter>(*service), nullptr);
-  EXPECT_EQ(parameterOf<as::ICOMParameter>(*service), nullptr);
-  EXPECT_EQ(parameterOf<as::IDotNETParameter>(*service), nullptr);
-  EXPECT_NE(parameterOf<as::IJavaField>(*service), nullptr);
+  const auto service = parsedJava("<parameter name='p'/>");
+  as::IMapping* const mapping = parameterOf<as::IParameter>(*service)->addMapping(item);
+  EXPECT_EQ(mapping->getRawMapping(), "G.H.N(*,*)");
+  EXPECT_EQ(mapping->getAttributeValue("subscript"), "*,*");
 }
 
 }  // namespace

@@ -13,29 +13,27 @@
 #include <vector>
 
 #include "as/AgentServices.h"
-#include "support/Dictionary.h"
+#include "support/Documents.h"
 #include "support/Flavours.h"
-#include "support/JavaService.h"
+#include "support/Labels.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 #include "support/TempDirectory.h"
+#include "support/XmlText.h"
 
 namespace {
 
+using test::classOf;
+using test::countOf;
+using test::Flavour;
 using test::itemOf;
+using test::labelOf;
+using test::newService;
+using test::operationOf;
+using test::parameterOf;
 using test::payProgram;
-using test::flavours::classOf;
-using test::flavours::firstOperation;
-using test::flavours::Flavour;
-using test::flavours::newService;
-using test::flavours::parameterOf;
-using test::flavours::parseService;
-using test::flavours::written;
-using test::flavours::writtenAndRead;
-
-int occurrences(const std::string& text, const std::string& part) {
-  int count = 0;
-  for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) count++;
-  return count;
-}
+using test::written;
+using test::writtenAndRead;
 
 // What the service's start tag, between "<service" and ">", says.
 std::string rootAttributes(const std::string& text) {
@@ -50,15 +48,15 @@ class NewService : public testing::TestWithParam<Flavour> {
   // The flavour that the service is of when its document is read again. New .NET documents declare
   // the namespace of Web services.
   static const Flavour& readAs() {
-    for (const Flavour& flavour : test::flavours::all()) {
+    for (const Flavour& flavour : test::flavours::all) {
       if (flavour.xmlns == std::string(GetParam().xmlns)) return flavour;
     }
-    return test::flavours::all().back();
+    return test::flavours::all.back();
   }
 };
 
-INSTANTIATE_TEST_SUITE_P(Flavours, NewService, testing::ValuesIn(test::flavours::all()),
-                         [](const auto& value) { return std::string(value.param.label); });
+INSTANTIATE_TEST_SUITE_P(Flavours, NewService, testing::ValuesIn(test::flavours::all),
+                         labelOf<Flavour>);
 
 TEST_P(NewService, IsNullForNoProgram) { EXPECT_EQ(GetParam().make(nullptr), nullptr); }
 
@@ -75,7 +73,7 @@ TEST_P(NewService, DeclaresItsNamespaceOnce) {
   const std::string ns = GetParam().xmlns;
   EXPECT_EQ(service->getAttributeValue("xmlns"), ns);
   const std::string text = written(*service);
-  EXPECT_EQ(occurrences(text, " xmlns="), 1) << text;
+  EXPECT_EQ(countOf(text, " xmlns="), 1) << text;
   EXPECT_THAT(rootAttributes(text), testing::HasSubstr(" xmlns=\"" + ns + "\""));
 }
 
@@ -90,7 +88,7 @@ TEST_P(NewService, NamesItsSchema) {
 
 TEST_P(NewService, HasNoOtherAttributes) {
   const std::string attributes = rootAttributes(written(*newService(GetParam())));
-  EXPECT_EQ(occurrences(attributes, "=\""), 6) << attributes;
+  EXPECT_EQ(countOf(attributes, "=\""), 6) << attributes;
 }
 
 TEST_P(NewService, HasItsThreeEmptyLists) {
@@ -307,7 +305,7 @@ TEST_P(NewService, IsReadAsWhatItsDocumentDeclares) {
   fill(*service);
   const auto again = writtenAndRead(*service);
   EXPECT_EQ(classOf(again.get()), readAs().serviceClass);
-  EXPECT_EQ(classOf(firstOperation(*again)), readAs().operationClass);
+  EXPECT_EQ(classOf(operationOf(*again)), readAs().operationClass);
   EXPECT_EQ(classOf(parameterOf<as::IElement>(*again)), readAs().parameterClass);
   EXPECT_EQ(again->getImplementation(), GetParam().implementation) << "the word stays";
 }
@@ -343,7 +341,7 @@ TEST_P(NewService, GoesOnWhenWritten) {
 }
 
 TEST(NewDotNetService, ItsDataTypesAreNoneOfTheWebServiceThatItIsReadAs) {
-  const auto service = newService(test::flavours::all().back());
+  const auto service = newService(test::flavours::all.back());
   setSomeType(service->addOperation("op", nullptr)->addParameter(as::IParameter::BY_IN, "p", 1));
   const auto again = writtenAndRead(*service);
   auto* const parameter = parameterOf<as::IWSParameter>(*again);

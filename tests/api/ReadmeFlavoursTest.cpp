@@ -1,6 +1,5 @@
 // Tests that the README's table of the service flavours says what the library does: every cell is
 // compared with what objects of the flavour answer.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -13,19 +12,21 @@
 #include <vector>
 
 #include "as/AgentServices.h"
-#include "support/Dictionary.h"
+#include "support/Documents.h"
 #include "support/FlavourTable.h"
 #include "support/Flavours.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 #include "support/TempDirectory.h"
 
 namespace {
 
-using test::flavours::Flavour;
+using test::Flavour;
 
 using Words = std::vector<std::string>;
 
-const test::flavours::Table& table() {
-  static const test::flavours::Table theTable(AS_EXAMPLES_DIR "/../README.md");
+const test::FlavourTable& table() {
+  static const test::FlavourTable theTable(AS_EXAMPLES_DIR "/../README.md");
   return theTable;
 }
 
@@ -40,7 +41,7 @@ std::string yesOrNo(bool yes) { return yes ? "yes" : "no"; }
 // A new service of a flavour, with one of everything that all flavours have.
 class Sample {
  public:
-  explicit Sample(const Flavour& flavour) : service_(test::flavours::newService(flavour)) {}
+  explicit Sample(const Flavour& flavour) : service_(test::newService(flavour)) {}
 
   as::IService& service() const { return *service_; }
   as::IOperation& operation() const { return *operation_; }
@@ -225,27 +226,21 @@ std::string xmlnsPath(const Sample& sample) {
 std::map<std::string, std::string> schemaFiles() {
   std::map<std::string, std::string> files;
   const std::string documents[] = {
-      test::flavours::document(test::flavours::webNamespace, "<parameter/>"),
-      test::flavours::document(test::flavours::comNamespace, "<parameter/>"),
-      test::flavours::document(test::flavours::javaNamespace, "<parameter/>"),
-      test::flavours::document(test::flavours::dotNetNamespace, "<parameter/>"),
+      test::parameterDocument(as::namespaces::ws.uri, "<parameter/>"),
+      test::parameterDocument(as::namespaces::com.uri, "<parameter/>"),
+      test::parameterDocument(as::namespaces::java.uri, "<parameter/>"),
+      test::parameterDocument(as::namespaces::dotnet.uri, "<parameter/>"),
   };
   for (const auto& entry : std::filesystem::directory_iterator(AS_SCHEMA_DIR)) {
     const test::TempDirectory directory;
     const std::string name = entry.path().filename().string();
     std::filesystem::copy_file(entry.path(), std::filesystem::path(directory.path()) / name);
-    const std::unique_ptr<as::IAgentServices> services(
-        as::CAgentServicesFactory::CreateAgentServices());
+    const auto services = test::servicesWithoutSchemas();
     services->setSchemaLocation(directory.path().c_str());
     for (const std::string& document : documents) {
-      const auto outcome = test::outcomeOf([&] {
-        return services->parseService("service.xml",
-                                      reinterpret_cast<const unsigned char*>(document.data()),
-                                      static_cast<unsigned int>(document.size()), false);
-      });
+      const auto outcome = test::serviceOutcomeOf(*services, document);
       if (outcome.result != test::Result::root) continue;
-      std::string& file =
-          files[fieldInterfaces(*test::flavours::parameterOf<as::IField>(*outcome.root))];
+      std::string& file = files[fieldInterfaces(*test::parameterOf<as::IField>(*outcome.root))];
       file += (file.empty() ? "" : ", ") + name;
     }
   }
@@ -289,7 +284,7 @@ std::string columnOf(const Flavour& flavour) {
 
 TEST(ReadmeFlavours, HasAColumnForEachFlavour) {
   Words columns = {""};
-  for (const Flavour& flavour : test::flavours::all()) columns.push_back(columnOf(flavour));
+  for (const Flavour& flavour : test::flavours::all) columns.push_back(columnOf(flavour));
   EXPECT_EQ(table().head(), columns);
   for (const auto& row : table().body()) EXPECT_EQ(row.size(), columns.size()) << row.front();
 }
@@ -303,7 +298,7 @@ TEST(ReadmeFlavours, HasNoRowThatIsNotCompared) {
 class ReadmeFlavoursRow : public testing::TestWithParam<Probe> {};
 
 TEST_P(ReadmeFlavoursRow, SaysWhatTheLibraryDoes) {
-  for (const Flavour& flavour : test::flavours::all()) {
+  for (const Flavour& flavour : test::flavours::all) {
     const Sample sample(flavour);
     EXPECT_EQ(table().cell(GetParam().label, columnOf(flavour)), GetParam().answer(sample))
         << "column " << columnOf(flavour);

@@ -1,28 +1,65 @@
 // Tests of what a parameter takes from the type definition that it refers to, and what stays its
-// own; and of names, of nesting as deep as a document may be.
+// own.
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 
-#include "support/Flavours.h"
-#include "support/ModelText.h"
+#include "as/AgentServices.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/ParsedJava.h"
+#include "support/Requests.h"
 
 namespace {
 
-using test::flavours::javaNamespace;
-using test::flavours::parameterOf;
-using test::flavours::parseService;
-using test::flavours::written;
+using test::parameterOf;
+using test::parsedJava;
+using test::written;
 
-// Java services.
-std::string documentOf(const std::string& parameters, const std::string& definitions = "") {
-  return test::flavours::document(javaNamespace, parameters, definitions);
+TEST(Reference, TakesAllButItsNameFromItsDefinition) {
+  const auto service = parsedJava(
+      "<parameter name='own' ref='D' occurs='9'/>",
+      "<parameter name='D' occurs='3' dataType='BigDecimal'><mappings><mapping item='A'/>"
+      "</mappings><field name='f'/></parameter>");
+  as::IParameter* const parameter = parameterOf(*service);
+  EXPECT_EQ(parameter->getName(), "own");
+  EXPECT_EQ(parameter->getOccurs(), 3);
+  EXPECT_EQ(parameter->getChildren()->getLength(), 1);
+  EXPECT_EQ(parameter->getMappings()->getLength(), 1);
+  ASSERT_NE(parameter->getReferenceType(), nullptr);
+  EXPECT_EQ(parameter->getReferenceType()->getName(), "D");
+  auto* const java = as::interface_cast<as::IJavaParameter>(parameter);
+  EXPECT_EQ(java->getType(), as::IJavaField::JAVA_BIG_DECIMAL);
+  java->setType(as::IJavaField::JAVA_INT);
+  EXPECT_EQ(parameter->getAttributeValue("dataType"), "int");
+  EXPECT_EQ(java->getType(), as::IJavaField::JAVA_BIG_DECIMAL);
+  EXPECT_EQ(parameter->addField("g", 1), nullptr);
+  const auto program = test::parse(test::payProgram());
+  EXPECT_EQ(parameter->addMapping(test::topItem<as::IDataItem>(*program)), nullptr);
 }
 
-std::unique_ptr<as::IService> parsed(const std::string& parameters,
-                                     const std::string& definitions = "") {
-  return parseService(documentOf(parameters, definitions));
+// Unknown, forward, self, and from a field to the definition around it: every accessor ends.
+TEST(Reference, ThatLeadsNowhereOrBackEnds) {
+  const struct {
+    const char* definitions;
+    bool resolved;
+  } rows[] = {
+      {"", false},
+      {"<parameter name='D' ref='D'/>", true},
+      {"<parameter name='D' ref='E'/><parameter name='E' ref='D'/>", true},
+      {"<parameter name='D'><field name='f' ref='D'/></parameter>", true},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.definitions);
+    const auto service = parsedJava("<parameter name='p' ref='D' occurs='4'/>", row.definitions);
+    as::IParameter* const parameter = parameterOf(*service);
+    EXPECT_EQ(parameter->getReferenceType() != nullptr, row.resolved);
+    EXPECT_EQ(parameter->getOccurs(), row.resolved ? 0 : 4);
+    EXPECT_EQ(parameter->getMappings()->getLength(), 0);
+    EXPECT_LE(parameter->getChildren()->getLength(), 1);
+    EXPECT_EQ(as::interface_cast<as::IJavaParameter>(parameter)->getType(),
+              as::IJavaField::JAVA_SHORT);
+  }
 }
 
 const std::string chain =
@@ -31,7 +68,7 @@ const std::string chain =
 
 // Fields and mappings come from the end of the chain, the occurrences from its nearest link.
 TEST(Reference, FollowsAChainForAllButTheOccurrences) {
-  const auto service = parsed("<parameter name='p' ref='Near' occurs='9'/>", chain);
+  const auto service = parsedJava("<parameter name='p' ref='Near' occurs='9'/>", chain);
   auto* const parameter = parameterOf<as::IParameter>(*service);
   EXPECT_EQ(parameter->getReferenceType()->getName(), "Near");
   EXPECT_EQ(parameter->getOccurs(), 2);
@@ -40,7 +77,7 @@ TEST(Reference, FollowsAChainForAllButTheOccurrences) {
 }
 
 TEST(Reference, OccurrencesAreWrittenToTheOwnElement) {
-  const auto service = parsed("<parameter name='p' ref='Near' occurs='9'/>", chain);
+  const auto service = parsedJava("<parameter name='p' ref='Near' occurs='9'/>", chain);
   auto* const parameter = parameterOf<as::IParameter>(*service);
   parameter->setOccurs(7);
   EXPECT_EQ(parameter->getAttributeValue("occurs"), "7");
@@ -49,7 +86,7 @@ TEST(Reference, OccurrencesAreWrittenToTheOwnElement) {
 
 TEST(Reference, IsResolvedOnce) {
   const auto service =
-      parsed("<parameter name='p' ref='A'/>", "<parameter name='A'/><parameter name='B'/>");
+      parsedJava("<parameter name='p' ref='A'/>", "<parameter name='A'/><parameter name='B'/>");
   auto* const parameter = parameterOf<as::IParameter>(*service);
   auto* const first = test::itemOf<as::IParameter>(service->getParameterTypeDefs(), 0);
   auto* const second = test::itemOf<as::IParameter>(service->getParameterTypeDefs(), 1);
@@ -59,8 +96,8 @@ TEST(Reference, IsResolvedOnce) {
 }
 
 TEST(Reference, FindsOnlyDefinitionsInFrontOfIt) {
-  const auto service = parsed("<parameter name='p' ref='A'/>",
-                              "<parameter name='A' ref='B'/><parameter name='B' occurs='4'/>");
+  const auto service = parsedJava("<parameter name='p' ref='A'/>",
+                                  "<parameter name='A' ref='B'/><parameter name='B' occurs='4'/>");
   auto* const definition = test::itemOf<as::IParameter>(service->getParameterTypeDefs(), 0);
   EXPECT_EQ(definition->getReferenceType(), nullptr);
   EXPECT_NE(parameterOf<as::IParameter>(*service)->getReferenceType(), nullptr);
@@ -83,7 +120,7 @@ TEST(Reference, NeverLeadsBackToWhereItStarted) {
        "- - A"},
   };
   for (const auto& row : rows) {
-    const auto service = parsed("<parameter name='p' ref='A'/>", row.definitions);
+    const auto service = parsedJava("<parameter name='p' ref='A'/>", row.definitions);
     std::string references;
     const auto tell = [&](as::IParameter* parameter) {
       as::IParameter* const to = parameter->getReferenceType();
@@ -102,21 +139,23 @@ TEST(Reference, NeverLeadsBackToWhereItStarted) {
 
 // Which describes a value of any depth.
 TEST(Reference, OfAFieldMayBeToTheDefinitionAroundIt) {
-  const auto service = parsed("<parameter name='p' ref='Node'/>",
-                              "<parameter name='Node'><field name='next' ref='Node'/></parameter>");
+  const auto service =
+      parsedJava("<parameter name='p' ref='Node'/>",
+                 "<parameter name='Node'><field name='next' ref='Node'/></parameter>");
   auto* const definition = test::itemOf<as::IParameter>(service->getParameterTypeDefs(), 0);
   auto* const next = test::itemOf<as::IField>(definition->getChildren(), 0);
   EXPECT_EQ(test::itemOf<as::IField>(next->getChildren(), 0), next);
 }
 
 TEST(Reference, IsToTheFirstDefinitionOfTheName) {
-  const auto service = parsed("<parameter name='p' ref='A'/>",
-                              "<parameter name='A' occurs='1'/><parameter name='A' occurs='2'/>");
+  const auto service =
+      parsedJava("<parameter name='p' ref='A'/>",
+                 "<parameter name='A' occurs='1'/><parameter name='A' occurs='2'/>");
   EXPECT_EQ(parameterOf<as::IParameter>(*service)->getOccurs(), 1);
 }
 
 TEST(Reference, CannotBeExtended) {
-  const auto service = parsed("<parameter name='p' ref='A'/>", "<parameter name='A'/>");
+  const auto service = parsedJava("<parameter name='p' ref='A'/>", "<parameter name='A'/>");
   auto* const parameter = parameterOf<as::IParameter>(*service);
   const auto program = test::parse(test::payProgram());
   const std::string before = written(*service);
@@ -128,8 +167,9 @@ TEST(Reference, CannotBeExtended) {
 TEST(Reference, HidesWhatStandsBesideIt) {
   const std::string own =
       "<mappings><mapping item='OWN'/></mappings><field name='own'/><field name='own2'/>";
-  const auto service = parsed("<parameter name='p' ref='A'>" + own + "</parameter>",
-                              "<parameter name='A'><mappings/><field name='theirs'/></parameter>");
+  const auto service =
+      parsedJava("<parameter name='p' ref='A'>" + own + "</parameter>",
+                 "<parameter name='A'><mappings/><field name='theirs'/></parameter>");
   auto* const parameter = parameterOf<as::IParameter>(*service);
   EXPECT_EQ(parameter->getMappings()->getLength(), 0);
   ASSERT_EQ(parameter->getChildren()->getLength(), 1);
@@ -137,7 +177,7 @@ TEST(Reference, HidesWhatStandsBesideIt) {
 }
 
 TEST(Reference, ToNothingLeavesNothing) {
-  const auto service = parsed(
+  const auto service = parsedJava(
       "<parameter name='p' ref='Gone'><mappings><mapping item='A'/></mappings><field name='f'/>"
       "</parameter>");
   auto* const parameter = parameterOf<as::IParameter>(*service);
@@ -156,129 +196,11 @@ TEST(Reference, ChainsMayBeOfAnyLength) {
         "<parameter name='D" + std::to_string(i) + "' ref='D" + std::to_string(i - 1) + "'/>";
   }
   const auto service =
-      parsed("<parameter name='p' ref='D" + std::to_string(length) + "'/>", definitions);
+      parsedJava("<parameter name='p' ref='D" + std::to_string(length) + "'/>", definitions);
   auto* const parameter = parameterOf<as::IJavaParameter>(*service);
   EXPECT_EQ(parameter->getType(), as::IJavaField::JAVA_LONG);
   EXPECT_EQ(parameter->getChildren()->getLength(), 1);
   EXPECT_EQ(parameter->getMappings()->getLength(), 0);
-}
-
-TEST(FieldName, NullCountsAsEmpty) {
-  const auto service = parsed("<parameter name='p'/>");
-  as::IField* const field = parameterOf<as::IParameter>(*service)->addField(nullptr, 1);
-  EXPECT_EQ(field->getName(), "");
-  field->setName("x");
-  field->setName(nullptr);
-  EXPECT_EQ(field->getName(), "");
-  EXPECT_NE(written(*service).find("<field name=\"\""), std::string::npos);
-}
-
-// The operation's name belongs to its parameters alone, and nodes are compared by their names,
-// prefixes included: in a prefixed document it is left out.
-TEST(QualifiedName, StartsWithTheOperationOfItsOwnParametersOnly) {
-  const std::string message =
-      "<header><parameters><parameter name='h'><field name='x'/>"
-      "</parameter></parameters></header>";
-  std::string document =
-      test::flavours::document(test::flavours::webNamespace, "<parameter name='p'/>");
-  document.insert(document.find("</operation>"), message);
-  const auto service = parseService(document);
-  auto* const operation =
-      as::interface_cast<as::IWSOperation>(test::flavours::firstOperation(*service));
-  auto* const header = test::itemOf<as::IWSHeader>(operation->getHeaders(), 0);
-  auto* const parameter = test::itemOf<as::IParameter>(header->getParameters(), 0);
-  EXPECT_EQ(parameter->getQualifiedName(), "h");
-  EXPECT_EQ(test::itemOf<as::IField>(parameter->getChildren(), 0)->getQualifiedName(), "hx");
-  EXPECT_EQ(parameterOf<as::IParameter>(*service)->getQualifiedName(), "opp");
-}
-
-TEST(QualifiedName, OfAPrefixedDocumentStartsAtTheParameter) {
-  const std::string ns = javaNamespace;
-  const auto service = parseService(
-      "<j:service xmlns:j='" + ns +
-      "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" + ns + " " +
-      ns +
-      "'><j:operations><j:operation name='op'><j:parameters><j:parameter name='p'>"
-      "<j:field name='f'/></j:parameter></j:parameters></j:operation></j:operations></j:service>");
-  auto* const parameter = parameterOf<as::IParameter>(*service);
-  EXPECT_EQ(parameter->getQualifiedName(), "p");
-  EXPECT_EQ(test::itemOf<as::IField>(parameter->getChildren(), 0)->getQualifiedName(), "pf");
-}
-
-// What may be read may be written, and the other way round.
-TEST(Nesting, AsDeepAsADocumentMayBeIsWrittenAndRead) {
-  // The root, "operations", "operation", "parameters" and "parameter" stand around the fields.
-  constexpr int fields = 2048 - 5;
-  std::string open;
-  std::string close;
-  for (int i = 0; i < fields; i++) {
-    open += "<field name='f'>";
-    close += "</field>";
-  }
-  for (const char* const innermost : {"", "\n", "<!-- c -->"}) {
-    const auto service = parsed("<parameter name='p'>" + open + innermost + close + "</parameter>");
-    const auto again = test::flavours::writtenAndRead(*service);
-    EXPECT_EQ(parameterOf<as::IParameter>(*again)->getChildren()->getLength(), 1);
-  }
-  EXPECT_EQ(test::outcomeOf([&] {
-              return parsed("<parameter><field>" + open + close + "</field></parameter>").release();
-            }).result,
-            test::Result::parseException);
-}
-
-TEST(Nesting, DeeperThanADocumentMayBeIsNotWritten) {
-  const auto service = parsed("<parameter name='p'/>");
-  as::IField* field = parameterOf<as::IParameter>(*service);
-  for (int i = 0; i < 2048 - 5; i++) field = field->addField("f", 1);
-  EXPECT_THROW(written(*service), as::CASException);
-}
-
-// Whatever the smallest number of occurrences is, the greatest tells that there is a table.
-TEST(MappingDimensions, GoByTheGreatestNumberOfOccurrences) {
-  const auto program = test::parse(test::dictionaryOf(
-      "<group name='G' maxOccurs='5'><group name='H' minOccurs='0' maxOccurs='10'>"
-      "<numeric name='N' digits='1' minOccurs='1'/></group></group>"));
-  as::IDataItem* item = test::topItem<as::IDataItem>(*program);
-  for (int depth = 0; depth < 2; depth++) {
-    item = test::itemOf<as::IDataItem>(as::interface_cast<as::IGroup>(item)->getChildren(), 0);
-  }
-  const auto service = parsed("<parameter name='p'/>");
-  as::IMapping* const mapping = parameterOf<as::IParameter>(*service)->addMapping(item);
-  EXPECT_EQ(mapping->getRawMapping(), "G.H.N(*,*)");
-  EXPECT_EQ(mapping->getAttributeValue("subscript"), "*,*");
-}
-
-TEST(JavaNumbers, OutsideTheTablesAreNeverOrNothing) {
-  const auto service = parsed("<parameter name='p'/>");
-  auto* const operation =
-      as::interface_cast<as::IJavaOperation>(test::flavours::firstOperation(*service));
-  auto* const parameter = parameterOf<as::IJavaParameter>(*service);
-  for (const int other : {-1, 6, 99}) {
-    operation->setTransactionType(as::IJavaOperation::TRANS_REQUIRES);
-    operation->setTransactionType(static_cast<as::IJavaOperation::TRANS_TYPE>(other));
-    EXPECT_EQ(operation->getAttributeValue("transactionType"), "never") << other;
-  }
-  for (const int other : {-1, 10, 99}) {
-    parameter->setType(static_cast<as::IJavaField::TYPE>(other));
-    EXPECT_EQ(written(*service).find("dataType"), std::string::npos) << other;
-  }
-  parameter->setType(as::IJavaField::JAVA_STRING);
-  for (const int other : {-1, 10, 99}) {
-    parameter->setType(static_cast<as::IJavaField::TYPE>(other));
-    EXPECT_EQ(parameter->getAttributeValue("dataType"), "String") << other;
-  }
-}
-
-// The bodies that the interface brings along answer nothing.
-TEST(WebParameterInterface, HasBodiesThatAnswerNothing) {
-  const auto service = parseService(test::flavours::document(
-      test::flavours::webNamespace,
-      "<parameter namespace='urn:x' elementForm='qualified' attributeForm='qualified'/>"));
-  auto* const parameter = parameterOf<as::IWSParameter>(*service);
-  EXPECT_EQ(parameter->as::IWSParameter::getNamespace(), "");
-  EXPECT_EQ(static_cast<int>(parameter->as::IWSParameter::getElementForm()), -1);
-  EXPECT_EQ(static_cast<int>(parameter->as::IWSParameter::getAttributeForm()), -1);
-  EXPECT_EQ(parameter->getNamespace(), "urn:x");
 }
 
 }  // namespace

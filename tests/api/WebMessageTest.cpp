@@ -5,18 +5,21 @@
 #include <string>
 #include <type_traits>
 
-#include "support/Flavours.h"
+#include "as/AgentServices.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace {
 
-using test::flavours::parseService;
-using test::flavours::written;
+using test::element;
+using test::operationOf;
+using test::parseService;
+using test::webOperationOf;
+using test::webService;
+using test::written;
 
 constexpr int unknown = -1;
-
-as::IWSOperation* operationOf(as::IService& service) {
-  return as::interface_cast<as::IWSOperation>(test::flavours::firstOperation(service));
-}
 
 // What headers and faults have in common, seen from the element's name.
 template <class Message>
@@ -25,17 +28,17 @@ struct Kind;
 template <>
 struct Kind<as::IWSHeader> {
   static constexpr char element[] = "header";
-  static as::IList* listOf(as::IService& service) { return operationOf(service)->getHeaders(); }
+  static as::IList* listOf(as::IService& service) { return webOperationOf(service)->getHeaders(); }
   static as::IWSHeader* addTo(as::IService& service) {
-    return operationOf(service)->addHeader(as::IWSHeader::BY_IN);
+    return webOperationOf(service)->addHeader(as::IWSHeader::BY_IN);
   }
 };
 
 template <>
 struct Kind<as::IWSFault> {
   static constexpr char element[] = "fault";
-  static as::IList* listOf(as::IService& service) { return operationOf(service)->getFaults(); }
-  static as::IWSFault* addTo(as::IService& service) { return operationOf(service)->addFault(); }
+  static as::IList* listOf(as::IService& service) { return webOperationOf(service)->getFaults(); }
+  static as::IWSFault* addTo(as::IService& service) { return webOperationOf(service)->addFault(); }
 };
 
 template <class Message>
@@ -43,18 +46,13 @@ class WebMessage : public testing::Test {
  protected:
   // The only message of a service, with those attributes and that content.
   Message* make(const std::string& attributes, const std::string& content = "") {
-    const std::string ns = test::flavours::webNamespace;
-    const std::string element = Kind<Message>::element;
-    service_ = parseService("<service xmlns='" + ns +
-                            "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
-                            "xsi:schemaLocation='" +
-                            ns + " " + ns + "'><operations><operation name='op'><" + element + " " +
-                            attributes + ">" + content + "</" + element +
-                            "></operation></operations></service>");
-    return message(*service_);
+    const std::string message = element(Kind<Message>::element, content, attributes);
+    service_ = parseService(webService(
+        "", "<operations><operation name='op'>" + message + "</operation></operations>"));
+    return messageOf(*service_);
   }
 
-  static Message* message(as::IService& service) {
+  static Message* messageOf(as::IService& service) {
     return test::itemOf<Message>(Kind<Message>::listOf(service), 0);
   }
 
@@ -158,7 +156,7 @@ TYPED_TEST(WebMessage, IsReadBackWithItsParameters) {
   as::IWSParameter* const parameter = added->addParameter(as::IParameter::BY_IN, "p", 4);
   parameter->setType(as::IWSField::WS_XML);
   parameter->addField("f", 2);
-  const auto again = test::flavours::writtenAndRead(this->service());
+  const auto again = test::writtenAndRead(this->service());
   ASSERT_EQ(Kind<TypeParam>::listOf(*again)->getLength(), 2);
   auto* const read = test::itemOf<TypeParam>(Kind<TypeParam>::listOf(*again), 1);
   EXPECT_EQ(read->getUse(), TypeParam::USE_ENCODED);

@@ -3,36 +3,32 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <ostream>
 #include <string>
-#include <vector>
 
-#include "support/Flavours.h"
+#include "as/AgentServices.h"
+#include "support/Documents.h"
+#include "support/Labels.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace {
 
-using test::flavours::firstOperation;
-using test::flavours::parseService;
-using test::flavours::webNamespace;
-using test::flavours::written;
+using test::element;
+using test::labelOf;
+using test::operationOf;
+using test::parseService;
+using test::webOperationOf;
+using test::webService;
+using test::written;
 
 constexpr int unknown = -1;
-
-// A Web service document with those operations.
-std::string serviceOf(const std::string& operations, const std::string& ns = webNamespace) {
-  return "<service xmlns='" + ns +
-         "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" + ns + " " +
-         ns + "'><operations>" + operations + "</operations></service>";
-}
 
 // A service with one operation of those attributes and that content.
 std::unique_ptr<as::IService> parsed(const std::string& attributes,
                                      const std::string& content = "") {
-  return parseService(
-      serviceOf("<operation name='op' " + attributes + ">" + content + "</operation>"));
-}
-
-as::IWSOperation* webOperation(as::IService& service) {
-  return as::interface_cast<as::IWSOperation>(firstOperation(service));
+  return parseService(webService(
+      "", element("operations", element("operation", content, "name='op' " + attributes))));
 }
 
 TEST(WebService, IsSeenAsOneAndAsAServiceOnly) {
@@ -44,17 +40,18 @@ TEST(WebService, IsSeenAsOneAndAsAServiceOnly) {
 }
 
 TEST(WebService, OtherServicesAreNotSeenAsOne) {
-  for (const char* const ns : {test::flavours::comNamespace, test::flavours::javaNamespace,
-                               test::flavours::dotNetNamespace}) {
-    const auto service = parseService(serviceOf("<operation/>", ns));
+  for (const char* const ns :
+       {as::namespaces::com.uri, as::namespaces::java.uri, as::namespaces::dotnet.uri}) {
+    const auto service =
+        parseService(test::serviceDocument(ns, "", "<operations><operation/></operations>"));
     EXPECT_EQ(as::interface_cast<as::IWebService>(service.get()), nullptr) << ns;
-    EXPECT_EQ(as::interface_cast<as::IWSOperation>(firstOperation(*service)), nullptr) << ns;
+    EXPECT_EQ(as::interface_cast<as::IWSOperation>(operationOf(*service)), nullptr) << ns;
   }
 }
 
 TEST(WebOperation, IsSeenAsOneAndAsNoOtherFlavours) {
   const auto service = parsed("");
-  as::IOperation* const operation = firstOperation(*service);
+  as::IOperation* const operation = operationOf(*service);
   EXPECT_NE(as::interface_cast<as::IWSOperation>(operation), nullptr);
   EXPECT_EQ(as::interface_cast<as::IJavaOperation>(operation), nullptr);
   EXPECT_EQ(as::interface_cast<as::IDotNETOperation>(operation), nullptr);
@@ -81,18 +78,18 @@ class WebOperationChoice : public testing::TestWithParam<Choice> {
 TEST_P(WebOperationChoice, IsTheNumberOfItsWord) {
   for (int code = 0; code < 2; code++) {
     const auto service = parsed(attribute(GetParam().words[code]));
-    EXPECT_EQ(GetParam().get(*webOperation(*service)), code);
+    EXPECT_EQ(GetParam().get(*webOperationOf(*service)), code);
   }
 }
 
 TEST_P(WebOperationChoice, IsUnknownWhenAbsent) {
   const auto service = parsed("");
-  EXPECT_EQ(GetParam().get(*webOperation(*service)), unknown);
+  EXPECT_EQ(GetParam().get(*webOperationOf(*service)), unknown);
 }
 
 TEST_P(WebOperationChoice, IsWrittenAsItsWord) {
   const auto service = parsed("");
-  as::IWSOperation* const operation = webOperation(*service);
+  as::IWSOperation* const operation = webOperationOf(*service);
   for (const int code : {1, 0, 1}) {
     GetParam().set(*operation, code);
     EXPECT_EQ(operation->getAttributeValue(GetParam().attribute), GetParam().words[code]);
@@ -102,7 +99,7 @@ TEST_P(WebOperationChoice, IsWrittenAsItsWord) {
 
 TEST_P(WebOperationChoice, StaysForAnyOtherNumber) {
   const auto service = parsed("");
-  as::IWSOperation* const operation = webOperation(*service);
+  as::IWSOperation* const operation = webOperationOf(*service);
   for (const int other : {2, -1, 99}) {
     GetParam().set(*operation, other);
     EXPECT_EQ(GetParam().get(*operation), unknown) << other;
@@ -117,7 +114,7 @@ TEST_P(WebOperationChoice, StaysForAnyOtherNumber) {
 
 TEST_P(WebOperationChoice, LeavesTheOthersAlone) {
   const auto service = parsed("");
-  as::IWSOperation* const operation = webOperation(*service);
+  as::IWSOperation* const operation = webOperationOf(*service);
   GetParam().set(*operation, 0);
   for (const char* const other : {"style", "inputUse", "outputUse"}) {
     const bool isThis = std::string(other) == GetParam().attribute;
@@ -148,7 +145,7 @@ INSTANTIATE_TEST_SUITE_P(
                            [](as::IWSOperation& o, int c) {
                              o.setOutputUse(static_cast<as::IWSOperation::USE>(c));
                            }}),
-    [](const testing::TestParamInfo<Choice>& test) { return test.param.label; });
+    labelOf<Choice>);
 
 // The two namespaces.
 struct Namespace {
@@ -164,17 +161,17 @@ class WebOperationNamespace : public testing::TestWithParam<Namespace> {};
 
 TEST_P(WebOperationNamespace, IsTheTextAsItStands) {
   const auto service = parsed(std::string(GetParam().attribute) + "=' urn:a?b&amp;c '");
-  EXPECT_EQ((webOperation(*service)->*GetParam().get)(), " urn:a?b&c ");
+  EXPECT_EQ((webOperationOf(*service)->*GetParam().get)(), " urn:a?b&c ");
 }
 
 TEST_P(WebOperationNamespace, IsEmptyWhenAbsent) {
   const auto service = parsed("");
-  EXPECT_EQ((webOperation(*service)->*GetParam().get)(), "");
+  EXPECT_EQ((webOperationOf(*service)->*GetParam().get)(), "");
 }
 
 TEST_P(WebOperationNamespace, IsWrittenInPlaceOfTheOld) {
   const auto service = parsed(std::string(GetParam().attribute) + "='urn:old'");
-  as::IWSOperation* const operation = webOperation(*service);
+  as::IWSOperation* const operation = webOperationOf(*service);
   for (const char* const text : {"urn:new", "", "größer"}) {
     (operation->*GetParam().set)(text);
     EXPECT_EQ((operation->*GetParam().get)(), text);
@@ -191,22 +188,22 @@ INSTANTIATE_TEST_SUITE_P(
                               &as::IWSOperation::setInputNamespace},
                     Namespace{"Output", "outputNamespace", &as::IWSOperation::getOutputNamespace,
                               &as::IWSOperation::setOutputNamespace}),
-    [](const testing::TestParamInfo<Namespace>& test) { return test.param.label; });
+    labelOf<Namespace>);
 
 TEST(WebOperation, ListsItsHeadersAndItsFaultsInOrder) {
   const auto service =
       parsed("", "<header namespace='1'/><fault namespace='2'/><header namespace='3'/>");
-  as::IWSOperation* const operation = webOperation(*service);
+  as::IWSOperation* const operation = webOperationOf(*service);
   ASSERT_EQ(operation->getHeaders()->getLength(), 2);
-  EXPECT_EQ(test::itemOf<as::IWSHeader>(operation->getHeaders(), 0)->getNamespace(), "1");
-  EXPECT_EQ(test::itemOf<as::IWSHeader>(operation->getHeaders(), 1)->getNamespace(), "3");
+  EXPECT_EQ(test::headerOf(*service)->getNamespace(), "1");
+  EXPECT_EQ(test::headerOf(*service, 1)->getNamespace(), "3");
   ASSERT_EQ(operation->getFaults()->getLength(), 1);
-  EXPECT_EQ(test::itemOf<as::IWSFault>(operation->getFaults(), 0)->getNamespace(), "2");
+  EXPECT_EQ(test::faultOf(*service)->getNamespace(), "2");
 }
 
 TEST(WebOperation, WithoutHeadersAndFaultsHasEmptyListsOfItsOwn) {
   const auto service = parsed("");
-  as::IWSOperation* const operation = webOperation(*service);
+  as::IWSOperation* const operation = webOperationOf(*service);
   EXPECT_EQ(operation->getHeaders()->getLength(), 0);
   EXPECT_EQ(operation->getFaults()->getLength(), 0);
   EXPECT_NE(operation->getHeaders(), operation->getFaults());
@@ -216,14 +213,14 @@ TEST(WebOperation, WithoutHeadersAndFaultsHasEmptyListsOfItsOwn) {
 TEST(WebOperation, ParametersAndHeadersDoNotMix) {
   const std::string parameters = "<parameters><parameter name='p'/></parameters>";
   const auto service = parsed("", parameters + "<header>" + parameters + "</header>");
-  as::IWSOperation* const operation = webOperation(*service);
+  as::IWSOperation* const operation = webOperationOf(*service);
   EXPECT_EQ(operation->getParameters()->getLength(), 1);
   EXPECT_EQ(operation->getHiddenParameters()->getLength(), 0);
 }
 
 TEST(WebOperation, AddsHeadersBehindEverything) {
   const auto service = parsed("", "<hiddenParameters/><parameters/><header/><fault/>");
-  as::IWSOperation* const operation = webOperation(*service);
+  as::IWSOperation* const operation = webOperationOf(*service);
   as::IList* const headers = operation->getHeaders();
   as::IWSHeader* const first = operation->addHeader(as::IWSHeader::BY_OUT);
   as::IWSHeader* const second = operation->addHeader(as::IWSHeader::BY_IN);
@@ -246,7 +243,7 @@ TEST(WebOperation, AddsHeadersOfEveryDirection) {
   } rows[] = {{0, "in", 0}, {1, "out", 1}, {2, "io", 2}, {7, "io", 2}, {-1, "io", 2}};
   for (const auto& row : rows) {
     as::IWSHeader* const header =
-        webOperation(*service)->addHeader(static_cast<as::IWSHeader::BY_TYPE>(row.direction));
+        webOperationOf(*service)->addHeader(static_cast<as::IWSHeader::BY_TYPE>(row.direction));
     EXPECT_EQ(header->getAttributeValue("byType"), row.word);
     EXPECT_EQ(header->getByType(), row.read);
   }
@@ -254,11 +251,11 @@ TEST(WebOperation, AddsHeadersOfEveryDirection) {
 
 TEST(WebOperation, AddsFaultsBehindEverything) {
   const auto service = parsed("", "<fault/><header/>");
-  as::IWSOperation* const operation = webOperation(*service);
+  as::IWSOperation* const operation = webOperationOf(*service);
   as::IWSFault* const fault = operation->addFault();
   fault->setNamespace("urn:new");
   ASSERT_EQ(operation->getFaults()->getLength(), 2);
-  EXPECT_EQ(test::itemOf<as::IWSFault>(operation->getFaults(), 1), fault);
+  EXPECT_EQ(test::faultOf(*service, 1), fault);
   EXPECT_EQ(operation->getHeaders()->getLength(), 1);
   const std::string text = written(*service);
   EXPECT_LT(text.find("<header"), text.find("<fault namespace=\"urn:new\">"));
@@ -266,22 +263,21 @@ TEST(WebOperation, AddsFaultsBehindEverything) {
 
 TEST(WebOperation, WhatIsAddedIsReadBack) {
   const auto service = parsed("");
-  as::IWSOperation* const operation = webOperation(*service);
+  as::IWSOperation* const operation = webOperationOf(*service);
   operation->setStyle(as::IWSOperation::STYLE_DOCUMENT);
   operation->addHeader(as::IWSHeader::BY_IN)->setUse(as::IWSHeader::USE_LITERAL);
   operation->addFault()->setUse(as::IWSFault::USE_ENCODED);
-  const auto again = test::flavours::writtenAndRead(*service);
-  as::IWSOperation* const read = webOperation(*again);
+  const auto again = test::writtenAndRead(*service);
+  as::IWSOperation* const read = webOperationOf(*again);
   EXPECT_EQ(read->getStyle(), as::IWSOperation::STYLE_DOCUMENT);
   ASSERT_EQ(read->getHeaders()->getLength(), 1);
-  EXPECT_EQ(test::itemOf<as::IWSHeader>(read->getHeaders(), 0)->getUse(),
-            as::IWSHeader::USE_LITERAL);
+  EXPECT_EQ(test::headerOf(*again)->getUse(), as::IWSHeader::USE_LITERAL);
   ASSERT_EQ(read->getFaults()->getLength(), 1);
-  EXPECT_EQ(test::itemOf<as::IWSFault>(read->getFaults(), 0)->getUse(), as::IWSFault::USE_ENCODED);
+  EXPECT_EQ(test::faultOf(*again)->getUse(), as::IWSFault::USE_ENCODED);
 }
 
 TEST(WebOperation, ThatIsAddedIsAWebOperation) {
-  const auto service = parseService(serviceOf(""));
+  const auto service = parseService(webService("", "<operations/>"));
   as::IOperation* const operation = service->addOperation("new", nullptr);
   auto* const web = as::interface_cast<as::IWSOperation>(operation);
   ASSERT_NE(web, nullptr);

@@ -7,29 +7,30 @@
 #include <string>
 #include <vector>
 
-#include "support/Flavours.h"
+#include "as/AgentServices.h"
+#include "support/Documents.h"
+#include "support/Labels.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace {
 
-using test::flavours::parameterOf;
-using test::flavours::parseService;
-using test::flavours::webNamespace;
-using test::flavours::written;
+using test::fieldAttributeOf;
+using test::labelOf;
+using test::parameterOf;
+using test::parseService;
+using test::written;
 
 constexpr int unknown = -1;
 
 // A service with one operation around `parameters`, and `definitions` of types.
 std::unique_ptr<as::IService> parsed(const std::string& parameters,
                                      const std::string& definitions = "") {
-  return parseService(test::flavours::document(webNamespace, parameters, definitions));
+  return parseService(test::parameterDocument(as::namespaces::ws.uri, parameters, definitions));
 }
 
-// The member number `index` of the parameter's fields, or of its field attributes.
-as::IWSParameter* fieldOf(as::IField* parameter, int index = 0) {
-  return test::itemOf<as::IWSParameter>(parameter->getChildren(), index);
-}
-as::IWSParameter* attributeOf(as::IWSField* parameter, int index = 0) {
-  return test::itemOf<as::IWSParameter>(parameter->getFieldAttributes(), index);
+as::IWSParameter* fieldOf(as::IField* parameter) {
+  return test::fieldOf<as::IWSParameter>(parameter);
 }
 
 // Everything that a Web parameter wraps, with the way to it from the first parameter.
@@ -51,7 +52,7 @@ const std::vector<Place>& places() {
       {"InnerField", "<parameter><field><field name='x' ", "/></field></parameter>",
        [](as::IWSParameter* p) { return fieldOf(fieldOf(p)); }, false},
       {"FieldAttribute", "<parameter><fieldAttribute name='x' ", "/></parameter>",
-       [](as::IWSParameter* p) { return attributeOf(p); }, false},
+       [](as::IWSParameter* p) { return fieldAttributeOf(p); }, false},
   };
   return all;
 }
@@ -70,10 +71,7 @@ class WebParameterPlace : public testing::TestWithParam<Place> {
   std::unique_ptr<as::IService> service_;
 };
 
-INSTANTIATE_TEST_SUITE_P(Elements, WebParameterPlace, testing::ValuesIn(places()),
-                         [](const testing::TestParamInfo<Place>& test) {
-                           return test.param.label;
-                         });
+INSTANTIATE_TEST_SUITE_P(Elements, WebParameterPlace, testing::ValuesIn(places()), labelOf<Place>);
 
 const char* const words[] = {"byte",   "unsignedByte", "short",   "unsignedShort",
                              "int",    "unsignedInt",  "long",    "unsignedLong",
@@ -120,10 +118,7 @@ TEST_P(WebTypeDeathTest, NumbersOfNoTypeEndTheProcess) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Elements, WebTypeDeathTest,
-                         testing::Values(places().front(), places().back()),
-                         [](const testing::TestParamInfo<Place>& test) {
-                           return test.param.label;
-                         });
+                         testing::Values(places().front(), places().back()), labelOf<Place>);
 
 TEST_P(WebParameterPlace, TakesItsTypeFromItsDefinition) {
   as::IWSParameter* const parameter =
@@ -278,17 +273,17 @@ TEST(WebFieldAttributes, AreTheDirectChildrenInOrder) {
       "<fieldAttribute name='b'/></parameter>");
   auto* const parameter = parameterOf<as::IWSParameter>(*service);
   ASSERT_EQ(parameter->getFieldAttributes()->getLength(), 2);
-  EXPECT_EQ(attributeOf(parameter)->getName(), "a");
-  EXPECT_EQ(attributeOf(parameter, 1)->getName(), "b");
+  EXPECT_EQ(fieldAttributeOf(parameter)->getName(), "a");
+  EXPECT_EQ(fieldAttributeOf(parameter, 1)->getName(), "b");
   EXPECT_EQ(parameter->getChildren()->getLength(), 1);
-  EXPECT_EQ(attributeOf(fieldOf(parameter))->getName(), "inner");
+  EXPECT_EQ(fieldAttributeOf(fieldOf(parameter))->getName(), "inner");
 }
 
 TEST(WebFieldAttributes, AreParametersWithMappings) {
   const auto service = parsed(
       "<parameter><fieldAttribute name='a' occurs='2'><mappings><mapping item='X'/></mappings>"
       "</fieldAttribute></parameter>");
-  as::IWSParameter* const attribute = attributeOf(parameterOf<as::IWSParameter>(*service));
+  as::IWSParameter* const attribute = fieldAttributeOf(parameterOf<as::IWSParameter>(*service));
   EXPECT_EQ(attribute->getOccurs(), 2);
   ASSERT_EQ(attribute->getMappings()->getLength(), 1);
   EXPECT_EQ(test::itemOf<as::IMapping>(attribute->getMappings(), 0)->getRawMapping(), "X");
@@ -302,24 +297,21 @@ TEST(WebFieldAttributes, OfAReferenceAreThoseOfTheDefinition) {
       "<parameter name='D'><fieldAttribute name='a'/><fieldAttribute name='b'/></parameter>");
   auto* const parameter = parameterOf<as::IWSParameter>(*service);
   ASSERT_EQ(parameter->getFieldAttributes()->getLength(), 2);
-  EXPECT_EQ(attributeOf(parameter)->getName(), "a");
+  EXPECT_EQ(fieldAttributeOf(parameter)->getName(), "a");
 }
 
 TEST(WebFieldAttributes, OfAMissingDefinitionAreTheOwn) {
   const auto service = parsed("<parameter ref='Gone'><fieldAttribute name='own'/></parameter>");
   auto* const parameter = parameterOf<as::IWSParameter>(*service);
   ASSERT_EQ(parameter->getFieldAttributes()->getLength(), 1);
-  EXPECT_EQ(attributeOf(parameter)->getName(), "own");
+  EXPECT_EQ(fieldAttributeOf(parameter)->getName(), "own");
 }
 
 // Where field attributes belong: they hold none themselves.
 using WebFieldAttributeHolder = WebParameterPlace;
 
 INSTANTIATE_TEST_SUITE_P(Elements, WebFieldAttributeHolder,
-                         testing::ValuesIn(places().begin(), places().end() - 1),
-                         [](const testing::TestParamInfo<Place>& test) {
-                           return test.param.label;
-                         });
+                         testing::ValuesIn(places().begin(), places().end() - 1), labelOf<Place>);
 
 TEST_P(WebFieldAttributeHolder, AddsFieldAttributesLast) {
   as::IWSParameter* const parameter = make("");
@@ -327,8 +319,8 @@ TEST_P(WebFieldAttributeHolder, AddsFieldAttributesLast) {
   as::IWSParameter* const first = parameter->addFieldAttribute("id");
   as::IWSParameter* const second = parameter->addFieldAttribute(nullptr);
   ASSERT_EQ(parameter->getFieldAttributes()->getLength(), 2);
-  EXPECT_EQ(attributeOf(parameter), first);
-  EXPECT_EQ(attributeOf(parameter, 1), second);
+  EXPECT_EQ(fieldAttributeOf(parameter), first);
+  EXPECT_EQ(fieldAttributeOf(parameter, 1), second);
   EXPECT_EQ(first->getName(), "id");
   EXPECT_EQ(first->getAttributeValue("occurs"), "0");
   EXPECT_EQ(first->getType(), unknown);
@@ -354,8 +346,8 @@ TEST(WebFieldAttributes, ThatAreAddedAreReadBack) {
   added->setType(as::IWSField::WS_UNSIGNED_INT);
   const auto program = test::parse(test::payProgram());
   added->addMapping(test::topItem<as::IDataItem>(*program, 2));
-  const auto again = test::flavours::writtenAndRead(*service);
-  as::IWSParameter* const read = attributeOf(parameterOf<as::IWSParameter>(*again));
+  const auto again = test::writtenAndRead(*service);
+  as::IWSParameter* const read = fieldAttributeOf(parameterOf<as::IWSParameter>(*again));
   EXPECT_EQ(read->getName(), "größe");
   EXPECT_EQ(read->getTypeToString(), "unsignedInt");
   EXPECT_EQ(test::itemOf<as::IMapping>(read->getMappings(), 0)->getRawMapping(), "RC");
@@ -365,12 +357,23 @@ TEST(WebFieldAttributes, ThatAreAddedAreReadBack) {
 TEST(WebParameter, ThatIsAddedIsAWebParameter) {
   const auto service = parsed("<parameter name='p'/>");
   as::IParameter* const added =
-      test::flavours::firstOperation(*service)->addParameter(as::IParameter::BY_IN, "q", 1);
+      test::operationOf(*service)->addParameter(as::IParameter::BY_IN, "q", 1);
   EXPECT_NE(as::interface_cast<as::IWSParameter>(added), nullptr);
   EXPECT_NE(as::interface_cast<as::IWSField>(added->addField("f", 1)), nullptr);
   EXPECT_EQ(as::interface_cast<as::IJavaField>(added), nullptr);
   EXPECT_EQ(as::interface_cast<as::ICOMField>(added), nullptr);
   EXPECT_EQ(as::interface_cast<as::IDotNETField>(added), nullptr);
+}
+
+// The bodies that the interface brings along answer nothing.
+TEST(WebParameterInterface, HasBodiesThatAnswerNothing) {
+  const auto service =
+      parsed("<parameter namespace='urn:x' elementForm='qualified' attributeForm='qualified'/>");
+  auto* const parameter = parameterOf<as::IWSParameter>(*service);
+  EXPECT_EQ(parameter->as::IWSParameter::getNamespace(), "");
+  EXPECT_EQ(static_cast<int>(parameter->as::IWSParameter::getElementForm()), -1);
+  EXPECT_EQ(static_cast<int>(parameter->as::IWSParameter::getAttributeForm()), -1);
+  EXPECT_EQ(parameter->getNamespace(), "urn:x");
 }
 
 }  // namespace

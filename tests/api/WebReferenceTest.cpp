@@ -9,31 +9,31 @@
 #include <string>
 #include <vector>
 
-#include "support/WebService.h"
+#include "as/AgentServices.h"
+#include "support/Documents.h"
+#include "support/Labels.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace {
 
+using test::fieldAttributeOf;
 using test::itemOf;
+using test::labelOf;
+using test::parseService;
 using test::webService;
-using test::flavours::parseService;
-using test::flavours::written;
+using test::written;
 
 constexpr int unknown = -1;
 
-as::IWSOperation* operationOf(as::IService& service) {
-  return as::interface_cast<as::IWSOperation>(test::flavours::firstOperation(service));
-}
-
 as::IWSParameter* parameterOf(as::IService& service) {
-  return itemOf<as::IWSParameter>(operationOf(service)->getParameters(), 0);
+  return test::parameterOf<as::IWSParameter>(service);
 }
 as::IWSParameter* headerParameterOf(as::IService& service) {
-  return itemOf<as::IWSParameter>(
-      itemOf<as::IWSHeader>(operationOf(service)->getHeaders(), 0)->getParameters(), 0);
+  return itemOf<as::IWSParameter>(test::headerOf(service)->getParameters(), 0);
 }
 as::IWSParameter* faultParameterOf(as::IService& service) {
-  return itemOf<as::IWSParameter>(
-      itemOf<as::IWSFault>(operationOf(service)->getFaults(), 0)->getParameters(), 0);
+  return itemOf<as::IWSParameter>(test::faultOf(service)->getParameters(), 0);
 }
 // The definition of that name; null when there is none.
 as::IWSParameter* definitionOf(as::IService& service, const std::string& name) {
@@ -44,12 +44,7 @@ as::IWSParameter* definitionOf(as::IService& service, const std::string& name) {
   }
   return nullptr;
 }
-as::IWSParameter* fieldOf(as::IField* parent) {
-  return itemOf<as::IWSParameter>(parent->getChildren(), 0);
-}
-as::IWSParameter* fieldAttributeOf(as::IWSField* parent) {
-  return itemOf<as::IWSParameter>(parent->getFieldAttributes(), 0);
-}
+as::IWSParameter* fieldOf(as::IField* parent) { return test::fieldOf<as::IWSParameter>(parent); }
 
 // Where an element can stand that refers to a definition.
 struct Place {
@@ -95,8 +90,6 @@ std::vector<Place> holders() {
   return holders;
 }
 
-std::string placeName(const testing::TestParamInfo<Place>& test) { return test.param.label; }
-
 class WebReference : public testing::TestWithParam<Place> {
  protected:
   // The element in question, named "x", with `attributes` and `content`, in a service with those
@@ -125,8 +118,9 @@ class WebReference : public testing::TestWithParam<Place> {
 using WebReferenceDeathTest = WebReference;
 using WebReferenceOfHolder = WebReference;  // Of an element that may hold field attributes.
 
-INSTANTIATE_TEST_SUITE_P(Elements, WebReference, testing::ValuesIn(places), placeName);
-INSTANTIATE_TEST_SUITE_P(Elements, WebReferenceOfHolder, testing::ValuesIn(holders()), placeName);
+INSTANTIATE_TEST_SUITE_P(Elements, WebReference, testing::ValuesIn(places), labelOf<Place>);
+INSTANTIATE_TEST_SUITE_P(Elements, WebReferenceOfHolder, testing::ValuesIn(holders()),
+                         labelOf<Place>);
 
 constexpr char everything[] =
     "dataType='int' namespace='urn:own' elementForm='qualified' attributeForm='unqualified' ";
@@ -161,7 +155,7 @@ TEST_P(WebReferenceOfHolder, ThatNamesNothingLeavesRoomForFieldAttributes) {
     ASSERT_NE(added, nullptr);
     ASSERT_EQ(element->getFieldAttributes()->getLength(), 2);
     EXPECT_EQ(itemOf<as::IWSParameter>(element->getFieldAttributes(), 1), added);
-    const auto again = test::flavours::writtenAndRead(service());
+    const auto again = test::writtenAndRead(service());
     as::IList* const read = GetParam().find(*again)->getFieldAttributes();
     ASSERT_EQ(read->getLength(), 2);
     EXPECT_EQ(itemOf<as::IWSParameter>(read, 1)->getName(), "id");
@@ -322,7 +316,7 @@ TEST_P(WebReference, TakesFieldAttributesOnlyAtTheEndOfItsChain) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Elements, WebReferenceDeathTest,
-                         testing::Values(places[0], places[1], places[3]), placeName);
+                         testing::Values(places[0], places[1], places[3]), labelOf<Place>);
 
 constexpr char noSuchType[] =
     "WSParameterImpl:82: static const XMLCh\\* "
@@ -348,12 +342,10 @@ TEST_P(WebReferenceDeathTest, SettingANumberOfNoTypeEndsTheProcess) {
 
 // What an element is goes by its name in the namespace, however the document writes that.
 TEST(WebPrefix, DoesNotMatterToWhatAnElementIs) {
-  const std::string ns = test::flavours::webNamespace;
+  const std::string ns = as::namespaces::ws.uri;
   const auto service = parseService(
-      "<w:service xmlns:w='" + ns +
-      "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" + ns + " " +
-      ns +
-      "'><w:parameterTypeDefs><w:parameter name='D' namespace='urn:d' elementForm='unqualified'>"
+      "<w:service " + test::declarations(ns, ns + " " + ns, "w") +
+      "><w:parameterTypeDefs><w:parameter name='D' namespace='urn:d' elementForm='unqualified'>"
       "<w:fieldAttribute name='a'/></w:parameter></w:parameterTypeDefs><w:operations><w:operation>"
       "<w:parameters><w:parameter namespace='urn:own' elementForm='qualified' "
       "attributeForm='unqualified'><w:field namespace='urn:own' elementForm='qualified' "
@@ -372,8 +364,7 @@ TEST(WebPrefix, DoesNotMatterToWhatAnElementIs) {
   EXPECT_EQ(referring->getElementForm(), as::IWSField::FORM_UNQUALIFIED);
   EXPECT_EQ(fieldAttributeOf(referring)->getName(), "a");
   EXPECT_NE(headerParameterOf(*service), nullptr);
-  EXPECT_EQ(itemOf<as::IWSFault>(operationOf(*service)->getFaults(), 0)->getUse(),
-            as::IWSFault::USE_ENCODED);
+  EXPECT_EQ(test::faultOf(*service)->getUse(), as::IWSFault::USE_ENCODED);
 }
 
 }  // namespace

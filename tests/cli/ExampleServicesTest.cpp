@@ -8,11 +8,14 @@
 #include <filesystem>
 #include <memory>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
-#include "support/Dictionary.h"
+#include "support/Documents.h"
+#include "support/Model.h"
 #include "support/ModelText.h"
+#include "support/Requests.h"
 #include "support/Tool.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "support/JavaService.h"
+#include "support/Documents.h"
 #include "support/Tool.h"
 
 namespace {

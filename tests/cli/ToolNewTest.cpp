@@ -10,7 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "support/JavaService.h"
+#include "support/Documents.h"
+#include "support/Requests.h"
 #include "support/Tool.h"
 
 namespace {

@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "support/JavaService.h"
+#include "support/Documents.h"
+#include "support/Requests.h"
 #include "support/Tool.h"
 
 namespace {
@@ -147,7 +148,7 @@ INSTANTIATE_TEST_SUITE_P(
         RefusalCase{"WithoutAPlace", "<program name='PAYROLL'/>",
                     std::string("refused.xml: error: not a data dictionary: its root element is "
                                 "not in the namespace ") +
-                        test::dictionaryNamespace +
+                        as::namespaces::dd.uri +
                         "; and not a service: its root element is in none of the namespaces "
                         "http://agentservices.example/schema/ws/v1.0/vorws.xsd "
                         "http://agentservices.example/schema/java/v2.0/vorjava.xsd "
@@ -155,12 +156,12 @@ INSTANTIATE_TEST_SUITE_P(
                         "http://agentservices.example/schema/dotnet/v1.0/vordotnet.xsd"},
         RefusalCase{
             "WithAHint",
-            std::string("<d:program name='P' xmlns:d='") + test::dictionaryNamespace + "'/>",
+            std::string("<d:program name='P' xmlns:d='") + as::namespaces::dd.uri + "'/>",
             std::string("refused.xml:1:92: error: no declaration found for element "
                         "'d:program'\nhint: name the schema in the root element: "
                         "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
                         "xsi:schemaLocation=\"") +
-                test::dictionaryNamespace + " " + test::dictionaryNamespace + "\""},
+                as::namespaces::dd.uri + " " + as::namespaces::dd.uri + "\""},
         RefusalCase{"ControlCharactersInAMessage",
                     test::dictionaryOf("\n<pointer name='A' sync='&#9;'/>"),
                     "refused.xml:2:32: error: value '\\u0009' does not match regular expression "

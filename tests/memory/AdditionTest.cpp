@@ -18,7 +18,7 @@ namespace {
 using memory::Failing;
 using memory::Model;
 using memory::stateOf;
-using test::flavours::Flavour;
+using test::Flavour;
 using xercesc::DOMDocument;
 using xercesc::DOMMemoryManager;
 
@@ -86,7 +86,7 @@ void PrintTo(const Case& of, std::ostream* out) {
 
 std::vector<Case> cases() {
   std::vector<Case> all;
-  for (const Flavour& flavour : test::flavours::all()) {
+  for (const Flavour& flavour : test::flavours::all) {
     for (const Addition& addition : additions) {
       if (addition.onlyWeb && flavour.implementation != as::IService::TYPE_WS) continue;
       all.push_back({&flavour, "new", memory::newModel, &addition});

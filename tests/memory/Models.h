@@ -6,8 +6,11 @@
 #include <string>
 #include <xercesc/dom/DOM.hpp>
 
+#include "support/Documents.h"
 #include "support/Flavours.h"
+#include "support/Model.h"
 #include "support/ModelText.h"
+#include "support/Requests.h"
 #include "xml/ElementImpl.h"
 #include "xml/XStr.h"
 
@@ -17,18 +20,18 @@ namespace memory {
 struct Model {
   explicit Model(std::unique_ptr<as::IService> of) : service(std::move(of)) {}
 
-  as::IOperation* operation() const { return test::flavours::firstOperation(*service); }
+  as::IOperation* operation() const { return test::operationOf(*service); }
   template <class Parameter = as::IParameter>
   Parameter* parameter() const {
-    return test::flavours::parameterOf<Parameter>(*service);
+    return test::parameterOf<Parameter>(*service);
   }
 
   std::unique_ptr<as::IService> service;
 };
 
 // A new service: every list is there.
-inline Model newModel(const test::flavours::Flavour& flavour) {
-  Model model(test::flavours::newService(flavour));
+inline Model newModel(const test::Flavour& flavour) {
+  Model model(test::newService(flavour));
   model.service->addOperation("op", nullptr)->addParameter(as::IParameter::BY_IN, "p", 0);
   if (auto* const web = as::interface_cast<as::IWSOperation>(model.operation())) {
     web->addHeader(as::IWSHeader::BY_IN);
@@ -38,16 +41,12 @@ inline Model newModel(const test::flavours::Flavour& flavour) {
 }
 
 // A parsed one, where only what has members has a list.
-inline Model parsedModel(const test::flavours::Flavour& flavour) {
-  const bool isDotNet = flavour.implementation == as::IService::TYPE_DOTNET;
+inline Model parsedModel(const test::Flavour& flavour) {
   const bool isWeb = flavour.implementation == as::IService::TYPE_WS;
-  const std::string ns = isDotNet ? test::flavours::dotNetNamespace : flavour.xmlns;
-  return Model(test::parseService(
-      "<service xmlns=\"" + ns +
-      "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:schemaLocation=\"" + ns +
-      " " + ns + "\"><operations><operation name=\"op\"><parameters><parameter name=\"p\"/>" +
-      "</parameters>" + (isWeb ? "<header/><fault/>" : "") +
-      "</operation></operations></service>"));
+  return Model(test::parseService(test::serviceDocument(
+      flavour.own.uri, "",
+      "<operations><operation name=\"op\"><parameters><parameter name=\"p\"/></parameters>" +
+          std::string(isWeb ? "<header/><fault/>" : "") + "</operation></operations>")));
 }
 
 // An element with all below it, each with the class of its wrapper.

@@ -13,7 +13,7 @@
 namespace {
 
 using memory::Failing;
-using test::flavours::Flavour;
+using test::Flavour;
 
 struct Request {
   std::string label;
@@ -32,8 +32,8 @@ std::unique_ptr<as::IElement> parseProgram(const Flavour& /*flavour*/) {
 }
 
 std::vector<Request> requests() {
-  std::vector<Request> all = {{"Program", parseProgram, &test::flavours::all().front()}};
-  for (const Flavour& flavour : test::flavours::all()) {
+  std::vector<Request> all = {{"Program", parseProgram, &test::flavours::all.front()}};
+  for (const Flavour& flavour : test::flavours::all) {
     all.push_back({flavour.label, parseService, &flavour});
   }
   return all;
@@ -77,7 +77,7 @@ TEST_P(ParseOutOfMemory, GivesAWholeModelOrNone) {
 
 class NewServiceOutOfMemory : public testing::TestWithParam<Flavour> {};
 
-INSTANTIATE_TEST_SUITE_P(Flavours, NewServiceOutOfMemory, testing::ValuesIn(test::flavours::all()),
+INSTANTIATE_TEST_SUITE_P(Flavours, NewServiceOutOfMemory, testing::ValuesIn(test::flavours::all),
                          [](const auto& value) { return std::string(value.param.label); });
 
 TEST_P(NewServiceOutOfMemory, LeavesTheProgramToTheCaller) {

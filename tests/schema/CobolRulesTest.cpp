@@ -6,34 +6,19 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 #include <cstddef>
 #include <cstdlib>
-#include <fstream>
-#include <functional>
 #include <map>
 #include <memory>
-#include <regex>
 #include <set>
 #include <string>
 #include <vector>
 
-#include "as/CAgentServicesFactory.h"
-#include "as/IAgentServices.h"
-#include "as/IAlphanumeric.h"
-#include "as/ICondition.h"
-#include "as/IConditionValue.h"
-#include "as/IDataItem.h"
-#include "as/IEntryPoint.h"
-#include "as/IFD.h"
-#include "as/IGroup.h"
-#include "as/ILinkageItem.h"
-#include "as/IList.h"
-#include "as/INational.h"
-#include "as/INumeric.h"
-#include "as/INumericEdited.h"
-#include "as/IProgram.h"
+#include "as/AgentServices.h"
+#include "schema/CobolLayout.h"
+#include "schema/CobolSource.h"
+#include "support/Requests.h"
 
 namespace {
 
@@ -41,351 +26,27 @@ using as::IDataItem;
 using as::IGroup;
 using as::IList;
 using as::INumeric;
+using cobol::captured;
+using cobol::childrenOf;
+using cobol::Digits;
+using cobol::digitsOfEdited;
+using cobol::digitsOfNumeric;
+using cobol::Extent;
+using cobol::forEachItem;
+using cobol::hasWord;
+using cobol::isExternalFloat;
+using cobol::Kind;
+using cobol::kindOf;
+using cobol::membersOf;
+using cobol::RecordLayout;
+using cobol::Source;
 
 const char* const kExamples[] = {"DEPINT01", "MOTPREM", "WHSLOTS", "PAYSLIP"};
-
-// The platform of the examples, as their README tells it: 64 bits.
-constexpr int kPointerSize = 8;
-constexpr int kObjectSize = 8;
-constexpr int kIndexSize = 4;
-constexpr int kGreatestBoundary = 8;
-
-// The kinds of items, cobolObject told from alphanumeric.
-enum class Kind {
-  kGroup,
-  kNumeric,
-  kAlphanumeric,
-  kObject,
-  kPointer,
-  kNational,
-  kNumericEdited,
-  kIndex,
-};
-
-Kind kindOf(IDataItem* item) {
-  switch (item->getDataType()) {
-    case IDataItem::TYPE_GROUP:
-      return Kind::kGroup;
-    case IDataItem::TYPE_NUMERIC:
-      return Kind::kNumeric;
-    case IDataItem::TYPE_POINTER:
-      return Kind::kPointer;
-    case IDataItem::TYPE_NATIONAL:
-      return Kind::kNational;
-    case IDataItem::TYPE_NUMERIC_EDITED:
-      return Kind::kNumericEdited;
-    case IDataItem::TYPE_INDEX:
-      return Kind::kIndex;
-    default:
-      // An object reference answers the alphanumeric type but has no alphanumeric interface.
-      return as::interface_cast<as::IAlphanumeric>(item) == nullptr ? Kind::kObject
-                                                                    : Kind::kAlphanumeric;
-  }
-}
-
-// "S9(3)V99" as "S999V99".
-std::string spelledOut(const std::string& picture) {
-  std::string result;
-  for (std::size_t i = 0; i < picture.size(); i++) {
-    if (picture[i] != '(') {
-      result += picture[i];
-      continue;
-    }
-    const std::size_t close = picture.find(')', i);
-    if (close == std::string::npos || result.empty()) return std::string();
-    const int times = std::atoi(picture.substr(i + 1, close - i - 1).c_str());
-    result.append(static_cast<std::size_t>(std::max(times - 1, 0)), result.back());
-    i = close;
-  }
-  return result;
-}
-
-int countOf(const std::string& text, const std::string& characters) {
-  return static_cast<int>(std::count_if(
-      text.begin(), text.end(), [&](char c) { return characters.find(c) != std::string::npos; }));
-}
-
-struct Digits {
-  int all;
-  int behindPoint;
-};
-
-bool isExternalFloat(const std::string& picture) { return picture.find('E') != std::string::npos; }
-
-// What a numeric picture says; P counts as a digit.
-Digits digitsOfNumeric(const std::string& picture) {
-  const std::string text = spelledOut(picture);
-  if (isExternalFloat(text)) {
-    const std::string mantissa = text.substr(0, text.find('E'));
-    const std::size_t point = mantissa.find_first_of(".V");
-    return {countOf(mantissa, "9"),
-            point == std::string::npos ? 0 : countOf(mantissa.substr(point), "9")};
-  }
-  if (countOf(text, "X") > 0) {  // COMP-X by bytes: the digits of the largest value
-    const int bytes = countOf(text, "X");
-    return {static_cast<int>(std::floor(bytes * 8 * std::log10(2.0))) + 1, 0};
-  }
-  const int all = countOf(text, "9P");
-  const std::size_t point = text.find('V');
-  if (point != std::string::npos) return {all, countOf(text.substr(point), "9P")};
-  // Without a V the P tells where the point is assumed: before leading ones, behind trailing ones.
-  const std::size_t first = text.find_first_of("9P");
-  const bool isFraction = first != std::string::npos && text[first] == 'P';
-  return {all, isFraction ? all : 0};
-}
-
-// What a numeric edited picture has room for: a floating string gives one digit less than it has
-// characters.
-Digits digitsOfEdited(const std::string& picture) {
-  std::string text = spelledOut(picture);
-  for (const char* const suffix : {"CR", "DB"}) {
-    const std::size_t at = text.find(suffix);
-    if (at != std::string::npos) text.erase(at);
-  }
-  std::string places = "9Z*";
-  int all = 0;
-  for (const char floating : {'+', '-', '$'}) {
-    if (std::count(text.begin(), text.end(), floating) < 2) continue;
-    places += floating;
-    all = -1;
-  }
-  all += countOf(text, places);
-  const std::size_t point = text.find('.');
-  return {all, point == std::string::npos ? 0 : countOf(text.substr(point), places)};
-}
-
-int binarySize(int digits) {
-  if (digits <= 4) return 2;
-  return digits <= 9 ? 4 : 8;
-}
-
-int numericSize(INumeric* item) {
-  const std::string text = spelledOut(item->getPicture());
-  const int stored = countOf(text, "9");
-  const bool isSeparate = item->getSign() == INumeric::SIGN_LEADING_SEPARATE ||
-                          item->getSign() == INumeric::SIGN_TRAILING_SEPARATE;
-  switch (item->getUsage()) {
-    case INumeric::USAGE_COMP:
-    case INumeric::USAGE_COMP_4:
-    case INumeric::USAGE_COMP_5:
-      return binarySize(stored);
-    case INumeric::USAGE_COMP_X: {
-      const int bytes = countOf(text, "X");
-      return bytes > 0 ? bytes : static_cast<int>(std::ceil(stored * std::log2(10.0) / 8));
-    }
-    case INumeric::USAGE_COMP_1:
-      return 4;
-    case INumeric::USAGE_COMP_2:
-      return 8;
-    case INumeric::USAGE_COMP_3:
-      return stored / 2 + 1;
-    case INumeric::USAGE_COMP_6:
-      return (stored + 1) / 2;
-    case INumeric::USAGE_EXTERNAL_FLOAT:
-      return static_cast<int>(text.size());
-    default:
-      return stored + (isSeparate ? 1 : 0);
-  }
-}
-
-int elementarySize(IDataItem* item) {
-  const int characters = static_cast<int>(spelledOut(item->getPicture()).size());
-  switch (kindOf(item)) {
-    case Kind::kNumeric:
-      return numericSize(as::interface_cast<INumeric>(item));
-    case Kind::kNational:
-      return 2 * characters;
-    case Kind::kPointer:
-      return kPointerSize;
-    case Kind::kObject:
-      return kObjectSize;
-    case Kind::kIndex:
-      return kIndexSize;
-    default:
-      return characters;
-  }
-}
-
-bool hasBoundary(IDataItem* item) {
-  const Kind kind = kindOf(item);
-  if (kind == Kind::kPointer || kind == Kind::kObject || kind == Kind::kIndex) return true;
-  auto* const numeric = as::interface_cast<INumeric>(item);
-  if (numeric == nullptr) return false;
-  switch (numeric->getUsage()) {
-    case INumeric::USAGE_COMP:
-    case INumeric::USAGE_COMP_1:
-    case INumeric::USAGE_COMP_2:
-    case INumeric::USAGE_COMP_4:
-    case INumeric::USAGE_COMP_5:
-      return true;
-    default:
-      return false;
-  }
-}
-
-int roundedUp(int value, int boundary) { return (value + boundary - 1) / boundary * boundary; }
-
-std::vector<IDataItem*> membersOf(IList* list) {
-  std::vector<IDataItem*> result;
-  for (int i = 0; list != nullptr && i < list->getLength(); i++)
-    result.push_back(as::interface_cast<IDataItem>(list->getItem(i)));
-  return result;
-}
-
-std::vector<IDataItem*> childrenOf(IDataItem* item) {
-  auto* const group = as::interface_cast<IGroup>(item);
-  return group == nullptr ? std::vector<IDataItem*>() : membersOf(group->getChildren());
-}
-
-void forEachItem(IDataItem* item, const std::function<void(IDataItem*)>& visit) {
-  visit(item);
-  for (IDataItem* const child : childrenOf(item)) forEachItem(child, visit);
-}
-
-struct Extent {
-  int offset;
-  int length;
-};
-
-// Where COBOL puts the items of one record.
-class RecordLayout {
- public:
-  explicit RecordLayout(IDataItem* record) { place(record, 0); }
-
-  // RENAMES entries have no place of their own and are not in here.
-  const std::map<IDataItem*, Extent>& extents() const { return extents_; }
-
- private:
-  struct Placed {
-    int end;       // behind the last occurrence
-    int boundary;  // the greatest that a SYNCHRONIZED item inside asks for
-  };
-
-  Placed place(IDataItem* item, int at) {
-    return kindOf(item) == Kind::kGroup ? placeGroup(item, at) : placeElementary(item, at);
-  }
-
-  Placed placeElementary(IDataItem* item, int at) {
-    const int size = elementarySize(item);
-    int boundary = 1;
-    if (item->isSync() && hasBoundary(item)) boundary = std::min(size, kGreatestBoundary);
-    return {occupy(item, roundedUp(at, boundary), size), boundary};
-  }
-
-  Placed placeGroup(IDataItem* item, int at) {
-    int end = at;
-    int redefined = at;  // where the latest entry that is no redefinition starts
-    int boundary = 1;
-    for (IDataItem* const child : childrenOf(item)) {
-      if (child->isRenamed()) continue;
-      const Placed placed = place(child, child->isRedefined() ? redefined : end);
-      if (!child->isRedefined()) redefined = extents_.at(child).offset;
-      boundary = std::max(boundary, placed.boundary);
-      end = std::max(end, placed.end);
-    }
-    int size = end - at;
-    // Slack behind each occurrence keeps the next one on its boundary.
-    if (item->getMaxOccurs() > 0) size = roundedUp(size, boundary);
-    return {occupy(item, at, size), boundary};
-  }
-
-  int occupy(IDataItem* item, int offset, int length) {
-    extents_[item] = {offset, length};
-    return offset + length * std::max(item->getMaxOccurs(), 1);
-  }
-
-  std::map<IDataItem*, Extent> extents_;
-};
-
-// A program in fixed format, by line.
-class Source {
- public:
-  explicit Source(const std::string& file) {
-    std::ifstream stream(file);
-    std::string line;
-    while (std::getline(stream, line)) lines_.push_back(line);
-  }
-
-  bool isEmpty() const { return lines_.empty(); }
-
-  // Line `number`, counted from 1, without its first 7 columns; empty for a comment or no line.
-  std::string code(int number) const {
-    if (number < 1 || number > static_cast<int>(lines_.size())) return std::string();
-    const std::string& line = lines_[static_cast<std::size_t>(number) - 1];
-    return line.size() < 8 || line[6] != ' ' ? std::string() : line.substr(7);
-  }
-
-  // The words of the entry that starts on line `number`, single blanks between them, without the
-  // final period.
-  std::string entry(int number) const {
-    std::string text;
-    for (int i = number; i <= static_cast<int>(lines_.size()); i++) {
-      for (const char c : code(i) + ' ') {
-        if (!std::isspace(static_cast<unsigned char>(c)))
-          text += c;
-        else if (!text.empty() && text.back() != ' ')
-          text += ' ';
-      }
-      if (text.size() >= 2 && text[text.size() - 2] == '.') return text.substr(0, text.size() - 2);
-    }
-    return text;
-  }
-
-  // The level number of the entry on line `number`, -1 when none starts there.
-  int level(int number) const {
-    std::smatch match;
-    const std::string text = code(number);
-    return std::regex_search(text, match, std::regex("^ *([0-9][0-9]) ")) ? std::stoi(match[1])
-                                                                          : -1;
-  }
-
-  // The lines of the data division on which data description entries start, conditions excepted.
-  std::set<int> dataEntries() const {
-    std::set<int> result;
-    for (int i = lineOf("DATA DIVISION."); i < lineOf("PROCEDURE DIVISION"); i++)
-      if (level(i) != -1 && level(i) != 88) result.insert(i);
-    return result;
-  }
-
-  // The names of the level 88 entries, in order.
-  std::vector<std::string> conditions() const {
-    std::vector<std::string> result;
-    for (int i = lineOf("DATA DIVISION."); i < lineOf("PROCEDURE DIVISION"); i++) {
-      if (level(i) != 88) continue;
-      const std::string text = entry(i);
-      result.push_back(text.substr(3, text.find(' ', 3) - 3));
-    }
-    return result;
-  }
-
-  // The first line whose code begins with `words`; behind the last line when there is none.
-  int lineOf(const std::string& words) const {
-    int number = 1;
-    while (number <= static_cast<int>(lines_.size()) && code(number).find(words) != 0) number++;
-    return number;
-  }
-
- private:
-  std::vector<std::string> lines_;
-};
-
-// What `expression` captures in the entry `text`; empty when it does not match.
-std::string captured(const std::string& text, const std::string& expression) {
-  std::smatch match;
-  return std::regex_search(text, match, std::regex(expression)) ? match[1].str() : std::string();
-}
-
-bool hasWord(const std::string& text, const std::string& word) {
-  return std::regex_search(text, std::regex("(^| )" + word + "( |$)"));
-}
 
 class Dictionary {
  public:
   explicit Dictionary(const std::string& name)
-      : services_(as::CAgentServicesFactory::CreateAgentServices()) {
-    services_->setSchemaLocation(AS_SCHEMA_DIR);
-    program_.reset(
-        services_->parseCobolDD((std::string(AS_EXAMPLES_DIR) + "/" + name + ".xml").c_str()));
+      : program_(test::outcomeOfFile(std::string(AS_EXAMPLES_DIR) + "/" + name + ".xml").root) {
     if (program_ == nullptr) return;
     IList* const files = program_->getFileSection();
     for (int i = 0; i < files->getLength(); i++) {
@@ -408,7 +69,6 @@ class Dictionary {
   }
 
  private:
-  std::unique_ptr<as::IAgentServices> services_;
   std::unique_ptr<as::IProgram> program_;
   std::vector<IDataItem*> records_;
 };

@@ -11,7 +11,9 @@
 #include <utility>
 #include <vector>
 
-#include "support/Dictionary.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 #include "support/TempDirectory.h"
 
 namespace {

@@ -3,16 +3,20 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "support/Dictionary.h"
+#include "as/AgentServices.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace {
 
 using test::dictionary;
-using test::dictionaryNamespace;
 using test::dictionaryOf;
 using test::Result;
 
@@ -247,8 +251,9 @@ TEST_P(SchemaElement, RefusesItsAttributesInTheDictionaryNamespace) {
   for (const Attribute& attribute : GetParam().attributes) {
     const std::string& text = attribute.type.valid.front();
     const auto outcome = test::outcomeOf(
-        *services_, GetParam().document(GetParam().required() + "xmlns:d='" + dictionaryNamespace +
-                                        "' d:" + attribute.name + "='" + text + "'"));
+        *services_,
+        GetParam().document(GetParam().required() + "xmlns:d='" + as::namespaces::dd.uri +
+                            "' d:" + attribute.name + "='" + text + "'"));
     EXPECT_EQ(outcome.result, Result::parseException) << attribute.name;
   }
 }
@@ -401,12 +406,11 @@ TEST(SchemaProgram, IsTheOnlyRoot) {
 }
 
 TEST(SchemaProgram, MayBePrefixed) {
-  const std::string ns = dictionaryNamespace;
-  const auto outcome = test::outcomeOf(
-      "<d:program xmlns:d='" + ns +
-      "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" + ns + " " +
-      ns + "' name='P'><d:dataItems><d:group name='G'><e:numeric xmlns:e='" + ns +
-      "' name='N'/></d:group></d:dataItems></d:program>");
+  const std::string ns = as::namespaces::dd.uri;
+  const auto outcome =
+      test::outcomeOf("<d:program " + test::declarations(ns, ns + " " + ns, "d") +
+                      " name='P'><d:dataItems><d:group name='G'><e:numeric xmlns:e='" + ns +
+                      "' name='N'/></d:group></d:dataItems></d:program>");
   ASSERT_EQ(outcome.result, Result::root) << outcome.text;
   as::IList* const children = test::topItem<as::IGroup>(*outcome.root)->getChildren();
   ASSERT_EQ(children->getLength(), 1);

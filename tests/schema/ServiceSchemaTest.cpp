@@ -10,7 +10,10 @@
 #include <string>
 #include <vector>
 
-#include "support/Flavours.h"
+#include "as/AgentServices.h"
+#include "support/Documents.h"
+#include "support/Labels.h"
+#include "support/Requests.h"
 
 namespace {
 
@@ -32,24 +35,23 @@ const std::vector<std::string> netWords = {"Byte",   "SByte",  "Int16",   "Int32
 const std::vector<Schema>& schemas() {
   static const std::vector<Schema> all = {
       {"Com",
-       test::flavours::comNamespace,
+       as::namespaces::com.uri,
        false,
        {"byte", "short", "int", "long", "float", "double", "currency", "string", "date", "object"}},
-      {"DotNet", test::flavours::dotNetNamespace, false, netWords},
+      {"DotNet", as::namespaces::dotnet.uri, false, netWords},
       {"Java",
-       test::flavours::javaNamespace,
+       as::namespaces::java.uri,
        false,
        {"byte", "short", "int", "long", "float", "double", "BigDecimal", "String", "byteArray",
         "BigInteger"}},
       // New .NET services stand in this namespace, too.
-      {"Web",
-       test::flavours::webNamespace,
-       true,
-       {"byte",   "unsignedByte", "short",  "unsignedShort", "int",     "unsignedInt",
-        "long",   "unsignedLong", "float",  "double",        "decimal", "integer",
-        "string", "Array",        "XML",    "Byte",          "SByte",   "Int16",
-        "Int32",  "Int64",        "UInt16", "UInt32",        "UInt64",  "Single",
-        "Double", "Decimal",      "String"}},
+      {"Web", as::namespaces::ws.uri, true, {"byte",   "unsignedByte", "short",   "unsignedShort",
+                                             "int",    "unsignedInt",  "long",    "unsignedLong",
+                                             "float",  "double",       "decimal", "integer",
+                                             "string", "Array",        "XML",     "Byte",
+                                             "SByte",  "Int16",        "Int32",   "Int64",
+                                             "UInt16", "UInt32",       "UInt64",  "Single",
+                                             "Double", "Decimal",      "String"}},
   };
   return all;
 }
@@ -116,11 +118,7 @@ class ServiceSchema : public testing::TestWithParam<Schema> {
   static bool isRead(const std::string& element, const std::string& attributes,
                      const std::string& content = "") {
     const std::map<std::string, Element> all = elements();
-    const std::string ns = GetParam().ns;
-    const std::string root = "service xmlns='" + ns +
-                             "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
-                             "xsi:schemaLocation='" +
-                             ns + " " + ns + "'";
+    const std::string root = "service " + test::declarations(GetParam().ns);
     std::string open;
     std::string close;
     for (const std::string& parent : all.at(element).parents) {
@@ -132,11 +130,7 @@ class ServiceSchema : public testing::TestWithParam<Schema> {
   }
 
   static bool isRead(const std::string& document) {
-    const auto outcome = test::outcomeOf([&] {
-      return services_->parseService("service.xml",
-                                     reinterpret_cast<const unsigned char*>(document.data()),
-                                     static_cast<unsigned int>(document.size()), false);
-    });
+    const auto outcome = test::serviceOutcomeOf(*services_, document);
     EXPECT_TRUE(outcome.result == test::Result::root ||
                 outcome.result == test::Result::parseException)
         << outcome.text;
@@ -150,9 +144,7 @@ class ServiceSchema : public testing::TestWithParam<Schema> {
 std::unique_ptr<as::IAgentServices> ServiceSchema::services_;
 
 INSTANTIATE_TEST_SUITE_P(Flavours, ServiceSchema, testing::ValuesIn(schemas()),
-                         [](const testing::TestParamInfo<Schema>& test) {
-                           return std::string(test.param.label);
-                         });
+                         test::labelOf<Schema>);
 
 TEST_P(ServiceSchema, ElementsHaveTheirAttributesAndNoOthers) {
   const std::map<std::string, std::string> values = {{"name", "n"},
@@ -364,14 +356,49 @@ TEST_P(ServiceSchema, NumbersAreWhole) {
 }
 
 TEST_P(ServiceSchema, OnlyAServiceIsARoot) {
-  const std::string ns = GetParam().ns;
   for (const auto& [name, element] : elements()) {
-    EXPECT_EQ(isRead("<" + name + " xmlns='" + ns +
-                     "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
-                     "xsi:schemaLocation='" +
-                     ns + " " + ns + "'/>"),
-              name == "service")
+    EXPECT_EQ(isRead(test::element(name, "", test::declarations(GetParam().ns))), name == "service")
         << name;
+  }
+}
+
+// What no getter has a number for does not get into a model through a document.
+TEST(WebWord, ThatIsNoneOfItsAttributeIsRefusedByTheParser) {
+  const struct {
+    const char* element;
+    const char* attribute;
+    const char* word;
+    const char* wrong[4];
+  } rows[] = {
+      {"operation", "style", "rpc", {"", "RPC", "literal", "documents"}},
+      {"operation", "inputUse", "literal", {"", "Literal", "rpc", " literal"}},
+      {"operation", "outputUse", "encoded", {"", "Encoded", "document", "encoded "}},
+      {"header", "use", "literal", {"", "Literal", "in", "literals"}},
+      {"header", "byType", "io", {"", "IN", "inout", "io "}},
+      {"fault", "use", "encoded", {"", "Encoded", "out", "encode"}},
+      {"parameter", "dataType", "integer", {"", "Integer", "array", "xml"}},
+      {"parameter", "elementForm", "qualified", {"", "Qualified", "encoded", "yes"}},
+      {"parameter", "attributeForm", "unqualified", {"", "UNQUALIFIED", "true", "un"}},
+  };
+  for (const auto& row : rows) {
+    const auto outcomeOf = [&row](const char* word) {
+      const std::string element = row.element;
+      const std::string attribute = std::string(row.attribute) + "='" + word + "'";
+      const std::string inner = "<" + element + " " + attribute + "/>";
+      const std::string document = test::webService(
+          "", "<operations>" +
+                  (element == "operation"   ? inner
+                   : element == "parameter" ? "<operation><fault><parameters>" + inner +
+                                                  "</parameters></fault></operation>"
+                                            : "<operation>" + inner + "</operation>") +
+                  "</operations>");
+      return test::serviceOutcomeOf(document).result;
+    };
+    EXPECT_EQ(outcomeOf(row.word), test::Result::root) << row.element << " " << row.attribute;
+    for (const char* const wrong : row.wrong) {
+      EXPECT_EQ(outcomeOf(wrong), test::Result::parseException)
+          << row.element << " " << row.attribute << " '" << wrong << "'";
+    }
   }
 }
 

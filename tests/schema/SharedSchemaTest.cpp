@@ -78,18 +78,22 @@ Lines read(const std::string& file) {
   return lines;
 }
 
-// Without what the head says of this one schema: its namespace, its version, and what it is for.
+// Without what the head says of this one schema: its namespace, its version, what it is for, and how
+// a document names it, with an example.
 Lines withoutHead(const Lines& lines) {
   Lines result;
   bool inPurpose = false;
   bool seenPurpose = false;
+  bool inExample = false;
   for (const std::string& line : lines) {
     if (startsWith(line, "xmlns=") || startsWith(line, "targetNamespace=") ||
         startsWith(line, "version=")) {
       continue;
     }
     if (startsWith(line, "A service exposes one COBOL program")) inPurpose = false;
-    if (!inPurpose) result.push_back(line);
+    if (startsWith(line, "The root has to name this schema")) inExample = true;
+    if (line == "</xs:documentation>") inExample = false;
+    if (!inPurpose && !inExample) result.push_back(line);
     if (!seenPurpose && line == "<xs:documentation>") inPurpose = seenPurpose = true;
   }
   return result;

@@ -8,16 +8,16 @@
 #include <string>
 #include <vector>
 
-namespace test::flavours {
+namespace test {
 
 // A Markdown table between the lines "<!-- flavours -->" and "<!-- /flavours -->" of a file. Cells
 // are plain text: without the blanks around them, and without backquotes. Empty when the file has
 // no such lines.
-class Table {
+class FlavourTable {
  public:
   using Row = std::vector<std::string>;
 
-  explicit Table(const std::string& file) {
+  explicit FlavourTable(const std::string& file) {
     std::ifstream in(file);
     bool inside = false;
     for (std::string line; std::getline(in, line);) {
@@ -78,6 +78,6 @@ class Table {
   std::vector<Row> rows_;
 };
 
-}  // namespace test::flavours
+}  // namespace test
 
 #endif  // TESTS_SUPPORT_FLAVOURTABLE_H_

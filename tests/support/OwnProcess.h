@@ -8,7 +8,9 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "support/Dictionary.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace test {
 

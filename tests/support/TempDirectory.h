@@ -1,4 +1,4 @@
-// Files of tests, and a directory of a test's own, gone with the object.
+// Directories of a test's own, gone with the object, and the files in them.
 #ifndef TESTS_SUPPORT_TEMPDIRECTORY_H_
 #define TESTS_SUPPORT_TEMPDIRECTORY_H_
 
@@ -7,18 +7,12 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 
 namespace test {
-
-inline std::string contentOf(const std::filesystem::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::ostringstream content;
-  content << in.rdbuf();
-  return content.str();
-}
 
 class TempDirectory {
  public:
@@ -37,7 +31,8 @@ class TempDirectory {
   // The path, without a separator at the end.
   std::string path() const { return path_.string(); }
 
-  // Writes a file into the directory, or into one below it, and returns its path.
+  // Writes a file into the directory, or into a directory below if its name says so, and returns
+  // its path.
   std::string write(const std::string& name, const std::string& content) const {
     const std::filesystem::path file = path_ / name;
     std::filesystem::create_directories(file.parent_path());
@@ -48,6 +43,34 @@ class TempDirectory {
  private:
   std::filesystem::path path_;
 };
+
+// The current directory as long as the object lives.
+class CurrentDirectory {
+ public:
+  CurrentDirectory() { std::filesystem::current_path(directory_.path()); }
+  ~CurrentDirectory() {
+    std::error_code ignored;
+    std::filesystem::current_path(old_, ignored);
+  }
+  CurrentDirectory(const CurrentDirectory&) = delete;
+  CurrentDirectory& operator=(const CurrentDirectory&) = delete;
+
+  // In the one spelling that a program is told of it.
+  std::string path() const { return std::filesystem::current_path().string(); }
+
+  std::string write(const std::string& name, const std::string& content) const {
+    return directory_.write(name, content);
+  }
+
+ private:
+  const std::filesystem::path old_ = std::filesystem::current_path();
+  const TempDirectory directory_;
+};
+
+inline std::string contentOf(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
 
 }  // namespace test
 

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "support/Cases.h"
+#include "support/Labels.h"
 #include "support/TempDirectory.h"
 
 namespace test {

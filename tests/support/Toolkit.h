@@ -14,7 +14,7 @@
 
 #include "as/AgentServices.h"
 #include "as/toolkit/Toolkit.h"
-#include "support/Cases.h"
+#include "support/Labels.h"
 #include "support/TempDirectory.h"
 
 namespace test {

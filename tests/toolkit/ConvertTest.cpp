@@ -35,10 +35,10 @@ std::string service(const std::string& ns, const std::string& implementation,
 }
 
 const char* namespaceOf(const std::string& flavour) {
-  if (flavour == "ws") return test::flavours::webNamespace;
-  if (flavour == "com") return test::flavours::comNamespace;
-  if (flavour == "java") return test::flavours::javaNamespace;
-  return test::flavours::dotNetNamespace;
+  if (flavour == "ws") return as::namespaces::ws.uri;
+  if (flavour == "com") return as::namespaces::com.uri;
+  if (flavour == "java") return as::namespaces::java.uri;
+  return as::namespaces::dotnet.uri;
 }
 
 std::string operation(const std::string& parameters, const std::string& attributes = "",
@@ -157,7 +157,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(ConvertTest, TheItemHelpsWhereNoTypeHoldsAsMuch) {
   write("PAY.xml", test::payProgram());
   const toolkit::ConvertedService outcome =
-      convert(service(test::flavours::javaNamespace, "java",
+      convert(service(as::namespaces::java.uri, "java",
                       operation("<parameter name='p' dataType='BigDecimal'><mappings><mapping "
                                 "item='REQ.LINE.AMOUNT(1)'/></mappings></parameter>"),
                       "dataDictFilename='PAY.xml'"),
@@ -171,7 +171,7 @@ TEST_F(ConvertTest, TheItemHelpsWhereNoTypeHoldsAsMuch) {
 TEST_F(ConvertTest, EveryItemOfAFieldCounts) {
   write("PAY.xml", test::payProgram());
   const toolkit::ConvertedService outcome =
-      convert(service(test::flavours::javaNamespace, "java",
+      convert(service(as::namespaces::java.uri, "java",
                       operation("<parameter name='p' dataType='BigDecimal'><mappings>"
                                 "<mapping item='REQ.LINE.CELL(1,1)'/>"
                                 "<mapping item='REQ.LINE.AMOUNT(1)'/></mappings></parameter>"),
@@ -184,7 +184,7 @@ TEST_F(ConvertTest, EveryItemOfAFieldCounts) {
 
 TEST_F(ConvertTest, ATypeOfNoWordIsToldAsOne) {
   const toolkit::ConvertedService outcome =
-      convert(service(test::flavours::webNamespace, "ws",
+      convert(service(as::namespaces::ws.uri, "ws",
                       operation("<parameter name='p' dataType='Int32'/>")),
               "java");
   EXPECT_THAT(notesOf(outcome),
@@ -192,8 +192,8 @@ TEST_F(ConvertTest, ATypeOfNoWordIsToldAsOne) {
 }
 
 TEST_F(ConvertTest, NamespacesAreReplacedWhereverTheyAreDeclared) {
-  const std::string java = test::flavours::javaNamespace;
-  const std::string web = test::flavours::webNamespace;
+  const std::string java = as::namespaces::java.uri;
+  const std::string web = as::namespaces::ws.uri;
   convert("<service xmlns='" + java +
               "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" +
               java + " " + java + "' name='see " + java + " for more' implementation='java'>" +
@@ -208,7 +208,7 @@ TEST_F(ConvertTest, NamespacesAreReplacedWhereverTheyAreDeclared) {
 
 TEST_F(ConvertTest, AFieldAttributeOfAFieldsNameIsRenamed) {
   const toolkit::ConvertedService outcome =
-      convert(service(test::flavours::webNamespace, "ws",
+      convert(service(as::namespaces::ws.uri, "ws",
                       operation("<parameter name='p'><field name='a' dataType='int'/>"
                                 "<fieldAttribute name='a' dataType='short'/></parameter>")),
               "java");
@@ -220,7 +220,7 @@ TEST_F(ConvertTest, AFieldAttributeOfAFieldsNameIsRenamed) {
 
 TEST_F(ConvertTest, TheDictionaryIsNeverTheOutput) {
   write("PAY.xml", test::payProgram());
-  write("s.xml", service(test::flavours::javaNamespace, "java", "", "dataDictFilename='PAY.xml'"));
+  write("s.xml", service(as::namespaces::java.uri, "java", "", "dataDictFilename='PAY.xml'"));
   const toolkit::Refusal refusal = refusalOf([this] { convertFile("s.xml", "PAY.xml", "com"); });
   EXPECT_EQ(refusal.file, "PAY.xml");
   EXPECT_EQ(refusal.text, "this is the dictionary");
@@ -229,7 +229,7 @@ TEST_F(ConvertTest, TheDictionaryIsNeverTheOutput) {
 
 TEST_F(ConvertTest, ADictionaryThatCannotBeReadIsToldAndDoneWithout) {
   const toolkit::ConvertedService outcome = convert(
-      service(test::flavours::javaNamespace, "java",
+      service(as::namespaces::java.uri, "java",
               operation("<parameter name='p' dataType='int'/>"), "dataDictFilename='gone.xml'"),
       "ws");
   EXPECT_THAT(notesOf(outcome), ElementsAre(HasSubstr("the dictionary cannot be used")));
@@ -238,7 +238,7 @@ TEST_F(ConvertTest, ADictionaryThatCannotBeReadIsToldAndDoneWithout) {
 }
 
 TEST_F(ConvertTest, ReferencesHaveNoTypeOfTheirOwn) {
-  convert(service(test::flavours::javaNamespace, "java",
+  convert(service(as::namespaces::java.uri, "java",
                   "<parameterTypeDefs><parameter name='D' dataType='int'/></parameterTypeDefs>" +
                       operation("<parameter name='p' ref='D' dataType='byte'/>")),
           "dotnet");
@@ -251,7 +251,7 @@ TEST_F(ConvertTest, ReferencesHaveNoTypeOfTheirOwn) {
 TEST_F(ConvertTest, RepeatedGroupsAreArraysInWebServicesAlone) {
   const std::string group =
       operation("<parameter name='p' occurs='5'><field name='f' dataType='int'/></parameter>");
-  convert(service(test::flavours::javaNamespace, "java", group), "ws");
+  convert(service(as::namespaces::java.uri, "java", group), "ws");
   EXPECT_EQ(converted()["operations"][0]["parameters"][0]["typeText"], "Array");
   const toolkit::ConvertedService back = convert(output(), "com");
   EXPECT_THAT(output(), Not(HasSubstr("Array")));
@@ -260,21 +260,21 @@ TEST_F(ConvertTest, RepeatedGroupsAreArraysInWebServicesAlone) {
 
 TEST_F(ConvertTest, WhatTheNewFlavourNeedsIsAdded) {
   const std::string plain = operation("<parameter name='p' dataType='int'/>");
-  convert(service(test::flavours::comNamespace, "com", plain), "ws");
+  convert(service(as::namespaces::com.uri, "com", plain), "ws");
   const nlohmann::json web = converted()["operations"][0];
   EXPECT_EQ(web["styleText"], "document");
   EXPECT_EQ(web["inputUseText"], "literal");
   EXPECT_EQ(web["outputUseText"], "literal");
   EXPECT_EQ(web["inputNamespace"], "urn:agentservices:PAYROLL");
   EXPECT_EQ(web["outputNamespace"], "urn:agentservices:PAYROLL");
-  convert(service(test::flavours::comNamespace, "com", plain), "java");
+  convert(service(as::namespaces::com.uri, "com", plain), "java");
   EXPECT_THAT(output(), HasSubstr("transactionType=\"requires\""));
 }
 
 TEST_F(ConvertTest, HeadersAndFaultsAreLeftOutAndTold) {
   const std::string message = "<parameters><parameter name='x' dataType='int'/></parameters>";
   const toolkit::ConvertedService outcome = convert(
-      service(test::flavours::webNamespace, "ws",
+      service(as::namespaces::ws.uri, "ws",
               operation("<parameter name='p' dataType='int' namespace='urn:x' "
                         "elementForm='qualified' attributeForm='unqualified'/>",
                         "style='rpc' inputUse='literal' outputUse='literal' inputNamespace='urn:x' "
@@ -306,7 +306,7 @@ TEST_F(ConvertTest, HeadersAndFaultsAreLeftOutAndTold) {
 
 TEST_F(ConvertTest, FieldAttributesBecomeFields) {
   const toolkit::ConvertedService outcome =
-      convert(service(test::flavours::webNamespace, "ws",
+      convert(service(as::namespaces::ws.uri, "ws",
                       operation("<parameter name='p'><field name='f' dataType='int'/>"
                                 "<fieldAttribute name='a' dataType='short'/></parameter>")),
               "dotnet");
@@ -321,14 +321,14 @@ TEST_F(ConvertTest, FieldAttributesBecomeFields) {
 
 TEST_F(ConvertTest, ReturnParametersAndTransactionTypesAreLeftOutAndTold) {
   const toolkit::ConvertedService com =
-      convert(service(test::flavours::comNamespace, "com",
+      convert(service(as::namespaces::com.uri, "com",
                       operation("<parameter name='p' dataType='int' returnParameter='1'/>")),
               "java");
   EXPECT_THAT(notesOf(com), ElementsAre("service: returnParameter has no equivalent in Java "
                                         "services: left out (1 time)"));
   EXPECT_THAT(output(), Not(HasSubstr("returnParameter")));
   const toolkit::ConvertedService java =
-      convert(service(test::flavours::javaNamespace, "java",
+      convert(service(as::namespaces::java.uri, "java",
                       operation("<parameter name='p' dataType='int'/>", "transactionType='never'")),
               "com");
   EXPECT_THAT(notesOf(java), ElementsAre("service: transactionType has no equivalent in COM "
@@ -336,7 +336,7 @@ TEST_F(ConvertTest, ReturnParametersAndTransactionTypesAreLeftOutAndTold) {
 }
 
 TEST_F(ConvertTest, EverythingElseStays) {
-  const std::string ns = test::flavours::javaNamespace;
+  const std::string ns = as::namespaces::java.uri;
   convert("<?first note?><!-- before --><j:service xmlns:j='" + ns +
               "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" + ns +
               " " + ns +
@@ -346,7 +346,7 @@ TEST_F(ConvertTest, EverythingElseStays) {
               "<j:hiddenParameters><j:hiddenParameter item='$stdin' value='v'/>"
               "</j:hiddenParameters><?pi x?></j:operation></j:operations></j:service>",
           "com");
-  const std::string com = test::flavours::comNamespace;
+  const std::string com = as::namespaces::com.uri;
   EXPECT_THAT(output(),
               AllOf(HasSubstr("<?first note?>"), HasSubstr("<!-- before -->"),
                     HasSubstr("<j:service"), HasSubstr("xmlns:j=\"" + com + "\""),
@@ -367,20 +367,20 @@ TEST_F(ConvertTest, ANetServiceInTheNamespaceOfWebServicesIsOne) {
   write("p.xml", test::payProgram());
   toolkit::makeServiceFile(reader(), "p.xml", "s.xml", *toolkit::findFlavour("dotnet"));
   const std::string written = contentOf("s.xml");
-  ASSERT_THAT(written, HasSubstr(test::flavours::webNamespace));
+  ASSERT_THAT(written, HasSubstr(as::namespaces::ws.uri));
   convert(written, "dotnet");
   EXPECT_THAT(output(),
-              AllOf(HasSubstr(test::flavours::dotNetNamespace),
-                    Not(HasSubstr(test::flavours::webNamespace)), HasSubstr("dataType=\"Int32\"")));
+              AllOf(HasSubstr(as::namespaces::dotnet.uri),
+                    Not(HasSubstr(as::namespaces::ws.uri)), HasSubstr("dataType=\"Int32\"")));
   convert(written, "ws");
-  EXPECT_THAT(output(), AllOf(HasSubstr(test::flavours::webNamespace),
+  EXPECT_THAT(output(), AllOf(HasSubstr(as::namespaces::ws.uri),
                               HasSubstr("implementation=\"ws\""), HasSubstr("dataType=\"int\"")));
 }
 
 TEST_F(ConvertTest, TheDictionaryIsNamedAsSeenFromTheOutput) {
   write("a/PAY.xml", test::payProgram());
   write("a/s.xml",
-        service(test::flavours::javaNamespace, "java", "", "dataDictFilename='PAY.xml'"));
+        service(as::namespaces::java.uri, "java", "", "dataDictFilename='PAY.xml'"));
   std::filesystem::create_directory("b");
   // Whether it is there or not.
   for (int i = 0; i < 2; i++) {
@@ -400,7 +400,7 @@ TEST_F(ConvertTest, AFailureLeavesTheOldFile) {
 }
 
 TEST_F(ConvertTest, AServiceCanTakeItsOwnPlace) {
-  write("s.xml", service(test::flavours::javaNamespace, "java",
+  write("s.xml", service(as::namespaces::java.uri, "java",
                          operation("<parameter name='p' dataType='int'/>")));
   convertFile("s.xml", "s.xml", "dotnet");
   EXPECT_THAT(contentOf("s.xml"), HasSubstr("Int32"));
@@ -408,7 +408,7 @@ TEST_F(ConvertTest, AServiceCanTakeItsOwnPlace) {
 
 TEST_F(ConvertTest, AServiceInMemoryIsCarriedOverWithTheItemsOfItsProgram) {
   write("PAY.xml", test::payProgram());
-  write("s.xml", service(test::flavours::javaNamespace, "java",
+  write("s.xml", service(as::namespaces::java.uri, "java",
                          operation("<parameter name='p' dataType='BigDecimal'><mappings><mapping "
                                    "item='REQ.LINE.AMOUNT(1)'/></mappings></parameter>")));
   const auto source = reader().readService("s.xml");

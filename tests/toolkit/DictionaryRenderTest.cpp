@@ -7,7 +7,9 @@
 #include <sstream>
 #include <string>
 
-#include "support/Dictionary.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 #include "support/Toolkit.h"
 
 namespace {

@@ -6,8 +6,9 @@
 #include <ostream>
 #include <string>
 
+#include "support/Documents.h"
 #include "support/Flavours.h"
-#include "support/JavaService.h"
+#include "support/Requests.h"
 #include "support/Toolkit.h"
 
 namespace {
@@ -114,7 +115,7 @@ TEST_P(RefusedDocumentTest, IsTold) {
 
 const std::string neitherKind =
     std::string("refused.xml: not a data dictionary: its root element is not in the namespace ") +
-    test::dictionaryNamespace +
+    as::namespaces::dd.uri +
     "; and not a service: its root element is in none of the namespaces"
     " http://agentservices.example/schema/ws/v1.0/vorws.xsd"
     " http://agentservices.example/schema/java/v2.0/vorjava.xsd"
@@ -125,7 +126,7 @@ const std::string schemaHint =
     std::string(
         "name the schema in the root element: "
         "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:schemaLocation=\"") +
-    test::dictionaryNamespace + " " + test::dictionaryNamespace + "\"";
+    as::namespaces::dd.uri + " " + as::namespaces::dd.uri + "\"";
 
 INSTANTIATE_TEST_SUITE_P(
     Documents, RefusedDocumentTest,
@@ -140,12 +141,12 @@ INSTANTIATE_TEST_SUITE_P(
                     neitherKind, ""},
         RefusalCase{"NoNamespace", "<program name='PAYROLL'/>", neitherKind, ""},
         RefusalCase{"NoSchemaLocation",
-                    std::string("<program xmlns=\"") + test::dictionaryNamespace +
+                    std::string("<program xmlns=\"") + as::namespaces::dd.uri +
                         "\" name=\"PAYROLL\"></program>",
                     "refused.xml:1:93: no declaration found for element 'program'", schemaHint},
         RefusalCase{
             "NoSchemaLocationBehindAPrefix",
-            std::string("<d:program name='P' xmlns:d='") + test::dictionaryNamespace + "'/>",
+            std::string("<d:program name='P' xmlns:d='") + as::namespaces::dd.uri + "'/>",
             "refused.xml:1:92: no declaration found for element 'd:program'", schemaHint},
         RefusalCase{"Empty", "", "refused.xml:1:1: invalid document structure", ""},
         RefusalCase{"ControlCharactersInAMessage",
@@ -156,8 +157,8 @@ INSTANTIATE_TEST_SUITE_P(
     labelOf<RefusalCase>);
 
 TEST_F(DocumentReaderTest, AServiceWithoutASchemaLocationIsHelped) {
-  for (const char* const ns : {test::flavours::webNamespace, test::flavours::comNamespace,
-                               test::flavours::javaNamespace, test::flavours::dotNetNamespace}) {
+  for (const char* const ns : {as::namespaces::ws.uri, as::namespaces::com.uri,
+                               as::namespaces::java.uri, as::namespaces::dotnet.uri}) {
     write("s.xml", std::string("<service xmlns='") + ns + "'/>");
     EXPECT_THAT(refusalOf([this] { reader().read("s.xml"); }).hint,
                 StartsWith("name the schema in the root element: "));

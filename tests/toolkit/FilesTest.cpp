@@ -6,7 +6,8 @@
 #include <filesystem>
 #include <string>
 
-#include "support/JavaService.h"
+#include "support/Documents.h"
+#include "support/Requests.h"
 #include "support/Toolkit.h"
 
 namespace {

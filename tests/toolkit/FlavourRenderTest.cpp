@@ -15,7 +15,7 @@ using testing::HasSubstr;
 
 // A Web service with everything that only Web services have.
 std::string webService() {
-  const std::string ns = test::flavours::webNamespace;
+  const std::string ns = as::namespaces::ws.uri;
   return "<service xmlns='" + ns +
          "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" + ns + " " +
          ns + R"xml(' name='Pay' implementation='ws'>
@@ -126,8 +126,8 @@ TEST_F(FlavourRenderTest, AMissingDataTypeOfAWebServiceIsUnknown) {
 }
 
 TEST_F(FlavourRenderTest, ComServicesTellTheirReturnParameter) {
-  const std::string document = test::flavours::document(
-      test::flavours::comNamespace,
+  const std::string document = test::parameterDocument(
+      as::namespaces::com.uri,
       "<parameter name='a' dataType='currency' returnParameter='1'/><parameter name='b'/>");
   EXPECT_THAT(shown(document), HasSubstr("a     currency  returnParameter yes\n"));
   const json parameters = shownJson(document)["operations"][0]["parameters"];
@@ -139,8 +139,8 @@ TEST_F(FlavourRenderTest, ComServicesTellTheirReturnParameter) {
 }
 
 TEST_F(FlavourRenderTest, NetServicesTellTheirDataTypes) {
-  const json service = shownJson(test::flavours::document(
-      test::flavours::dotNetNamespace,
+  const json service = shownJson(test::parameterDocument(
+      as::namespaces::dotnet.uri,
       "<parameter name='a' dataType='UInt32'/><parameter name='b'/><parameter name='c' ref='D'/>",
       "<parameter name='D' dataType='Decimal'/>"));
   EXPECT_EQ(service["flavour"], ".NET");
@@ -153,8 +153,8 @@ TEST_F(FlavourRenderTest, NetServicesTellTheirDataTypes) {
 // A new .NET service is written in the namespace of Web services and read back as one of these:
 // "implementation" tells the tool what it is.
 TEST_F(FlavourRenderTest, NetServicesInTheNamespaceOfWebServicesAreKnown) {
-  std::string document = test::flavours::document(
-      test::flavours::webNamespace,
+  std::string document = test::parameterDocument(
+      as::namespaces::ws.uri,
       "<parameter name='a' dataType='UInt32'/><parameter name='b'/><parameter name='c' ref='D'/>"
       "<parameter name='d' ref='E'/>",
       "<parameter name='D' dataType='Decimal'/><parameter name='E' ref='E'/>");
@@ -174,10 +174,10 @@ TEST_F(FlavourRenderTest, TheFlavourIsKnownHoweverLittleThereIs) {
   const struct {
     const char* ns;
     const char* name;
-  } flavours[] = {{test::flavours::webNamespace, "Web"},
-                  {test::flavours::comNamespace, "COM"},
-                  {test::flavours::javaNamespace, "Java"},
-                  {test::flavours::dotNetNamespace, ".NET"}};
+  } flavours[] = {{as::namespaces::ws.uri, "Web"},
+                  {as::namespaces::com.uri, "COM"},
+                  {as::namespaces::java.uri, "Java"},
+                  {as::namespaces::dotnet.uri, ".NET"}};
   const std::string member =
       "<p:operations><p:operation><p:parameters><p:parameter/></p:parameters></p:operation>"
       "</p:operations>";
@@ -207,7 +207,7 @@ TEST_F(FlavourRenderTest, TheFlavourIsKnownHoweverLittleThereIs) {
 }
 
 TEST_F(FlavourRenderTest, AnEmptyPrefixedServiceIsWhatItsImplementationSays) {
-  const std::string ns = test::flavours::comNamespace;
+  const std::string ns = as::namespaces::com.uri;
   EXPECT_EQ(shownJson("<p:service xmlns:p='" + ns +
                       "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
                       "xsi:schemaLocation='" +

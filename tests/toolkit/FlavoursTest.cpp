@@ -35,7 +35,7 @@ TEST(FlavoursTest, AreFoundByTheirWords) {
 }
 
 TEST(FlavoursTest, AreThoseOfNewServices) {
-  for (const test::flavours::Flavour& row : test::flavours::all()) {
+  for (const test::Flavour& row : test::flavours::all) {
     auto program = test::parse(test::dictionary(""));
     const std::unique_ptr<as::IService> service(row.make(program.get()));
     static_cast<void>(program.release());

@@ -11,8 +11,9 @@
 #include <string>
 #include <vector>
 
-#include "support/Dictionary.h"
-#include "support/JavaService.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 #include "support/Toolkit.h"
 
 namespace {

@@ -5,7 +5,8 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "support/JavaService.h"
+#include "support/Documents.h"
+#include "support/Requests.h"
 #include "support/Toolkit.h"
 
 namespace {

@@ -13,7 +13,9 @@
 
 #include "as/AgentServices.h"
 #include "as/toolkit/Storage.h"
-#include "support/Dictionary.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace {
 

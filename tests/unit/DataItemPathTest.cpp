@@ -6,7 +6,9 @@
 #include <vector>
 
 #include "cobol/DataItemPath.h"
-#include "support/Dictionary.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace {
 

@@ -6,9 +6,11 @@
 
 #include "as/AgentServices.h"
 #include "as/Globals.h"
-#include "support/Dictionary.h"
+#include "support/Documents.h"
 #include "support/Flavours.h"
-#include "support/JavaService.h"
+#include "support/Labels.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace {
 
@@ -24,7 +26,7 @@ class NoParser {
   int status_;
 };
 
-class NewServiceStartUp : public testing::TestWithParam<test::flavours::Flavour> {
+class NewServiceStartUp : public testing::TestWithParam<test::Flavour> {
  protected:
   static test::Outcome<as::IService> outcomeWithoutParser(as::IProgram* program) {
     const NoParser noParser;
@@ -33,8 +35,8 @@ class NewServiceStartUp : public testing::TestWithParam<test::flavours::Flavour>
   static constexpr char notStarted[] = "AgentServices: Unable to initialise the Xerces XML parser";
 };
 
-INSTANTIATE_TEST_SUITE_P(Flavours, NewServiceStartUp, testing::ValuesIn(test::flavours::all()),
-                         [](const auto& value) { return std::string(value.param.label); });
+INSTANTIATE_TEST_SUITE_P(Flavours, NewServiceStartUp, testing::ValuesIn(test::flavours::all),
+                         test::labelOf<test::Flavour>);
 
 TEST_P(NewServiceStartUp, NothingIsCreatedWhenTheXmlParserDidNotStart) {
   const auto program = test::parse(test::payProgram());

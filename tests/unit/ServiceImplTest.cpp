@@ -14,8 +14,10 @@
 #include "service/MappingImpl.h"
 #include "service/ParameterImpl.h"
 #include "service/ServiceImpl.h"
-#include "support/Dictionary.h"
+#include "support/Documents.h"
 #include "support/Dom.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 #include "support/Wrappers.h"
 #include "xml/Vocabulary.h"
 

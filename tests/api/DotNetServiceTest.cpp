@@ -6,25 +6,26 @@
 #include <string>
 
 #include "as/AgentServices.h"
-#include "support/Dictionary.h"
-#include "support/Flavours.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace {
 
+using test::classOf;
 using test::itemOf;
-using test::flavours::classOf;
-using test::flavours::firstOperation;
-using test::flavours::parameterOf;
+using test::operationOf;
+using test::parameterOf;
 
 using Type = as::IDotNETField::TYPE;
 
 std::string dotNetDocument(const std::string& parameters, const std::string& definitions = "") {
-  return test::flavours::document(test::flavours::dotNetNamespace, parameters, definitions);
+  return test::parameterDocument(as::namespaces::dotnet.uri, parameters, definitions);
 }
 
 std::unique_ptr<as::IService> dotNetService(const std::string& parameters,
                                             const std::string& definitions = "") {
-  return test::flavours::parseService(dotNetDocument(parameters, definitions));
+  return test::parseService(dotNetDocument(parameters, definitions));
 }
 
 as::IDotNETParameter* dotNetParameter(as::IService& service, int index = 0) {
@@ -95,10 +96,7 @@ TEST(DotNetParameter, DataTypesThatAreNoneAreRefused) {
   for (const char* const word : {"", "byte", "int32", "INT32", " Int32", "Int", "string"}) {
     const std::string document =
         dotNetDocument("<parameter dataType='" + std::string(word) + "'/>");
-    EXPECT_EQ(
-        test::outcomeOf([&] { return test::flavours::parseService(document).release(); }).result,
-        test::Result::parseException)
-        << word;
+    EXPECT_EQ(test::serviceOutcomeOf(document).result, test::Result::parseException) << word;
   }
 }
 
@@ -175,7 +173,7 @@ TEST(DotNetService, HasObjectsOfItsClasses) {
       dotNetService("<parameter><mappings><mapping item='A'/></mappings><field/></parameter>",
                     "<parameter name='D'/>");
   EXPECT_EQ(classOf(service.get()), "CDotNETImpl");
-  EXPECT_EQ(classOf(firstOperation(*service)), "CDotNETOperationImpl");
+  EXPECT_EQ(classOf(operationOf(*service)), "CDotNETOperationImpl");
   EXPECT_EQ(classOf(dotNetParameter(*service)), "CDotNETParameterImpl");
   EXPECT_EQ(classOf(dotNetField(*service)), "CDotNETParameterImpl");
   EXPECT_EQ(classOf(service->getParameterTypeDefs()->getItem(0)), "CDotNETParameterImpl");
@@ -193,7 +191,7 @@ TEST(DotNetService, CastsToItsInterface) {
 TEST(DotNetService, OperationsCastToTheirInterface) {
   const auto service = dotNetService("");
   as::IOperation* const added = service->addOperation("added", nullptr);
-  for (as::IOperation* const operation : {firstOperation(*service), added}) {
+  for (as::IOperation* const operation : {operationOf(*service), added}) {
     auto* const dotNet = as::interface_cast<as::IDotNETOperation>(operation);
     ASSERT_NE(dotNet, nullptr);
     EXPECT_EQ(as::interface_cast<as::IOperation>(dotNet), operation);
@@ -218,8 +216,8 @@ TEST(DotNetService, ParametersAndFieldsHaveEveryInterfaceOfOne) {
 TEST(DotNetService, CastsToNoOtherFlavour) {
   const auto service = dotNetService("<parameter/>");
   EXPECT_EQ(as::interface_cast<as::IWebService>(service.get()), nullptr);
-  EXPECT_EQ(as::interface_cast<as::IWSOperation>(firstOperation(*service)), nullptr);
-  EXPECT_EQ(as::interface_cast<as::IJavaOperation>(firstOperation(*service)), nullptr);
+  EXPECT_EQ(as::interface_cast<as::IWSOperation>(operationOf(*service)), nullptr);
+  EXPECT_EQ(as::interface_cast<as::IJavaOperation>(operationOf(*service)), nullptr);
   EXPECT_EQ(parameterOf<as::IWSField>(*service), nullptr);
   EXPECT_EQ(parameterOf<as::IJavaField>(*service), nullptr);
   EXPECT_EQ(parameterOf<as::ICOMField>(*service), nullptr);
@@ -235,7 +233,7 @@ TEST(DotNetService, IsOneByItsNamespace) {
 TEST(DotNetService, AddsDotNetParametersAndFields) {
   const auto service = dotNetService("");
   auto* const parameter = as::interface_cast<as::IDotNETParameter>(
-      firstOperation(*service)->addParameter(as::IParameter::BY_IN, "p", 1));
+      operationOf(*service)->addParameter(as::IParameter::BY_IN, "p", 1));
   ASSERT_NE(parameter, nullptr);
   auto* const field = as::interface_cast<as::IDotNETParameter>(parameter->addField("f", 2));
   ASSERT_NE(field, nullptr);
@@ -247,10 +245,10 @@ TEST(DotNetService, SurvivesWritingAndReading) {
   for (const auto& row : dataTypes) {
     const auto service = dotNetService("<parameter name='first'/>");
     auto* const parameter = as::interface_cast<as::IDotNETParameter>(
-        firstOperation(*service)->addParameter(as::IParameter::BY_IN, "second", 1));
+        operationOf(*service)->addParameter(as::IParameter::BY_IN, "second", 1));
     parameter->setType(row.type);
     as::interface_cast<as::IDotNETParameter>(parameter->addField("f", 2))->setType(row.type);
-    const auto again = test::flavours::writtenAndRead(*service);
+    const auto again = test::writtenAndRead(*service);
     EXPECT_EQ(classOf(again.get()), "CDotNETImpl");
     EXPECT_EQ(dotNetParameter(*again)->getType(), as::IDotNETField::NET_BYTE);
     EXPECT_EQ(dotNetParameter(*again, 1)->getType(), row.type) << row.word;

@@ -6,25 +6,26 @@
 #include <string>
 
 #include "as/AgentServices.h"
-#include "support/Dictionary.h"
-#include "support/Flavours.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
 
 namespace {
 
+using test::classOf;
 using test::itemOf;
-using test::flavours::classOf;
-using test::flavours::firstOperation;
-using test::flavours::parameterOf;
+using test::operationOf;
+using test::parameterOf;
 
 using Type = as::ICOMField::TYPE;
 
 std::string comDocument(const std::string& parameters, const std::string& definitions = "") {
-  return test::flavours::document(test::flavours::comNamespace, parameters, definitions);
+  return test::parameterDocument(as::namespaces::com.uri, parameters, definitions);
 }
 
 std::unique_ptr<as::IService> comService(const std::string& parameters,
                                          const std::string& definitions = "") {
-  return test::flavours::parseService(comDocument(parameters, definitions));
+  return test::parseService(comDocument(parameters, definitions));
 }
 
 as::ICOMParameter* comParameter(as::IService& service, int index = 0) {
@@ -93,10 +94,7 @@ TEST(ComParameter, WritesStringForANumberThatIsNoType) {
 TEST(ComParameter, DataTypesThatAreNoneAreRefused) {
   for (const char* const word : {"", "Byte", "INT", " int", "integer", "String", "BigDecimal"}) {
     const std::string document = comDocument("<parameter dataType='" + std::string(word) + "'/>");
-    EXPECT_EQ(
-        test::outcomeOf([&] { return test::flavours::parseService(document).release(); }).result,
-        test::Result::parseException)
-        << word;
+    EXPECT_EQ(test::serviceOutcomeOf(document).result, test::Result::parseException) << word;
   }
 }
 
@@ -208,7 +206,7 @@ TEST(ComService, HasObjectsOfItsClasses) {
       comService("<parameter><mappings><mapping item='A'/></mappings><field/></parameter>",
                  "<parameter name='D'/>");
   EXPECT_EQ(classOf(service.get()), "CServiceImpl");
-  EXPECT_EQ(classOf(firstOperation(*service)), "COperationImpl");
+  EXPECT_EQ(classOf(operationOf(*service)), "COperationImpl");
   EXPECT_EQ(classOf(comParameter(*service)), "CCOMParameterImpl");
   EXPECT_EQ(classOf(comField(*service)), "CCOMParameterImpl");
   EXPECT_EQ(classOf(service->getParameterTypeDefs()->getItem(0)), "CCOMParameterImpl");
@@ -232,9 +230,9 @@ TEST(ComService, CastsToNoOtherFlavour) {
   const auto service = comService("<parameter/>");
   EXPECT_EQ(as::interface_cast<as::IWebService>(service.get()), nullptr);
   EXPECT_EQ(as::interface_cast<as::IDotNET>(service.get()), nullptr);
-  EXPECT_EQ(as::interface_cast<as::IWSOperation>(firstOperation(*service)), nullptr);
-  EXPECT_EQ(as::interface_cast<as::IJavaOperation>(firstOperation(*service)), nullptr);
-  EXPECT_EQ(as::interface_cast<as::IDotNETOperation>(firstOperation(*service)), nullptr);
+  EXPECT_EQ(as::interface_cast<as::IWSOperation>(operationOf(*service)), nullptr);
+  EXPECT_EQ(as::interface_cast<as::IJavaOperation>(operationOf(*service)), nullptr);
+  EXPECT_EQ(as::interface_cast<as::IDotNETOperation>(operationOf(*service)), nullptr);
   EXPECT_EQ(parameterOf<as::IWSField>(*service), nullptr);
   EXPECT_EQ(parameterOf<as::IJavaField>(*service), nullptr);
   EXPECT_EQ(parameterOf<as::IDotNETField>(*service), nullptr);
@@ -243,7 +241,7 @@ TEST(ComService, CastsToNoOtherFlavour) {
 TEST(ComService, AddsComParametersAndFields) {
   const auto service = comService("");
   auto* const parameter = as::interface_cast<as::ICOMParameter>(
-      firstOperation(*service)->addParameter(as::IParameter::BY_OUT, "p", 1));
+      operationOf(*service)->addParameter(as::IParameter::BY_OUT, "p", 1));
   ASSERT_NE(parameter, nullptr);
   auto* const field = as::interface_cast<as::ICOMParameter>(parameter->addField("f", 2));
   ASSERT_NE(field, nullptr);
@@ -258,13 +256,13 @@ TEST(ComService, SurvivesWritingAndReading) {
   for (const auto& row : dataTypes) {
     const auto service = comService("<parameter name='first'/>");
     auto* const parameter = as::interface_cast<as::ICOMParameter>(
-        firstOperation(*service)->addParameter(as::IParameter::BY_OUT, "second", 1));
+        operationOf(*service)->addParameter(as::IParameter::BY_OUT, "second", 1));
     parameter->setType(row.type);
     parameter->setReturnParameter(true);
     auto* const field = as::interface_cast<as::ICOMParameter>(parameter->addField("f", 2));
     field->setType(row.type);
     field->setReturnParameter(false);
-    const auto again = test::flavours::writtenAndRead(*service);
+    const auto again = test::writtenAndRead(*service);
     EXPECT_EQ(comParameter(*again)->getType(), as::ICOMField::COM_OBJECT);
     EXPECT_FALSE(comParameter(*again)->isReturnParameter());
     EXPECT_EQ(comParameter(*again, 1)->getType(), row.readAs) << row.word;

@@ -1,6 +1,6 @@
-// Tests with parameters whose rows carry their names.
-#ifndef TESTS_SUPPORT_CASES_H_
-#define TESTS_SUPPORT_CASES_H_
+// The names of tests with parameters.
+#ifndef TESTS_SUPPORT_LABELS_H_
+#define TESTS_SUPPORT_LABELS_H_
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 
 namespace test {
 
-// The name of a test with parameters.
+// For parameters that have a `label`.
 template <class Case>
 std::string labelOf(const testing::TestParamInfo<Case>& info) {
   return info.param.label;
@@ -16,4 +16,4 @@ std::string labelOf(const testing::TestParamInfo<Case>& info) {
 
 }  // namespace test
 
-#endif  // TESTS_SUPPORT_CASES_H_
+#endif  // TESTS_SUPPORT_LABELS_H_

@@ -1,54 +1,34 @@
 // Tests of headers and faults as they come to be: in new services, added to parsed ones, written
-// and read again; and of the words that the parser lets none of their attributes have.
+// and read again.
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <ostream>
 #include <string>
 
-#include "support/WebService.h"
+#include "as/AgentServices.h"
+#include "support/Documents.h"
+#include "support/Flavours.h"
+#include "support/Model.h"
+#include "support/Requests.h"
+#include "support/XmlText.h"
 
 namespace {
 
+using test::elementIn;
 using test::itemOf;
+using test::newWebService;
+using test::parseService;
+using test::webOperationOf;
 using test::webService;
-using test::flavours::parseService;
-using test::flavours::written;
-using test::flavours::writtenAndRead;
+using test::written;
+using test::writtenAndRead;
 
 constexpr int unknown = -1;
 
-std::unique_ptr<as::IService> parsed(const std::string& content,
-                                     const std::string& attributes = "") {
-  return parseService(webService("", "<operations><operation name='op' " + attributes + ">" +
-                                         content + "</operation></operations>"));
-}
-
-as::IWSOperation* operationOf(as::IService& service) {
-  return as::interface_cast<as::IWSOperation>(test::flavours::firstOperation(service));
-}
-
-// A new service with one new operation, "op".
-std::unique_ptr<as::IWebService> newService() {
-  std::unique_ptr<as::IWebService> service(
-      as::CAgentServicesFactory::NewWebService(test::parse(test::payProgram()).release()));
-  service->addOperation("op", nullptr);
-  return service;
-}
-
-// The element at the start of `text` that begins with `start`, up to `end`, without what layout
-// puts between its elements. Attributes are written in the order of their names.
-std::string elementIn(const std::string& text, const std::string& start, const std::string& end) {
-  const std::size_t from = text.find(start);
-  const std::size_t to = from == std::string::npos ? from : text.find(end, from);
-  if (to == std::string::npos) return "(no " + start + ")";
-  std::string element;
-  for (const char c : text.substr(from, to + end.size() - from)) {
-    if (c == '\n') continue;
-    if (c == ' ' && (element.empty() || element.back() == '>')) continue;
-    element += c;
-  }
-  return element;
+std::unique_ptr<as::IService> parsed(const std::string& content) {
+  return parseService(
+      webService("", "<operations><operation name='op'>" + content + "</operation></operations>"));
 }
 
 // What headers and faults have in common, of one of them.
@@ -87,13 +67,13 @@ Kind kindOf(const char* element, as::IList* (as::IWSOperation::*list)(),
 class WebNewMessage : public testing::TestWithParam<Kind> {
  protected:
   static as::IList* listOf(as::IService& service) {
-    return (operationOf(service)->*GetParam().list)();
+    return (webOperationOf(service)->*GetParam().list)();
   }
   static as::IElement* messageOf(as::IService& service, int index = 0) {
     return listOf(service)->getItem(index);
   }
   static as::IElement* addTo(as::IService& service) {
-    return GetParam().add(*operationOf(service));
+    return GetParam().add(*webOperationOf(service));
   }
   static std::string opening(const std::string& attributes = "") {
     return "<" + std::string(GetParam().element) + attributes + ">";
@@ -121,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(Elements, WebNewMessage,
 // It holds its empty list and says nothing that it was not told.
 TEST_P(WebNewMessage, SaysNothingButItsDirection) {
   for (const bool isNew : {true, false}) {
-    const std::unique_ptr<as::IService> service = isNew ? newService() : parsed("");
+    const std::unique_ptr<as::IService> service = isNew ? newWebService() : parsed("");
     as::IElement* const added = addTo(*service);
     EXPECT_EQ(GetParam().use(added), unknown);
     EXPECT_EQ(elementIn(written(*service), opening(GetParam().attributes), closing()),
@@ -130,20 +110,20 @@ TEST_P(WebNewMessage, SaysNothingButItsDirection) {
 }
 
 TEST_P(WebNewMessage, IsTheMemberOfItsListAlone) {
-  const auto service = newService();
+  const auto service = newWebService();
   as::IElement* const first = addTo(*service);
   as::IElement* const second = addTo(*service);
   ASSERT_EQ(listOf(*service)->getLength(), 2);
   EXPECT_EQ(messageOf(*service, 0), first);
   EXPECT_EQ(messageOf(*service, 1), second);
-  EXPECT_EQ(operationOf(*service)->getHeaders()->getLength() +
-                operationOf(*service)->getFaults()->getLength(),
+  EXPECT_EQ(webOperationOf(*service)->getHeaders()->getLength() +
+                webOperationOf(*service)->getFaults()->getLength(),
             2);
-  EXPECT_EQ(operationOf(*service)->getParameters()->getLength(), 0);
+  EXPECT_EQ(webOperationOf(*service)->getParameters()->getLength(), 0);
 }
 
 TEST_P(WebNewMessage, HasParametersOfItsOwn) {
-  const auto service = newService();
+  const auto service = newWebService();
   as::IElement* const first = addTo(*service);
   as::IElement* const second = addTo(*service);
   EXPECT_NE(GetParam().parameters(first), GetParam().parameters(second));
@@ -161,7 +141,7 @@ TEST_P(WebNewMessage, ParametersHaveTheDirectionGiven) {
     int read;
   } rows[] = {{0, "in", 0}, {1, "out", 1}, {2, "io", 2}, {7, "io", 2}, {unknown, "io", 2}};
   for (const int use : {unknown, 0, 1}) {
-    const auto service = newService();
+    const auto service = newWebService();
     as::IElement* const message = addTo(*service);
     GetParam().setUse(message, use);
     const std::string direction = message->getAttributeValue("byType");
@@ -189,7 +169,7 @@ TEST_P(WebNewMessage, ParametersHaveTheNameAndTheOccurrencesGiven) {
                "gr\xC3\xB6\xC3\x9F"
                "e <&\"'>",
                2147483647, "2147483647"}};
-  const auto service = newService();
+  const auto service = newWebService();
   as::IElement* const message = addTo(*service);
   for (const auto& row : rows) {
     as::IWSParameter* const parameter = GetParam().addParameter(message, 0, row.name, row.occurs);
@@ -252,7 +232,7 @@ TEST_P(WebNewMessage, ReadWithAnEmptyListAddsToThat) {
 
 // Everything that can be hung below a message, in a service that never was a document.
 TEST_P(WebNewMessage, EverythingBelowItIsReadBack) {
-  const auto service = newService();
+  const auto service = newWebService();
   addTo(*service);
   as::IElement* const message = addTo(*service);
   GetParam().setUse(message, 1);
@@ -293,120 +273,6 @@ TEST_P(WebNewMessage, EverythingBelowItIsReadBack) {
   EXPECT_EQ(readAttribute->getName(), "pa");
   ASSERT_EQ(readAttribute->getMappings()->getLength(), 1);
   EXPECT_EQ(itemOf<as::IMapping>(readAttribute->getMappings(), 0)->getRawMapping(), "WS-COUNT");
-}
-
-// Operations.
-
-TEST(WebNewOperation, KnowsNothingUntilTold) {
-  const auto service = newService();
-  as::IWSOperation* const operation = operationOf(*service);
-  ASSERT_NE(operation, nullptr);
-  EXPECT_EQ(static_cast<int>(operation->getStyle()), unknown);
-  EXPECT_EQ(static_cast<int>(operation->getInputUse()), unknown);
-  EXPECT_EQ(static_cast<int>(operation->getOutputUse()), unknown);
-  EXPECT_EQ(operation->getInputNamespace(), "");
-  EXPECT_EQ(operation->getOutputNamespace(), "");
-  EXPECT_EQ(operation->getHeaders()->getLength(), 0);
-  EXPECT_EQ(operation->getFaults()->getLength(), 0);
-}
-
-TEST(WebNewOperation, IsReadBackWithWhatItWasTold) {
-  const auto service = newService();
-  as::IWSOperation* const operation = operationOf(*service);
-  operation->setStyle(as::IWSOperation::STYLE_RPC);
-  operation->setInputUse(as::IWSOperation::USE_ENCODED);
-  operation->setOutputUse(as::IWSOperation::USE_LITERAL);
-  operation->setInputNamespace("urn:in & <\xC3\xA4>");
-  operation->setOutputNamespace("urn:out");
-  operation->addFault()->setNamespace("urn:fault");
-  operation->addHeader(as::IWSHeader::BY_IN)->setNamespace("urn:header");
-  const auto again = writtenAndRead(*service);
-  EXPECT_NE(as::interface_cast<as::IWebService>(again.get()), nullptr);
-  as::IWSOperation* const read = operationOf(*again);
-  ASSERT_NE(read, nullptr);
-  EXPECT_EQ(read->getStyle(), as::IWSOperation::STYLE_RPC);
-  EXPECT_EQ(read->getInputUse(), as::IWSOperation::USE_ENCODED);
-  EXPECT_EQ(read->getOutputUse(), as::IWSOperation::USE_LITERAL);
-  EXPECT_EQ(read->getInputNamespace(), "urn:in & <\xC3\xA4>");
-  EXPECT_EQ(read->getOutputNamespace(), "urn:out");
-  ASSERT_EQ(read->getFaults()->getLength(), 1);
-  EXPECT_EQ(itemOf<as::IWSFault>(read->getFaults(), 0)->getNamespace(), "urn:fault");
-  ASSERT_EQ(read->getHeaders()->getLength(), 1);
-  auto* const header = itemOf<as::IWSHeader>(read->getHeaders(), 0);
-  EXPECT_EQ(header->getNamespace(), "urn:header");
-  EXPECT_EQ(header->getByType(), as::IWSHeader::BY_IN);
-}
-
-TEST(WebNewOperation, NamespacesOfRequestAndResponseAreTwoThings) {
-  const auto service = parsed("");
-  as::IWSOperation* const operation = operationOf(*service);
-  operation->setInputNamespace("urn:in");
-  EXPECT_EQ(operation->getOutputNamespace(), "");
-  operation->setOutputNamespace("urn:out");
-  EXPECT_EQ(operation->getInputNamespace(), "urn:in");
-  operation->setInputNamespace("");
-  EXPECT_EQ(operation->getInputNamespace(), "");
-  EXPECT_EQ(operation->getOutputNamespace(), "urn:out");
-}
-
-// Behind its parameters, in the order of the calls, headers and faults among each other.
-TEST(WebNewOperation, HoldsHeadersAndFaultsInTheOrderTheyWereAdded) {
-  const auto service = newService();
-  as::IWSOperation* const operation = operationOf(*service);
-  operation->addHeader(as::IWSHeader::BY_IN)->setNamespace("urn:1");
-  operation->addFault()->setNamespace("urn:2");
-  operation->addHeader(as::IWSHeader::BY_IO)->setNamespace("urn:3");
-  operation->addFault()->setNamespace("urn:4");
-  operation->addParameter(as::IParameter::BY_IN, "p", 1);
-  EXPECT_EQ(elementIn(written(*service), "<operation ", "</operation>"),
-            "<operation name=\"op\"><hiddenParameters/><parameters><parameter byType=\"in\" "
-            "name=\"p\" occurs=\"1\"><mappings/></parameter></parameters>"
-            "<header byType=\"in\" namespace=\"urn:1\"><parameters/></header>"
-            "<fault namespace=\"urn:2\"><parameters/></fault>"
-            "<header byType=\"io\" namespace=\"urn:3\"><parameters/></header>"
-            "<fault namespace=\"urn:4\"><parameters/></fault></operation>");
-  EXPECT_EQ(itemOf<as::IWSHeader>(operation->getHeaders(), 1)->getNamespace(), "urn:3");
-  EXPECT_EQ(itemOf<as::IWSFault>(operation->getFaults(), 1)->getNamespace(), "urn:4");
-}
-
-// What no getter has a number for does not get into a model through a document.
-TEST(WebWord, ThatIsNoneOfItsAttributeIsRefusedByTheParser) {
-  const struct {
-    const char* element;
-    const char* attribute;
-    const char* word;
-    const char* wrong[4];
-  } rows[] = {
-      {"operation", "style", "rpc", {"", "RPC", "literal", "documents"}},
-      {"operation", "inputUse", "literal", {"", "Literal", "rpc", " literal"}},
-      {"operation", "outputUse", "encoded", {"", "Encoded", "document", "encoded "}},
-      {"header", "use", "literal", {"", "Literal", "in", "literals"}},
-      {"header", "byType", "io", {"", "IN", "inout", "io "}},
-      {"fault", "use", "encoded", {"", "Encoded", "out", "encode"}},
-      {"parameter", "dataType", "integer", {"", "Integer", "array", "xml"}},
-      {"parameter", "elementForm", "qualified", {"", "Qualified", "encoded", "yes"}},
-      {"parameter", "attributeForm", "unqualified", {"", "UNQUALIFIED", "true", "un"}},
-  };
-  for (const auto& row : rows) {
-    const auto outcomeOf = [&row](const char* word) {
-      const std::string element = row.element;
-      const std::string attribute = std::string(row.attribute) + "='" + word + "'";
-      const std::string inner = "<" + element + " " + attribute + "/>";
-      const std::string document =
-          webService("", "<operations>" +
-                             (element == "operation"   ? inner
-                              : element == "parameter" ? "<operation><fault><parameters>" + inner +
-                                                             "</parameters></fault></operation>"
-                                                       : "<operation>" + inner + "</operation>") +
-                             "</operations>");
-      return test::outcomeOf([&document] { return parseService(document).release(); }).result;
-    };
-    EXPECT_EQ(outcomeOf(row.word), test::Result::root) << row.element << " " << row.attribute;
-    for (const char* const wrong : row.wrong) {
-      EXPECT_EQ(outcomeOf(wrong), test::Result::parseException)
-          << row.element << " " << row.attribute << " '" << wrong << "'";
-    }
-  }
 }
 
 }  // namespace

@@ -1,0 +1,60 @@
+// Texts in encodings other than UTF-8.
+#ifndef TESTS_SUPPORT_ENCODINGS_H_
+#define TESTS_SUPPORT_ENCODINGS_H_
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace test {
+
+// The declaration at the start of a document.
+inline std::string encodingDeclaration(const std::string& encoding) {
+  return "<?xml version=\"1.0\" encoding=\"" + encoding + "\"?>";
+}
+
+inline std::vector<std::uint32_t> codePoints(const std::string& utf8) {
+  std::vector<std::uint32_t> points;
+  for (const char c : utf8) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x80U) {
+      points.push_back(byte);
+    } else if (byte < 0xC0U) {
+      points.back() = points.back() << 6U | (byte & 0x3FU);
+    } else {
+      points.push_back(byte < 0xE0U ? byte & 0x1FU : byte < 0xF0U ? byte & 0x0FU : byte & 0x07U);
+    }
+  }
+  return points;
+}
+
+// With a byte order mark.
+inline std::string utf16(const std::string& utf8, bool bigEndian) {
+  std::string result;
+  const auto put = [&](std::uint32_t unit) {
+    const char high = static_cast<char>(unit >> 8U);
+    const char low = static_cast<char>(unit & 0xFFU);
+    result += bigEndian ? high : low;
+    result += bigEndian ? low : high;
+  };
+  put(0xFEFFU);
+  for (const std::uint32_t point : codePoints(utf8)) {
+    if (point < 0x10000U) {
+      put(point);
+    } else {
+      put(0xD800U + ((point - 0x10000U) >> 10U));
+      put(0xDC00U + ((point - 0x10000U) & 0x3FFU));
+    }
+  }
+  return result;
+}
+
+inline std::string latin1(const std::string& utf8) {
+  std::string result;
+  for (const std::uint32_t point : codePoints(utf8)) result += static_cast<char>(point);
+  return result;
+}
+
+}  // namespace test
+
+#endif  // TESTS_SUPPORT_ENCODINGS_H_
