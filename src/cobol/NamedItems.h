@@ -23,15 +23,15 @@ class NamedItems {
   }
 
   // The next one; null when there is none left.
-  Item* next() { return own_ != nullptr ? nextOfOwn() : nextOfAsked(); }
+  Item* next() { return own_ != nullptr ? nextOf(*own_) : nextOfAsked(); }
 
  private:
-  Item* nextOfOwn() {
-    for (int i = own_->find(DD::name, name_, at_); i >= 0; i = own_->find(DD::name, name_, at_)) {
+  Item* nextOf(CList& own) {
+    for (int i = own.find(DD::name, name_, at_); i >= 0; i = own.find(DD::name, name_, at_)) {
       at_ = i + 1;
-      if (auto* const item = as::interface_cast<Item>(own_->getElement(i))) return item;
+      if (auto* const item = as::interface_cast<Item>(own.getElement(i))) return item;
     }
-    at_ = own_->getLength();
+    at_ = own.getLength();
     return nullptr;
   }
 

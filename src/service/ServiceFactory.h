@@ -80,7 +80,7 @@ class CServiceFactory {
   // A new Wrapper around `element` with its children collected, in the pool ...
   template <class Wrapper>
   Wrapper* newWrapper(xercesc::DOMElement* element) {
-    Wrapper* const wrapper = pool_->make<Wrapper>(element);
+    auto* const wrapper = pool_->make<Wrapper>(element);
     wrapper->collectChildren();
     return wrapper;
   }

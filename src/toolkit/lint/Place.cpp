@@ -1,14 +1,14 @@
 #include "toolkit/lint/Place.h"
 
-#include <vector>
+#include <deque>
 
 namespace as::toolkit {
 
 std::string Place::text() const {
-  std::vector<const Place*> way;
-  for (const Place* at = this; at != nullptr; at = at->around_) way.push_back(at);
+  std::deque<const Place*> way;
+  for (const Place* at = this; at != nullptr; at = at->around_) way.push_front(at);
   std::string text;
-  for (auto at = way.rbegin(); at != way.rend(); ++at) text += (*at)->step_;
+  for (const Place* const at : way) text += at->step_;
   return text;
 }
 

@@ -17,7 +17,7 @@ bool isHandedOver(const StorageSubject& subject, int byType) {
 }  // namespace
 
 void unreachableStorage(const StorageSubject& subject, const Tell& tell) {
-  if (subject.interface.records.count(&subject.record) != 0) return;
+  if (subject.interface.records.contains(&subject.record)) return;
   std::string names;
   for (const std::string& name : subject.interface.names) {
     names += (names.empty() ? "" : ", ") + name;

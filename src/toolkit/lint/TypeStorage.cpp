@@ -30,7 +30,7 @@ std::vector<as::IDataItem*> TypeStorage::wrongOnes(std::size_t definition,
   std::vector<Level> way;
   // True when there is nothing wrong there, as far as is known.
   const auto enter = [&](std::size_t at) {
-    if (good.count(at) != 0) return true;
+    if (good.contains(at)) return true;
     if (visited.insert(at).second) {
       way.push_back({at});
       return true;
