@@ -36,8 +36,8 @@ class NamedItems {
   }
 
   Item* nextOfAsked() {
-    const int count = asked_ == nullptr ? 0 : asked_->getLength();
-    while (at_ < count) {
+    if (asked_ == nullptr) return nullptr;
+    while (at_ < asked_->getLength()) {
       auto* const item = as::interface_cast<Item>(asked_->getItem(at_++));
       if (item != nullptr && item->getName() == text_) return item;
     }
