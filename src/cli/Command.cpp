@@ -36,23 +36,21 @@ void printFindings(const std::string& file, const toolkit::Findings& findings) {
 }
 
 // May stand before the command as well as behind it.
-void addSchemasOption(CLI::App& app, std::optional<std::string>& schemas) {
-  app.add_option("--schemas", schemas, "The directory of the schema files, vorcobol.xsd among them")
-      ->type_name("DIR");
+void addSchemasOption(Arguments& arguments, std::optional<std::string>& schemas) {
+  arguments.option("--schemas", schemas, "DIR",
+                   "The directory of the schema files, vorcobol.xsd among them");
 }
 
-void addFlavourOption(CLI::App& app, std::string& word) {
+void addFlavourOption(Arguments& arguments, std::string& word) {
   std::vector<std::string> words;
   for (const toolkit::Flavour& flavour : toolkit::flavours()) words.emplace_back(flavour.word);
-  app.add_option("--flavour", word, "The service's flavour")
-      ->required()
-      ->check(CLI::IsMember(words));
+  arguments.requiredOption("--flavour", word, words, "The service's flavour");
 }
 
-void addOutputOption(CLI::App& app, std::string& file) {
-  app.add_option("-o,--output", file,
-                 "The file to write; one that is there is replaced when the new one is complete")
-      ->required();
+void addOutputOption(Arguments& arguments, std::string& file) {
+  arguments.requiredOption(
+      "-o,--output", file,
+      "The file to write; one that is there is replaced when the new one is complete");
 }
 
 }  // namespace cli

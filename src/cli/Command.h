@@ -2,7 +2,6 @@
 #ifndef CLI_COMMAND_H_
 #define CLI_COMMAND_H_
 
-#include <CLI/CLI.hpp>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -12,6 +11,7 @@
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Finding.h"
 #include "as/toolkit/Flavours.h"
+#include "cli/Arguments.h"
 
 namespace cli {
 
@@ -33,8 +33,8 @@ class Command {
   const char* name() const { return name_; }
   const char* summary() const { return summary_; }
 
-  // Tells the parser of the command line what the command takes.
-  virtual void declare(CLI::App& app) = 0;
+  // Tells what the command takes.
+  virtual void declare(Arguments& arguments) = 0;
 
   // Does it, and returns the exit code. Results go to standard output, what is wrong to standard
   // error. `schemas` is the schema directory that the user named, if any.
@@ -61,9 +61,9 @@ int withReader(const std::optional<std::string>& schemas,
 void printFindings(const std::string& file, const toolkit::Findings& findings);
 
 // The options that commands have in common.
-void addSchemasOption(CLI::App& app, std::optional<std::string>& schemas);
-void addFlavourOption(CLI::App& app, std::string& word);
-void addOutputOption(CLI::App& app, std::string& file);
+void addSchemasOption(Arguments& arguments, std::optional<std::string>& schemas);
+void addFlavourOption(Arguments& arguments, std::string& word);
+void addOutputOption(Arguments& arguments, std::string& file);
 
 }  // namespace cli
 

@@ -14,10 +14,10 @@ class Convert : public Command {
  public:
   Convert() : Command("convert", "Carry a service over to another flavour") {}
 
-  void declare(CLI::App& app) override {
-    app.add_option("SERVICE", file_, "The service")->required();
-    addFlavourOption(app, flavour_);
-    addOutputOption(app, output_);
+  void declare(Arguments& arguments) override {
+    arguments.required("SERVICE", file_, "The service");
+    addFlavourOption(arguments, flavour_);
+    addOutputOption(arguments, output_);
   }
 
   int run(const std::optional<std::string>& schemas) override {

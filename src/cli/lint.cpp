@@ -32,17 +32,13 @@ class Lint : public Command {
  public:
   Lint() : Command("lint", "Find what is broken in a service") {}
 
-  void declare(CLI::App& app) override {
-    CLI::Option* const service = app.add_option("SERVICE", file_, "The service")->required();
-    app.add_option("--dictionary", dictionary_,
-                   "The data dictionary of the program, in place of the one that the service names")
-        ->type_name("FILE");
-    app.add_flag_callback(
-        "--rules",
-        [this, service] {
-          rules_ = true;
-          service->required(false);
-        },
+  void declare(Arguments& arguments) override {
+    arguments.required("SERVICE", file_, "The service");
+    arguments.option(
+        "--dictionary", dictionary_, "FILE",
+        "The data dictionary of the program, in place of the one that the service names");
+    arguments.insteadOf(
+        "SERVICE", "--rules", rules_,
         "Print what is looked for, with the names of the rules, and look at nothing");
   }
 

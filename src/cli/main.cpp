@@ -1,4 +1,5 @@
 // The command line of the tool `agentservices`.
+#include <CLI/CLI.hpp>
 #include <csignal>
 #include <exception>
 #include <utility>
@@ -26,13 +27,15 @@ int run(int argc, char** argv) {
       "Exit codes: 0 fine, 1 a document was refused or has errors, or the output failed, 2 wrong "
       "usage.");
   std::optional<std::string> schemas;
-  addSchemasOption(app, schemas);
+  Arguments forAll(app);
+  addSchemasOption(forAll, schemas);
   std::vector<std::pair<CLI::App*, std::unique_ptr<Command>>> known;
   for (const auto make : commands) {
     std::unique_ptr<Command> command = make();
     CLI::App* const part = app.add_subcommand(command->name(), command->summary());
-    command->declare(*part);
-    addSchemasOption(*part, schemas);
+    Arguments arguments(*part);
+    command->declare(arguments);
+    addSchemasOption(arguments, schemas);
     known.emplace_back(part, std::move(command));
   }
   try {

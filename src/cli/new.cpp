@@ -13,16 +13,13 @@ class New : public Command {
  public:
   New() : Command("new", "Make a first service for the program of a data dictionary") {}
 
-  void declare(CLI::App& app) override {
-    app.add_option("DICTIONARY", dictionary_, "The data dictionary")->required();
-    addFlavourOption(app, flavour_);
-    addOutputOption(app, output_);
-    app.add_option("--name", options_.name, "The service's name, in place of the program's");
-    app.add_option("--operations", options_.entryPoints,
-                   "The entry points to make operations of, with commas between; all unless told")
-        ->delimiter(',')
-        ->allow_extra_args(false)
-        ->type_name("ENTRY,...");
+  void declare(Arguments& arguments) override {
+    arguments.required("DICTIONARY", dictionary_, "The data dictionary");
+    addFlavourOption(arguments, flavour_);
+    addOutputOption(arguments, output_);
+    arguments.option("--name", options_.name, "The service's name, in place of the program's");
+    arguments.list("--operations", options_.entryPoints, "ENTRY,...",
+                   "The entry points to make operations of, with commas between; all unless told");
   }
 
   int run(const std::optional<std::string>& schemas) override {

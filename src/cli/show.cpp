@@ -12,12 +12,12 @@ class Show : public Command {
  public:
   Show() : Command("show", "Print a data dictionary or a service as a tree") {}
 
-  void declare(CLI::App& app) override {
-    app.add_option("FILE", file_, "The document")->required();
-    app.add_flag("--json", json_, "Print everything the model answers, as JSON");
-    app.add_flag("--program", withProgram_,
-                 "Show a service with the data items of its program, read from the dictionary that "
-                 "it names");
+  void declare(Arguments& arguments) override {
+    arguments.required("FILE", file_, "The document");
+    arguments.flag("--json", json_, "Print everything the model answers, as JSON");
+    arguments.flag("--program", withProgram_,
+                   "Show a service with the data items of its program, read from the dictionary "
+                   "that it names");
   }
 
   int run(const std::optional<std::string>& schemas) override {

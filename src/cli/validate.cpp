@@ -13,7 +13,7 @@ class Validate : public Command {
  public:
   Validate() : Command("validate", "Say of every file whether it is good") {}
 
-  void declare(CLI::App& app) override { app.add_option("FILE", files_, "Documents")->required(); }
+  void declare(Arguments& arguments) override { arguments.required("FILE", files_, "Documents"); }
 
   // Goes on behind a bad one.
   int run(const std::optional<std::string>& schemas) override {

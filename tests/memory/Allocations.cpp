@@ -6,6 +6,14 @@
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 
+namespace memory {
+
+// The manager that the parser came with. What it has made so far it frees itself; nobody deletes
+// it, and nobody else knows it any more.
+xercesc::MemoryManager* replaced = nullptr;
+
+}  // namespace memory
+
 namespace {
 
 long heldByUs = 0;
@@ -39,7 +47,10 @@ void release(void* block) {
 // Tells the parser's memory from everybody else's.
 class ParsersMemory : public xercesc::MemoryManager {
  public:
-  ParsersMemory() { xercesc::XMLPlatformUtils::fgMemoryManager = this; }
+  ParsersMemory() {
+    memory::replaced = xercesc::XMLPlatformUtils::fgMemoryManager;
+    xercesc::XMLPlatformUtils::fgMemoryManager = this;
+  }
 
   xercesc::MemoryManager* getExceptionMemoryManager() override { return this; }
   void* allocate(XMLSize_t size) override {

@@ -1,0 +1,51 @@
+#include "cli/Arguments.h"
+
+#include <CLI/CLI.hpp>
+
+namespace cli {
+
+void Arguments::required(const char* name, std::string& value, const char* help) {
+  app_.add_option(name, value, help)->required();
+}
+
+void Arguments::required(const char* name, std::vector<std::string>& values, const char* help) {
+  app_.add_option(name, values, help)->required();
+}
+
+void Arguments::requiredOption(const char* name, std::string& value, const char* help) {
+  app_.add_option(name, value, help)->required();
+}
+
+void Arguments::requiredOption(const char* name, std::string& value,
+                               const std::vector<std::string>& words, const char* help) {
+  app_.add_option(name, value, help)->required()->check(CLI::IsMember(words));
+}
+
+void Arguments::option(const char* name, std::string& value, const char* help) {
+  app_.add_option(name, value, help);
+}
+
+void Arguments::option(const char* name, std::optional<std::string>& value, const char* type,
+                       const char* help) {
+  app_.add_option(name, value, help)->type_name(type);
+}
+
+void Arguments::list(const char* name, std::vector<std::string>& values, const char* type,
+                     const char* help) {
+  app_.add_option(name, values, help)->delimiter(',')->allow_extra_args(false)->type_name(type);
+}
+
+void Arguments::flag(const char* name, bool& value, const char* help) {
+  app_.add_flag(name, value, help);
+}
+
+void Arguments::insteadOf(const char* other, const char* name, bool& value, const char* help) {
+  CLI::Option* const replaced = app_.get_option(other);
+  const auto given = [replaced, &value] {
+    value = true;
+    replaced->required(false);
+  };
+  app_.add_flag_callback(name, given, help);
+}
+
+}  // namespace cli
