@@ -4,6 +4,7 @@
 #
 # SOURCE: the root of the project.
 cmake_minimum_required(VERSION 3.25)
+get_filename_component(SOURCE "${SOURCE}" ABSOLUTE)
 include(${CMAKE_CURRENT_LIST_DIR}/Layers.cmake)
 as_read_layers(${SOURCE}/src/layers.txt)
 

@@ -2,6 +2,7 @@
 // its own, to the line.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <ostream>
 #include <set>
@@ -78,8 +79,8 @@ Lines read(const std::string& file) {
   return lines;
 }
 
-// Without what the head says of this one schema: its namespace, its version, what it is for, and how
-// a document names it, with an example.
+// Without what the head says of this one schema: its namespace, its version, what it is for, and
+// how a document names it, with an example.
 Lines withoutHead(const Lines& lines) {
   Lines result;
   bool inPurpose = false;
@@ -175,6 +176,16 @@ TEST_P(SharedSchema, IsThePlainOneWithoutWhatTheFlavourAdds) {
   }
   EXPECT_EQ(flavour.size(), plain.size());
   EXPECT_EQ(unseen, std::set<std::string>()) << "declared nowhere";
+}
+
+TEST(SharedSchemas, AreAllOfTheFolderButThePlainOneAndTheDictionarys) {
+  std::set<std::string> files = {"vorservice.xsd", "vorcobol.xsd"};
+  for (const Flavour& flavour : flavours) files.insert(flavour.file);
+  std::set<std::string> shipped;
+  for (const auto& entry : std::filesystem::directory_iterator(AS_SCHEMA_DIR)) {
+    shipped.insert(entry.path().filename().string());
+  }
+  EXPECT_EQ(shipped, files);
 }
 
 }  // namespace
