@@ -186,8 +186,8 @@ const Kind kinds[] = {
     {"ManyForeignLetters", false,
      [](const ServiceSample& s) {
        // However the text is cut into blocks, some pair lies across.
-       return texts(s, "-" + repeated("\xF0\x9F\x98\x80", 5001) + "-" +
-                           repeated("\xF0\x9F\x98\x80", 5001));
+       return texts(
+           s, "-" + repeated("\xF0\x9F\x98\x80", 5001) + "-" + repeated("\xF0\x9F\x98\x80", 5001));
      },
      nullptr},
     {"Utf8WithMark", false, [](const ServiceSample& s) { return texts(s, foreign); },

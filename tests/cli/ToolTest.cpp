@@ -154,14 +154,13 @@ INSTANTIATE_TEST_SUITE_P(
                         "http://agentservices.example/schema/java/v2.0/vorjava.xsd "
                         "http://agentservices.example/schema/com/v1.0/vorcom.xsd "
                         "http://agentservices.example/schema/dotnet/v1.0/vordotnet.xsd"},
-        RefusalCase{
-            "WithAHint",
-            std::string("<d:program name='P' xmlns:d='") + as::namespaces::dd.uri + "'/>",
-            std::string("refused.xml:1:92: error: no declaration found for element "
-                        "'d:program'\nhint: name the schema in the root element: "
-                        "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
-                        "xsi:schemaLocation=\"") +
-                as::namespaces::dd.uri + " " + as::namespaces::dd.uri + "\""},
+        RefusalCase{"WithAHint",
+                    std::string("<d:program name='P' xmlns:d='") + as::namespaces::dd.uri + "'/>",
+                    std::string("refused.xml:1:92: error: no declaration found for element "
+                                "'d:program'\nhint: name the schema in the root element: "
+                                "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
+                                "xsi:schemaLocation=\"") +
+                        as::namespaces::dd.uri + " " + as::namespaces::dd.uri + "\""},
         RefusalCase{"ControlCharactersInAMessage",
                     test::dictionaryOf("\n<pointer name='A' sync='&#9;'/>"),
                     "refused.xml:2:32: error: value '\\u0009' does not match regular expression "

@@ -1,9 +1,9 @@
 // A client of the installed toolkit: reads, looks at, makes, carries over and shows services.
+#include "as/toolkit/Toolkit.h"
+
 #include <iostream>
 #include <sstream>
 #include <string>
-
-#include "as/toolkit/Toolkit.h"
 
 namespace toolkit = as::toolkit;
 

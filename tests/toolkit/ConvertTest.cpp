@@ -183,10 +183,9 @@ TEST_F(ConvertTest, EveryItemOfAFieldCounts) {
 }
 
 TEST_F(ConvertTest, ATypeOfNoWordIsToldAsOne) {
-  const toolkit::ConvertedService outcome =
-      convert(service(as::namespaces::ws.uri, "ws",
-                      operation("<parameter name='p' dataType='Int32'/>")),
-              "java");
+  const toolkit::ConvertedService outcome = convert(
+      service(as::namespaces::ws.uri, "ws", operation("<parameter name='p' dataType='Int32'/>")),
+      "java");
   EXPECT_THAT(notesOf(outcome),
               ElementsAre("op.p: data type 'Int32' is none of Web services: made 'String'"));
 }
@@ -229,8 +228,8 @@ TEST_F(ConvertTest, TheDictionaryIsNeverTheOutput) {
 
 TEST_F(ConvertTest, ADictionaryThatCannotBeReadIsToldAndDoneWithout) {
   const toolkit::ConvertedService outcome = convert(
-      service(as::namespaces::java.uri, "java",
-              operation("<parameter name='p' dataType='int'/>"), "dataDictFilename='gone.xml'"),
+      service(as::namespaces::java.uri, "java", operation("<parameter name='p' dataType='int'/>"),
+              "dataDictFilename='gone.xml'"),
       "ws");
   EXPECT_THAT(notesOf(outcome), ElementsAre(HasSubstr("the dictionary cannot be used")));
   EXPECT_THAT(output(),
@@ -370,17 +369,16 @@ TEST_F(ConvertTest, ANetServiceInTheNamespaceOfWebServicesIsOne) {
   ASSERT_THAT(written, HasSubstr(as::namespaces::ws.uri));
   convert(written, "dotnet");
   EXPECT_THAT(output(),
-              AllOf(HasSubstr(as::namespaces::dotnet.uri),
-                    Not(HasSubstr(as::namespaces::ws.uri)), HasSubstr("dataType=\"Int32\"")));
+              AllOf(HasSubstr(as::namespaces::dotnet.uri), Not(HasSubstr(as::namespaces::ws.uri)),
+                    HasSubstr("dataType=\"Int32\"")));
   convert(written, "ws");
-  EXPECT_THAT(output(), AllOf(HasSubstr(as::namespaces::ws.uri),
-                              HasSubstr("implementation=\"ws\""), HasSubstr("dataType=\"int\"")));
+  EXPECT_THAT(output(), AllOf(HasSubstr(as::namespaces::ws.uri), HasSubstr("implementation=\"ws\""),
+                              HasSubstr("dataType=\"int\"")));
 }
 
 TEST_F(ConvertTest, TheDictionaryIsNamedAsSeenFromTheOutput) {
   write("a/PAY.xml", test::payProgram());
-  write("a/s.xml",
-        service(as::namespaces::java.uri, "java", "", "dataDictFilename='PAY.xml'"));
+  write("a/s.xml", service(as::namespaces::java.uri, "java", "", "dataDictFilename='PAY.xml'"));
   std::filesystem::create_directory("b");
   // Whether it is there or not.
   for (int i = 0; i < 2; i++) {

@@ -144,10 +144,9 @@ INSTANTIATE_TEST_SUITE_P(
                     std::string("<program xmlns=\"") + as::namespaces::dd.uri +
                         "\" name=\"PAYROLL\"></program>",
                     "refused.xml:1:93: no declaration found for element 'program'", schemaHint},
-        RefusalCase{
-            "NoSchemaLocationBehindAPrefix",
-            std::string("<d:program name='P' xmlns:d='") + as::namespaces::dd.uri + "'/>",
-            "refused.xml:1:92: no declaration found for element 'd:program'", schemaHint},
+        RefusalCase{"NoSchemaLocationBehindAPrefix",
+                    std::string("<d:program name='P' xmlns:d='") + as::namespaces::dd.uri + "'/>",
+                    "refused.xml:1:92: no declaration found for element 'd:program'", schemaHint},
         RefusalCase{"Empty", "", "refused.xml:1:1: invalid document structure", ""},
         RefusalCase{"ControlCharactersInAMessage",
                     test::dictionaryOf("\n<pointer name='A' sync='&#9;'/>"),
