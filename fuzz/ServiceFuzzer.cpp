@@ -1,47 +1,27 @@
-// Feeds arbitrary bytes to the service parser. Whatever comes out of it is walked, written, and
-// read again: that must be the same model.
-#include <cstddef>
-#include <cstdint>
+// Reads the input as a service; AS_FLAVOUR names the flavour that inputs are of. What comes out of
+// it is asked everything, written, and read again: that must be the same model.
 #include <cstdlib>
-#include <memory>
-#include <string>
 
-#include "as/AgentServices.h"
+#include "Mutator.h"
+#include "Requests.h"
 #include "support/ModelText.h"
 
-namespace {
-
-std::unique_ptr<as::IService> parse(as::IAgentServices& services, const std::uint8_t* data,
-                                    std::size_t size) {
-  return std::unique_ptr<as::IService>(
-      services.parseService("fuzz", data, static_cast<unsigned int>(size), false));
-}
-
-}  // namespace
+const fuzz::Shape fuzz::shape = {{as::namespaces::AS_FLAVOUR.uri}, false, fuzz::Shape::Files::none};
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const std::unique_ptr<as::IAgentServices> services = [] {
-    std::unique_ptr<as::IAgentServices> made(as::CAgentServicesFactory::CreateAgentServices());
-    made->setSchemaLocation(AS_SCHEMA_DIR);
-    return made;
-  }();
+  const std::string_view input(reinterpret_cast<const char*>(data), size);
+  const std::unique_ptr<as::IService> service = fuzz::unlessRefused(
+      [&] { return fuzz::parseService(fuzz::services(), "fuzz.xml", input, false); });
+  if (!service) return 0;
+  const std::string model = test::modelText(*service);
   std::string written;
-  std::string model;
   try {
-    const std::unique_ptr<as::IService> service = parse(*services, data, size);
-    if (!service) return 0;
-    model = test::modelText(*service);
     written = as::CAgentServicesFactory::SerializeToString(service.get());
-  } catch (const as::CASParseException&) {
-    return 0;
-  } catch (const as::CASInvalidNamespaceException&) {
-    return 0;
   } catch (const as::CASException&) {
     return 0;  // It holds what cannot be written: control characters of XML 1.1.
   }
   // From here on nothing may go wrong: an exception ends the process, and is a finding.
-  const std::unique_ptr<as::IService> again =
-      parse(*services, reinterpret_cast<const std::uint8_t*>(written.data()), written.size());
+  const auto again = fuzz::parseService(fuzz::services(), "fuzz.xml", written, false);
   if (!again || test::modelText(*again) != model) std::abort();
   return 0;
 }

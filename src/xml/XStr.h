@@ -9,7 +9,7 @@
 
 // Holds a text in UTF-8, which may be null (not the same as empty for the conversions to a
 // pointer), and renders it as XMLCh, number or truth on request. A pointer that a conversion hands
-// out is good until the object is changed, converted to XMLCh again or destroyed.
+// out is good until the object is changed, copied, converted to XMLCh again or destroyed.
 //
 // Conversion never throws on bad text: what is no UTF-8 becomes U+FFFD, and what XMLCh text has no
 // UTF-8 for becomes whatever the XML parser's transcoder puts in its place.

@@ -1,0 +1,40 @@
+// Reads the input as a dictionary and as a service, with the shipped schemas and without them.
+// Inputs mix the namespaces and bring schemas of their own. Whatever a schema lets through, a
+// request ends with a model or with one of its exceptions, and a model answers every question.
+#include "DictionaryWalk.h"
+#include "Mutator.h"
+#include "Requests.h"
+#include "support/ModelText.h"
+
+const fuzz::Shape fuzz::shape = {{}, false, fuzz::Shape::Files::schemas};
+
+namespace {
+
+void ask(as::IAgentServices& by, std::string_view input) {
+  // Schemas are looked up beside the document.
+  const std::string id = fuzz::workDirectory().file("document.xml");
+  const std::unique_ptr<as::IProgram> program =
+      fuzz::unlessRefused([&] { return fuzz::parseDictionary(by, id, input); });
+  if (program) fuzz::DictionaryWalk(fuzz::Schemas::any).walk(*program);
+  const std::unique_ptr<as::IService> service =
+      fuzz::unlessRefused([&] { return fuzz::parseService(by, id, input, false); });
+  if (!service) return;
+  test::modelText(*service);
+  try {
+    as::CAgentServicesFactory::SerializeToString(service.get());
+  } catch (const as::CASException&) {
+    // It holds what cannot be written.
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static const std::unique_ptr<as::IAgentServices> withoutSchemas(
+      as::CAgentServicesFactory::CreateAgentServices());
+  const std::string_view input(reinterpret_cast<const char*>(data), size);
+  const fuzz::InputFiles files(input);
+  ask(fuzz::services(), input);
+  ask(*withoutSchemas, input);
+  return 0;
+}

@@ -1,0 +1,131 @@
+// Gives the input, a dictionary or a service, to everything that the toolkit does with documents.
+// What it writes must be good, and the models that it looks at must stay as they are.
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+#include "InputFiles.h"
+#include "Mutator.h"
+#include "as/AgentServices.h"
+#include "as/toolkit/Toolkit.h"
+#include "support/ModelText.h"
+
+namespace toolkit = as::toolkit;
+
+const fuzz::Shape fuzz::shape = {
+    {as::namespaces::dd.uri, as::namespaces::ws.uri, as::namespaces::com.uri,
+     as::namespaces::java.uri, as::namespaces::dotnet.uri},
+    false,
+    fuzz::Shape::Files::dictionaries};
+
+namespace {
+
+void require(bool condition) {
+  if (!condition) std::abort();
+}
+
+const toolkit::DocumentReader& reader() {
+  static const toolkit::DocumentReader made(fuzz::schemaDirectory());
+  return made;
+}
+
+// Runs `action`, which may refuse the document, or fail to write.
+template <class Action>
+bool unlessRefused(const Action& action) {
+  try {
+    action();
+    return true;
+  } catch (const toolkit::RefusedDocument& refused) {
+    require(!refused.refusal().text.empty());
+    return false;
+  } catch (const toolkit::FileError&) {
+    return false;
+  }
+}
+
+template <class Model>
+void render(Model& model) {
+  std::ostringstream text;
+  toolkit::renderText(text, model);
+  for (const char c : text.str()) require(c == '\n' || static_cast<unsigned char>(c) >= ' ');
+  std::ostringstream json;
+  toolkit::renderJson(json, model);
+  require(nlohmann::json::accept(json.str()));
+}
+
+void look(as::IService& service) {
+  const std::string before = test::modelText(service);
+  render(service);
+  for (const toolkit::Finding& finding : toolkit::lint(service)) {
+    require(!finding.rule.empty() && !finding.problem.empty() && !textOf(finding).empty());
+  }
+  require(test::modelText(service) == before);
+}
+
+// What the toolkit has made is written, and read again.
+void check(as::IService& service) {
+  std::string written;
+  try {
+    written = as::CAgentServicesFactory::SerializeToString(&service);
+  } catch (const as::CASException&) {
+    return;  // It holds what cannot be written: control characters of XML 1.1.
+  }
+  const std::unique_ptr<as::IService> again = reader().readServiceText(written, "again.xml");
+  require(again != nullptr);
+  look(*again);
+}
+
+void lookAtDictionary(std::unique_ptr<as::IProgram> program, const toolkit::Flavour& flavour) {
+  render(*program);
+  const toolkit::MadeService made = toolkit::makeService(std::move(program), flavour);
+  require(made.operations == made.service->getOperations()->getLength());
+  look(*made.service);
+  check(*made.service);
+}
+
+void lookAtService(as::IService& service, const std::string& file,
+                   const toolkit::Flavour& flavour) {
+  look(service);
+  toolkit::lintFile(reader(), file);
+  toolkit::ServiceDocument withProgram;
+  unlessRefused([&] { withProgram = reader().readServiceWithProgram(file); });
+  as::IProgram* program = nullptr;
+  if (withProgram.service) {
+    look(*withProgram.service);
+    program = withProgram.service->getProgram();
+  }
+  const std::string before = test::modelText(service);
+  unlessRefused([&] {
+    const toolkit::ConvertedService converted =
+        toolkit::convertService(reader(), service, file, flavour, program);
+    require(&toolkit::flavourOf(*converted.service) == &flavour);
+    check(*converted.service);
+  });
+  require(test::modelText(service) == before);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view input(reinterpret_cast<const char*>(data), size);
+  const fuzz::InputFiles files(input);
+  const std::string file = fuzz::workDirectory().file("document.xml");
+  fuzz::workDirectory().write("document.xml", input);
+  // One flavour an input; which one is all the same.
+  const std::size_t choice = std::hash<std::string_view>()(input);
+  const toolkit::Flavour& flavour = toolkit::flavours()[choice % toolkit::flavours().size()];
+  unlessRefused([&] {
+    toolkit::Document document = reader().read(file);
+    require((document.dictionary == nullptr) != (document.service == nullptr));
+    if (document.dictionary) {
+      lookAtDictionary(std::move(document.dictionary), flavour);
+    } else {
+      lookAtService(*document.service, file, flavour);
+    }
+  });
+  return 0;
+}
