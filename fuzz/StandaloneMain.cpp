@@ -26,6 +26,10 @@ int main(int argc, char** argv) {
     std::printf("%s\n", file.c_str());
     std::fflush(stdout);
     std::ifstream in(file, std::ios::binary);
+    if (!in) {
+      std::printf("cannot be read\n");
+      return 1;
+    }
     std::ostringstream content;
     content << in.rdbuf();
     const std::string input = content.str();
