@@ -17,6 +17,7 @@ function(as_sources_of LIBRARY RESULT)
   set(sources "")
   foreach(layer IN LISTS AS_LAYERS)
     if(AS_LAYER_LIBRARY_${layer} STREQUAL LIBRARY)
+      # Sorted by name: classes are registered in the order of this list.
       file(GLOB_RECURSE found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${layer}/*.cpp)
       list(APPEND sources ${found})
     endif()

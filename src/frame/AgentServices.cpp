@@ -16,7 +16,6 @@
 #include "as/IService.h"
 #include "cobol/VorDDHandler.h"
 #include "frame/DelegatingHandler.h"
-#include "frame/InterfaceIdentities.h"
 #include "xml/Assertion.h"
 #include "xml/XMLParser.h"
 #include "xml/XStr.h"
@@ -29,8 +28,8 @@ using xercesc::XMLUni;
 
 XMLTranscoder* gUTF8Transcoder = nullptr;
 
-// The identities first: their clean-ups must run after AtExit.
-int nXercesInitStatus = (registerInterfaceIdentities(), InitXerces());
+// All identities are registered by now, see AS_INTERFACES_FIRST: their clean-ups run after AtExit.
+int nXercesInitStatus = InitXerces();
 
 int InitXerces() {
   try {

@@ -1,5 +1,4 @@
-#include "frame/InterfaceIdentities.h"
-
+// The identities of the public interfaces, and the little that interfaces answer by themselves.
 #include "as/AgentServices.h"
 #include "xml/Identity.h"
 
@@ -26,7 +25,7 @@ void* castThrough([[maybe_unused]] Interface* object, [[maybe_unused]] RTTItypei
 
 // The records of the bases that an interface registers with, ended by a null.
 template <class... Bases>
-RTTITypeinfo* recordsOf[] = {&Bases::RTTI_obj..., nullptr};
+constinit RTTITypeinfo* recordsOf[] = {&Bases::RTTI_obj..., nullptr};
 
 }  // namespace
 
@@ -39,8 +38,6 @@ RTTITypeinfo* recordsOf[] = {&Bases::RTTI_obj..., nullptr};
   }
 #include "frame/Interfaces.def"
 
-// The factory is cast like the interfaces, but it is none: it registers with its own source file.
-
 // What an interface answers by itself.
 bool IField::hasChildren() { return getChildren()->getLength() > 0; }
 
@@ -51,15 +48,12 @@ IWSField::FORM IWSParameter::getAttributeForm() { return static_cast<FORM>(-1); 
 
 namespace {
 
-void registerRecords() {
-#define AS_INTERFACE(Interface, registered, bases)            \
-  static const IdentityRegistration registration_##Interface( \
+// The factory is cast like the interfaces, but it is none: it registers with its own source file.
+#define AS_INTERFACE(Interface, registered, bases)                         \
+  AS_INTERFACES_FIRST const IdentityRegistration registration_##Interface( \
       Interface::RTTI_obj, #Interface, recordsOf<AS_BASES registered>, &Interface::RTTI_scast);
 #include "frame/Interfaces.def"
-}
 
 }  // namespace
 
 }  // namespace as
-
-void registerInterfaceIdentities() { as::registerRecords(); }

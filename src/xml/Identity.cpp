@@ -9,8 +9,8 @@ RTTITypeinfo RTTITypeinfo::null_type = {nullptr, nullptr, 0, nullptr, 0, nullptr
 int RTTIdyntypeid::a = 0;
 
 namespace {
-const IdentityRegistration registrationOfNullType(RTTITypeinfo::null_type, "NULL", nullptr,
-                                                  nullptr);
+AS_IMPLEMENTATIONS_NEXT const IdentityRegistration registrationOfNullType(RTTITypeinfo::null_type,
+                                                                          "NULL", nullptr, nullptr);
 }
 
 bool RTTItypeid::designates(const RTTITypeinfo& other) const noexcept {

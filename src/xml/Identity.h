@@ -4,8 +4,8 @@
 
 #include "as/RTTI.h"
 
-// Registers one class for its lifetime: constructed when the library is loaded, destroyed at
-// process exit.
+// Registers one class for its lifetime: constructed when the library is loaded, destroyed when the
+// process ends or the library is unloaded.
 class IdentityRegistration {
  public:
   // Names `record` after the class (a copy), and appends it to the derived classes of every base.
@@ -50,11 +50,19 @@ class IdentityRegistration {
     return static_cast<Class*>(p)->RTTI_cast(RTTItypeid(&RTTI_obj));         \
   }
 
-// Registers Class (its name in quotes beside it) with the records given, ended by a null.
-#define AS_REGISTER_IDENTITY(Class, name, ...)                                                    \
-  static RTTITypeinfo* RTTI_base_##name[] = {__VA_ARGS__};                                        \
-  static const IdentityRegistration registration_##name(Class::RTTI_obj, #name, RTTI_base_##name, \
-                                                        &Class::RTTI_scast);
+// When a class is registered, while the library is loaded: interfaces before implementation
+// classes, whatever file the linker put first, and both before anything that does not say when.
+// Clean-ups run the other way round, so that the XML parser, started last, is stopped while every
+// identity is still there. Within a file the order is that of its lines, among files that of the
+// build's list.
+#define AS_INTERFACES_FIRST [[gnu::init_priority(101)]]
+#define AS_IMPLEMENTATIONS_NEXT [[gnu::init_priority(102)]]
+
+// Registers implementation class Class under `name` with the records given, ended by a null.
+#define AS_REGISTER_IDENTITY(Class, name, ...)                                   \
+  static constinit RTTITypeinfo* RTTI_base_##name[] = {__VA_ARGS__};             \
+  AS_IMPLEMENTATIONS_NEXT static const IdentityRegistration registration_##name( \
+      Class::RTTI_obj, #name, RTTI_base_##name, &Class::RTTI_scast);
 
 // The whole identity of an implementation class with one, two or three bases. A cast asks the
 // bases in the order given, the interface first.

@@ -1,29 +1,18 @@
 // Tests of the identity records: registration, casting, clean-up.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstring>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "as/AgentServices.h"
-#include "cobol/AlphanumericImpl.h"
-#include "cobol/ConditionImpl.h"
-#include "cobol/ConditionList.h"
 #include "cobol/ConditionValueImpl.h"
 #include "cobol/DataItemImpl.h"
-#include "cobol/DataItemList.h"
 #include "cobol/EntryPointImpl.h"
-#include "cobol/FDImpl.h"
 #include "cobol/GroupImpl.h"
-#include "cobol/LinkageItemImpl.h"
-#include "cobol/NationalImpl.h"
-#include "cobol/NumericEditedImpl.h"
 #include "cobol/NumericImpl.h"
-#include "cobol/ProgramImpl.h"
-#include "cobol/PropertyImpl.h"
 #include "support/Dom.h"
-#include "support/Registration.h"
 #include "xml/Identity.h"
 #include "xml/List.h"
 
@@ -36,107 +25,6 @@ std::vector<std::string> derivedNames(const RTTITypeinfo& record) {
 }
 
 using Names = std::vector<std::string>;
-
-using test::expectRegistered;
-using test::Registered;
-
-#define INTERFACE(name, ...)                    \
-  {                                             \
-    &as::name::RTTI_obj, #name, { __VA_ARGS__ } \
-  }
-
-// In the order of registration.
-const std::vector<Registered>& interfaces() {
-  static const std::vector<Registered> rows = {
-      INTERFACE(IAgentServices),
-      INTERFACE(IElement),
-      INTERFACE(IProperty, "IElement"),
-      INTERFACE(IList, "IElement"),
-      INTERFACE(IConditionValue, "IElement"),
-      INTERFACE(ICondition, "IList"),
-      INTERFACE(IDataItem, "IElement"),
-      INTERFACE(IGroup, "IDataItem"),
-      INTERFACE(INumeric, "IDataItem"),
-      INTERFACE(IAlphanumeric, "IDataItem"),
-      INTERFACE(INumericEdited, "IDataItem"),
-      INTERFACE(IAlphanumericEdited, "IDataItem"),
-      INTERFACE(IPointer, "IDataItem"),
-      INTERFACE(IObject, "IDataItem"),
-      INTERFACE(INational, "IDataItem"),
-      INTERFACE(IIndex, "IDataItem"),
-      INTERFACE(ILinkageItem, "IElement"),
-      INTERFACE(IEntryPoint, "IElement"),  // though it derives from IList
-      INTERFACE(IProgram, "IElement"),
-      INTERFACE(IField, "IElement"),
-      INTERFACE(IParameter, "IField"),
-      INTERFACE(IOperation, "IElement"),
-      INTERFACE(IService, "IElement"),
-      INTERFACE(IWSParameter, "IParameter", "IWSField"),
-      INTERFACE(IWSOperation, "IOperation"),
-      INTERFACE(IWSHeader, "IElement"),
-      INTERFACE(IWSFault, "IElement"),
-      INTERFACE(IWebService, "IService"),
-      INTERFACE(IJavaParameter, "IParameter", "IJavaField"),
-      INTERFACE(ICOMParameter, "IParameter", "ICOMField"),
-      INTERFACE(IHiddenParameter, "IElement"),  // though it derives from IMapping
-      INTERFACE(IMapping, "IElement"),
-      INTERFACE(IWSField, "IField"),
-      INTERFACE(ICOMField, "IField"),
-      INTERFACE(IJavaField, "IField"),
-      INTERFACE(IJavaOperation, "IOperation"),
-      INTERFACE(IFD, "IElement"),
-      INTERFACE(IDotNET, "IService"),
-      INTERFACE(IDotNETParameter, "IParameter", "IDotNETField"),
-      INTERFACE(IDotNETOperation, "IOperation"),
-      INTERFACE(IDotNETField, "IField"),
-  };
-  return rows;
-}
-
-const std::vector<Registered>& implementations() {
-  static const std::vector<Registered> rows = {
-      {&as::CAgentServicesFactory::RTTI_obj, "CAgentServicesFactory", {}},
-      AS_REGISTERED(CElementImpl, "IElement"),
-      AS_REGISTERED(CList, "IList", "CElementImpl"),
-      AS_REGISTERED(CDataItemList, "IList", "CList"),
-      AS_REGISTERED(CConditionList, "IList", "CList"),
-      AS_REGISTERED(CProgramImpl, "IProgram", "CElementImpl"),
-      AS_REGISTERED(CEntryPointImpl, "IEntryPoint", "CList"),
-      AS_REGISTERED(CLinkageItemImpl, "ILinkageItem", "CElementImpl"),
-      AS_REGISTERED(CFDImpl, "IFD", "CElementImpl"),
-      AS_REGISTERED(CDataItemImpl, "IDataItem", "CElementImpl"),
-      AS_REGISTERED(CGroupImpl, "IGroup", "CDataItemImpl"),
-      AS_REGISTERED(CNumericImpl, "INumeric", "CDataItemImpl"),
-      AS_REGISTERED(CNumericEditedImpl, "INumericEdited", "CDataItemImpl"),
-      AS_REGISTERED(CAlphanumericImpl, "IAlphanumeric", "CDataItemImpl"),
-      AS_REGISTERED(CNationalImpl, "INational", "CDataItemImpl"),
-      AS_REGISTERED(CConditionImpl, "ICondition", "CList"),
-      AS_REGISTERED(CConditionValueImpl, "IConditionValue", "CElementImpl"),
-      AS_REGISTERED(CPropertyImpl, "IProperty", "CElementImpl"),
-  };
-  return rows;
-}
-
-TEST(Identity, EveryInterfaceIsRegisteredWithItsBases) {
-  EXPECT_EQ(interfaces().size(), 41u);
-  for (const Registered& row : interfaces()) expectRegistered(row);
-}
-
-TEST(Identity, EveryImplementationIsRegisteredWithItsBases) {
-  for (const Registered& row : implementations()) expectRegistered(row);
-}
-
-TEST(Identity, InterfacesAreRegisteredInOrder) {
-  Names expected;
-  for (const Registered& row : interfaces()) {
-    if (row.bases == Names{"IElement"}) expected.emplace_back(row.name);
-  }
-  Names found;
-  for (const std::string& name : derivedNames(as::IElement::RTTI_obj)) {
-    if (name[0] == 'I') found.push_back(name);
-  }
-  EXPECT_EQ(found, expected);
-}
 
 TEST(Identity, NullTypeIsNoType) {
   const RTTITypeinfo& null = RTTITypeinfo::null_type;

@@ -1,5 +1,4 @@
-// Tests of the identities of the service classes: how each is registered, and what its objects
-// cast to.
+// What the objects of the service classes cast to.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -26,7 +25,6 @@
 #include "service/ParameterImpl.h"
 #include "service/ServiceImpl.h"
 #include "support/Dom.h"
-#include "support/Registration.h"
 #include "support/Wrappers.h"
 #include "ws/FaultList.h"
 #include "ws/FieldAttributeList.h"
@@ -42,60 +40,7 @@
 namespace {
 
 using test::makeHandler;
-using Names = std::vector<std::string>;
 using NameSet = std::set<std::string>;
-
-// Registration.
-
-TEST(ServiceIdentity, EveryImplementationIsRegisteredWithItsBases) {
-  const test::Registered rows[] = {
-      AS_REGISTERED(CServiceImpl, "IService", "CElementImpl"),
-      AS_REGISTERED(COperationImpl, "IOperation", "CElementImpl"),
-      AS_REGISTERED(CParameterImpl, "IParameter", "IField", "CElementImpl"),
-      AS_REGISTERED(CFieldList, "CList"),
-      AS_REGISTERED(CMappingImpl, "IMapping", "CElementImpl"),
-      AS_REGISTERED(CHiddenParameterImpl, "IHiddenParameter", "CMappingImpl"),
-      AS_REGISTERED(CWebServiceImpl, "IWebService", "CServiceImpl"),
-      AS_REGISTERED(CWSOperationImpl, "IWSOperation", "COperationImpl"),
-      AS_REGISTERED(CWSParameterImpl, "IWSParameter", "CParameterImpl", "IWSField"),
-      AS_REGISTERED(CFieldAttributeList, "CList"),
-      AS_REGISTERED(CWSHeaderImpl, "IWSHeader", "CElementImpl"),
-      AS_REGISTERED(CWSFaultImpl, "IWSFault", "CElementImpl"),
-      AS_REGISTERED(CHeaderList, "CList"),
-      AS_REGISTERED(CFaultList, "CList"),
-      AS_REGISTERED(CCOMParameterImpl, "ICOMParameter", "CParameterImpl", "ICOMField"),
-      AS_REGISTERED(CJavaOperationImpl, "IJavaOperation", "COperationImpl"),
-      AS_REGISTERED(CJavaParameterImpl, "IJavaParameter", "CParameterImpl"),
-      AS_REGISTERED(CDotNETImpl, "IDotNET", "CServiceImpl"),
-      AS_REGISTERED(CDotNETOperationImpl, "IDotNETOperation", "COperationImpl"),
-      AS_REGISTERED(CDotNETParameterImpl, "IDotNETParameter", "CParameterImpl", "IDotNETField"),
-  };
-  for (const test::Registered& row : rows) test::expectRegistered(row);
-}
-
-TEST(ServiceIdentity, FlavouredClassesAreDerivedFromThePlainOnes) {
-  const struct {
-    const RTTITypeinfo* plain;
-    NameSet derived;
-  } rows[] = {
-      {&CServiceImpl::RTTI_obj, {"CWebServiceImpl", "CDotNETImpl"}},
-      {&COperationImpl::RTTI_obj,
-       {"CWSOperationImpl", "CJavaOperationImpl", "CDotNETOperationImpl"}},
-      {&CParameterImpl::RTTI_obj,
-       {"CWSParameterImpl", "CCOMParameterImpl", "CJavaParameterImpl", "CDotNETParameterImpl"}},
-      {&CMappingImpl::RTTI_obj, {"CHiddenParameterImpl"}},
-      {&CHiddenParameterImpl::RTTI_obj, {}},
-      {&CWSHeaderImpl::RTTI_obj, {}},
-      {&CWSFaultImpl::RTTI_obj, {}},
-  };
-  for (const auto& row : rows) {
-    NameSet derived;
-    for (int i = 0; i < row.plain->derivedCount; i++) derived.insert(row.plain->derived[i]->name);
-    EXPECT_EQ(derived, row.derived) << row.plain->name;
-  }
-}
-
-// Casting.
 
 // A class to cast to: the object seen as that class and back as a wrapper, null when it is no such
 // thing. A test failure when the language sees the object otherwise.

@@ -10,6 +10,8 @@
 #include "as/Globals.h"
 #include "frame/AgentServices.h"
 #include "support/Dom.h"
+#include "support/Records.h"
+#include "support/StopProbe.h"
 
 namespace {
 
@@ -43,6 +45,18 @@ TEST(StartUpDeathTest, AtExitStopsTheTranscoderAndMayRunTwice) {
         std::_Exit(gone ? 7 : 8);
       },
       testing::ExitedWithCode(7), "");
+}
+
+// A client may still cast, and look classes up, while the parser is being stopped.
+TEST(StartUpDeathTest, IdentitiesAreCleanedUpBehindTheParser) {
+  EXPECT_EXIT(
+      {
+        test::StopProbe::install([all = test::records()] {
+          std::cerr << (test::records() == all ? "all are there" : "some are gone");
+        });
+        std::exit(7);
+      },
+      testing::ExitedWithCode(7), "^all are there$");
 }
 
 TEST(StartUpDeathTest, ExitsCleanly) {
