@@ -7,9 +7,6 @@
 #include <cctype>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <memory>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -17,6 +14,7 @@
 #include "support/Model.h"
 #include "support/ModelText.h"
 #include "support/Requests.h"
+#include "support/TempDirectory.h"
 
 namespace {
 
@@ -46,11 +44,9 @@ class CorpusDeathTest : public testing::TestWithParam<std::string> {};
 
 // Makes every request that reads the file, and ends the process well.
 [[noreturn]] void requestAll(as::IAgentServices& services, const std::string& file) {
-  std::ostringstream content;
-  content << std::ifstream(file, std::ios::binary).rdbuf();
-  const std::string text = content.str();
-  const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
-  const auto length = static_cast<unsigned int>(text.size());
+  const std::string text = test::contentOf(file);
+  const unsigned char* const bytes = test::bytesOf(text);
+  const unsigned int length = test::lengthOf(text);
   outcomeOf([&] { return services.parseCobolDD(file.c_str()); });
   outcomeOf([&] { return services.parseCobolDD(file.c_str(), bytes, length); });
   for (const bool loadProgram : {false, true}) {
@@ -71,8 +67,7 @@ TEST_P(CorpusDeathTest, EndsInAModelOrAnException) {
 }
 
 TEST_P(CorpusDeathTest, EndsInAModelOrAnExceptionWithoutASchemaDirectory) {
-  const std::unique_ptr<as::IAgentServices> services(
-      as::CAgentServicesFactory::CreateAgentServices());
+  const auto services = test::servicesWithoutSchemas();
   EXPECT_EXIT(requestAll(*services, GetParam()), testing::ExitedWithCode(0), "");
 }
 

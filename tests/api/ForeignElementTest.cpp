@@ -78,9 +78,7 @@ std::string hints(const std::string& directory = "") {
 std::string document(const Kind& kind, const std::string& content, const std::string& location,
                      const std::string& root = "") {
   const std::string name = root.empty() ? kind.root : root;
-  return "<" + name + " xmlns='" + kind.uri +
-         "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" + location +
-         "' name='R'>\n" + content + "</" + name + ">";
+  return test::element(name, "\n" + content, test::declarations(kind.uri, location) + " name='R'");
 }
 
 // What the request for documents of that kind makes of it.
@@ -96,10 +94,7 @@ Outcome<as::IProgram> requested(as::IAgentServices& services, const std::string&
 template <>
 Outcome<as::IService> requested(as::IAgentServices& services, const std::string& document,
                                 const char* id) {
-  return outcomeOf([&] {
-    return services.parseService(id, reinterpret_cast<const unsigned char*>(document.data()),
-                                 static_cast<unsigned int>(document.size()), false);
-  });
+  return test::serviceOutcomeOf(services, document, false, id);
 }
 
 [[noreturn]] void request(const Kind& kind, as::IAgentServices& services,
@@ -117,10 +112,6 @@ Outcome<as::IService> requested(as::IAgentServices& services, const std::string&
 std::string refusalOf(const std::string& element, const Kind& kind) {
   return "the element '" + element + "' has no place in a document of the namespace '" + kind.uri +
          "'";
-}
-
-std::unique_ptr<as::IAgentServices> servicesWithoutSchemas() {
-  return std::unique_ptr<as::IAgentServices>(as::CAgentServicesFactory::CreateAgentServices());
 }
 
 // With the shipped schemas.
@@ -234,7 +225,7 @@ class OwnSchemaDeathTest : public testing::TestWithParam<Kind> {
 
   TempDirectory directory_;
   const std::string id_ = directory_.path() + "/d.xml";
-  const std::unique_ptr<as::IAgentServices> services_ = servicesWithoutSchemas();
+  const std::unique_ptr<as::IAgentServices> services_ = test::servicesWithoutSchemas();
 };
 
 TEST_P(OwnSchemaDeathTest, DoesNotLetInWhatTheModelHasNoObjectFor) {
@@ -277,10 +268,9 @@ TEST_P(OwnSchemaDeathTest, DoesNotLetInElementsOfAnotherNamespace) {
 TEST_P(OwnSchemaDeathTest, MayDeclareElementsWithoutANamespace) {
   const bool isDictionary = GetParam().root == std::string("program");
   const std::string list = isDictionary ? "dataItems" : "operations";
-  const std::string start = "<r:" + std::string(GetParam().root) + " xmlns:r='" + GetParam().uri +
-                            "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
-                            "xsi:schemaLocation='" +
-                            hints() + "' xsi:type='r:unqualified' name='R'>";
+  const std::string start = "<r:" + std::string(GetParam().root) + " " +
+                            test::declarations(GetParam().uri, hints(), "r") +
+                            " xsi:type='r:unqualified' name='R'>";
   const std::string end = "</r:" + std::string(GetParam().root) + ">";
   EXPECT_REQUEST(root, "", GetParam(), *services_, start + "<" + list + "/>" + end, id_);
   EXPECT_REQUEST(parseException, HasSubstr(refusalOf("foo", GetParam())), GetParam(), *services_,

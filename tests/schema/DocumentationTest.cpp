@@ -2,11 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <map>
-#include <memory>
 #include <ostream>
-#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -38,9 +35,7 @@ void replaceAll(std::string& text, const std::string& what, const std::string& w
 
 // The documentation in the schema file, with its escapes resolved.
 std::string documentationOf(const std::filesystem::path& schema) {
-  std::stringstream text;
-  text << std::ifstream(schema).rdbuf();
-  const std::string all = text.str();
+  const std::string all = test::contentOf(schema);
   const std::string open = "<xs:documentation>";
   std::string documentation;
   for (std::size_t at = all.find(open); at != std::string::npos; at = all.find(open, at)) {
@@ -120,11 +115,8 @@ TEST_P(SchemaExample, IsRead) {
     const auto outcome = test::outcomeOf(document);
     EXPECT_EQ(outcome.result, Result::root) << outcome.text;
   } else {
-    std::string errorText;
-    const std::unique_ptr<as::IService> service(test::newServices()->parseService(
-        "service.xml", reinterpret_cast<const unsigned char*>(document.data()),
-        static_cast<unsigned int>(document.size()), errorText, false));
-    EXPECT_NE(service, nullptr) << errorText;
+    const auto outcome = test::serviceOutcomeOf(document);
+    EXPECT_EQ(outcome.result, Result::root) << outcome.text;
   }
 }
 
@@ -132,9 +124,7 @@ INSTANTIATE_TEST_SUITE_P(All, SchemaExample, testing::ValuesIn(allExamples()), l
 
 // The services are for the dictionary that the dictionary schema shows.
 TEST(SchemaDocumentation, ServicesGoWithTheDictionaryShown) {
-  const test::TempDirectory directory;
-  const std::filesystem::path before = std::filesystem::current_path();
-  std::filesystem::current_path(directory.path());
+  const test::CurrentDirectory directory;
   directory.write("TOTALS.xml", examplesOf("vorcobol.xsd").back().document);
   for (const Example& example : allExamples()) {
     if (example.root != "service") continue;
@@ -148,7 +138,6 @@ TEST(SchemaDocumentation, ServicesGoWithTheDictionaryShown) {
     EXPECT_EQ(item->getMaxOccurs(), parameter->getOccurs());
     EXPECT_EQ(item->getODO(), itemOf<as::IDataItem>(item->getParent()->getChildren(), 0));
   }
-  std::filesystem::current_path(before);
 }
 
 }  // namespace

@@ -100,10 +100,10 @@ inline Outcome<as::IProgram> outcomeOfFile(const std::string& file) {
 
 // What `services` makes of the service `document`, read from memory.
 inline Outcome<as::IService> serviceOutcomeOf(as::IAgentServices& services,
-                                              const std::string& document,
-                                              bool loadProgram = false) {
+                                              const std::string& document, bool loadProgram = false,
+                                              const char* id = "service.xml") {
   return outcomeOf([&] {
-    return services.parseService("service.xml", bytesOf(document), lengthOf(document), loadProgram);
+    return services.parseService(id, bytesOf(document), lengthOf(document), loadProgram);
   });
 }
 

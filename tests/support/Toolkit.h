@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <sstream>
@@ -25,11 +24,6 @@ namespace toolkit = as::toolkit;
 // names, as users name them.
 class ToolkitTest : public testing::Test {
  protected:
-  ToolkitTest() : before_(std::filesystem::current_path()) {
-    std::filesystem::current_path(directory_.path());
-  }
-  ~ToolkitTest() override { std::filesystem::current_path(before_); }
-
   const toolkit::DocumentReader& reader() const { return reader_; }
 
   void write(const std::string& name, const std::string& content) const {
@@ -71,8 +65,7 @@ class ToolkitTest : public testing::Test {
   }
 
  private:
-  std::filesystem::path before_;
-  TempDirectory directory_;
+  const CurrentDirectory directory_;
   toolkit::DocumentReader reader_{AS_SCHEMA_DIR};
 };
 
