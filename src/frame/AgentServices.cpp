@@ -78,8 +78,10 @@ struct CAgentServices::Source {
   const char* id;
   const unsigned char* buffer;  // Null for a file named id.
   unsigned int length;
+  bool isReferred = false;  // The file is named by a document, not by the client.
 
   static Source file(const char* name) { return {name == nullptr ? "" : name, nullptr, 0}; }
+  static Source referred(const std::string& name) { return {name.c_str(), nullptr, 0, true}; }
   static Source memory(const char* id, const unsigned char* buffer, unsigned int length) {
     static const unsigned char nothing[1] = {0};
     if (buffer == nullptr) return {id == nullptr ? "" : id, nothing, 0};
@@ -92,7 +94,9 @@ struct CAgentServices::Source {
     parser.setSchemaLocation(schemaDirectory.c_str());
     parser.setElementHandler(&handler);
     CXStr name(id);
-    if (buffer == nullptr) {
+    if (isReferred) {
+      parser.parseReferred(static_cast<const XMLCh*>(name));
+    } else if (buffer == nullptr) {
       parser.parse(static_cast<const XMLCh*>(name));
     } else {
       MemBufInputSource input(buffer, length, static_cast<const XMLCh*>(name));
@@ -164,7 +168,7 @@ as::IService* CAgentServices::parseServiceDocument(const Source& source, bool lo
     if (!service) return nullptr;
     service->setParser(std::move(parser));
     if (loadProgram) {
-      as::IProgram* const program = parseCobolDD(service->getDDFilename().c_str());
+      as::IProgram* const program = parseProgram(Source::referred(service->getDDFilename()));
       if (program != nullptr) service->setProgram(program);
     }
     return as::interface_cast<as::IService>(service.release());

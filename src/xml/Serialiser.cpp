@@ -7,7 +7,7 @@
 #include <xercesc/util/XMLString.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
-#include "xml/XMLParser.h"
+#include "xml/Limits.h"
 
 using xercesc::DOMDocument;
 using xercesc::DOMElement;
@@ -109,7 +109,7 @@ bool needsCR(DOMNode* node) {
 
 void prettyPrintTree(DOMNode* node, int depth) {
   for (; node != nullptr; node = node->getNextSibling()) {
-    if (depth >= CXMLParser::maxDepth && node->getNodeType() == DOMNode::ELEMENT_NODE) {
+    if (depth >= static_cast<int>(limits::depth) && node->getNodeType() == DOMNode::ELEMENT_NODE) {
       throw std::length_error("nested too deep to be read again");
     }
     // Children first: whether they are laid out depends on their parent's last child as it was.

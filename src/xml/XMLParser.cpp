@@ -1,100 +1,42 @@
 #include "xml/XMLParser.h"
 
-#include <sys/stat.h>
-
-#include <algorithm>
-#include <climits>
-#include <memory>
 #include <xercesc/dom/DOMElement.hpp>
-#include <xercesc/framework/LocalFileInputSource.hpp>
-#include <xercesc/framework/XMLBuffer.hpp>
+#include <xercesc/dom/DOMException.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
-#include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLString.hpp>
-#include <xercesc/util/XMLURL.hpp>
-#include <xercesc/util/XMLUri.hpp>
 #include <xercesc/validators/DTD/DTDElementDecl.hpp>
 #include <xercesc/validators/DTD/DTDEntityDecl.hpp>
 
 #include "as/CASInvalidNamespaceException.h"
+#include "xml/FileSource.h"
+#include "xml/Limits.h"
+#include "xml/Place.h"
+#include "xml/Position.h"
+#include "xml/Refusals.h"
 #include "xml/XStr.h"
 
+using xercesc::DOMException;
 using xercesc::DOMNode;
 using xercesc::DTDElementDecl;
 using xercesc::DTDEntityDecl;
 using xercesc::InputSource;
-using xercesc::LocalFileInputSource;
 using xercesc::Locator;
 using xercesc::MemBufInputSource;
 using xercesc::RefVectorOf;
 using xercesc::SAXParseException;
 using xercesc::SchemaElementDecl;
 using xercesc::XMLAttr;
-using xercesc::XMLBuffer;
 using xercesc::XMLElementDecl;
+using xercesc::XMLException;
 using xercesc::XMLPlatformUtils;
 using xercesc::XMLResourceIdentifier;
 using xercesc::XMLString;
-using xercesc::XMLUri;
-using xercesc::XMLURL;
 
 namespace {
 
 std::string narrow(const XMLCh* text) { return CXStr(text, false); }
-
-int position(XMLFileLoc at) {
-  return static_cast<int>(std::min<XMLFileLoc>(at, static_cast<XMLFileLoc>(INT_MAX)));
-}
-
-// What kind of place the parser would read from; none when it is given no name of one.
-enum class Place { none, network, regularFile, specialFile, directory };
-
-Place placeOfFile(const XMLCh* path) {
-  struct stat status = {};
-  if (::stat(narrow(path).c_str(), &status) != 0)
-    return Place::regularFile;  // Its absence is told.
-  if (S_ISDIR(status.st_mode)) return Place::directory;
-  return S_ISREG(status.st_mode) ? Place::regularFile : Place::specialFile;
-}
-
-// The path of a file URL, with its escapes (%41) resolved as the parser resolves them.
-std::basic_string<XMLCh> unescaped(const XMLCh* path) {
-  std::basic_string<XMLCh> result;
-  const auto hexDigit = [](XMLCh c) {
-    const auto lower = static_cast<XMLCh>(c | 0x20);
-    if (c >= u'0' && c <= u'9') return c - u'0';
-    return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
-  };
-  for (; path != nullptr && *path != 0; ++path) {
-    const int high = *path == u'%' ? hexDigit(path[1]) : -1;
-    const int low = high < 0 ? -1 : hexDigit(path[2]);
-    if (low < 0) {
-      result += *path;
-    } else {
-      result += static_cast<XMLCh>(high * 16 + low);
-      path += 2;
-    }
-  }
-  return result;
-}
-
-// Decides as the parser does what `systemId` names in a document named `base` (null for none,
-// both): a URL, by itself or counted from a base that is one, or else a file.
-Place placeOf(const XMLCh* base, const XMLCh* systemId) {
-  if (systemId == nullptr) return Place::none;
-  XMLURL url(XMLPlatformUtils::fgMemoryManager);
-  if (!url.setURL(base, systemId, url) || url.isRelative()) {
-    XMLBuffer path;
-    XMLUri::normalizeURI(systemId, path);
-    if (base == nullptr) return placeOfFile(path.getRawBuffer());
-    return placeOfFile(LocalFileInputSource(base, path.getRawBuffer()).getSystemId());
-  }
-  const XMLCh* const host = url.getHost();
-  const bool local = url.getProtocol() == XMLURL::File &&
-                     (host == nullptr || *host == 0 || XMLString::equals(host, u"localhost"));
-  return local ? placeOfFile(unescaped(url.getPath()).c_str()) : Place::network;
-}
 
 bool isSchemaReference(const XMLResourceIdentifier& reference) {
   switch (reference.getResourceIdentifierType()) {
@@ -124,32 +66,59 @@ const XMLCh* rootNamespaceOf(const DOMNode* node) {
   return node->getOwnerDocument()->getDocumentElement()->getNamespaceURI();
 }
 
+std::unique_ptr<InputSource> sourceOfBytes(const std::string& bytes, const XMLCh* name) {
+  return std::make_unique<MemBufInputSource>(reinterpret_cast<const XMLByte*>(bytes.data()),
+                                             bytes.size(), name);
+}
+
 // Parses as nothing: stands in for what was refused.
-InputSource* emptySource() {
-  static const XMLByte nothing[1] = {0};
-  return new MemBufInputSource(nothing, 0, u"refused");
+std::unique_ptr<InputSource> emptySource() {
+  static const std::string nothing;
+  return sourceOfBytes(nothing, u"refused");
 }
 
 }  // namespace
 
-CXMLParser::CXMLParser() { limits_.setEntityExpansionLimit(maxEntityExpansions); }
+CXMLParser::CXMLParser() : XercesDOMParser(nullptr, XMLPlatformUtils::fgMemoryManager, &grammars) {
+  limits_.setEntityExpansionLimit(limits::entityExpansions);
+  memory.whenFull([this] { refuseAtOnce(refusals::ofGrammars()); });
+}
 
 CXMLParser::~CXMLParser() = default;
 
-void CXMLParser::parse(const XMLCh* systemId) {
+void CXMLParser::parse(const XMLCh* systemId) { parseFile(systemId, LocalFile::Opening::any); }
+
+void CXMLParser::parseReferred(const XMLCh* systemId) {
+  parseFile(systemId, LocalFile::Opening::regular);
+}
+
+void CXMLParser::parseFile(const XMLCh* systemId, LocalFile::Opening opening) {
   if (systemId == nullptr) systemId = u"";
   documentName_ = narrow(systemId);
   const auto refuseDocument = [&](const std::string& reason) {
-    return as::CASParseException(0, 0, 0,
-                                 "the document '" + documentName_ + "' is refused: " + reason,
-                                 std::string(), documentName_);
+    if (reason.empty()) return;
+    throw as::CASParseException(0, 0, 0, reason, std::string(), documentName_);
   };
-  // A client may name whatever file it likes; reading a directory the parser fails without freeing
-  // what it has made.
-  const Place place = placeOf(nullptr, systemId);
-  if (place == Place::network) throw refuseDocument("documents are not read over a network");
-  if (place == Place::directory) throw refuseDocument("it is a directory");
-  run(systemId);
+  Place place;
+  try {
+    place = Place::ofDocument(systemId);
+  } catch (const XMLException&) {
+    // The current directory is gone: the parser tells.
+    run(systemId);
+    return;
+  }
+  if (place.kind == Place::Kind::network) {
+    refuseDocument(refusals::ofDocumentOnNetwork(documentName_));
+  }
+  if (place.kind != Place::Kind::file) {
+    run(*place.parsers);
+    return;
+  }
+  const auto file = std::make_shared<const LocalFile>(place.path, opening);
+  refuseDocument(opening == LocalFile::Opening::any
+                     ? refusals::ofDocument(documentName_, file->kind())
+                     : refusals::ofReferredDocument(documentName_, file->kind()));
+  run(FileSource(file, place.parsers->getSystemId()));
 }
 
 void CXMLParser::parse(MemBufInputSource* source) {
@@ -173,19 +142,24 @@ void CXMLParser::run(const Source& source) {
     throw;
   } catch (const as::CASInvalidNamespaceException&) {
     throw;
+  } catch (const DOMException& failure) {
+    // A version of XML that the DOM does not have, in the document or in a schema: the parser does
+    // not tell.
+    report(as::CASParseException(failure.code, 0, 0, narrow(failure.getMessage()), std::string(),
+                                 documentName_));
   } catch (...) {  // NOLINT(bugprone-empty-catch)
     // The caller finds what the handler had built until then.
   }
   if (firstMessage_) throw as::CASParseException(*firstMessage_);
+  // The model keeps the parser.
+  brought_.clear();
 }
 
 void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int uriId,
                               const XMLCh* prefix, const RefVectorOf<XMLAttr>& attributes,
                               XMLSize_t attributeCount, bool isEmpty, bool isRoot) {
-  if (attributeCount > maxAttributes) {
-    // At once: the time that the DOM takes to hold them grows with their square.
-    throw messageHere("an element has more than " + std::to_string(maxAttributes) + " attributes");
-  }
+  // In front of the DOM, which would hold them.
+  refuseAtOnce(refusals::ofAttributes(attributeCount));
   // For an empty element the base class would end it from here, in front of the handler's start.
   XercesDOMParser::startElement(declaration, uriId, prefix, attributes, attributeCount, false,
                                 isRoot);
@@ -198,17 +172,13 @@ void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int ur
   // A DTD in the document, or a wildcard in a schema, may let elements in that no schema has
   // looked at: the handlers rely on the schema.
   if (declaration.getObjectType() != XMLElementDecl::Schema || !declaration.isDeclared()) {
-    refuse("no schema declares the element '" + narrow(element->getNodeName()) + "'");
+    refuse(refusals::ofUndeclared(narrow(element->getNodeName())));
   }
   if (handler_ != nullptr &&
       !belongs(element, static_cast<const SchemaElementDecl&>(declaration))) {
-    refuse("the element '" + narrow(element->getNodeName()) +
-           "' has no place in a document of the namespace '" + narrow(rootNamespaceOf(element)) +
-           "'");
+    refuse(refusals::ofForeign(narrow(element->getNodeName()), narrow(rootNamespaceOf(element))));
   }
-  if (++depth_ > maxDepth) {
-    refuse("elements are nested deeper than " + std::to_string(maxDepth) + " levels");
-  }
+  refuse(refusals::ofDepth(++depth_));
   if (handler_ != nullptr) handler_->startElement(element);
   if (isEmpty) endElement(declaration, uriId, isRoot, prefix);
 }
@@ -236,22 +206,12 @@ void CXMLParser::endDocument() {
 }
 
 void CXMLParser::entityDecl(const DTDEntityDecl& entity, bool isParameterEntity, bool isIgnored) {
-  const std::string name = narrow(entity.getName());
-  // What a DTD is made of is expanded without the limits that hold for content.
-  if (isParameterEntity)
-    throw messageHere("the parameter entity '" + name +
-                      "' is refused: documents must be complete in themselves");
-  if (entity.getValueLen() > maxEntityLength) {
-    throw messageHere("the entity '" + name + "' is longer than " +
-                      std::to_string(maxEntityLength) + " characters");
-  }
+  refuseAtOnce(refusals::ofEntity(entity, isParameterEntity));
   XercesDOMParser::entityDecl(entity, isParameterEntity, isIgnored);
 }
 
 void CXMLParser::startAttList(const DTDElementDecl& element) {
-  // Defaults would be expanded without limits, and come into the model unseen by the schema.
-  throw messageHere("the attribute declarations for '" + narrow(element.getFullName()) +
-                    "' are refused: attributes are declared by the schema");
+  refuseAtOnce(refusals::ofAttributeDeclarations(element));
 }
 
 void CXMLParser::error(unsigned int code, const XMLCh* /*domain*/,
@@ -263,40 +223,83 @@ void CXMLParser::error(unsigned int code, const XMLCh* /*domain*/,
 }
 
 InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
-  const XMLCh* const systemId = reference->getSystemId();
-  const std::string name = narrow(systemId);
   if (!isSchemaReference(*reference)) {
-    // At once, be the root seen or not: what the parser makes of an external DTD it never frees.
-    throw messageHere("the external entity '" + name +
-                      "' is refused: documents must be complete in themselves");
+    // What the parser makes of an external DTD it never frees.
+    refuseAtOnce(refusals::ofExternalEntity(narrow(reference->getSystemId())));
   }
-  if (InputSource* const ours = resolver_.resolveEntity(reference->getPublicId(), systemId)) {
-    return checked(ours);
-  }
-  switch (placeOf(reference->getBaseURI(), systemId)) {
-    case Place::network:
-      refuse("the schema '" + name + "' is refused: schemas are not read over a network" +
-             (resolver_.hasSchemaLocation() ? "" : ", and no schema directory has been set"));
-      return emptySource();
-    case Place::directory:
-    case Place::specialFile:
-      refuse("the schema '" + name + "' is refused: it is no regular file");
-      return emptySource();
-    case Place::none:  // A schema may import a namespace without saying where its schema is.
-    case Place::regularFile:
-      break;
-  }
-  // Where the client has named the schemas of our namespaces, documents bring none of their own.
-  return checked(resolver_.resolveNamespace(namespaceNeeded(*reference)));
+  return sourceOf(*reference).release();
 }
 
-InputSource* CXMLParser::checked(InputSource* schema) {
-  std::unique_ptr<InputSource> owned(schema);
-  if (schema == nullptr || placeOfFile(schema->getSystemId()) != Place::directory) {
-    return owned.release();
+std::unique_ptr<InputSource> CXMLParser::sourceOf(const XMLResourceIdentifier& reference) {
+  const auto ofDirectory = [&](InputSource* named) {
+    const std::unique_ptr<InputSource> owned(named);
+    return clients(narrow(named->getSystemId()), named->getSystemId());
+  };
+  const XMLCh* const systemId = reference.getSystemId();
+  if (InputSource* const ours = resolver_.resolveEntity(reference.getPublicId(), systemId)) {
+    return ofDirectory(ours);
   }
-  refuse("the schema '" + narrow(schema->getSystemId()) + "' is refused: it is a directory");
-  return emptySource();
+  const std::string name = narrow(systemId);
+  Place place = Place::ofReference(reference.getBaseURI(), systemId);
+  std::string reason;
+  if (place.kind == Place::Kind::network) {
+    reason = refusals::ofSchemaOnNetwork(name, resolver_.hasSchemaLocation());
+  } else if (place.kind == Place::Kind::file) {
+    reason = refusals::ofSchema(name, LocalFile::kindAt(place.path));
+  }
+  if (!reason.empty()) {
+    refuse(reason);
+    return emptySource();
+  }
+  // Where the client has named the schemas of our namespaces, documents bring none of their own.
+  if (InputSource* const ours = resolver_.resolveNamespace(namespaceNeeded(reference))) {
+    return ofDirectory(ours);
+  }
+  if (place.kind != Place::Kind::file) return std::move(place.parsers);
+  const bool isFromClients =
+      reference.getResourceIdentifierType() != XMLResourceIdentifier::SchemaGrammar &&
+      reference.getBaseURI() != nullptr && clients_.count(reference.getBaseURI()) != 0;
+  const XMLCh* const called = place.parsers->getSystemId();
+  return isFromClients ? clients(place.path, called) : brought(place.path, called);
+}
+
+std::unique_ptr<InputSource> CXMLParser::clients(const std::string& path, const XMLCh* name) {
+  auto file = std::make_shared<const LocalFile>(path, LocalFile::Opening::regular);
+  const std::string reason = refusals::ofClientsSchema(narrow(name), file->kind());
+  if (!reason.empty()) {
+    refuse(reason);
+    return emptySource();
+  }
+  clients_.insert(name);
+  return std::make_unique<FileSource>(std::move(file), name);
+}
+
+std::unique_ptr<InputSource> CXMLParser::brought(const std::string& path, const XMLCh* name) {
+  const auto [entry, isNew] = brought_.try_emplace(name);
+  std::string& schema = entry->second;
+  if (!isNew) return sourceOfBytes(schema, name);
+  const auto file = std::make_shared<const LocalFile>(path, LocalFile::Opening::regular);
+  if (file->kind() == LocalFile::Kind::missing) {
+    brought_.erase(entry);
+    return std::make_unique<FileSource>(file, name);
+  }
+  std::string reason = refusals::ofSchema(narrow(name), file->kind());
+  if (reason.empty()) {
+    // One byte more than there may be tells that there are too many.
+    schema.resize(limits::schemaBytes - broughtBytes_ + 1);
+    schema.resize(file->read(schema.data(), schema.size(), 0));
+    schema.shrink_to_fit();
+    broughtBytes_ += schema.size();
+    reason = refusals::ofSchemas("bytes", broughtBytes_, limits::schemaBytes);
+  }
+  if (!reason.empty()) {
+    schema.clear();
+    refuse(reason);
+  } else if (const auto refusal = inspection_.refusalOf(schema, name)) {
+    schema.clear();
+    report(*refusal);
+  }
+  return sourceOfBytes(schema, name);
 }
 
 void CXMLParser::warning(const SAXParseException& /*exception*/) {}
@@ -308,15 +311,25 @@ void CXMLParser::fatalError(const SAXParseException& /*exception*/) {}
 void CXMLParser::resetErrors() {}
 
 void CXMLParser::report(const as::CASParseException& message) {
-  if (rootSeen_) throw as::CASParseException(message);
+  if (rootSeen_) stop(message);
   if (!firstMessage_) firstMessage_ = message;
+}
+
+void CXMLParser::stop(const as::CASParseException& message) {
+  throw as::CASParseException(firstMessage_ ? *firstMessage_ : message);
 }
 
 std::string CXMLParser::nameOf(const XMLCh* systemId) const {
   return systemId == nullptr || *systemId == 0 ? documentName_ : narrow(systemId);
 }
 
-void CXMLParser::refuse(const std::string& text) { report(messageHere(text)); }
+void CXMLParser::refuse(const std::string& reason) {
+  if (!reason.empty()) report(messageHere(reason));
+}
+
+void CXMLParser::refuseAtOnce(const std::string& reason) {
+  if (!reason.empty()) stop(messageHere(reason));
+}
 
 as::CASParseException CXMLParser::messageHere(const std::string& text) const {
   const Locator* const at = getScanner()->getLocator();

@@ -2,7 +2,10 @@
 #ifndef XML_XMLPARSER_H_
 #define XML_XMLPARSER_H_
 
+#include <map>
+#include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
@@ -13,27 +16,21 @@
 
 #include "as/CASParseException.h"
 #include "xml/ElementHandler.h"
+#include "xml/GrammarMemory.h"
+#include "xml/LocalFile.h"
+#include "xml/SchemaInspection.h"
 #include "xml/VorEntityResolver.h"
 
 // One parser serves one parse. It holds the DOM document afterwards, and is therefore kept by the
 // model that was built from it.
 //
-// Documents may come from anywhere, so nothing that one names is fetched over a network; external
-// entities, external DTDs, parameter entities and attribute declarations of a DTD are refused;
-// expansion of internal entities and nesting are bounded. Every refusal is an
-// as::CASParseException.
-class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler {
+// Documents may come from anywhere. Refusals.h tells what is refused of them and of the schemas
+// that they bring, Limits.def what bounds them. Every refusal is an as::CASParseException. Whatever
+// is read is opened here, once, and judged as it is read: the parser opens nothing.
+class CXMLParser : public xercesc::XercesDOMParser,
+                   public xercesc::ErrorHandler,
+                   private virtual GrammarStore {
  public:
-  // How deep elements may nest. Models are walked recursively; this keeps every walk within the
-  // smallest usual thread stack.
-  static constexpr int maxDepth = 2048;
-  // How many attributes, namespace declarations included, an element may have.
-  static constexpr XMLSize_t maxAttributes = 1000;
-  // How many internal entities a document may expand, and how long each may be: together they
-  // bound what a small document can blow up to.
-  static constexpr int maxEntityExpansions = 1000;
-  static constexpr XMLSize_t maxEntityLength = 65536;
-
   CXMLParser();
   ~CXMLParser() override;
 
@@ -51,6 +48,8 @@ class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler
   // the root's namespace: a root in a foreign namespace is also one that no schema declares.
   void parse(const XMLCh* systemId);
   void parse(xercesc::MemBufInputSource* source);
+  // The same for a document that another document names: it must be a regular file.
+  void parseReferred(const XMLCh* systemId);
 
   // From the parser's document side: let the DOM parser do its work, then drive the handler.
   void startElement(const xercesc::XMLElementDecl& declaration, unsigned int uriId,
@@ -78,31 +77,51 @@ class CXMLParser : public xercesc::XercesDOMParser, public xercesc::ErrorHandler
   void resetErrors() override;
 
  private:
+  void parseFile(const XMLCh* systemId, LocalFile::Opening opening);
   template <class Source>
   void run(const Source& source);
-  // `schema`, a source of the resolver's or null, unless it is a directory, which is refused. Takes
-  // and gives ownership.
-  xercesc::InputSource* checked(xercesc::InputSource* schema);
+
+  // The source of a schema: what `reference` leads to, or stands for.
+  std::unique_ptr<xercesc::InputSource> sourceOf(const xercesc::XMLResourceIdentifier& reference);
+  // That of a schema of the schema directory, or of one that such a schema refers to: the client's.
+  std::unique_ptr<xercesc::InputSource> clients(const std::string& path, const XMLCh* name);
+  // That of a schema which the document brings.
+  std::unique_ptr<xercesc::InputSource> brought(const std::string& path, const XMLCh* name);
+
   // Whether the handler may be given `element`, which that declaration of a schema let in.
   bool belongs(const xercesc::DOMNode* element,
                const xercesc::SchemaElementDecl& declaration) const;
-  // Ends the parse with `message`, or keeps it for the root's sake; see parse().
+
+  // The one way out: the first message ends the parse, at once or, while the root has not been seen
+  // yet, when it is; see parse().
   void report(const as::CASParseException& message);
-  // Ends the parse with a message of this library's own, at the place reached in the document.
-  void refuse(const std::string& text);
+  // For a message that cannot wait: the parse ends at once, with the first message all the same.
+  [[noreturn]] void stop(const as::CASParseException& message);
+  // The same with a message of this library's own, at the place reached in the document, unless
+  // there is no reason for one.
+  void refuse(const std::string& reason);
+  void refuseAtOnce(const std::string& reason);
   // `systemId`, or the document's name for a message that is about no entity (one that cannot be
   // opened, say): a message always tells which document it is about.
   std::string nameOf(const XMLCh* systemId) const;
   // Such a message.
   as::CASParseException messageHere(const std::string& text) const;
 
+  using Name = std::basic_string<XMLCh>;
+
   CElementHandler* handler_ = nullptr;
   VorEntityResolver resolver_;
   xercesc::SecurityManager limits_;
   std::string documentName_;
   bool rootSeen_ = false;
-  int depth_ = 0;
+  XMLSize_t depth_ = 0;
   std::optional<as::CASParseException> firstMessage_;
+  // The schemas that are the client's own.
+  std::set<Name> clients_;
+  // Those that the document brings, as they were read; only while it is parsed.
+  std::map<Name, std::string> brought_;
+  XMLSize_t broughtBytes_ = 0;
+  SchemaInspection inspection_;
 };
 
 #endif  // XML_XMLPARSER_H_

@@ -10,6 +10,7 @@
 #include "as/CASInvalidNamespaceException.h"
 #include "support/Dom.h"
 #include "support/TempDirectory.h"
+#include "xml/Limits.h"
 #include "xml/Vocabulary.h"
 #include "xml/XMLParser.h"
 
@@ -293,20 +294,20 @@ TEST_F(XMLParser, RootOfADtdIsCheckedByTheHandlerFirst) {
                as::CASInvalidNamespaceException);
 }
 
-std::string nested(int depth) {
+std::string nested(XMLSize_t depth) {
   std::string text;
-  for (int i = 0; i < depth; i++) text += "<a>";
-  for (int i = 0; i < depth; i++) text += "</a>";
+  for (XMLSize_t i = 0; i < depth; i++) text += "<a>";
+  for (XMLSize_t i = 0; i < depth; i++) text += "</a>";
   return text;
 }
 
 TEST_F(XMLParser, ReadsElementsNestedToTheLimit) {
-  parse(document(nested(CXMLParser::maxDepth - 1)), &recorder_);
+  parse(document(nested(limits::depth - 1)), &recorder_);
   EXPECT_EQ(recorder_.calls.back(), "endParse");
 }
 
 TEST_F(XMLParser, RefusesElementsNestedDeeper) {
-  const as::CASParseException message = failure(document(nested(CXMLParser::maxDepth)), &recorder_);
+  const as::CASParseException message = failure(document(nested(limits::depth)), &recorder_);
   EXPECT_EQ(message.getErrorText(), "elements are nested deeper than 2048 levels");
   EXPECT_EQ(message.getErrorCode(), 0);
   EXPECT_EQ(message.getLineNum(), 1);
@@ -324,10 +325,10 @@ TEST_F(XMLParser, NumberOfAttributesIsLimited) {
     return text;
   };
   const as::CASParseException message =
-      failure(document("", declarations(CXMLParser::maxAttributes + 1)), &recorder_);
+      failure(document("", declarations(limits::attributes + 1)), &recorder_);
   EXPECT_EQ(message.getErrorText(), "an element has more than 1000 attributes");
   CXMLParser good;
-  const std::string text = document("", declarations(CXMLParser::maxAttributes));
+  const std::string text = document("", declarations(limits::attributes));
   good.setSchemaLocation((directory_.path() + "/").c_str());
   xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(text.data()), text.size(),
                                     u"doc");
@@ -349,7 +350,7 @@ TEST_F(XMLParser, TextOfInternalEntitiesStandsInTheirPlace) {
 
 TEST_F(XMLParser, EntityExpansionIsLimited) {
   std::string references;
-  for (int i = 0; i < CXMLParser::maxEntityExpansions; i++) references += "&e;";
+  for (XMLSize_t i = 0; i < limits::entityExpansions; i++) references += "&e;";
   const std::string doctype = "<!DOCTYPE r [<!ENTITY e 'x'>]>";
   parse(doctype + document(references), &recorder_);
   EXPECT_EQ(recorder_.calls.back(), "endParse");
@@ -363,8 +364,8 @@ TEST_F(XMLParser, EntityExpansionIsLimited) {
 
 TEST_F(XMLParser, LengthOfEntitiesIsLimited) {
   const as::CASParseException message =
-      failure("<!DOCTYPE r [<!ENTITY e '" + std::string(CXMLParser::maxEntityLength + 1, 'x') +
-                  "'>]>" + document("&e;"),
+      failure("<!DOCTYPE r [<!ENTITY e '" + std::string(limits::entityLength + 1, 'x') + "'>]>" +
+                  document("&e;"),
               &recorder_);
   EXPECT_EQ(message.getErrorText(), "the entity 'e' is longer than 65536 characters");
 }

@@ -1,0 +1,256 @@
+#include "xml/SchemaInspection.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+#include <vector>
+#include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/framework/XMLAttr.hpp>
+#include <xercesc/framework/XMLElementDecl.hpp>
+#include <xercesc/framework/XMLErrorCodes.hpp>
+#include <xercesc/internal/XMLScanner.hpp>
+#include <xercesc/parsers/SAXParser.hpp>
+#include <xercesc/sax/HandlerBase.hpp>
+#include <xercesc/util/SecurityManager.hpp>
+#include <xercesc/util/XMLChar.hpp>
+#include <xercesc/util/XMLResourceIdentifier.hpp>
+#include <xercesc/util/XMLString.hpp>
+#include <xercesc/validators/schema/SchemaSymbols.hpp>
+
+#include "xml/Limits.h"
+#include "xml/PatternInspection.h"
+#include "xml/Position.h"
+#include "xml/Refusals.h"
+#include "xml/XStr.h"
+
+using xercesc::DTDElementDecl;
+using xercesc::DTDEntityDecl;
+using xercesc::InputSource;
+using xercesc::MemBufInputSource;
+using xercesc::RefVectorOf;
+using xercesc::SchemaSymbols;
+using xercesc::XMLAttr;
+using xercesc::XMLChar1_0;
+using xercesc::XMLElementDecl;
+using xercesc::XMLErrs;
+using xercesc::XMLString;
+
+namespace {
+
+std::string narrow(const XMLCh* text) { return CXStr(text, false); }
+
+using Name = std::basic_string<XMLCh>;
+using Counts = SchemaInspection::Counts;
+
+// Numbers that are too large for every limit, be it by how much.
+constexpr XMLSize_t tooMany = 1000000;
+
+XMLSize_t product(XMLSize_t a, XMLSize_t b) {
+  return a >= tooMany || b >= tooMany ? tooMany : std::min(a * b, tooMany);
+}
+
+// The whole number in `text`; 0 when it is none.
+XMLSize_t numberIn(const XMLCh* text) {
+  XMLSize_t value = 0;
+  while (XMLChar1_0::isWhitespace(*text)) ++text;
+  if (*text == u'+') ++text;
+  for (; *text >= u'0' && *text <= u'9'; ++text) {
+    value = std::min(value * 10 + static_cast<XMLSize_t>(*text - u'0'), tooMany);
+  }
+  return value;
+}
+
+// Adds up the elements of groups wherever they are referred to.
+class Sum {
+ public:
+  explicit Sum(const Counts& counts) : counts_(counts) {}
+
+  XMLSize_t all() {
+    XMLSize_t sum = 0;
+    for (const auto& [name, elements] : counts_.elements) sum += of(name);
+    return sum;
+  }
+
+ private:
+  XMLSize_t of(const Name& group) {
+    const auto found = counts_.elements.find(group);
+    if (found == counts_.elements.end()) return 0;
+    // A group that holds itself, for which this is 0, the parser refuses.
+    const auto [entry, isNew] = sums_.try_emplace(group, 0);
+    if (!isNew) return entry->second;
+    XMLSize_t sum = found->second.own;
+    for (const auto& [name, times] : found->second.groups) {
+      sum = std::min(sum + product(of(name), times), tooMany);
+    }
+    return sums_[group] = sum;
+  }
+
+  const Counts& counts_;
+  std::map<Name, XMLSize_t> sums_;
+};
+
+XMLSize_t wordsIn(const XMLCh* text) {
+  XMLSize_t words = 0;
+  for (bool inWord = false; *text != 0; ++text) {
+    const bool isBlank = XMLChar1_0::isWhitespace(*text);
+    if (!isBlank && !inWord) ++words;
+    inWord = !isBlank;
+  }
+  return words;
+}
+
+XMLSize_t alternativesIn(const XMLCh* path) {
+  XMLSize_t alternatives = 1;
+  for (; *path != 0; ++path) alternatives += *path == u'|' ? 1 : 0;
+  return alternatives;
+}
+
+class SchemaParser final : public xercesc::SAXParser {
+ public:
+  explicit SchemaParser(Counts& counts) : counts_(counts) {
+    limits_.setEntityExpansionLimit(limits::entityExpansions);
+    setSecurityManager(&limits_);
+    setValidationScheme(Val_Never);
+    setDoNamespaces(true);
+    // Without these it would call nobody.
+    setDocumentHandler(&nobody_);
+    setDTDHandler(&nobody_);
+    setEntityResolver(&nobody_);
+    setErrorHandler(&nobody_);
+  }
+
+  // From the parser's document side.
+  void startElement(const XMLElementDecl& declaration, unsigned int uriId, const XMLCh* /*prefix*/,
+                    const RefVectorOf<XMLAttr>& attributes, XMLSize_t attributeCount, bool isEmpty,
+                    bool /*isRoot*/) override {
+    check("levels of elements", open_.size() + 1, limits::schemaDepth);
+    refuse(refusals::ofAttributes(attributeCount));
+    const bool isSchemas =
+        XMLString::equals(getScanner().getURIText(uriId), SchemaSymbols::fgURI_SCHEMAFORSCHEMA);
+    const XMLCh* const name = declaration.getBaseName();
+    const auto is = [&](const XMLCh* other) { return isSchemas && XMLString::equals(name, other); };
+    Open here = open_.empty() ? Open() : open_.back();
+    if (here.isUnion) countUnionMembers(1);
+    here.isUnion = is(SchemaSymbols::fgELT_UNION);
+    const bool isPattern = is(SchemaSymbols::fgELT_PATTERN);
+    const bool isGroup = is(SchemaSymbols::fgELT_GROUP);
+    XMLSize_t times = 1;
+    const XMLCh* group = nullptr;
+    const XMLCh* referred = nullptr;
+    for (XMLSize_t i = 0; i < attributeCount; ++i) {
+      const XMLCh* const value = attributes.elementAt(i)->getValue();
+      countCharacters(XMLString::stringLen(value));
+      const XMLCh* const attribute = attributes.elementAt(i)->getName();
+      const auto isNamed = [&](const XMLCh* other) { return XMLString::equals(attribute, other); };
+      if (isNamed(SchemaSymbols::fgATT_MINOCCURS) || isNamed(SchemaSymbols::fgATT_MAXOCCURS)) {
+        times = std::max(times, numberIn(value));
+      } else if (isGroup && isNamed(SchemaSymbols::fgATT_NAME)) {
+        group = value;
+      } else if (isGroup && isNamed(SchemaSymbols::fgATT_REF)) {
+        referred = value + XMLString::indexOf(value, u':') + 1;
+      } else if (isPattern && isNamed(SchemaSymbols::fgATT_VALUE)) {
+        check("characters in a pattern", XMLString::stringLen(value), limits::schemaPattern);
+        if (!leavesNoChoice(value)) refuse(refusals::ofPattern(narrow(value)));
+      } else if (here.isUnion && isNamed(SchemaSymbols::fgATT_MEMBERTYPES)) {
+        countUnionMembers(wordsIn(value));
+      } else if (isNamed(SchemaSymbols::fgATT_XPATH)) {
+        check("paths of keys, references to keys and unique values",
+              counts_.constraints += alternativesIn(value), limits::schemaConstraints);
+      }
+    }
+    // A type has a content model of its own, and a group one that others refer to.
+    if (is(SchemaSymbols::fgELT_COMPLEXTYPE)) here.times = 1;
+    if (group != nullptr) {
+      here.times = 1;
+      here.group = group;
+    }
+    here.times = product(here.times, times);
+    SchemaInspection::Elements& elements = counts_.elements[here.group];
+    elements.own += here.times;
+    checkElements(++counts_.elementsRead);
+    checkElements(elements.own);
+    if (referred != nullptr) elements.groups.emplace_back(referred, here.times);
+    if (!isEmpty) open_.push_back(std::move(here));
+  }
+  void endElement(const XMLElementDecl& /*declaration*/, unsigned int /*uriId*/, bool /*isRoot*/,
+                  const XMLCh* /*prefix*/) override {
+    open_.pop_back();
+    if (open_.empty()) checkElements(Sum(counts_).all());
+  }
+  void docCharacters(const XMLCh* /*text*/, XMLSize_t length, bool /*isCData*/) override {
+    countCharacters(length);
+  }
+  void ignorableWhitespace(const XMLCh* /*text*/, XMLSize_t length, bool /*isCData*/) override {
+    countCharacters(length);
+  }
+  void entityDecl(const DTDEntityDecl& entity, bool isParameterEntity,
+                  bool /*isIgnored*/) override {
+    refuse(refusals::ofEntity(entity, isParameterEntity));
+  }
+  void startAttList(const DTDElementDecl& element) override {
+    refuse(refusals::ofAttributeDeclarations(element));
+  }
+
+  // From the parser's entity handler.
+  InputSource* resolveEntity(xercesc::XMLResourceIdentifier* reference) override {
+    refuse(refusals::ofExternalEntity(narrow(reference->getSystemId())));
+    return nullptr;
+  }
+
+  // From the parser's error reporter. It tells again, except that there were too many expansions.
+  void error(unsigned int code, const XMLCh* /*domain*/, ErrTypes /*type*/, const XMLCh* text,
+             const XMLCh* systemId, const XMLCh* publicId, XMLFileLoc line,
+             XMLFileLoc column) override {
+    if (code != XMLErrs::EntityExpansionLimitExceeded) return;
+    throw as::CASParseException(static_cast<int>(code), position(line), position(column),
+                                narrow(text), narrow(publicId), narrow(systemId));
+  }
+
+ private:
+  // An element that is open.
+  struct Open {
+    bool isUnion = false;
+    XMLSize_t times = 1;  // That it is laid out.
+    Name group;           // That it stands in.
+  };
+
+  void checkElements(XMLSize_t number) const {
+    check("elements, as many times as they are laid out", number, limits::schemaElements);
+  }
+  void countCharacters(XMLSize_t number) {
+    check("characters", counts_.characters += number, limits::schemaBytes);
+  }
+  void countUnionMembers(XMLSize_t number) {
+    check("members of unions", counts_.unionMembers += number, limits::schemaUnionMembers);
+  }
+  void check(const char* what, XMLSize_t number, XMLSize_t limit) const {
+    refuse(refusals::ofSchemas(what, number, limit));
+  }
+  void refuse(const std::string& reason) const {
+    if (reason.empty()) return;
+    const xercesc::Locator* const at = getScanner().getLocator();
+    throw as::CASParseException(0, position(at->getLineNumber()), position(at->getColumnNumber()),
+                                reason, narrow(at->getPublicId()), narrow(at->getSystemId()));
+  }
+
+  Counts& counts_;
+  xercesc::SecurityManager limits_;
+  xercesc::HandlerBase nobody_;
+  std::vector<Open> open_;
+};
+
+}  // namespace
+
+std::optional<as::CASParseException> SchemaInspection::refusalOf(const std::string& schema,
+                                                                 const XMLCh* name) {
+  const MemBufInputSource source(reinterpret_cast<const XMLByte*>(schema.data()), schema.size(),
+                                 name);
+  try {
+    SchemaParser(counts_).parse(source);
+  } catch (const as::CASParseException& refusal) {
+    return as::CASParseException(refusal);
+  } catch (...) {  // NOLINT(bugprone-empty-catch)
+    // The parser will tell.
+  }
+  return std::nullopt;
+}
