@@ -23,7 +23,8 @@ class IService;
 //
 // A request returns the root of a new model, which the caller owns and deletes; it outlives this
 // object. The result is null when the document is valid but its root makes no model, which the
-// shipped schemas never let happen. What comes of a request that runs out of memory is not defined.
+// shipped schemas never let happen. A request that runs out of memory makes no model: it throws
+// as::CASException or gives null, and nothing that is this library's is leaked.
 //
 // Refused, with as::CASParseException, whoever made the document:
 //  - elements nested deeper than 2,048 levels;
@@ -33,11 +34,23 @@ class IService;
 //  - an external DTD, a reference to an external entity, any parameter entity, and declarations of
 //    attributes in a DTD;
 //  - a document, schema or entity on a network: nothing is ever fetched over one;
-//  - a directory in place of a document, and whatever is no regular file in place of a schema that
-//    the document names. (The client may name a device or pipe as the document.)
-// These, and what is said here of the content of documents, hold as long as a schema directory is
-// set. Without one, a document brings schemas of its own, which may let anything through: read only
-// documents that you trust then.
+//  - a directory in place of a document, and whatever is no regular file in place of a schema or of
+//    a dictionary that a service names. (The client may name a device or pipe as the document.) A
+//    file is read no further than it reached when it was opened;
+//  - an element that no schema declares, or that the model has no object for.
+// The content of documents is what the schemas of the schema directory let through. Without a
+// schema directory a document brings schemas of its own, and they decide: of such a document only
+// what stands above is promised.
+//
+// Schemas that a document brings for other namespaces, or without a schema directory, are refused,
+// too, when they hold in a DTD what is refused in a document's, or, all together, more than
+//  - 1,048,576 bytes, or characters with entities in their places;
+//  - 2,000 elements, as many times as minOccurs, maxOccurs and references to groups have them laid
+//    out, or 100 levels of them;
+//  - 256 characters in a pattern, or a pattern that leaves a choice how to go on;
+//  - 16 members of unions, or 16 paths of keys, references to keys and unique values.
+// What comes of all schemas may take 67,108,864 bytes. SECURITY.md gives the reasons, and tells
+// what is not promised.
 //
 // A relative file name counts from the current directory; a URL of a local file (file:///...) is
 // taken too. A null file name or buffer identifier counts as an empty one, a null buffer as a

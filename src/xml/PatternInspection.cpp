@@ -78,6 +78,7 @@ class Inspection {
       default:
         return part;
     }
+    if (!isGood_) return part;
     ++at_;
     const bool isTwofold = *at_ == u'*' || *at_ == u'+' || *at_ == u'?' || *at_ == u'{';
     if (isTwofold || part.mayBeEmpty) isGood_ = false;
@@ -179,6 +180,7 @@ class Inspection {
     isExact_ = true;
     const bool isNegated = *at_ == u'^';
     if (isNegated) ++at_;
+    if (*at_ == u']') isGood_ = false;
     while (*at_ != u']') {
       if (*at_ == 0 || *at_ == u'[') {
         isGood_ = false;

@@ -6,7 +6,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <filesystem>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -51,20 +50,6 @@ std::string dictionaryWithPlace(const std::string& place, const std::string& con
          "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" +
          dictionaryURI + " " + place + "'>" + content + "</program>";
 }
-
-// Makes `path` the current directory for the object's lifetime.
-class CurrentDirectory {
- public:
-  explicit CurrentDirectory(const std::string& path) : before_(std::filesystem::current_path()) {
-    std::filesystem::current_path(path);
-  }
-  ~CurrentDirectory() { std::filesystem::current_path(before_); }
-  CurrentDirectory(const CurrentDirectory&) = delete;
-  CurrentDirectory& operator=(const CurrentDirectory&) = delete;
-
- private:
-  const std::filesystem::path before_;
-};
 
 // Limits of documents: what is just let through and just refused.
 
@@ -134,15 +119,12 @@ TEST(SchemaDirectory, IsWhereTheSchemaIsReadWhateverFileTheDocumentNames) {
 }
 
 TEST(SchemaDirectory, CountsFromTheCurrentDirectoryOfEachRequest) {
-  const TempDirectory directory;
-  std::filesystem::create_directory(directory.path() + "/schemas");
-  std::filesystem::copy(std::string(AS_SCHEMA_DIR) + "/vorcobol.xsd",
-                        directory.path() + "/schemas/vorcobol.xsd");
   const auto services = servicesWithoutSchemas();
   services->setSchemaLocation("schemas");
   EXPECT_EQ(outcomeOf(*services, dictionary("")).result, Result::parseException);
   {
-    const CurrentDirectory current(directory.path());
+    const test::CurrentDirectory current;
+    current.write("schemas/vorcobol.xsd", test::contentOf(AS_SCHEMA_DIR "/vorcobol.xsd"));
     EXPECT_EQ(outcomeOf(*services, dictionary("")).result, Result::root);
   }
   EXPECT_EQ(outcomeOf(*services, dictionary("")).result, Result::parseException);
@@ -200,13 +182,12 @@ TEST(DocumentFile, MayBeAPipe) {
 
 // The dictionary is named by a URL; what is left of it is no file name.
 TEST(LoadProgram, DropsTheDirectoryOfAnEscapedNameAndKeepsTheEscapes) {
-  const TempDirectory directory;
+  const test::CurrentDirectory directory;
   directory.write("My Dict.xml", payProgram());
   const std::string url = "file://" + directory.path() + "/My%20Dict.xml";
   const auto service = parseService(javaService("dataDictFilename='" + url + "'", ""), true);
   EXPECT_EQ(service->getDDFilename(), "My%20Dict.xml");
 
-  const CurrentDirectory current(directory.path());
   const std::string again = written(*service);
   EXPECT_EQ(serviceOutcomeOf(again, true).result, Result::parseException);
   service->setDDFilename("My Dict.xml");
