@@ -108,10 +108,7 @@ CXStr::CXStr(int number) {
 
 CXStr::CXStr(const XMLCh* text, bool /*flag*/) { copyXMLCh(text); }
 
-CXStr::CXStr(const CXStr& other) {
-  other.renderWide();
-  copyXMLCh(other.wide_.get());
-}
+CXStr::CXStr(const CXStr& other) { copyXMLCh(other.rendered().get()); }
 
 CXStr& CXStr::operator=(const char* text) {
   if (text == nullptr) {
@@ -130,13 +127,12 @@ CXStr& CXStr::operator=(const XMLCh* text) {
 CXStr& CXStr::operator=(const CXStr& other) {
   if (this == &other) return *this;
   text_.reset();
-  other.renderWide();
-  copyXMLCh(other.wide_.get());
+  copyXMLCh(other.rendered().get());
   return *this;
 }
 
 CXStr::operator const XMLCh*() {
-  renderWide();
+  wide_ = rendered();
   return wide_.get();
 }
 
@@ -172,10 +168,9 @@ void CXStr::copyXMLCh(const XMLCh* text) {
   copyChars(scratch.get(), bytes);
 }
 
-void CXStr::renderWide() const {
-  wide_.reset();
-  if (!text_) return;
+std::unique_ptr<XMLCh[]> CXStr::rendered() const {
+  if (!text_) return nullptr;
   const std::string_view text(text_.get(), std::strlen(text_.get()) + 1);
-  wide_ = transcode(text);
-  if (!wide_) wide_ = transcode(replaceMalformed(text));
+  std::unique_ptr<XMLCh[]> wide = transcode(text);
+  return wide ? std::move(wide) : transcode(replaceMalformed(text));
 }

@@ -9,7 +9,7 @@
 
 // Holds a text in UTF-8, which may be null (not the same as empty for the conversions to a
 // pointer), and renders it as XMLCh, number or truth on request. A pointer that a conversion hands
-// out is good until the object is changed, copied, converted to XMLCh again or destroyed.
+// out is good until the object is changed, converted to XMLCh again or destroyed.
 //
 // Conversion never throws on bad text: what is no UTF-8 becomes U+FFFD, and what XMLCh text has no
 // UTF-8 for becomes whatever the XML parser's transcoder puts in its place.
@@ -48,10 +48,11 @@ class CXStr {
  private:
   void copyChars(const char* text, std::size_t length);
   void copyXMLCh(const XMLCh* text);
-  void renderWide() const;
+  // A rendering of the text as XMLCh; null for a null text.
+  std::unique_ptr<XMLCh[]> rendered() const;
 
   std::unique_ptr<char[]> text_;
-  mutable std::unique_ptr<XMLCh[]> wide_;
+  std::unique_ptr<XMLCh[]> wide_;  // The latest that was handed out.
 };
 
 #endif  // XML_XSTR_H_

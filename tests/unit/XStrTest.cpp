@@ -4,6 +4,7 @@
 #include <climits>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 #include "xml/XStr.h"
 
@@ -167,6 +168,28 @@ TEST(XStr, ReplacesWhatIsNoUtf8) {
   for (const auto& row : rows) EXPECT_EQ(wideText(CXStr(row.narrow)), row.wide) << row.narrow;
 }
 
+// Behind texts of every length around the room that short ones are converted in.
+TEST(XStr, ReplacesEachByteOfASequenceCutShortAtTheEnd) {
+  const std::string sequences[] = {"\xC3\xA9", "\xE2\x82\xAC", "\xF0\x9F\x98\x80"};
+  std::vector<std::size_t> lengths = {0, 1, 2, 3, 4, 5, 6, 7, 8, 15, 16, 17, 31, 32, 33};
+  for (std::size_t length = 250; length < 260; length++) lengths.push_back(length);
+  for (std::size_t length = 508; length < 516; length++) lengths.push_back(length);
+  for (const std::size_t length : lengths) {
+    const std::string good(length, 'a');
+    const std::u16string wideGood(length, u'a');
+    for (const std::string& sequence : sequences) {
+      const std::u16string whole = wideText(CXStr(sequence));
+      for (std::size_t cut = 1; cut < sequence.size(); cut++) {
+        const std::string part = sequence.substr(0, cut);
+        const std::u16string replaced(cut, u'\uFFFD');
+        EXPECT_EQ(wideText(CXStr(good + part)), wideGood + replaced) << length << ' ' << cut;
+        EXPECT_EQ(wideText(CXStr(good + sequence + part)), wideGood + whole + replaced)
+            << length << ' ' << cut;
+      }
+    }
+  }
+}
+
 // A bad byte far into a text stops the transcoder where it has already done a part.
 TEST(XStr, ReplacesBadBytesBehindALongGoodPart) {
   const std::string good(100, 'a');
@@ -185,10 +208,15 @@ TEST(XStr, EveryPairOfBytesConvertsToWellFormedText) {
   }
 }
 
-TEST(XStr, CopyRefreshesTheSourcesWideRendering) {
+TEST(XStr, CopyingLeavesTheSourcesWideRenderingAlone) {
   CXStr source("abc");
+  const XMLCh* const handedOut = source;
   const CXStr copy(source);
+  CXStr assigned;
+  assigned = source;
   EXPECT_EQ(text(copy), "abc");
+  EXPECT_EQ(text(assigned), "abc");
+  EXPECT_EQ(std::u16string(handedOut), u"abc");
 }
 
 TEST(XStr, CopyOfEmptyIsNull) {
