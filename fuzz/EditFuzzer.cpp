@@ -20,12 +20,6 @@ const fuzz::Shape fuzz::shape = {{as::namespaces::ws.uri, as::namespaces::com.ur
 
 namespace {
 
-// Calls that make a document which is refused when it is read again, though nothing says that they
-// may not be made. They are left out; a constant goes when its call is mended.
-//
-// Every field casts to as::IParameter, but no schema lets "byType" stand on a field.
-constexpr bool directionOfFieldIsNotReadBack = true;
-
 constexpr int maxDepth = 2048;     // Of documents that are written and read.
 constexpr int maxDimensions = 16;  // Of items whose mappings are read back.
 constexpr std::size_t maxItems = 3000;
@@ -111,7 +105,7 @@ class Editor {
     members<as::IOperation>(service.getOperations(), [&](as::IOperation& each) { take(each); });
     members<as::IField>(service.getParameterTypeDefs(), [&](as::IField& each) {
       definitions_.push_back(&each);
-      take(each, Kind::parameter);
+      take(each);
     });
     if (service.getProgram() != nullptr) {
       takeItems(service.getProgram()->getDataItems(), 0);
@@ -132,11 +126,6 @@ class Editor {
   int depthAdded() const { return depthAdded_; }
 
  private:
-  enum class Kind { parameter, field, fieldAttribute };
-  struct Field {
-    as::IField* field;
-    Kind kind;
-  };
   struct Item {
     as::IDataItem* item;
     int dimensions;
@@ -151,7 +140,7 @@ class Editor {
 
   void take(as::IOperation& operation) {
     operations_.push_back(&operation);
-    const auto takeParameter = [&](as::IField& each) { take(each, Kind::parameter); };
+    const auto takeParameter = [&](as::IField& each) { take(each); };
     members<as::IField>(operation.getParameters(), takeParameter);
     members<as::IMapping>(operation.getHiddenParameters(),
                           [&](as::IMapping& each) { mappings_.push_back(&each); });
@@ -167,16 +156,15 @@ class Editor {
     }
   }
 
-  void take(as::IField& field, Kind kind) {
-    fields_.push_back({&field, kind});
+  void take(as::IField& field) {
+    fields_.push_back(&field);
     // What a definition holds is taken where it stands.
     if (!field.getAttributeValue("ref").empty()) return;
     members<as::IMapping>(field.getMappings(),
                           [&](as::IMapping& each) { mappings_.push_back(&each); });
-    members<as::IField>(field.getChildren(), [&](as::IField& each) { take(each, Kind::field); });
+    members<as::IField>(field.getChildren(), [&](as::IField& each) { take(each); });
     if (auto* const web = as::interface_cast<as::IWSField>(&field)) {
-      members<as::IField>(web->getFieldAttributes(),
-                          [&](as::IField& each) { take(each, Kind::fieldAttribute); });
+      members<as::IField>(web->getFieldAttributes(), [&](as::IField& each) { take(each); });
     }
   }
 
@@ -200,7 +188,7 @@ class Editor {
     if (choice == std::size(texts)) {
       made_ = std::string(1 + 500 * script_.next(), 'l');
     } else {
-      made_ = fields_.empty() ? "none" : fields_[script_.below(fields_.size())].field->getName();
+      made_ = fields_.empty() ? "none" : chosen(fields_)->getName();
     }
     return made_.c_str();
   }
@@ -241,7 +229,7 @@ class Editor {
       case 5:
       case 6:
       case 7:
-        if (!fields_.empty()) edit(fields_[script_.below(fields_.size())]);
+        if (as::IField* const field = chosen(fields_)) edit(*field);
         return;
       case 8:
         if (as::IMapping* const mapping = chosen(mappings_)) edit(*mapping);
@@ -332,11 +320,10 @@ class Editor {
   void addParameter(Owner& owner) {
     const as::IParameter::BY_TYPE byType = direction();
     const char* const name = text();
-    fields_.push_back({owner.addParameter(byType, name, number()), Kind::parameter});
+    fields_.push_back(owner.addParameter(byType, name, number()));
   }
 
-  void edit(const Field& entry) {
-    as::IField& field = *entry.field;
+  void edit(as::IField& field) {
     auto* const parameter = as::interface_cast<as::IParameter>(&field);
     auto* const web = as::interface_cast<as::IWSParameter>(&field);
     switch (script_.below(10)) {
@@ -349,26 +336,23 @@ class Editor {
         return field.setOccurs(number());
       case 2:
       case 3: {
-        // Field attributes hold mappings only.
-        if (entry.kind == Kind::fieldAttribute) return;
         const char* const name = text();
         as::IField* const added = field.addField(name, number());
         if (added == nullptr) return;
         depthAdded_++;
-        fields_.push_back({added, Kind::field});
+        fields_.push_back(added);
         return;
       }
       case 4:
         if (as::IMapping* const mapping = field.addMapping(item())) mappings_.push_back(mapping);
         return;
       case 5:
-        if (directionOfFieldIsNotReadBack && entry.kind != Kind::parameter) return;
         return parameter->setByType(direction());
       case 6:
-        if (web == nullptr || entry.kind == Kind::fieldAttribute) return;
+        if (web == nullptr) return;
         if (as::IField* const added = web->addFieldAttribute(text())) {
           depthAdded_++;
-          fields_.push_back({added, Kind::fieldAttribute});
+          fields_.push_back(added);
         }
         return;
       case 7:
@@ -437,7 +421,7 @@ class Editor {
   Script& script_;
   std::string made_;
   std::vector<as::IOperation*> operations_;
-  std::vector<Field> fields_;
+  std::vector<as::IField*> fields_;
   std::vector<as::IField*> definitions_;
   std::vector<as::IMapping*> mappings_;
   std::vector<as::IWSHeader*> headers_;

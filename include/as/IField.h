@@ -67,20 +67,20 @@ class AS_EXPORT IField : virtual public IElement {
 
   // Adds a field of that name and number of occurrences (see setName() and setOccurs()) behind the
   // others and returns it; null, and nothing changes, when there is a reference.
-  // REQUIRES: elements are nested no deeper than can be written, 2,048 levels, and the object is no
-  // field attribute (see IWSField::addFieldAttribute).
+  // REQUIRES: elements are nested no deeper than can be written, 2,048 levels.
   virtual IField* addField(const char* name, int occurs) = 0;
 
-  // Adds a mapping to `item` (see IMapping::setDataItem) behind the others and returns it; null,
-  // and nothing changes, when there is a reference or `item` is null. A missing "mappings" child is
-  // added first.
+  // Adds a mapping to `item` behind the others and returns it; null, and nothing changes, when
+  // there is a reference or `item` is null. A missing "mappings" child is added first.
+  // REQUIRES: what IMapping::setDataItem does of `item`.
   virtual IMapping* addMapping(IDataItem* item) = 0;
 
   // The names on the way here, from the outside in: the operation's (where the way starts in an
   // operation's parameters, and the document writes its elements without a prefix), the
   // parameter's, those of the fields around this one, and its own. They are joined with nothing
   // between them: field F of parameter P of operation OP is "OPPF". References have no part in it:
-  // a field reached through one is named by where it stands, inside the definition.
+  // a field reached through one is named by where it stands, inside the definition. An operation
+  // added to a document with a prefix has none before it has been written and read again.
   virtual std::string getQualifiedName() = 0;
 };
 

@@ -42,8 +42,10 @@ class AS_EXPORT IMapping : virtual public IElement {
   // but only a data item of the service's program is found again by it, no record of a file. For an
   // item in one or more tables (its own OCCURS counts), "*" for each of them goes behind the path
   // and to "subscript". For any other item "subscript" stays as it was, neither removed nor
-  // cleared: it may hold the list of an earlier table item. Null writes nothing. An item in more
-  // than 16 tables is written like any other, but no schema of services takes so many subscripts:
+  // cleared: it may hold the list of an earlier table item. Null writes nothing. An item that has
+  // "." or "(" in its name is not found again, or another one is.
+  // REQUIRES: `item` stands in no more than MAX_SUBSCRIPTS tables. The path of one in more is
+  // written like any other, but the schemas take no more subscripts than readers have room for:
   // such a document is not read back.
   virtual void setDataItem(IDataItem* item) = 0;
 

@@ -6,8 +6,9 @@
 
 namespace as {
 
-// Fields are objects of the same kind and cast to this interface too; documents give them no
-// direction of their own, so that theirs reads as BY_IO.
+// Fields and field attributes are objects of the same kind and cast to this interface too. A
+// direction of their own is written and read like a parameter's, but what is inside a parameter
+// travels with the parameter.
 class AS_EXPORT IParameter : virtual public IField {
  public:
   // Which way the value travels.
@@ -29,7 +30,8 @@ class AS_EXPORT IParameter : virtual public IField {
 
   // The parameter type definition that attribute "ref" names, the nearest of a chain (see
   // as::IField); null when the attribute is absent or empty or finds none. Resolved once, when the
-  // document is read: what changes later does not change it. No operation makes a reference.
+  // document is read: what changes later (the name of a definition) does not change it before the
+  // service has been written and read again. No operation makes a reference.
   virtual IParameter* getReferenceType() = 0;
 };
 

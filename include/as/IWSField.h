@@ -65,10 +65,11 @@ class AS_EXPORT IWSField : virtual public IField {
 
   // Adds a field attribute of that name with 0 occurrences behind the others and returns it; the
   // service keeps it. Null, and nothing changes, when there is a reference. A null name counts as
-  // an empty one.
-  // REQUIRES: the object is no field attribute itself. Those hold mappings only: a document in
-  // which one holds fields or field attributes is not read back. (The same holds for addField.)
-  // With a "ref" that finds nothing the field attributes are shown all the same, read or added.
+  // an empty one. With a "ref" that finds nothing the field attributes are shown all the same, read
+  // or added.
+  // A field attribute takes fields and field attributes too; they are written and read back, but
+  // XML attributes have no parts, so nothing can come of them.
+  // REQUIRES: elements are nested no deeper than can be written, 2,048 levels.
   virtual IWSParameter* addFieldAttribute(const char* name) = 0;
 
   // For a "parameter" element: attribute "namespace"; empty when absent.

@@ -273,13 +273,52 @@ TEST(Written, IsUtf8OfXml10WithoutDoctype) {
   EXPECT_THAT(text, Not(HasSubstr("DOCTYPE")));
 }
 
-TEST(Written, FieldsOfAFieldAttributeAreNotReadBack) {
+TEST(Written, FieldsOfAFieldAttributeAreReadBack) {
   const auto service =
       parseService(parameterDocument(as::namespaces::ws.uri, "<parameter name='p'/>"));
   as::IWSParameter* const attribute =
       parameterOf<as::IWSParameter>(*service)->addFieldAttribute("a");
-  EXPECT_NE(attribute->addField("f", 1), nullptr);
-  EXPECT_EQ(serviceOutcomeOf(written(*service)).result, Result::parseException);
+  attribute->addField("f", 1)->addField("g", 2);
+  attribute->addFieldAttribute("b");
+  const auto again = writtenAndRead(*service);
+  as::IWSParameter* const read =
+      itemOf<as::IWSParameter>(parameterOf<as::IWSParameter>(*again)->getFieldAttributes(), 0);
+  auto* const field = itemOf<as::IField>(read->getChildren(), 0);
+  EXPECT_EQ(field->getName(), "f");
+  EXPECT_EQ(itemOf<as::IField>(field->getChildren(), 0)->getName(), "g");
+  EXPECT_EQ(itemOf<as::IField>(read->getFieldAttributes(), 0)->getName(), "b");
+}
+
+TEST(Written, DirectionsOfFieldsAreReadBack) {
+  const auto service = parseService(
+      parameterDocument(as::namespaces::java.uri, "<parameter name='p' byType='in'/>"));
+  as::IField* const field = parameterOf<as::IParameter>(*service)->addField("f", 1);
+  auto* const asParameter = as::interface_cast<as::IParameter>(field);
+  EXPECT_EQ(asParameter->getByType(), as::IParameter::BY_IO);
+  asParameter->setByType(as::IParameter::BY_OUT);
+  const auto again = writtenAndRead(*service);
+  auto* const parameter = parameterOf<as::IParameter>(*again);
+  EXPECT_EQ(parameter->getByType(), as::IParameter::BY_IN);
+  EXPECT_EQ(itemOf<as::IParameter>(parameter->getChildren(), 0)->getByType(),
+            as::IParameter::BY_OUT);
+}
+
+// Readers have room for so many subscripts.
+TEST(Written, MappingsToItemsInMoreThanSixteenTablesAreNotReadBack) {
+  for (const int tables : {as::IMapping::MAX_SUBSCRIPTS, as::IMapping::MAX_SUBSCRIPTS + 1}) {
+    std::string items = "<numeric name='N' maxOccurs='2'/>";
+    for (int i = 1; i < tables; i++) items = "<group name='G' maxOccurs='2'>" + items + "</group>";
+    const auto program = test::parse(dictionaryOf(items));
+    auto* item = topItem<as::IDataItem>(*program);
+    while (auto* const group = as::interface_cast<as::IGroup>(item)) {
+      item = itemOf<as::IDataItem>(group->getChildren(), 0);
+    }
+    const auto service =
+        parseService(parameterDocument(as::namespaces::java.uri, "<parameter name='p'/>"));
+    parameterOf<as::IParameter>(*service)->addMapping(item);
+    EXPECT_EQ(serviceOutcomeOf(written(*service)).result,
+              tables > as::IMapping::MAX_SUBSCRIPTS ? Result::parseException : Result::root);
+  }
 }
 
 // Data items.
@@ -314,6 +353,14 @@ TEST(Definition, IsShownAsExtendedToAllThatLeadThere) {
   EXPECT_EQ(itemOf<as::IField>(parameter->getChildren(), 0), field);
   EXPECT_EQ(itemOf<as::IMapping>(parameter->getMappings(), 0), mapping);
   EXPECT_EQ(field->getQualifiedName(), "Farf");
+}
+
+TEST(Definition, IsFoundByItsNewNameOnceReadAgain) {
+  const auto service = parseService(parameterDocument(
+      as::namespaces::java.uri, "<parameter name='p' ref='Old'/>", "<parameter name='Old'/>"));
+  itemOf<as::IParameter>(service->getParameterTypeDefs(), 0)->setName("New");
+  EXPECT_NE(parameterOf<as::IParameter>(*service)->getReferenceType(), nullptr);
+  EXPECT_EQ(parameterOf<as::IParameter>(*writtenAndRead(*service))->getReferenceType(), nullptr);
 }
 
 TEST(ReferenceToNothing, LosesItsAdditionsWhenReadAgain) {

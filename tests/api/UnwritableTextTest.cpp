@@ -61,6 +61,9 @@ const Setter setters[] = {
     {"InputNamespace",
      [](as::IService& s, const char* text) { operationOf(s)->setInputNamespace(text); },
      [](as::IService& s) { return operationOf(s)->getInputNamespace(); }},
+    {"OutputNamespace",
+     [](as::IService& s, const char* text) { operationOf(s)->setOutputNamespace(text); },
+     [](as::IService& s) { return operationOf(s)->getOutputNamespace(); }},
     {"ParameterName",
      [](as::IService& s, const char* text) {
        test::parameterOf<as::IWSParameter>(s)->setName(text);
@@ -73,6 +76,9 @@ const Setter setters[] = {
      [](as::IService& s) { return test::parameterOf<as::IWSParameter>(s)->getNamespace(); }},
     {"HiddenValue", [](as::IService& s, const char* text) { hiddenOf(s)->setValue(text); },
      [](as::IService& s) { return hiddenOf(s)->getValue(); }},
+    {"HeaderNamespace",
+     [](as::IService& s, const char* text) { test::headerOf(s)->setNamespace(text); },
+     [](as::IService& s) { return test::headerOf(s)->getNamespace(); }},
     {"FaultNamespace", [](as::IService& s, const char* text) { faultOf(s)->setNamespace(text); },
      [](as::IService& s) { return faultOf(s)->getNamespace(); }},
 };

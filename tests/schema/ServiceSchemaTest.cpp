@@ -75,7 +75,7 @@ class ServiceSchema : public testing::TestWithParam<Schema> {
       return parents;
     };
     Names parameter = {"name", "occurs", "byType", "ref", "dataType"};
-    Names field = {"name", "occurs", "ref", "dataType"};
+    Names field = {"name", "occurs", "byType", "ref", "dataType"};
     Names operationAttributes = {"name", "entryPoint", "exitPoints"};
     if (label == "Com") {
       parameter.insert("returnParameter");
@@ -220,15 +220,21 @@ TEST_P(ServiceSchema, ElementsHoldTheirPartsInOrder) {
                                              {'M', "<mapping/>"},
                                              {'r', "<property name='n'/>"},
                                              {'x', "text"}};
-  const Content contents[] = {
-      {"service", "ptoOx", "p?t?o?", "p?t?o?"},  {"operation", "haHFx", "h?a?", "h?a?[HF]*"},
-      {"parameter", "mfAqx", "m?f*", "m?[fA]*"}, {"field", "mfAqx", "m?f*", "m?[fA]*"},
-      {"fieldAttribute", "mfAx", nullptr, "m?"}, {"header", "aqhx", nullptr, "a?"},
-      {"fault", "aqhx", nullptr, "a?"},          {"properties", "rqx", "r*", "r*"},
-      {"parameterTypeDefs", "qfOx", "q*", "q*"}, {"operations", "Oqx", "O*", "O*"},
-      {"parameters", "qfdx", "q*", "q*"},        {"hiddenParameters", "dqMx", "d*", "d*"},
-      {"mappings", "Mdx", "M*", "M*"},           {"mapping", "Mx", "", ""},
-      {"hiddenParameter", "dx", "", ""}};
+  const Content contents[] = {{"service", "ptoOx", "p?t?o?", "p?t?o?"},
+                              {"operation", "haHFx", "h?a?", "h?a?[HF]*"},
+                              {"parameter", "mfAqx", "m?f*", "m?[fA]*"},
+                              {"field", "mfAqx", "m?f*", "m?[fA]*"},
+                              {"fieldAttribute", "mfAx", nullptr, "m?[fA]*"},
+                              {"header", "aqhx", nullptr, "a?"},
+                              {"fault", "aqhx", nullptr, "a?"},
+                              {"properties", "rqx", "r*", "r*"},
+                              {"parameterTypeDefs", "qfOx", "q*", "q*"},
+                              {"operations", "Oqx", "O*", "O*"},
+                              {"parameters", "qfdx", "q*", "q*"},
+                              {"hiddenParameters", "dqMx", "d*", "d*"},
+                              {"mappings", "Mdx", "M*", "M*"},
+                              {"mapping", "Mx", "", ""},
+                              {"hiddenParameter", "dx", "", ""}};
   for (const Content& content : contents) {
     const char* const pattern = GetParam().isWeb ? content.web : content.plain;
     if (pattern == nullptr) continue;
@@ -315,6 +321,14 @@ TEST_P(ServiceSchema, SubscriptsAreSixteenAtMost) {
     }
     EXPECT_TRUE(isRead(element, "subscript='' item=''"));
     EXPECT_TRUE(isRead(element, "subscript='any, text' item='A(any, text)x'"));
+    // As readers find subscripts, these have none.
+    const std::string seventeen = "1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1,1";
+    for (const std::string& item :
+         {"A(" + seventeen, "A(" + seventeen + ")x", "A(" + seventeen + ")&#10;",
+          "A)(" + seventeen + ")", "A(1)&#10;(" + seventeen + ")", seventeen + ")",
+          std::string("A)&#10;B"), std::string("(&#13;)&#10;")}) {
+      EXPECT_TRUE(isRead(element, "item='" + item + "'")) << item;
+    }
   }
 }
 

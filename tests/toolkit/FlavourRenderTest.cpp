@@ -118,6 +118,26 @@ TEST_F(FlavourRenderTest, JsonHoldsFormsAndFieldAttributes) {
   EXPECT_FALSE(lines.contains("fieldAttributes"));
 }
 
+// Nothing comes of them, but they stand in the document.
+TEST_F(FlavourRenderTest, PartsOfFieldAttributesAreShown) {
+  const std::string document = test::parameterDocument(
+      as::namespaces::ws.uri,
+      "<parameter name='p'><fieldAttribute name='a' byType='in'><field name='f' byType='out'>"
+      "<field name='g'/></field><fieldAttribute name='b'/></fieldAttribute></parameter>");
+  EXPECT_THAT(shown(document), HasSubstr("  p\n"
+                                         "    @a     in\n"
+                                         "      @b\n"
+                                         "      f    out\n"
+                                         "        g\n"));
+  const json a = shownJson(document)["operations"][0]["parameters"][0]["fieldAttributes"][0];
+  EXPECT_EQ(a["byTypeText"], "in");
+  EXPECT_EQ(a["fieldAttributes"][0]["name"], "b");
+  EXPECT_EQ(a["children"][0]["name"], "f");
+  EXPECT_EQ(a["children"][0]["byTypeText"], "out");
+  EXPECT_EQ(a["children"][0]["children"][0]["name"], "g");
+  EXPECT_FALSE(a["children"][0]["children"][0].contains("byType"));
+}
+
 // To ask for the name of such a type would end the process.
 TEST_F(FlavourRenderTest, AMissingDataTypeOfAWebServiceIsUnknown) {
   const json odd = shownJson(webService())["operations"][0]["parameters"][1];

@@ -494,6 +494,13 @@ std::vector<Family> families() {
                          "dataType='int'><mappings><mapping item='REQ.ID'/></mappings>"
                          "</fieldAttribute></parameter></parameters>"),
             "error: pay.p.(unnamed): the field attribute has no name; give it one"),
+        web("FieldAttributesHaveNoParts", "structured-attribute",
+            webOperation(goodDocument,
+                         "<parameters><parameter name='p' dataType='int'><mappings/>"
+                         "<fieldAttribute name='a'><mappings><mapping item='REQ.ID'/></mappings>"
+                         "<field/><fieldAttribute/></fieldAttribute></parameter></parameters>"),
+            "error: pay.p.a: it is a field attribute and has fields or field attributes inside it; "
+            "make it a field, or move what is inside it"),
         web("FieldAttributesAreMappings", "",
             webOperation(
                 goodDocument,

@@ -14,6 +14,12 @@ void unmappedField(const FieldSubject& subject, const Tell& tell) {
   tell("it is mapped to no data item", "add a mapping or remove it");
 }
 
+void structuredAttribute(const FieldSubject& subject, const Tell& tell) {
+  if (!subject.isAttribute || subject.isElementary) return;
+  tell("it is a field attribute and has fields or field attributes inside it",
+       "make it a field, or move what is inside it");
+}
+
 void emptyMapping(const MappingSubject& subject, const Tell& tell) {
   if (subject.text.empty()) tell("the mapping names no data item", R"(name one in "item")");
 }

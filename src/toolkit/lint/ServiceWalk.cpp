@@ -183,21 +183,24 @@ class ServiceWalk {
         [&way](as::IField&) { way.pop_back(); });
   }
 
-  // At what is no reference, without its fields.
-  void lookAtField(const FieldPlace& at, const Tree& tree) {
+  // At what is no reference, without its fields. What stands inside a field attribute is not looked
+  // at: nothing comes of it.
+  void lookAtField(const FieldPlace& at, const Tree& tree, bool isAttribute = false) {
     as::IField& field = at.field;
     const bool isLeaf = !field.hasChildren();
-    if (!isLeaf) lookAtNames<as::IField>(field.getChildren(), "field", at.place, ".");
+    if (!isLeaf && !isAttribute) {
+      lookAtNames<as::IField>(field.getChildren(), "field", at.place, ".");
+    }
     const DataType* const type = isLeaf || hasDataType(field) ? lookAtDataType(at) : nullptr;
     as::IList* const attributes = profile_.attributesOf(field);
     const bool hasAttributes = attributes != nullptr && attributes->getLength() > 0;
-    look(FieldSubject{at.place, field, isLeaf && !hasAttributes}, findings_);
+    look(FieldSubject{at.place, field, isLeaf && !hasAttributes, isAttribute}, findings_);
     lookAtMappings(at, isLeaf ? type : nullptr, tree);
-    if (!hasAttributes) return;
+    if (!hasAttributes || isAttribute) return;
     lookAtNames<as::IField>(attributes, "field attribute", at.place, ".");
     forEachMember<as::IField>(attributes, [&](as::IField& attribute) {
       const FieldPlace below = placeBelow(attribute, at);
-      if (!lookAtReference(attribute, below.place, tree)) lookAtField(below, tree);
+      if (!lookAtReference(attribute, below.place, tree)) lookAtField(below, tree, true);
     });
   }
 

@@ -70,6 +70,7 @@ struct FieldSubject {
   const Place& place;
   as::IField& field;
   bool isElementary;  // Has neither fields nor field attributes.
+  bool isAttribute;   // A field attribute.
 };
 
 // The data type of such a field, where it needs one or has one.

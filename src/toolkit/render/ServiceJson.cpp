@@ -117,7 +117,7 @@ class ServiceJson {
     writer_.member("occurs", field.getOccurs());
     auto* const parameter = as::interface_cast<as::IParameter>(&field);
     if (parameter != nullptr) {
-      if (isParameter) {
+      if (isParameter || !field.getAttributeValue("byType").empty()) {
         writeCode("byType", parameter->getByType(), directionWord(parameter->getByType()));
       }
       writer_.member("referenceType", nameOrNull(parameter->getReferenceType()));

@@ -146,13 +146,22 @@ class ServicePrinter {
         fields,
         [&](as::IField& field, std::size_t depth) {
           takeRows(field, indented(depth + inset, printable(field.getName())), take);
-          if (!referenceOf(field).empty()) return;
-          forEachMember<as::IField>(flavour_.attributesOf(field), [&](as::IField& attribute) {
-            takeRows(attribute, indented(depth + inset + 1, "@" + printable(attribute.getName())),
-                     take);
-          });
+          forEachAttributeRow(field, take, depth + inset + 1);
         },
         [](as::IField&) {});
+  }
+
+  // The field attributes of a field, each with what it may hold all the same.
+  template <class Take>
+  void forEachAttributeRow(as::IField& field, const Take& take, std::size_t depth) {
+    if (!referenceOf(field).empty()) return;
+    forEachMember<as::IField>(flavour_.attributesOf(field), [&](as::IField& attribute) {
+      takeRows(attribute, indented(depth, "@" + printable(attribute.getName())), take);
+      forEachAttributeRow(attribute, take, depth + 1);
+      if (referenceOf(attribute).empty()) {
+        forEachFieldRow(attribute.getChildren(), take, depth + 1);
+      }
+    });
   }
 
   // The rows of one field, which is called `name`.
