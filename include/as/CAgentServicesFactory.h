@@ -40,6 +40,9 @@ class AS_EXPORT CAgentServicesFactory {
   //
   // A .NET service is written in the Web service namespace, and is read back as a Web service;
   // getImplementation() tells it apart.
+  //
+  // A program of the client's own making (a class of its own that is an as::IProgram) is served like
+  // one that was read. Nobody knows its file: "dataDictFilename" is not written then.
   static IWebService* NewWebService(IProgram* program);
   static IService* NewCOMService(IProgram* program);
   static IService* NewJavaService(IProgram* program);
@@ -56,8 +59,9 @@ class AS_EXPORT CAgentServicesFactory {
   //
   // Throws as::CASException, "AgentServices: An error occurred serializing the XML to file "
   // followed by the name, and leaves the file as it was, for a null service and when no text can be
-  // made: when the document holds a character that XML cannot hold (see as::IElement) or elements
-  // nested deeper than the 2,048 levels that can be read.
+  // made: when the document holds a character that XML cannot hold (see as::IElement), elements
+  // nested deeper than the 2,048 levels that can be read, or an element with more than the 1,000
+  // attributes.
   //
   // Nothing is validated; an operation that can write what the schemas refuse to read says so.
   //

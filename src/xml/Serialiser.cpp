@@ -59,6 +59,9 @@ DOMNode* copyNode(DOMDocument* to, const DOMNode* node) {
       DOMElement* const copy =
           to->createElement(writtenName(static_cast<const DOMElement*>(node)).c_str());
       const DOMNamedNodeMap* const attributes = node->getAttributes();
+      if (attributes->getLength() > CXMLParser::maxAttributes) {
+        throw std::length_error("too many attributes to be read again");
+      }
       for (XMLSize_t i = 0; i < attributes->getLength(); i++) {
         const DOMNode* const attribute = attributes->item(i);
         copy->setAttribute(attribute->getNodeName(), attribute->getNodeValue());

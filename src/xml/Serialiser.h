@@ -22,7 +22,9 @@ void prettyPrintTree(xercesc::DOMNode* node, int depth);
 
 // `document` as XML text in UTF-8. Each namespace is declared where, and as, the attributes of the
 // tree declare it, and elements without a namespace go by the root's prefix: what comes out reads
-// back as the model that it was written from. The tree itself stays as it is.
+// back as the model that it was written from. The tree itself stays as it is. Throws
+// std::length_error when an element has so many attributes that no parser of this library would read
+// it again.
 std::string serialiseNode(xercesc::DOMDocument* document);
 
 #endif  // XML_SERIALISER_H_

@@ -111,6 +111,19 @@ class OwnProgram : public Own<as::IProgram> {
   OwnList<> entryPoints_;
 };
 
+// A program of the client's own around one of the library's: the lists are the library's.
+class ProgramAround : public Own<as::IProgram> {
+ public:
+  std::string getName() override { return "AROUND"; }
+  as::IList* getFileSection() override { return inner_->getFileSection(); }
+  as::IList* getDataItems() override { return inner_->getDataItems(); }
+  as::IList* getProperties() override { return inner_->getProperties(); }
+  as::IList* getEntryPoints() override { return inner_->getEntryPoints(); }
+
+ private:
+  std::unique_ptr<as::IProgram> inner_ = test::parse(test::payProgram());
+};
+
 class ClientProgram : public testing::TestWithParam<test::Flavour> {
  protected:
   ClientProgram()
@@ -148,6 +161,28 @@ TEST_P(ClientProgram, MappingsLeadToItsItems) {
 TEST_P(ClientProgram, MappingsToNothingLeadNowhere) {
   OwnItem elsewhere("C");
   EXPECT_EQ(parameter_->addMapping(&elsewhere)->getDataItem(), nullptr);
+}
+
+TEST_P(ClientProgram, HiddenParametersLeadToItsItems) {
+  as::IHiddenParameter* const hidden = operation_->addHiddenParameter(nullptr, nullptr);
+  hidden->setDataItem(itemInGroup());
+  EXPECT_EQ(hidden->getDataItem(), itemInGroup());
+}
+
+TEST_P(ClientProgram, AroundOneOfTheLibrarysIsServedToo) {
+  auto* const program = new ProgramAround;
+  const std::unique_ptr<as::IService> service(GetParam().make(program));
+  EXPECT_EQ(service->getAttributeValue("programName"), "AROUND");
+  EXPECT_EQ(service->getDDFilename(), "") << "which file it is of is not known";
+  as::IOperation* const operation = service->addOperation(
+      "op", as::interface_cast<as::IEntryPoint>(program->getEntryPoints()->getItem(0)));
+  EXPECT_EQ(operation->getEntryPoint()->getName(), "PAY");
+  auto* const group = as::interface_cast<as::IGroup>(program->getDataItems()->getItem(1));
+  auto* const item = as::interface_cast<as::IDataItem>(group->getChildren()->getItem(1));
+  as::IMapping* const mapping =
+      operation->addParameter(as::IParameter::BY_IN, "p", 0)->addMapping(item);
+  EXPECT_EQ(mapping->getRawMapping(), "REQ.TITLE");
+  EXPECT_EQ(mapping->getDataItem(), item);
 }
 
 TEST_P(ClientProgram, OperationsFindItsEntryPoints) {

@@ -52,7 +52,8 @@ TEST(SerializeToFile, ThatCannotBeOpenedIsPassedOver) {
   const auto service = parseService(rootOf(java, everything(java)));
   const std::string before = modelText(*service);
   for (const std::string& file :
-       {directory.path(), directory.path() + "/no/such/file.xml", std::string()}) {
+       {directory.path(), directory.path() + "/no/such/file.xml", std::string(),
+        std::string("/dev/full"), std::string("/proc/file.xml")}) {
     EXPECT_NO_THROW(as::CAgentServicesFactory::Serialize(service.get(), file.c_str())) << file;
   }
   EXPECT_NO_THROW(as::CAgentServicesFactory::Serialize(service.get(), nullptr));
@@ -117,6 +118,16 @@ TEST(Layout, ThatIsThereIsKept) {
       "</operations>\n";
   const auto service = parseService(rootOf(java, content));
   EXPECT_THAT(written(*service), testing::HasSubstr(content));
+}
+
+// What could not be read again is told when it is written.
+TEST(Attributes, BeyondTheLimitOfReadersAreNotWritten) {
+  std::string declarations;
+  for (int i = 0; i < 996; i++) declarations += " xmlns:n" + std::to_string(i) + "='urn:n'";
+  const auto service = parseService(rootOf(java, "", declarations));
+  EXPECT_NO_THROW(parseService(written(*service)));
+  service->setName("one more");
+  EXPECT_THROW(written(*service), as::CASException);
 }
 
 // New elements.
