@@ -36,14 +36,14 @@ class Scratch {
   std::unique_ptr<T[]> heap_;
 };
 
-// The length of the well-formed UTF-8 sequence at the start of `text`, 0 when there is none.
+// The length of the well-formed UTF-8 sequence at the start of `text`, 0 when there is none. The
+// text's terminating zero is part of it: no sequence goes on behind that.
 std::size_t sequenceLength(std::string_view text) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const unsigned char first = byte(0);
   if (first < 0x80) return 1;
   if (first < 0xC2 || first > 0xF4) return 0;
   const std::size_t length = first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
-  if (text.size() < length) return 0;
   for (std::size_t i = 1; i < length; i++) {
     if ((byte(i) & 0xC0) != 0x80) return 0;
   }

@@ -80,7 +80,7 @@ class ServiceWalk {
  public:
   ServiceWalk(as::IService& service, Findings& findings)
       : service_(service), findings_(findings), profile_(profileOf(service)) {
-    if (as::IProgram* const program = service.getProgram()) program_.emplace(*program);
+    if (as::IProgram* const exposed = service.getProgram()) program_.emplace(*exposed);
     forEachMember<as::IParameter>(service.getParameterTypeDefs(), [this](as::IParameter& type) {
       const std::size_t number = typeStorage_.addDefinition();
       definitions_.emplace(&type, number);

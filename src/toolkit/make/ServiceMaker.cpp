@@ -197,11 +197,11 @@ class ServiceMaker {
   }
 
   void noteCount(as::IDataItem& item) {
-    as::IDataItem* const count = item.hasODO() ? item.getODO() : nullptr;
+    as::IDataItem* const counter = item.hasODO() ? item.getODO() : nullptr;
     if (!item.hasODO() || item.getMaxOccurs() == 0) return;
     note("variable-table", item,
          "it occurs up to " + std::to_string(item.getMaxOccurs()) + " times, as often as " +
-             (count == nullptr ? item.getAttributeValue("odo") : dottedPath(*count)) + " tells");
+             (counter == nullptr ? item.getAttributeValue("odo") : dottedPath(*counter)) + " tells");
   }
 
   void note(const char* rule, as::IDataItem& item, const std::string& text) {

@@ -115,9 +115,9 @@ class Counts {
   }
 
   long long of(std::string_view symbols) const {
-    long long all = 0;
-    for (const char symbol : symbols) all += times_[static_cast<unsigned char>(symbol)];
-    return all;
+    long long sum = 0;
+    for (const char symbol : symbols) sum += times_[static_cast<unsigned char>(symbol)];
+    return sum;
   }
   bool has(std::string_view symbols) const { return of(symbols) > 0; }
   bool hasOnly(std::string_view symbols) const { return of(symbols) == all(); }

@@ -1,0 +1,129 @@
+// Tests of what data types can hold: of the items that lint finds too large for theirs.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "as/toolkit/Lint.h"
+#include "support/Documents.h"
+#include "support/Toolkit.h"
+
+namespace {
+
+namespace toolkit = as::toolkit;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// An item in the linkage, the data type of a field for it, and why that cannot hold it; empty when
+// it can.
+struct Row {
+  std::string label;
+  std::string item;
+  const char* flavour;
+  const char* type;
+  std::string problem;
+};
+
+void PrintTo(const Row& row, std::ostream* out) { *out << row.label; }
+
+class CapacityTest : public test::ToolkitTest, public testing::WithParamInterface<Row> {};
+
+TEST_P(CapacityTest, IsThatOfTheRow) {
+  const Row& row = GetParam();
+  write("P.xml", test::dictionary("<dataItems>" + row.item +
+                                  "</dataItems><entryPoints><entryPoint name='E'><parameter "
+                                  "dataItem='I' byType='reference'/></entryPoint></entryPoints>"));
+  const bool isWeb = std::string(row.flavour) == "ws";
+  const std::string root = std::string("name='S' implementation='") + row.flavour +
+                           "' programName='PAYROLL' dataDictFilename='P.xml'";
+  const std::string operation =
+      std::string("<operations><operation name='o' entryPoint='E' ") +
+      (isWeb ? "style='rpc' inputUse='literal' outputUse='literal' inputNamespace='urn:i' "
+               "outputNamespace='urn:o'"
+             : "") +
+      "><parameters><parameter name='p' dataType='" + row.type +
+      "'><mappings><mapping item='I'/></mappings></parameter></parameters></operation>"
+      "</operations>";
+  write("s.xml", isWeb ? test::webService(root, operation) : test::javaService(root, operation));
+  std::vector<std::string> problems;
+  for (const toolkit::Finding& finding : toolkit::lintFile(reader(), "s.xml")) {
+    problems.push_back(finding.problem);
+  }
+  if (row.problem.empty()) {
+    EXPECT_THAT(problems, IsEmpty());
+  } else {
+    EXPECT_THAT(problems, ElementsAre(std::string("data type '") + row.type +
+                                      "' cannot hold I: it " + row.problem));
+  }
+}
+
+std::string numeric(const std::string& attributes) {
+  return "<numeric name='I' linkage='true' " + attributes + "/>";
+}
+
+std::string edited(const std::string& attributes) {
+  return "<numericEdited name='I' linkage='true' " + attributes + "/>";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Numbers, CapacityTest,
+    testing::Values(
+        Row{"DigitsThatFit", numeric("digits='4' length='4' picture='9(4)'"), "java", "short", ""},
+        Row{"OneDigitMore", numeric("digits='5' length='5' picture='9(5)'"), "java", "short",
+            "holds 4 digits, the item has 5"},
+        Row{"DigitsOfTheBytesWhenNoneAreTold", numeric("length='3' usage='comp-3'"), "java",
+            "short", "holds 4 digits, the item has 5"},
+        Row{"ToldDigitsBeforeThoseOfTheBytes", numeric("length='3' usage='comp-3' digits='4'"),
+            "java", "short", ""},
+        Row{"NothingToldIsHeld", numeric("picture='?'"), "java", "short", ""},
+        Row{"BinaryOfAnUnreadablePicture",
+            numeric("length='4' usage='comp-5' sign='true' picture='?'"), "java", "int", ""},
+        Row{"BinaryThatFits", numeric("length='2' usage='comp-5' sign='true' picture='S9(4)'"),
+            "java", "short", ""},
+        Row{"BinaryWithoutASignNeedsABitMore", numeric("length='2' usage='comp-5' picture='9(4)'"),
+            "java", "short", "has 16 bits, the item needs 17"},
+        Row{"BinaryOfTrailingZeros",
+            numeric("length='2' usage='comp-5' sign='true' picture='S9(4)PP'"), "java", "short",
+            "holds 4 digits, the item has 7"}),
+    test::labelOf<Row>);
+
+INSTANTIATE_TEST_SUITE_P(
+    EditedNumbers, CapacityTest,
+    testing::Values(
+        Row{"DigitsThatFit", edited("picture='Z(3)9' digits='4' length='4'"), "java", "short", ""},
+        Row{"OneDigitMore", edited("picture='Z(4)9' digits='5' length='5'"), "java", "short",
+            "holds 4 digits, the item has 5"},
+        Row{"DecimalPlaces", edited("picture='ZZ9.99' digits='5' alignment='2' length='6'"), "java",
+            "int", "holds no decimal places, the item has 2"},
+        Row{"ASign", edited("picture='Z(3)9-' digits='4' length='5'"), "ws", "unsignedInt",
+            "holds no negative numbers, the item does"},
+        Row{"ASignWhereTheDecimalPointIsAComma",
+            edited("picture='Z.ZZZ.ZZ9-' digits='7' length='10'"), "ws", "unsignedInt",
+            "holds no negative numbers, the item does"},
+        Row{"NoSign", edited("picture='Z(3)9' digits='4' length='4'"), "ws", "unsignedInt", ""},
+        Row{"NoSignInAnUnreadablePicture", edited("picture='?-' digits='4' length='4'"), "ws",
+            "unsignedInt", ""},
+        Row{"Text", edited("picture='Z(4)9' digits='5' length='5'"), "java", "String", ""}),
+    test::labelOf<Row>);
+
+INSTANTIATE_TEST_SUITE_P(
+    Others, CapacityTest,
+    testing::Values(Row{"AnAddressAsANumberThatFits",
+                        "<pointer name='I' linkage='true' length='4'/>", "ws", "unsignedInt", ""},
+                    Row{"AnAddressAsANumber", "<pointer name='I' linkage='true' length='8'/>", "ws",
+                        "unsignedInt", "is too small for an item of 64 bits"},
+                    Row{"AnIndexAsANumber", "<index name='I' linkage='true' length='4'/>", "java",
+                        "short", "is too small for an item of 32 bits"},
+                    Row{"AnAddressAsText", "<pointer name='I' linkage='true' length='4'/>", "java",
+                        "String", "is text, the item is pointer"},
+                    Row{"AnObjectAsText", "<cobolObject name='I' linkage='true' length='4'/>",
+                        "java", "String", "is a value, the item is an object reference"},
+                    Row{"TextAsANumber", "<alphanumeric name='I' linkage='true' length='4'/>",
+                        "java", "int", "is a number, the item is alphanumeric"},
+                    Row{"NationalTextAsANumber", "<national name='I' linkage='true' length='4'/>",
+                        "java", "int", "is a number, the item is national"}),
+    test::labelOf<Row>);
+
+}  // namespace
