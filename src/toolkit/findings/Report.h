@@ -1,4 +1,4 @@
-// Collects findings where they are found.
+// Collects notes where they are made.
 #ifndef TOOLKIT_FINDINGS_REPORT_H_
 #define TOOLKIT_FINDINGS_REPORT_H_
 
@@ -13,10 +13,6 @@ class Report {
  public:
   explicit Report(Findings& findings) : findings_(findings) {}
 
-  void error(const char* rule, const std::string& place, const std::string& problem,
-             const std::string& advice);
-  void warning(const char* rule, const std::string& place, const std::string& problem,
-               const std::string& advice);
   void note(const char* rule, const std::string& place, const std::string& text);
 
  private:
