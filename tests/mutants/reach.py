@@ -1,0 +1,95 @@
+"""Which test suites reach which lines: one run of each suite with the counters of gcov."""
+
+import json
+import os
+import resource
+import shutil
+import subprocess
+import tempfile
+from pathlib import Path
+
+PROGRAMS = ('unit', 'api', 'toolkit', 'schema', 'memory', 'cli')
+
+
+def suites_of(program: Path) -> list:
+    """The names of the suites of a test program, as --gtest_filter wants them."""
+    listed = subprocess.run([program, '--gtest_list_tests'], check=True, capture_output=True,
+                            text=True).stdout
+    return [line.split()[0].rstrip('.') for line in listed.splitlines()
+            if line[:1] not in ('', ' ') and line.split()[0].endswith('.')]
+
+
+def seconds_of_children() -> float:
+    used = resource.getrusage(resource.RUSAGE_CHILDREN)
+    return used.ru_utime + used.ru_stime
+
+
+class Reach:
+    """For each suite ("api:Mapping") the seconds that it takes and the lines that it reaches."""
+
+    def __init__(self, suites: dict):
+        self.suites = suites
+        self.counted = {}  # For each file the lines that gcov counts.
+        for suite in suites.values():
+            for file, lines in suite['lines'].items():
+                self.counted.setdefault(file, set()).update(lines)
+
+    @staticmethod
+    def load(kept: Path, root: Path, build: Path, goes_on: bool) -> 'Reach':
+        """Measures, unless what was measured last is younger than the test programs."""
+        programs = [build / 'tests' / f'{name}_tests' for name in PROGRAMS]
+        if not kept.exists() or not goes_on and any(
+                kept.stat().st_mtime < program.stat().st_mtime for program in programs):
+            kept.write_text(json.dumps(measure(root, build)))
+        return Reach(json.loads(kept.read_text()))
+
+    def suites_for(self, file: str, line: int) -> tuple:
+        """The suites that reach a line, and whether that is known; all of them if not. A line
+        without code of its own goes with those in front of it: it continues a statement."""
+        counted = self.counted.get(file, set())
+        known = next((n for n in range(line, max(0, line - 6), -1) if n in counted), None)
+        if known is None:
+            return list(self.suites), False
+        return [name for name, suite in self.suites.items()
+                if known in suite['lines'].get(file, ())], True
+
+
+def measure(root: Path, build: Path) -> dict:
+    suites = {}
+    with tempfile.TemporaryDirectory() as scratch:
+        # Beside each file of counts gcov looks for what the compiler told about the source.
+        for note in build.glob('CMakeFiles/*/src/**/*.gcno'):
+            place = Path(scratch + str(note.parent))
+            place.mkdir(parents=True, exist_ok=True)
+            (place / note.name).symlink_to(note)
+        environment = dict(os.environ, GCOV_PREFIX=scratch)
+        for program in PROGRAMS:
+            path = build / 'tests' / f'{program}_tests'
+            for suite in suites_of(path):
+                before = seconds_of_children()
+                subprocess.run([path, '--gtest_brief=1', f'--gtest_filter={suite}.*'], check=True,
+                               env=environment, cwd=scratch, stdout=subprocess.DEVNULL,
+                               stderr=subprocess.DEVNULL)
+                seconds = seconds_of_children() - before
+                suites[f'{program}:{suite}'] = {'seconds': seconds,
+                                                'lines': lines_reached(root, scratch)}
+    return suites
+
+
+def lines_reached(root: Path, scratch: str) -> dict:
+    """Reads the counts and removes them."""
+    counts = [str(path) for path in Path(scratch).rglob('*.gcda')]
+    reached = {}
+    if counts:
+        told = subprocess.run(['gcov', '--json-format', '--stdout', *counts], check=True,
+                              cwd=scratch, stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL).stdout
+        for document in told.splitlines():
+            for file in json.loads(document)['files']:
+                name = os.path.relpath(file['file'], root)
+                if name.startswith('src/'):
+                    reached.setdefault(name, set()).update(
+                        line['line_number'] for line in file['lines'] if line['count'] > 0)
+    for path in counts:
+        os.remove(path)
+    return {file: sorted(lines) for file, lines in reached.items() if lines}
