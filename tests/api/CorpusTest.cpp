@@ -22,7 +22,7 @@ using test::outcomeOf;
 
 std::vector<std::string> documentsOf(const std::string& subject) {
   std::vector<std::string> files;
-  for (const auto& entry : std::filesystem::directory_iterator(AS_CORPUS_DIR "/" + subject)) {
+  for (const auto& entry : std::filesystem::directory_iterator(AS_SEEDS_DIR "/" + subject)) {
     files.push_back(entry.path().string());
   }
   std::sort(files.begin(), files.end());
@@ -73,7 +73,7 @@ TEST_P(CorpusDeathTest, EndsInAModelOrAnExceptionWithoutASchemaDirectory) {
 
 INSTANTIATE_TEST_SUITE_P(Documents, CorpusDeathTest, testing::ValuesIn(documents()),
                          [](const auto& row) {
-                           std::string name = row.param.substr(sizeof(AS_CORPUS_DIR));
+                           std::string name = row.param.substr(sizeof(AS_SEEDS_DIR));
                            for (char& c : name) {
                              if (std::isalnum(static_cast<unsigned char>(c)) == 0) c = '_';
                            }
