@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "Mutator.h"
+#include "Report.h"
 #include "Requests.h"
 #include "XmlTree.h"
 #include "support/ModelText.h"
@@ -19,6 +20,13 @@ const fuzz::Shape fuzz::shape = {{as::namespaces::ws.uri, as::namespaces::com.ur
                                  fuzz::Shape::Files::dictionaries};
 
 namespace {
+
+// A call that makes a document which is not read back as it was, though nothing says that it may
+// not be made, is left out; its constant goes when the call is mended.
+//
+// What a parameter holds is not looked at when its "ref" names no definition, but it takes fields
+// and mappings.
+constexpr bool whatStandsBesideARefIsNotReadBack = true;
 
 constexpr int maxDepth = 2048;     // Of documents that are written and read.
 constexpr int maxDimensions = 16;  // Of items whose mappings are read back.
@@ -336,6 +344,7 @@ class Editor {
         return field.setOccurs(number());
       case 2:
       case 3: {
+        if (losesWhatItHolds(field)) return;
         const char* const name = text();
         as::IField* const added = field.addField(name, number());
         if (added == nullptr) return;
@@ -344,6 +353,7 @@ class Editor {
         return;
       }
       case 4:
+        if (losesWhatItHolds(field)) return;
         if (as::IMapping* const mapping = field.addMapping(item())) mappings_.push_back(mapping);
         return;
       case 5:
@@ -368,6 +378,12 @@ class Editor {
       default:
         setType(field);
     }
+  }
+
+  static bool losesWhatItHolds(as::IField& field) {
+    auto* const parameter = as::interface_cast<as::IParameter>(&field);
+    return whatStandsBesideARefIsNotReadBack && !field.getAttributeValue("ref").empty() &&
+           parameter->getReferenceType() == nullptr;
   }
 
   void setType(as::IField& field) {
@@ -486,6 +502,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                  : fuzz::parseService(services, "edit.xml", input, withProgram);
   });
   if (!service) return 0;
+  fuzz::countModel();
   const std::string dictionary = service->getDDFilename();
   Editor editor(*service, script);
   editor.run();
@@ -510,9 +527,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string modelAgain = textOf(*again);
   // A new .NET service is read back as a Web service.
   const bool isAnother = isNew && way % 4 == 3;
-  if (!editor.hasNewDefinitions() && !isAnother && modelAgain != model) std::abort();
+  if (!editor.hasNewDefinitions() && !isAnother) fuzz::requireSame(model, modelAgain);
   const std::string writtenAgain = as::CAgentServicesFactory::SerializeToString(again.get());
+  // What is the same text is the same model: a request takes most of the time.
+  if (writtenAgain == written) return 0;
   const auto third = fuzz::parseService(services, "edit.xml", writtenAgain, withProgram);
-  if (!third || textOf(*third) != modelAgain) std::abort();
+  if (!third) std::abort();
+  fuzz::requireSame(modelAgain, textOf(*third));
   return 0;
 }

@@ -27,13 +27,25 @@ std::string contentOf(const std::string& file) {
   return content.str();
 }
 
+// Leaves of the element what a parser of such documents needs.
 void removeDocumentation(Node& node) {
-  const auto isDocumentation = [](const Node& child) {
-    return child.kind == Node::Kind::comment || child.localName() == "annotation";
+  const auto isNotNeeded = [](const Node& child) {
+    return !child.isElement() || child.localName() == "annotation";
   };
-  node.children.erase(std::remove_if(node.children.begin(), node.children.end(), isDocumentation),
+  node.children.erase(std::remove_if(node.children.begin(), node.children.end(), isNotNeeded),
                       node.children.end());
   for (Node& child : node.children) removeDocumentation(child);
+}
+
+// Leaves the first and the last ones of each list. What services use is described last.
+void cutDown(Node& node) {
+  constexpr std::ptrdiff_t atStart = 2;
+  constexpr std::ptrdiff_t atEnd = 4;
+  std::vector<Node>& children = node.children;
+  if (children.size() > atStart + atEnd) {
+    children.erase(children.begin() + atStart, children.end() - atEnd);
+  }
+  for (Node& child : children) cutDown(child);
 }
 
 bool isPlain(const std::string& name) {
@@ -71,7 +83,10 @@ const Directory& workDirectory() {
   static const Directory directory;
   static const bool filled = [] {
     for (const char* const name : dictionaries) {
-      directory.write(name, contentOf(std::string(AS_EXAMPLES_DIR "/") + name));
+      Document dictionary = readTree(contentOf(std::string(AS_EXAMPLES_DIR "/") + name));
+      removeDocumentation(*dictionary.root());
+      cutDown(*dictionary.root());
+      directory.write(name, printTree(dictionary));
     }
     return true;
   }();
@@ -117,7 +132,7 @@ std::string schemaDirectory() {
     };
     for (const as::Namespace& each : namespaces) {
       Document schema = readTree(contentOf(std::string(AS_SCHEMA_DIR "/") + each.schemaFile));
-      for (Node& node : schema.nodes) removeDocumentation(node);
+      removeDocumentation(*schema.root());
       directory.write(each.schemaFile, printTree(schema));
     }
     return true;

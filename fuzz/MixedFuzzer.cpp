@@ -3,6 +3,7 @@
 // request ends with a model or with one of its exceptions, and a model answers every question.
 #include "DictionaryWalk.h"
 #include "Mutator.h"
+#include "Report.h"
 #include "Requests.h"
 #include "support/ModelText.h"
 
@@ -10,7 +11,8 @@ const fuzz::Shape fuzz::shape = {{}, false, fuzz::Shape::Files::schemas};
 
 namespace {
 
-void ask(as::IAgentServices& by, std::string_view input) {
+// Whether there was a model.
+bool ask(as::IAgentServices& by, std::string_view input) {
   // Schemas are looked up beside the document.
   const std::string id = fuzz::workDirectory().file("document.xml");
   const std::unique_ptr<as::IProgram> program =
@@ -18,13 +20,14 @@ void ask(as::IAgentServices& by, std::string_view input) {
   if (program) fuzz::DictionaryWalk(fuzz::Schemas::any).walk(*program);
   const std::unique_ptr<as::IService> service =
       fuzz::unlessRefused([&] { return fuzz::parseService(by, id, input, false); });
-  if (!service) return;
+  if (!service) return program != nullptr;
   test::modelText(*service);
   try {
     as::CAgentServicesFactory::SerializeToString(service.get());
   } catch (const as::CASException&) {
     // It holds what cannot be written.
   }
+  return true;
 }
 
 }  // namespace
@@ -34,7 +37,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       as::CAgentServicesFactory::CreateAgentServices());
   const std::string_view input(reinterpret_cast<const char*>(data), size);
   const fuzz::InputFiles files(input);
-  ask(fuzz::services(), input);
-  ask(*withoutSchemas, input);
+  const bool isGood = ask(fuzz::services(), input);
+  const bool isGoodWithoutSchemas = ask(*withoutSchemas, input);
+  if (isGood || isGoodWithoutSchemas) fuzz::countModel();
   return 0;
 }

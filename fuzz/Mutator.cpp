@@ -4,6 +4,7 @@
 #include <map>
 #include <utility>
 
+#include "Mender.h"
 #include "as/Namespaces.h"
 
 namespace fuzz {
@@ -110,6 +111,22 @@ void Mutator::mutateTree(Document& document) {
   std::size_t times = 1;
   while (times < 6 && random_.chance(45)) times++;
   for (std::size_t i = 0; i < times; i++) mutateOnce(document);
+  mend(document);
+}
+
+// Most of the time: what is refused must be refused well, too.
+void Mutator::mend(Document& document) {
+  const Node* const root = document.root();
+  if (root == nullptr || random_.chance(15)) return;
+  Mender mender(random_);
+  // Documents of all kinds stay what they have become, mostly.
+  const SchemaRules* const schema = vocabulary_.schema(Scope().inside(*root).uriOf(*root));
+  const bool isOfOurs = schema != nullptr && !schema->rootType.empty() && schema->uri != xsdUri;
+  if (isOfOurs && random_.chance(shape_.homes.empty() ? 40 : 94)) {
+    mender.mend(document, *schema);
+  } else {
+    mender.mendText(document);
+  }
 }
 
 void Mutator::collectNames(const Node& node) {
@@ -211,16 +228,17 @@ void Mutator::cross(Document& into, const Document& from) {
     const Place& at = random_.oneOf(ours);
     if (part.parent == nullptr || at.rule == nullptr) continue;
     const ChildRule* const child = at.rule->child(part.node->localName());
-    if (child == nullptr) continue;
+    if (child == nullptr || present(at, *child) != nullptr) continue;
     Node copy = std::move(*part.node);
     forEach(copy,
             [&](Node& node) { node.name = withPrefixOf(*at.node, std::string(node.localName())); });
     insertInOrder(*at.node, *at.rule, std::move(copy), child->rank);
-    return;
+    return mend(into);
   }
   Node& root = *ours.front().node;
   root.children.insert(root.children.end(), theirs.front().node->children.begin(),
                        theirs.front().node->children.end());
+  mend(into);
 }
 
 // ------------------------------------------------------------------------------------- Elements
@@ -236,7 +254,7 @@ Mutator::Places Mutator::placesOf(Document& document) {
     rule = root->localName() == schema->root ? schema->type(schema->rootType)
                                              : schema->anywhere(root->localName());
   }
-  collect({root, nullptr, 0, schema, rule}, scope, places);
+  collect({root, nullptr, 0, schema, rule, true}, scope, places);
   return places;
 }
 
@@ -257,7 +275,7 @@ void Mutator::collect(const Place& place, const Scope& scope, Places& places) {
     } else if (schema != nullptr) {
       rule = schema->anywhere(child.localName());
     }
-    collect({&child, place.node, i, schema, rule}, its, places);
+    collect({&child, place.node, i, schema, rule, known != nullptr && known->isOnce}, its, places);
   }
 }
 
@@ -278,6 +296,15 @@ Node Mutator::makeElement(const SchemaRules& schema, const ChildRule& rule, cons
   return made;
 }
 
+// The child that leaves no room for another one of that rule; null when there is room.
+Node* Mutator::present(const Place& at, const ChildRule& rule) {
+  if (!rule.isOnce) return nullptr;
+  for (Node& child : at.node->children) {
+    if (child.isElement() && child.localName() == rule.name) return &child;
+  }
+  return nullptr;
+}
+
 // Behind the last child that may stand in front of it.
 void Mutator::insertInOrder(Node& parent, const ElementRule& rule, Node child, int rank) {
   std::size_t at = 0;
@@ -294,6 +321,17 @@ void Mutator::insertElement(const Place& at) {
   if (isKnown && random_.chance(93)) {
     const ChildRule& child = random_.oneOf(at.rule->children);
     Node made = makeElement(*at.schema, child, *at.node, 0);
+    if (Node* const old = random_.chance(95) ? present(at, child) : nullptr) {
+      // More of what it holds instead.
+      if (made.children.empty()) return;
+      Node held = random_.oneOf(made.children);
+      if (const ElementRule* const inner = at.schema->type(child.type)) {
+        if (const ChildRule* const its = inner->child(held.localName())) {
+          return insertInOrder(*old, *inner, std::move(held), its->rank);
+        }
+      }
+      return;
+    }
     return insertInOrder(*at.node, *at.rule, std::move(made), child.rank);
   }
   if (!random_.chance(30)) return setKnownAttribute(at);
@@ -325,7 +363,7 @@ void Mutator::removeElement(const Place& at) {
 }
 
 void Mutator::duplicateElement(const Place& at) {
-  if (at.parent == nullptr) return;
+  if (at.parent == nullptr || (at.isOnce && random_.chance(95))) return;
   std::size_t times = 1;
   while (times < 300 && random_.chance(25)) times *= 3;
   const Node copy = *at.node;
@@ -342,6 +380,7 @@ void Mutator::moveElement(const Place& at, const Places& places) {
     const ChildRule* const child =
         target.rule == nullptr ? nullptr : target.rule->child(moved.localName());
     if (child == nullptr && !random_.chance(3)) continue;
+    if (child != nullptr && present(target, *child) != nullptr && random_.chance(95)) continue;
     // A copy moves: the target may stand below it.
     if (child != nullptr) {
       insertInOrder(*target.node, *target.rule, moved, child->rank);

@@ -44,11 +44,13 @@ class Mutator {
     std::size_t index;
     const SchemaRules* schema;  // Null when no schema knows its namespace.
     const ElementRule* rule;    // Null when the schema does not know the element.
+    bool isOnce;                // Whether its parent has room for no other one.
   };
   using Places = std::vector<Place>;
   struct Scope;
 
   void mutateTree(Document& document);
+  void mend(Document& document);
   void mutateOnce(Document& document);
 
   Places placesOf(Document& document);
@@ -64,6 +66,7 @@ class Mutator {
   void nestElement(const Place& at);
   void insertContent(Node& into);
   Node makeElement(const SchemaRules& schema, const ChildRule& rule, const Node& parent, int depth);
+  static Node* present(const Place& at, const ChildRule& rule);
   void insertInOrder(Node& parent, const ElementRule& rule, Node child, int rank);
 
   // Attributes.

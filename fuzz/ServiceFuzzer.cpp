@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "Mutator.h"
+#include "Report.h"
 #include "Requests.h"
 #include "support/ModelText.h"
 
@@ -13,6 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::unique_ptr<as::IService> service = fuzz::unlessRefused(
       [&] { return fuzz::parseService(fuzz::services(), "fuzz.xml", input, false); });
   if (!service) return 0;
+  fuzz::countModel();
   const std::string model = test::modelText(*service);
   std::string written;
   try {
@@ -22,6 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   // From here on nothing may go wrong: an exception ends the process, and is a finding.
   const auto again = fuzz::parseService(fuzz::services(), "fuzz.xml", written, false);
-  if (!again || test::modelText(*again) != model) std::abort();
+  if (!again) std::abort();
+  fuzz::requireSame(model, test::modelText(*again));
   return 0;
 }

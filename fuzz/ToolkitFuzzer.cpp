@@ -10,6 +10,7 @@
 
 #include "InputFiles.h"
 #include "Mutator.h"
+#include "Report.h"
 #include "as/AgentServices.h"
 #include "as/toolkit/Toolkit.h"
 #include "support/ModelText.h"
@@ -87,10 +88,7 @@ void lookAtDictionary(std::unique_ptr<as::IProgram> program, const toolkit::Flav
   check(*made.service);
 }
 
-void lookAtService(as::IService& service, const std::string& file,
-                   const toolkit::Flavour& flavour) {
-  look(service);
-  toolkit::lintFile(reader(), file);
+void convert(as::IService& service, const std::string& file, const toolkit::Flavour& flavour) {
   toolkit::ServiceDocument withProgram;
   unlessRefused([&] { withProgram = reader().readServiceWithProgram(file); });
   as::IProgram* program = nullptr;
@@ -115,16 +113,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const fuzz::InputFiles files(input);
   const std::string file = fuzz::workDirectory().file("document.xml");
   fuzz::workDirectory().write("document.xml", input);
-  // One flavour an input; which one is all the same.
+  // One flavour an input, and with a service one thing to do; which it is is all the same.
   const std::size_t choice = std::hash<std::string_view>()(input);
   const toolkit::Flavour& flavour = toolkit::flavours()[choice % toolkit::flavours().size()];
+  const bool toConvert = choice / toolkit::flavours().size() % 2 == 0;
   unlessRefused([&] {
     toolkit::Document document = reader().read(file);
     require((document.dictionary == nullptr) != (document.service == nullptr));
+    fuzz::countModel();
     if (document.dictionary) {
       lookAtDictionary(std::move(document.dictionary), flavour);
+    } else if (toConvert) {
+      convert(*document.service, file, flavour);
     } else {
-      lookAtService(*document.service, file, flavour);
+      look(*document.service);
+      toolkit::lintFile(reader(), file);
     }
   });
   return 0;

@@ -27,7 +27,7 @@ class SchemaReader {
     for (const auto& [name, type] : named_["complexType"]) {
       ElementRule rule;
       int rank = 0;
-      collect(*type, rule, rank, false);
+      collect(*type, rule, rank, Particle());
       rules_.types[name] = std::move(rule);
     }
     for (const auto& [name, root] : named_["element"]) {
@@ -39,25 +39,35 @@ class SchemaReader {
   SchemaRules take() { return std::move(rules_); }
 
  private:
+  // What a declaration stands in.
+  struct Particle {
+    bool isChoice = false;
+    bool repeats = false;
+  };
+
   static std::string nameOf(const Node& node) { return textOf(node.attribute("name")); }
 
-  void collect(const Node& from, ElementRule& rule, int& rank, bool inChoice) {
+  void collect(const Node& from, ElementRule& rule, int& rank, Particle outer) {
     for (const Node& child : from.children) {
       if (!child.isElement()) continue;
       const std::string_view what = child.localName();
+      const std::string most = textOf(child.attribute("maxOccurs"));
+      const Particle own = {outer.isChoice || what == "choice",
+                            outer.repeats || !(most.empty() || most == "1")};
       if (what == "element") {
-        rule.children.push_back({nameOf(child), textOf(child.attribute("type")), rank});
-        if (!inChoice) rank++;
+        rule.children.push_back(
+            {nameOf(child), textOf(child.attribute("type")), rank, !own.repeats});
+        if (!outer.isChoice) rank++;
       } else if (what == "attribute") {
         rule.attributes.push_back(attributeRule(child));
       } else if (what == "group" || what == "attributeGroup") {
         const Node* const definition = named_[std::string(what)][textOf(child.attribute("ref"))];
-        if (definition != nullptr) collect(*definition, rule, rank, inChoice);
+        if (definition != nullptr) collect(*definition, rule, rank, own);
       } else if (what == "choice") {
-        collect(child, rule, rank, true);
-        if (!inChoice) rank++;
+        collect(child, rule, rank, own);
+        if (!outer.isChoice) rank++;
       } else {
-        collect(child, rule, rank, inChoice);
+        collect(child, rule, rank, own);
       }
     }
   }
@@ -65,7 +75,7 @@ class SchemaReader {
   AttributeRule attributeRule(const Node& attribute) {
     AttributeRule rule;
     rule.name = nameOf(attribute);
-    rule.base = textOf(attribute.attribute("type"));
+    rule.base = rule.type = textOf(attribute.attribute("type"));
     rule.required = textOf(attribute.attribute("use")) == "required";
     if (const Node* const type = named_["simpleType"][rule.base]) {
       for (const Node& restriction : type->children) {
@@ -171,12 +181,12 @@ SchemaRules rulesOfSchemas() {
     std::string name;
     for (std::istringstream names(row.attributes); names >> name;) {
       const auto known = words.find(name);
-      rule.attributes.push_back({name, "xs:string",
+      rule.attributes.push_back({name, "xs:string", "xs:string",
                                  known == words.end() ? std::vector<std::string>() : known->second,
                                  name == "xpath"});
     }
     for (std::istringstream names(row.children); names >> name;) {
-      rule.children.push_back({name, name, 0});
+      rule.children.push_back({name, name, 0, false});
     }
   }
   return rules;

@@ -12,7 +12,8 @@ namespace fuzz {
 
 struct AttributeRule {
   std::string name;
-  std::string base;                // The built-in type that its values are of: "xs:string".
+  std::string type;                // The type that it is declared with ...
+  std::string base;                // ... and the built-in type that its values are of: "xs:string".
   std::vector<std::string> words;  // The values that the schema enumerates, if it does.
   bool required = false;
 };
@@ -20,7 +21,8 @@ struct AttributeRule {
 struct ChildRule {
   std::string name;
   std::string type;
-  int rank = 0;  // Children of a lower rank stand in front of those of a higher one.
+  int rank = 0;         // Children of a lower rank stand in front of those of a higher one.
+  bool isOnce = false;  // There is room for one.
 };
 
 // What elements of one type hold.
