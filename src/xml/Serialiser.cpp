@@ -59,7 +59,7 @@ DOMNode* copyNode(DOMDocument* to, const DOMNode* node) {
       DOMElement* const copy =
           to->createElement(writtenName(static_cast<const DOMElement*>(node)).c_str());
       const DOMNamedNodeMap* const attributes = node->getAttributes();
-      if (attributes->getLength() > CXMLParser::maxAttributes) {
+      if (attributes->getLength() > limits::attributes) {
         throw std::length_error("too many attributes to be read again");
       }
       for (XMLSize_t i = 0; i < attributes->getLength(); i++) {
