@@ -48,7 +48,8 @@ class IService;
 //  - 2,000 elements, as many times as minOccurs, maxOccurs and references to groups have them laid
 //    out, or 100 levels of them;
 //  - 256 characters in a pattern, or a pattern that leaves a choice how to go on;
-//  - 16 members of unions, or 16 paths of keys, references to keys and unique values.
+//  - 16 members of unions, or 16 paths of keys, references to keys and unique values;
+//  - 256 characters in a default or fixed value, or 100,000 of these values taken over.
 // What comes of all schemas may take 67,108,864 bytes. SECURITY.md gives the reasons, and tells
 // what is not promised.
 //

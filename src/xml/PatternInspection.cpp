@@ -81,7 +81,7 @@ class Inspection {
     if (!isGood_) return part;
     ++at_;
     const bool isTwofold = *at_ == u'*' || *at_ == u'+' || *at_ == u'?' || *at_ == u'{';
-    if (isTwofold || part.mayBeEmpty) isGood_ = false;
+    if (isTwofold || (isRepeated && part.mayBeEmpty)) isGood_ = false;
     if (isRepeated) {
       if (!hasEnd && !part.isSingle) isGood_ = false;
       follow(part.last, part.first);

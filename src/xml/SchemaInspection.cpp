@@ -153,6 +153,9 @@ class SchemaParser final : public xercesc::SAXParser {
         if (!leavesNoChoice(value)) refuse(refusals::ofPattern(narrow(value)));
       } else if (here.isUnion && isNamed(SchemaSymbols::fgATT_MEMBERTYPES)) {
         countUnionMembers(wordsIn(value));
+      } else if (isNamed(SchemaSymbols::fgATT_DEFAULT) || isNamed(SchemaSymbols::fgATT_FIXED)) {
+        check("characters in a default or fixed value", XMLString::stringLen(value),
+              limits::schemaDefault);
       } else if (isNamed(SchemaSymbols::fgATT_XPATH)) {
         check("paths of keys, references to keys and unique values",
               counts_.constraints += alternativesIn(value), limits::schemaConstraints);

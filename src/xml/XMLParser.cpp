@@ -71,11 +71,14 @@ std::unique_ptr<InputSource> sourceOfBytes(const std::string& bytes, const XMLCh
                                              bytes.size(), name);
 }
 
-// Parses as nothing: stands in for what was refused.
-std::unique_ptr<InputSource> emptySource() {
-  static const std::string nothing;
-  return sourceOfBytes(nothing, u"refused");
+// Stands in for a schema that was refused: one with nothing in it, which lets the parser go on to
+// the root.
+const std::string& emptySchema() {
+  static const std::string schema = "<schema xmlns='http://www.w3.org/2001/XMLSchema'/>";
+  return schema;
 }
+
+std::unique_ptr<InputSource> emptySource() { return sourceOfBytes(emptySchema(), u"refused"); }
 
 }  // namespace
 
@@ -160,6 +163,7 @@ void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int ur
                               XMLSize_t attributeCount, bool isEmpty, bool isRoot) {
   // In front of the DOM, which would hold them.
   refuseAtOnce(refusals::ofAttributes(attributeCount));
+  if (!brought_.empty()) countDefaults(attributes, attributeCount);
   // For an empty element the base class would end it from here, in front of the handler's start.
   XercesDOMParser::startElement(declaration, uriId, prefix, attributes, attributeCount, false,
                                 isRoot);
@@ -181,6 +185,14 @@ void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int ur
   refuse(refusals::ofDepth(++depth_));
   if (handler_ != nullptr) handler_->startElement(element);
   if (isEmpty) endElement(declaration, uriId, isRoot, prefix);
+}
+
+void CXMLParser::countDefaults(const RefVectorOf<XMLAttr>& attributes, XMLSize_t attributeCount) {
+  for (XMLSize_t i = 0; i < attributeCount; i++) {
+    if (!attributes.elementAt(i)->getSpecified()) defaults_++;
+  }
+  refuseAtOnce(refusals::ofSchemas("default and fixed values that the document takes over",
+                                   defaults_, limits::schemaDefaults));
 }
 
 bool CXMLParser::belongs(const DOMNode* element, const SchemaElementDecl& declaration) const {
@@ -293,10 +305,10 @@ std::unique_ptr<InputSource> CXMLParser::brought(const std::string& path, const 
     reason = refusals::ofSchemas("bytes", broughtBytes_, limits::schemaBytes);
   }
   if (!reason.empty()) {
-    schema.clear();
+    schema = emptySchema();
     refuse(reason);
   } else if (const auto refusal = inspection_.refusalOf(schema, name)) {
-    schema.clear();
+    schema = emptySchema();
     report(*refusal);
   }
   return sourceOfBytes(schema, name);

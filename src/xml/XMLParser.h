@@ -88,6 +88,9 @@ class CXMLParser : public xercesc::XercesDOMParser,
   // That of a schema which the document brings.
   std::unique_ptr<xercesc::InputSource> brought(const std::string& path, const XMLCh* name);
 
+  // Counts the attributes that come from a schema, where the document has brought one.
+  void countDefaults(const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
+                     XMLSize_t attributeCount);
   // Whether the handler may be given `element`, which that declaration of a schema let in.
   bool belongs(const xercesc::DOMNode* element,
                const xercesc::SchemaElementDecl& declaration) const;
@@ -121,6 +124,7 @@ class CXMLParser : public xercesc::XercesDOMParser,
   // Those that the document brings, as they were read; only while it is parsed.
   std::map<Name, std::string> brought_;
   XMLSize_t broughtBytes_ = 0;
+  XMLSize_t defaults_ = 0;
   SchemaInspection inspection_;
 };
 

@@ -101,6 +101,20 @@ const std::map<std::string, Case (*)(XMLSize_t)> cases = {
        return ofSchema("<xs:element name='k'><xs:unique name='u'><xs:selector xpath='a'/>" +
                        numbered("<xs:field xpath='@f", n - 1, "'/>") + "</xs:unique></xs:element>");
      }},
+    {"schemaDefault",
+     [](XMLSize_t n) {
+       return ofSchema("<xs:element name='k' default='" + std::string(n, 'x') + "'/>");
+     }},
+    {"schemaDefaults",
+     [](XMLSize_t n) {
+       return Case{
+           "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:x' "
+           "elementFormDefault='qualified'><xs:element name='r'><xs:complexType>"
+           "<xs:sequence><xs:element name='a' maxOccurs='unbounded'><xs:complexType>"
+           "<xs:attribute name='d' default='x'/></xs:complexType></xs:element>"
+           "</xs:sequence></xs:complexType></xs:element></xs:schema>",
+           documentWith(repeated("<a d='y'/>", 5) + repeated("<a/>", n))};
+     }},
     // A content model in which so many sequences of elements are told apart, at some hundred bytes
     // each.
     {"schemaMemory",

@@ -212,6 +212,48 @@ TEST_F(XMLParser, EarlierMessagesEndTheParseWhenTheRootIsAccepted) {
   EXPECT_EQ(recorder_.calls, Calls{"startDocument(r)"});
 }
 
+// What cannot wait for the root does not overtake what has waited.
+TEST_F(XMLParser, TheFirstMessageEndsTheParseWhateverCannotWait) {
+  const std::string earlier = "<!ELEMENT r ANY><!ELEMENT r ANY>";
+  const std::string message =
+      failure("<!DOCTYPE r [" + earlier + "]>" + document("")).getErrorText();
+  for (const std::string& later :
+       {std::string("<!ATTLIST r n CDATA 'x'>"), std::string("<!ENTITY % p ''>"),
+        "<!ENTITY e '" + std::string(limits::entityLength + 1, 'x') + "'>",
+        std::string("<!ENTITY % p SYSTEM 'x'> %p;")}) {
+    CXMLParser parser;
+    const std::string text = "<!DOCTYPE r [" + earlier + later + "]>" + document("");
+    xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(text.data()), text.size(),
+                                      u"doc");
+    try {
+      parser.parse(&source);
+      ADD_FAILURE() << later;
+    } catch (const as::CASParseException& told) {
+      EXPECT_EQ(told.getErrorText(), message) << later.substr(0, 100);
+    }
+  }
+}
+
+TEST_F(XMLParser, ADocumentThatAnotherNamesIsARegularFile) {
+  directory_.write("doc.xml", document("<a/>"));
+  for (const auto& [name, message] :
+       {std::pair<std::string, std::string>{directory_.path() + "/doc.xml", ""},
+        {"/dev/zero", "the document '/dev/zero' is refused: it is no regular file"},
+        {"/", "the document '/' is refused: it is a directory"},
+        {"/missing", "unable to open primary document entity '/missing'"}}) {
+    CXMLParser parser;
+    parser.setSchemaLocation((directory_.path() + "/").c_str());
+    CXStr wide(name);
+    std::string told;
+    try {
+      parser.parseReferred(wide);
+    } catch (const as::CASParseException& failure) {
+      told = failure.getErrorText();
+    }
+    EXPECT_EQ(told, message);
+  }
+}
+
 TEST_F(XMLParser, MessagesOfADocumentWithoutARootAreNotLost) {
   for (const char* text : {"", " ", "no xml", "<", "<!DOCTYPE r [<!ENTITY e", "<?xml version='9'?>",
                            "<!-- comment -->", "<r"}) {
