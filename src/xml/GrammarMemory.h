@@ -11,7 +11,9 @@
 // whoever wants to know, once, who may throw to end the parse.
 class GrammarMemory final : public xercesc::MemoryManager {
  public:
-  GrammarMemory() = default;
+  GrammarMemory();
+  // Frees what is left: where a parse ends half-way, the parser loses some of what it has made.
+  ~GrammarMemory() override;
   GrammarMemory(const GrammarMemory&) = delete;
   GrammarMemory& operator=(const GrammarMemory&) = delete;
 
@@ -23,7 +25,15 @@ class GrammarMemory final : public xercesc::MemoryManager {
   xercesc::MemoryManager* getExceptionMemoryManager() override;
 
  private:
+  // In front of every block.
+  struct Header {
+    Header* before;
+    Header* after;
+    XMLSize_t size;
+  };
+
   XMLSize_t held_ = 0;
+  Header blocks_;  // The two ends of the list of them.
   std::function<void()> tell_;
 };
 

@@ -4,6 +4,7 @@
 #include <xercesc/dom/DOMException.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLString.hpp>
 #include <xercesc/validators/DTD/DTDElementDecl.hpp>
@@ -87,7 +88,10 @@ CXMLParser::CXMLParser() : XercesDOMParser(nullptr, XMLPlatformUtils::fgMemoryMa
   memory.whenFull([this] { refuseAtOnce(refusals::ofGrammars()); });
 }
 
-CXMLParser::~CXMLParser() = default;
+CXMLParser::~CXMLParser() {
+  // Nothing is refused any more.
+  memory.whenFull(nullptr);
+}
 
 void CXMLParser::parse(const XMLCh* systemId) { parseFile(systemId, LocalFile::Opening::any); }
 

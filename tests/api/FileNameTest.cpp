@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <thread>
 
@@ -161,6 +162,34 @@ TEST_F(FileName, OfADocumentMayLeadToAFifo) {
   std::thread writer([&] { std::ofstream(name) << dictionary(""); });
   EXPECT_EQ(outcomeOfFile(name).result, Result::root);
   writer.join();
+}
+
+std::size_t openDescriptors() {
+  const std::filesystem::directory_iterator all("/proc/self/fd");
+  return static_cast<std::size_t>(std::distance(begin(all), end(all)));
+}
+
+TEST_F(FileName, LeavesNothingOpenWhereverItLeads) {
+  fifo("fifo");
+  directory_.write("bad.xsd", "<bad");
+  directory_.write("good.xsd", test::contentOf(AS_SCHEMA_DIR "/vorcobol.xsd"));
+  directory_.write("bad.xml", "<bad");
+  const std::size_t before = openDescriptors();
+  for (const char* hint : {"good.xsd", "bad.xsd", "missing.xsd", "fifo", "c d.xml", ".",
+                           "/dev/null", "http://127.0.0.1/s.xsd"}) {
+    SCOPED_TRACE(hint);
+    const auto outcome =
+        outcomeOf(*test::servicesWithoutSchemas(), dictionaryWithHint(hint), path("d.xml").c_str());
+    EXPECT_EQ(openDescriptors(), before) << "with the model, if any";
+  }
+  for (const char* name : {"a%20b.xml", "bad.xml", "missing.xml", "c%20d.xml"}) {
+    SCOPED_TRACE(name);
+    const auto outcome = outcomeOfFile(path(name));
+    EXPECT_EQ(openDescriptors(), before) << "with the model, if any";
+    const std::string service = test::javaService("dataDictFilename='" + path(name) + "'", "");
+    const auto whole = test::serviceOutcomeOf(service, true);
+    EXPECT_EQ(openDescriptors(), before) << "with the model, if any";
+  }
 }
 
 }  // namespace

@@ -53,6 +53,17 @@ TEST(GrammarMemory, NoSizeIsTooLargeToBeCounted) {
   memory.deallocate(block);
 }
 
+// LeakSanitizer tells if not.
+TEST(GrammarMemory, FreesWhatIsLeft) {
+  GrammarMemory memory;
+  void* const first = memory.allocate(10);
+  memory.allocate(20);
+  void* const third = memory.allocate(30);
+  memory.allocate(40);
+  memory.deallocate(third);
+  memory.deallocate(first);
+}
+
 // They may outlive it.
 TEST(GrammarMemory, ExceptionsTakeTheirsElsewhere) {
   GrammarMemory memory;
