@@ -1,0 +1,142 @@
+// Tests of documents that are large in one way or another.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "hostile/Texts.h"
+#include "support/Documents.h"
+#include "support/Model.h"
+#include "support/Requests.h"
+
+namespace {
+
+using hostile::doctype;
+using hostile::repeated;
+using test::dictionaryOf;
+using test::itemOf;
+using test::outcomeOf;
+using test::Result;
+using test::topItem;
+using testing::AnyOf;
+using testing::HasSubstr;
+
+TEST(HostileSize, ThousandLevelsAreRead) {
+  constexpr int levels = 1000;
+  const auto outcome =
+      outcomeOf(dictionaryOf(repeated("<group name='G'>", levels) + "<numeric name='INNERMOST'/>" +
+                             repeated("</group>", levels)));
+  ASSERT_EQ(outcome.result, Result::root) << outcome.text;
+  auto* item = topItem<as::IDataItem>(*outcome.root);
+  int depth = 0;
+  while (auto* const group = as::interface_cast<as::IGroup>(item)) {
+    ASSERT_EQ(group->getChildren()->getLength(), 1);
+    item = itemOf<as::IDataItem>(group->getChildren(), 0);
+    EXPECT_EQ(item->getParent(), group);
+    depth++;
+  }
+  EXPECT_EQ(depth, levels);
+  EXPECT_EQ(item->getName(), "INNERMOST");
+}
+
+TEST(HostileSize, ManyMoreLevelsAreRefused) {
+  for (const int levels : {5000, 100000}) {
+    SCOPED_TRACE(levels);
+    const std::string open = repeated("<group name='G'>", levels);
+    const auto closed = outcomeOf(dictionaryOf(open + repeated("</group>", levels)));
+    EXPECT_EQ(closed.result, Result::parseException);
+    EXPECT_THAT(closed.text, HasSubstr("nested"));
+    EXPECT_EQ(outcomeOf(dictionaryOf(open)).result, Result::parseException);
+    // Levels of no document of ours.
+    EXPECT_THAT(outcomeOf(repeated("<x>", levels)).result, Result::namespaceException);
+  }
+}
+
+TEST(HostileSize, LevelsMadeByEntitiesCountToo) {
+  std::string declarations = "<!ENTITY e0 ''>";
+  for (int i = 1; i <= 100; i++) {
+    declarations += "<!ENTITY e" + std::to_string(i) + " '" + repeated("<group name=\"G\">", 50) +
+                    "&e" + std::to_string(i - 1) + ";" + repeated("</group>", 50) + "'>";
+  }
+  EXPECT_EQ(outcomeOf(doctype(declarations) + dictionaryOf("&e100;")).result,
+            Result::parseException);
+}
+
+TEST(HostileSize, WhatIsNoElementIsPassedOver) {
+  for (const char* filler : {"<!-- x -->", "<?target data?>", "\n ", "<![CDATA[]]>"}) {
+    SCOPED_TRACE(filler);
+    const std::string many = repeated(filler, 200000);
+    const auto outcome =
+        outcomeOf(dictionaryOf("<numeric name='A'/>" + many + "<numeric name='B'/>"));
+    if (filler == std::string("<![CDATA[]]>")) {
+      // No text is allowed there, not even none.
+      EXPECT_EQ(outcome.result, Result::parseException);
+      continue;
+    }
+    ASSERT_EQ(outcome.result, Result::root) << outcome.text;
+    ASSERT_EQ(outcome.root->getDataItems()->getLength(), 2);
+    EXPECT_EQ(topItem<as::IDataItem>(*outcome.root, 0)->getName(), "A");
+    EXPECT_EQ(topItem<as::IDataItem>(*outcome.root, 1)->getName(), "B");
+  }
+}
+
+// `count` different attributes whose names start with `prefix`.
+std::string attributes(const std::string& prefix, int count) {
+  std::string text;
+  for (int i = 0; i < count; i++) text += " " + prefix + std::to_string(i) + "='urn:x'";
+  return text;
+}
+
+TEST(HostileSize, ManyAttributesAreRefused) {
+  constexpr int many = 50000;
+  for (const std::string& text : {attributes("a", many), repeated(" length='1'", many)}) {
+    EXPECT_EQ(outcomeOf(dictionaryOf("<group name='G'" + text + "/>")).result,
+              Result::parseException);
+  }
+}
+
+// Attributes that no schema decides about.
+TEST(HostileSize, ManyNamespaceDeclarationsAreReadOrRefused) {
+  constexpr int many = 5000;
+  EXPECT_THAT(
+      outcomeOf(dictionaryOf("<group name='G'" + attributes("xmlns:a", many) + "/>")).result,
+      AnyOf(Result::root, Result::parseException));
+  for (const char* prefix : {"a", "xmlns:a"}) {
+    EXPECT_THAT(outcomeOf("<r" + attributes(prefix, many) + "/>").result,
+                AnyOf(Result::namespaceException, Result::parseException));
+  }
+}
+
+TEST(HostileSize, LongTextsAreReadWhole) {
+  const std::string text = repeated("PICTURE\xC3\x84", 500000);
+  const auto outcome =
+      outcomeOf(dictionaryOf("<numeric name='N' picture='" + text + "'/><!--" + text + "-->"));
+  ASSERT_EQ(outcome.result, Result::root) << outcome.text;
+  EXPECT_EQ(topItem<as::IDataItem>(*outcome.root)->getPicture(), text);
+}
+
+TEST(HostileSize, LongNamesAreRefused) {
+  const std::string name(1000000, 'n');
+  EXPECT_EQ(outcomeOf(dictionaryOf("<" + name + "/>")).result, Result::parseException);
+  EXPECT_EQ(outcomeOf(dictionaryOf("<group name='G' " + name + "='1'/>")).result,
+            Result::parseException);
+  EXPECT_EQ(outcomeOf(dictionaryOf("&" + name + ";")).result, Result::parseException);
+  EXPECT_EQ(outcomeOf("<" + name + "/>").result, Result::namespaceException);
+}
+
+TEST(HostileSize, DeepPathsAndManyNamesakesAreSearched) {
+  constexpr int levels = 500;
+  std::string path = "G";
+  for (int i = 1; i < levels; i++) path += ".G";
+  const auto outcome = outcomeOf(dictionaryOf(
+      repeated("<group name='G'>", levels) + repeated("</group>", levels) +
+      "<numeric name='N' odo='" + path + "'/><numeric name='M' odo='" + path + ".X'/>"));
+  ASSERT_EQ(outcome.result, Result::root) << outcome.text;
+  as::IDataItem* found = topItem<as::IDataItem>(*outcome.root, 1)->getODO();
+  int depth = 0;
+  for (; found != nullptr; found = found->getParent()) depth++;
+  EXPECT_EQ(depth, levels);
+  EXPECT_EQ(topItem<as::IDataItem>(*outcome.root, 2)->getODO(), nullptr);
+}
+
+}  // namespace
