@@ -50,7 +50,11 @@ LocalFile::LocalFile(const std::string& path, Opening opening) {
     return;
   }
   kind_ = kindOf(status);
-  if (kind_ == Kind::regular) end_ = static_cast<std::size_t>(status.st_size);
+  if (kind_ != Kind::regular) return;
+  end_ = static_cast<std::size_t>(status.st_size);
+  // Of what cannot be read the parser would never free what it makes for it.
+  char first = 0;
+  if (uninterrupted([&] { return ::pread(descriptor_, &first, 1, 0); }) < 0) kind_ = Kind::missing;
 }
 
 LocalFile::~LocalFile() {

@@ -24,7 +24,7 @@ class LocalFile {
   LocalFile(const LocalFile&) = delete;
   LocalFile& operator=(const LocalFile&) = delete;
 
-  // "missing" for what is not there or cannot be opened.
+  // "missing" for what is not there or cannot be opened, or of which nothing can be read.
   Kind kind() const { return kind_; }
 
   // Reads up to `size` bytes, fewer only at the end, at a place in a regular file; of another, the
