@@ -117,6 +117,7 @@ TEST_F(Peers, NothingToTryIsTold) {
 struct Misbehaviour {
   const char* label;
   const char* told;
+  const char* patience = "600";
 };
 
 void PrintTo(const Misbehaviour& misbehaviour, std::ostream* out) { *out << misbehaviour.label; }
@@ -126,7 +127,8 @@ class PeersMisbehaviour : public Peers, public testing::WithParamInterface<Misbe
 TEST_P(PeersMisbehaviour, IsAFailureOfTheFile) {
   write("docs/bad.xml", std::string("<!--misbehave:") + GetParam().label + "--><x/>");
   write("docs/good.xml", "<x/>");
-  const ToolOutcome outcome = tryDocs({"--misbehave", "--seconds", "1", "--memory", "512"});
+  const ToolOutcome outcome = tryDocs(
+      {"--misbehave", "--seconds", "1", "--patience", GetParam().patience, "--memory", "512"});
   EXPECT_EQ(outcome.exitCode, 1);
   const std::string told = GetParam().told;
   EXPECT_THAT(outcome.out, HasSubstr("docs/bad.xml\n  " + told + ": "));
@@ -143,7 +145,8 @@ const std::vector<Misbehaviour> misbehaviours = {
     {"exit", "exited with 7"},
     {"connect", "network attempted"},
     {"throw", "foreign exception"},
-    {"hang", "timed out"},
+    {"hang", "timed out", "1"},
+    {"spin", "timed out"},
     {"grow", "memory exhausted"},
 };
 

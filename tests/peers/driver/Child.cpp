@@ -5,6 +5,7 @@
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/time.h>
+#include <time.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -56,6 +57,8 @@ Record* record = nullptr;
 long maxPages = 0;
 int maxTicks = 0;
 volatile sig_atomic_t ticks = 0;
+double maxSeconds = 0;
+double begun = 0;
 
 void exhausted() { Record::put(record->exhausted, record->request.data()); }
 
@@ -75,13 +78,20 @@ long pages() {
   return result;
 }
 
+// Of the processor's time, until now.
+double seconds() {
+  timespec time = {};
+  ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
 void tick(int /*signal*/) {
   if (pages() > maxPages) {
     exhausted();
     ::_exit(EXIT_FAILURE);
   }
   ticks = ticks + 1;
-  if (ticks <= maxTicks) return;
+  if (ticks <= maxTicks && seconds() - begun <= maxSeconds) return;
   record->timedOut = true;
   ::_exit(EXIT_FAILURE);
 }
@@ -95,7 +105,8 @@ void newFails() {
 void start(const Limits& limits, Record& record_) {
   record = &record_;
   maxPages = static_cast<long>(limits.memory) * 1024 * 1024 / ::sysconf(_SC_PAGESIZE);
-  maxTicks = static_cast<int>(limits.seconds) * ticksPerSecond;
+  maxTicks = static_cast<int>(limits.patience) * ticksPerSecond;
+  maxSeconds = limits.seconds;
   struct sigaction action = {};
   action.sa_handler = tick;
   action.sa_flags = SA_RESTART;
@@ -103,6 +114,11 @@ void start(const Limits& limits, Record& record_) {
   const itimerval interval = {{0, 1000000 / ticksPerSecond}, {0, 1000000 / ticksPerSecond}};
   ::setitimer(ITIMER_REAL, &interval, nullptr);
   std::set_new_handler(newFails);
+}
+
+void beginRequest() {
+  ticks = 0;
+  begun = seconds();
 }
 
 }  // namespace watch
@@ -140,6 +156,9 @@ class Misbehaviour {
     if (what_ == "throw") throw std::runtime_error("one of no kind of ours");
     if (what_ == "hang") {
       for (;;) ::pause();
+    }
+    if (what_ == "spin") {
+      for (volatile int turns = 0;;) turns = turns + 1;
     }
     if (what_ == "grow") grow();
     if (what_ == "leak") leak();
@@ -206,7 +225,7 @@ void liveFor(const std::filesystem::path& file, std::size_t first, const Surroun
   for (record.next = first; record.next < all.size();) {
     const Request& request = all[record.next++];
     Record::put(record.request, request.name);
-    watch::ticks = 0;
+    watch::beginRequest();
     const unsigned before = networkAttempts();
     make(request, record);
     if (networkAttempts() != before && record.connected[0] == '\0') {
@@ -214,7 +233,7 @@ void liveFor(const std::filesystem::path& file, std::size_t first, const Surroun
     }
   }
   Record::put(record.request, "its end");
-  watch::ticks = 0;
+  watch::beginRequest();
   record.leaked = leaks();
   record.done = true;
 }

@@ -10,7 +10,8 @@
 namespace peers {
 
 struct Limits {
-  unsigned seconds = 10;   // Of one request.
+  unsigned seconds = 10;   // Of the processor's time, of one request.
+  unsigned patience = 60;  // In seconds that go by, whoever has the processor.
   unsigned memory = 1024;  // In MiB.
   bool mayMisbehave = false;
 };

@@ -2,6 +2,7 @@
 #ifndef TESTS_PEERS_DRIVER_REPORT_H_
 #define TESTS_PEERS_DRIVER_REPORT_H_
 
+#include <cstddef>
 #include <filesystem>
 #include <iosfwd>
 #include <map>
@@ -24,6 +25,7 @@ class Report {
   void add(const std::filesystem::path& file, int status, const Record& record,
            const std::string& said);
 
+  std::size_t files() const { return files_.size(); }
   bool hasFailures() const { return !failures_.empty(); }
   void print(std::ostream& out) const;
 

@@ -48,6 +48,9 @@ struct Options {
   bool tellUntold = false;
 };
 
+// The way so far is told after as many.
+constexpr std::size_t filesToTell = 500;
+
 // 0 when all went well, 1 when there are failures, 2 when there is nothing to try.
 int tried(const Options& options) {
   const std::vector<fs::path> files = peers::filesBelow(options.roots, options.patterns);
@@ -57,9 +60,14 @@ int tried(const Options& options) {
   }
   const WorkFolder work;
   peers::Report report(options.tellUntold);
-  peers::Family family(options.processes, AS_SCHEMA_DIR, work.path(), options.limits,
-                       [&](const fs::path& file, int status, const peers::Record& record,
-                           const std::string& said) { report.add(file, status, record, said); });
+  peers::Family family(
+      options.processes, AS_SCHEMA_DIR, work.path(), options.limits,
+      [&](const fs::path& file, int status, const peers::Record& record, const std::string& said) {
+        report.add(file, status, record, said);
+        if (report.files() % filesToTell == 0 && record.done) {
+          std::cerr << report.files() << " of " << files.size() << " files\n";
+        }
+      });
   family.run(files);
   report.print(std::cout);
   return report.hasFailures() ? 1 : 0;
@@ -75,7 +83,10 @@ int main(int argc, char** argv) {
         ->required()
         ->check(CLI::ExistingPath);
     app.add_option("--glob", options.patterns, "the names of the files to try (all that are XML)");
-    app.add_option("--seconds", options.limits.seconds, "that a request may take (10)");
+    app.add_option("--seconds", options.limits.seconds,
+                   "of the processor's that a request may take (10)");
+    app.add_option("--patience", options.limits.patience,
+                   "in seconds with a request that may only wait (60)");
     app.add_option("--memory", options.limits.memory, "in MiB that a process may take (1024)");
     app.add_option("--processes", options.processes, "at a time (one a processor)")
         ->check(CLI::PositiveNumber);
