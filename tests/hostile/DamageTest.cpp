@@ -5,9 +5,11 @@
 #include <cstddef>
 #include <string>
 
+#include "hostile/Row.h"
 #include "hostile/Texts.h"
 #include "support/Documents.h"
 #include "support/Requests.h"
+#include "support/TempDirectory.h"
 
 namespace {
 
@@ -32,6 +34,35 @@ TEST(HostileDamage, CutAnywhereTheDocumentIsRefused) {
   for (std::size_t length = 0; length < document.size(); length++) {
     EXPECT_EQ(outcomeOf(*services, document.substr(0, length)).result, Result::parseException)
         << length;
+  }
+}
+
+// By schemas that let everything in, so that it is the cut alone that is refused.
+TEST(HostileDamage, CutAnywhereADocumentOfAnyKindIsRefused) {
+  for (const hostile::Kind& kind : hostile::kinds) {
+    SCOPED_TRACE(kind.label);
+    const bool isDictionary = hostile::isDictionary(kind);
+    const std::string outer = isDictionary ? "dataItems" : "operations";
+    const std::string inner = isDictionary ? "group" : "operation";
+    const test::TempDirectory schemas;
+    schemas.write(kind.own.schemaFile, hostile::laxSchema(kind.own.uri, {kind.root, outer, inner}));
+    const auto services = test::servicesWithoutSchemas();
+    services->setSchemaLocation(schemas.path().c_str());
+    const auto resultOf = [&](const std::string& document) {
+      return isDictionary ? outcomeOf(*services, document).result
+                          : test::serviceOutcomeOf(*services, document).result;
+    };
+    const std::string document = hostile::documentOf(
+        kind,
+        "<!-- c --><?p i?><" + outer + "><" + inner + " name='N'>t&amp;&#65;<![CDATA[c]]></" +
+            inner + "></" + outer + ">",
+        "",
+        "<?xml version='1.0' encoding='UTF-8'?>" + std::string("<!DOCTYPE ") + kind.root +
+            " [<!ENTITY e 'x'>]>");
+    ASSERT_EQ(resultOf(document), Result::root);
+    for (std::size_t length = 0; length < document.size(); length++) {
+      EXPECT_EQ(resultOf(document.substr(0, length)), Result::parseException) << length;
+    }
   }
 }
 

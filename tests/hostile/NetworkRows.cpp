@@ -1,4 +1,5 @@
-// Every place in which a document, or a schema that it leads to, can name something on a network.
+// Every place in which a document, or a schema that it leads to, can name something on a network,
+// and what else a service can name as its dictionary.
 #include <string>
 #include <vector>
 
@@ -189,6 +190,12 @@ std::vector<Row> namedAsProgram(const Kind& kind) {
             "ftp://127.0.0.1/d.xml"),
       asked("ProgramOfAHost", refused("documents are not read over a network", 0),
             "file://remotehost/d.xml"),
+      asked("ProgramThatIsNone", foreign(), "@DIR@/document.xml"),
+      asked("ProgramThatIsADirectory", refused("it is a directory", 0), "@DIR@"),
+      asked("ProgramThatIsADevice", refused("it is no regular file", 0), "/dev/zero"),
+      asked("ProgramThatIsATerminal", refused("it is no regular file", 0), "/dev/tty"),
+      asked("ProgramThatIsMissing", refused("unable to open primary document entity", 0),
+            "@DIR@/missing.xml"),
       {"ProgramNotAskedFor", model(), service("@NET@d.xml")},
   };
 }
@@ -199,8 +206,8 @@ std::vector<Row> servicesOnly(const Kind& kind) {
 
 INSTANTIATE_TEST_SUITE_P(Network, HostileDocument, testing::ValuesIn(ofEveryKind(namedByADocument)),
                          test::labelOf<Row>);
-INSTANTIATE_TEST_SUITE_P(NetworkProgram, HostileDocument,
-                         testing::ValuesIn(ofEveryKind(servicesOnly)), test::labelOf<Row>);
+INSTANTIATE_TEST_SUITE_P(Program, HostileDocument, testing::ValuesIn(ofEveryKind(servicesOnly)),
+                         test::labelOf<Row>);
 INSTANTIATE_TEST_SUITE_P(NetworkSchema, HostileDocument, testing::ValuesIn(namedByASchema()),
                          test::labelOf<Row>);
 INSTANTIATE_TEST_SUITE_P(NetworkInVain, HostileDocument, testing::ValuesIn(namedByASchemaInVain()),

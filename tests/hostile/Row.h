@@ -32,7 +32,7 @@ inline constexpr Kind java = {"Java", as::namespaces::java, "service"};
 inline constexpr Kind dotNet = {"DotNet", as::namespaces::dotnet, "service"};
 inline constexpr Kind kinds[] = {dictionary, web, com, java, dotNet};
 
-inline bool isDictionary(const Kind& kind) { return kind.own.uri == dictionary.own.uri; }
+inline bool isDictionary(const Kind& kind) { return std::string(kind.root) == dictionary.root; }
 
 // A document of the kind that names its schema as it should, with more in front of the root, among
 // its attributes and inside it.
@@ -84,7 +84,8 @@ struct File {
   Text text;
 };
 
-// In all texts "@NET@" stands for the server that listens, "@DIR@" for the folder of the document.
+// In all texts "@NET@" stands for the server that listens, "@DIR@" for the folder of the document,
+// "@SHIPPED@" for that of the shipped schemas.
 struct Row {
   std::string label;
   Answer answer;

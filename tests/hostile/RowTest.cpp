@@ -72,7 +72,8 @@ TEST_P(HostileDocument, ComesToWhatIsExpected) {
   NetworkTrap network;
   const test::TempDirectory directory;
   const auto inPlace = [&](const Text& text) {
-    return replaced(replaced(text(), "@NET@", network.url("")), "@DIR@", directory.path());
+    const std::string there = replaced(text(), "@DIR@", directory.path());
+    return replaced(replaced(there, "@NET@", network.url("")), "@SHIPPED@", AS_SCHEMA_DIR "/");
   };
   for (const File& file : row.files) directory.write(file.name, inPlace(file.text));
   const std::string document = inPlace(row.document);

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "as/Namespaces.h"
 
@@ -41,6 +42,25 @@ inline std::string laughs(const std::string& reference, const std::string& decla
             repeated(reference + "e" + std::to_string(i - 1) + ";", 10) + "'>";
   }
   return text;
+}
+
+inline const std::string anything =
+    "<xs:complexType mixed='true'><xs:sequence><xs:any processContents='lax' minOccurs='0' "
+    "maxOccurs='unbounded'/></xs:sequence><xs:anyAttribute processContents='skip'/>"
+    "</xs:complexType>";
+
+inline std::string elementOfAny(const std::string& name) {
+  return "<xs:element name='" + name + "'>" + anything + "</xs:element>";
+}
+
+// A schema that lets anything into the elements named.
+inline std::string laxSchema(const std::string& target, const std::vector<std::string>& names,
+                             const std::string& content = "") {
+  std::string text =
+      "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' elementFormDefault='qualified'" +
+      (target.empty() ? "" : " targetNamespace='" + target + "'") + ">" + content;
+  for (const std::string& name : names) text += elementOfAny(name);
+  return text + "</xs:schema>";
 }
 
 // Parts of the messages of refusals.

@@ -2,7 +2,11 @@
 #ifndef TESTS_SUPPORT_ENCODINGS_H_
 #define TESTS_SUPPORT_ENCODINGS_H_
 
+#include <iconv.h>
+
+#include <cstddef>
 #include <cstdint>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -52,6 +56,25 @@ inline std::string utf16(const std::string& utf8, bool bigEndian) {
 inline std::string latin1(const std::string& utf8) {
   std::string result;
   for (const std::uint32_t point : codePoints(utf8)) result += static_cast<char>(point);
+  return result;
+}
+
+// In any that the system knows; of UTF-16 and UCS-4 without a byte order mark when the order is
+// part of the name (UTF-16LE).
+inline std::string encoded(const std::string& utf8, const std::string& encoding) {
+  const iconv_t converter = ::iconv_open(encoding.c_str(), "UTF-8");
+  if (converter == reinterpret_cast<iconv_t>(-1)) throw std::runtime_error("no " + encoding);
+  std::string from = utf8;
+  std::string result(4 * utf8.size() + 4, '\0');
+  char* in = from.data();
+  char* out = result.data();
+  std::size_t inLeft = from.size();
+  std::size_t outLeft = result.size();
+  const bool converted =
+      ::iconv(converter, &in, &inLeft, &out, &outLeft) != static_cast<std::size_t>(-1);
+  ::iconv_close(converter);
+  if (!converted) throw std::runtime_error("not in " + encoding);
+  result.resize(result.size() - outLeft);
   return result;
 }
 
