@@ -1,5 +1,9 @@
 // The command line of the tool `agentservices`.
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
+#include <cerrno>
 #include <csignal>
 #include <exception>
 #include <utility>
@@ -49,14 +53,26 @@ int run(int argc, char** argv) {
   return exitUsage;
 }
 
+// Standard streams that the caller has closed stay unusable: no file that is opened later may come
+// to stand in their places, where results and messages go.
+void keepClosedStreamsClosed() {
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    if (::fcntl(stream, F_GETFD) >= 0 || errno != EBADF) continue;
+    // This takes the lowest number that is free, the stream's, and takes no data its way.
+    static_cast<void>(::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY));
+  }
+}
+
 }  // namespace
 
 }  // namespace cli
 
 int main(int argc, char** argv) {
-  // A reader that goes away is an error of writing like any other, and told.
-  static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
-  // So is a file that grows beyond what the user may write.
+  cli::keepClosedStreamsClosed();
+  // A reader that has seen enough (head, less) ends the tool without a word, whatever the caller
+  // does about that signal. Files that are to be written are complete before anything is printed.
+  static_cast<void>(std::signal(SIGPIPE, SIG_DFL));
+  // A file that grows beyond what the user may write is an error of writing like any other.
   static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
   int exitCode = cli::exitFine;
   try {

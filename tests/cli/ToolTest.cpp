@@ -1,8 +1,6 @@
 // Tests of the command-line tool: runs the built program and looks at what it writes and answers.
-#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <sstream>
@@ -290,26 +288,6 @@ TEST_F(ToolTest, VersionIsTold) {
   const test::ToolOutcome outcome = run({"--version"});
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_THAT(outcome.out, testing::MatchesRegex("agentservices [0-9]+\\.[0-9]+\\.[0-9]+\n"));
-}
-
-TEST_F(ToolTest, AFullDiskIsTold) {
-  write("good.xml", test::payProgram());
-  for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
-           {"show", "good.xml"}, {"show", "--json", "good.xml"}, {"validate", "good.xml"}}) {
-    const test::ToolOutcome outcome = runOn(open("/dev/full", O_WRONLY), AS_TOOL, arguments);
-    EXPECT_EQ(outcome.exitCode, 1);
-    EXPECT_THAT(outcome.err, StartsWith("agentservices: error: the output could not be written"));
-  }
-}
-
-TEST_F(ToolTest, AReaderThatWentAwayIsTold) {
-  write("good.xml", test::payProgram());
-  int ends[2] = {-1, -1};
-  ASSERT_EQ(pipe(ends), 0);
-  close(ends[0]);
-  const test::ToolOutcome outcome = runOn(ends[1], AS_TOOL, {"show", "good.xml"});
-  EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.err, StartsWith("agentservices: error: the output could not be written"));
 }
 
 }  // namespace

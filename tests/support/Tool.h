@@ -21,6 +21,7 @@ struct ToolOutcome {
   int exitCode;  // -1 when a signal ended the tool.
   std::string out;
   std::string err;
+  int signal = 0;  // The one that ended it.
 };
 
 // Has a directory of its own, in which the tool runs.
@@ -34,7 +35,8 @@ class ToolTest : public testing::Test {
     directory_.write(name, content);
   }
 
-  // Runs `program` with its standard output on the descriptor `out`, which is closed afterwards.
+  // Runs `program` with its standard output on the descriptor `out`, which is closed afterwards;
+  // closed for -1.
   ToolOutcome runOn(int out, const std::string& program, std::vector<std::string> arguments) const {
     arguments.insert(arguments.begin(), program);
     std::vector<char*> argv;
@@ -45,15 +47,17 @@ class ToolTest : public testing::Test {
     const pid_t child = fork();
     if (child == 0) {
       const int err = open(errorFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-      if (chdir(directory_.path().c_str()) == 0 && dup2(out, 1) == 1 && dup2(err, 2) == 2) {
+      const bool isOut = out < 0 ? close(1) == 0 : dup2(out, 1) == 1;
+      if (chdir(directory_.path().c_str()) == 0 && isOut && dup2(err, 2) == 2) {
         execv(program.c_str(), argv.data());
       }
       _exit(127);
     }
-    close(out);
+    if (out >= 0) close(out);
     int status = 0;
     EXPECT_EQ(waitpid(child, &status, 0), child);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, "", contentOf(errorFile)};
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, "", contentOf(errorFile),
+            WIFSIGNALED(status) ? WTERMSIG(status) : 0};
   }
 
   ToolOutcome runProgram(const std::string& program,

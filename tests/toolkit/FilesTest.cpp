@@ -1,8 +1,11 @@
 // Tests of writing files so that nothing is lost, and of names of files in documents.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 #include <string>
 
@@ -52,6 +55,53 @@ TEST_F(FilesTest, ADeviceIsWrittenToAsItIs) {
   EXPECT_TRUE(fs::is_character_file("/dev/null"));
   EXPECT_THAT(fileErrorOf([] { toolkit::replaceFile("/dev/full", "x"); }),
               StartsWith("/dev/full cannot be written"));
+}
+
+TEST_F(FilesTest, AFullDiskLeavesTheOldFile) {
+  write("there.txt", "old");
+  rlimit before = {};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+  rlimit small = before;
+  small.rlim_cur = 100;
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+  const std::string big(1000, 'x');
+  const std::string there = fileErrorOf([&] { toolkit::replaceFile("there.txt", big); });
+  const std::string fresh = fileErrorOf([&] { toolkit::replaceFile("new.txt", big); });
+  setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_EQ(there, "there.txt cannot be written and is as it was: File too large");
+  EXPECT_EQ(fresh, "new.txt cannot be written: File too large");
+  EXPECT_EQ(contentOf("there.txt"), "old");
+  EXPECT_EQ(std::distance(fs::directory_iterator("."), fs::directory_iterator()), 1);
+}
+
+TEST_F(FilesTest, AFolderThatCannotBeWrittenIsTold) {
+  write("closed/there.txt", "old");
+  for (const char* const folder : {".", "closed"}) ASSERT_EQ(chmod(folder, 0555), 0);
+  // Nothing is closed to the superuser.
+  const bool isSuperuser = geteuid() == 0;
+  if (isSuperuser) {
+    ASSERT_EQ(seteuid(65534), 0);
+  }
+  const std::string there = fileErrorOf([] { toolkit::replaceFile("closed/there.txt", "new"); });
+  const std::string fresh = fileErrorOf([] { toolkit::replaceFile("closed/new.txt", "new"); });
+  if (isSuperuser) {
+    ASSERT_EQ(seteuid(0), 0);
+  }
+  for (const char* const folder : {".", "closed"}) ASSERT_EQ(chmod(folder, 0755), 0);
+  EXPECT_EQ(there, "closed/there.txt cannot be written and is as it was: Permission denied");
+  EXPECT_EQ(fresh, "closed/new.txt cannot be written: Permission denied");
+  EXPECT_EQ(contentOf("closed/there.txt"), "old");
+  EXPECT_EQ(std::distance(fs::directory_iterator("closed"), fs::directory_iterator()), 1);
+}
+
+TEST_F(FilesTest, AFolderThatIsGoneIsTold) {
+  fs::create_directory("gone");
+  fs::current_path("gone");
+  fs::remove("../gone");
+  EXPECT_EQ(fileErrorOf([] { toolkit::replaceFile("a.txt", "a"); }),
+            "a.txt cannot be written: No such file or directory");
 }
 
 TEST_F(FilesTest, AServiceIsWrittenAsItsDocument) {
