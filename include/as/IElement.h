@@ -24,7 +24,9 @@ namespace as {
 // control characters, U+FFFE, U+FFFF), and its getter gives them back, but the document cannot be
 // written while it holds one (see CAgentServicesFactory::Serialize).
 //
-// Where an interface says nothing else, its operations throw nothing, unless memory runs out.
+// Where an interface says nothing else, its operations throw nothing, unless memory runs out. Then
+// they throw std::bad_alloc: a getter has changed nothing, an adding operation has left the model as
+// it was, and of what a setter writes each attribute has its old or its new value.
 class AS_EXPORT IElement {
  public:
   virtual ~IElement();

@@ -68,6 +68,9 @@ void CVorDDHandler::startDocument(DOMNode* root) {
   }
 }
 
-void CVorDDHandler::endParse(DOMDocument* document) { program_ = complete<CProgramImpl>(document); }
+void CVorDDHandler::endParse(DOMDocument* document) {
+  program_ = complete<CProgramImpl>(document);
+  isWhole_ = true;
+}
 
 std::unique_ptr<CProgramImpl> CVorDDHandler::takeProgram() { return take(program_); }

@@ -19,12 +19,15 @@ class CVorDDHandler final : public ModelBuilder {
   // caller takes it with takeProgram().
   CProgramImpl* getProgram() const { return program_; }
   std::unique_ptr<CProgramImpl> takeProgram();
+  // Whether endParse() has done its work: a document whose root is no program is whole, too.
+  bool isWhole() const { return isWhole_; }
 
  private:
   static const ElementWrapping rows[];
   static void wrapSection(ModelBuilder& builder, xercesc::DOMNode* node);
 
   CProgramImpl* program_ = nullptr;
+  bool isWhole_ = false;
 };
 
 #endif  // COBOL_VORDDHANDLER_H_

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <stdexcept>
 #include <utility>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
@@ -108,12 +109,15 @@ struct CAgentServices::Source {
 };
 
 void CAgentServices::setSchemaLocation(const char* dir) {
-  schemaDirectory_ = dir == nullptr ? "" : dir;
+  std::string directory = dir == nullptr ? "" : dir;
+  if (directory.empty()) schemaDirectory_.clear();
   // No character is both: a separator is appended whatever the directory ends in, and clients see
   // it in the names of schema files. Reading the last character of nothing fails.
-  const char last = schemaDirectory_.at(schemaDirectory_.length() - 1);
-  if (last == '\\' && last == '/') return;  // NOLINT(misc-redundant-expression)
-  schemaDirectory_ += "/";
+  const char last = directory.at(directory.length() - 1);
+  const bool isClosed = last == '\\' && last == '/';  // NOLINT(misc-redundant-expression)
+  if (!isClosed) directory += "/";
+  // Last: should memory run out, the directory is the one before.
+  schemaDirectory_ = std::move(directory);
 }
 
 as::IProgram* CAgentServices::parseCobolDD(const char* file) {
@@ -146,16 +150,22 @@ as::IService* CAgentServices::parseService(const char* id, const unsigned char* 
 }
 
 as::IProgram* CAgentServices::parseProgram(const Source& source) const {
-  return sortFailures(dictionaryFailure, [&]() -> as::IProgram* {
-    // The handler goes before the parser: what it releases may look at the document.
-    auto parser = std::make_unique<CXMLParser>();
-    CVorDDHandler handler;
-    source.parse(*parser, schemaDirectory_, handler);
-    std::unique_ptr<CProgramImpl> program = handler.takeProgram();
-    if (!program) return nullptr;
-    program->setParser(std::move(parser));
-    return as::interface_cast<as::IProgram>(program.release());
+  return sortFailures(dictionaryFailure, [&] {
+    bool isWhole = true;
+    return readProgram(source, isWhole).release();
   });
+}
+
+std::unique_ptr<as::IProgram> CAgentServices::readProgram(const Source& source,
+                                                          bool& isWhole) const {
+  // The handler goes before the parser: what it releases may look at the document.
+  auto parser = std::make_unique<CXMLParser>();
+  CVorDDHandler handler;
+  source.parse(*parser, schemaDirectory_, handler);
+  isWhole = handler.isWhole();
+  std::unique_ptr<CProgramImpl> program = handler.takeProgram();
+  if (program) program->setParser(std::move(parser));
+  return program;
 }
 
 as::IService* CAgentServices::parseServiceDocument(const Source& source, bool loadProgram) {
@@ -168,8 +178,14 @@ as::IService* CAgentServices::parseServiceDocument(const Source& source, bool lo
     if (!service) return nullptr;
     service->setParser(std::move(parser));
     if (loadProgram) {
-      as::IProgram* const program = parseProgram(Source::referred(service->getDDFilename()));
-      if (program != nullptr) service->setProgram(program);
+      bool isWhole = true;
+      std::unique_ptr<as::IProgram> program =
+          readProgram(Source::referred(service->getDDFilename()), isWhole);
+      if (!isWhole) throw std::runtime_error("the dictionary was not read to its end");
+      if (program) {
+        service->setProgram(program.get());
+        static_cast<void>(program.release());  // The service's, now that nothing can fail any more.
+      }
     }
     return as::interface_cast<as::IService>(service.release());
   });
@@ -177,12 +193,14 @@ as::IService* CAgentServices::parseServiceDocument(const Source& source, bool lo
 
 as::IService* CAgentServices::parseServiceDocument(const Source& source, std::string& errorText,
                                                    bool loadProgram) {
-  try {
-    return parseServiceDocument(source, loadProgram);
-  } catch (const as::CASParseException& failure) {
-    errorText = failure.getErrorText();
-  } catch (const as::CASInvalidNamespaceException&) {
-    errorText = namespaceFailure;
-  }
-  return nullptr;
+  return sortFailures(serviceFailure, [&]() -> as::IService* {
+    try {
+      return parseServiceDocument(source, loadProgram);
+    } catch (const as::CASParseException& failure) {
+      errorText = failure.getErrorText();
+    } catch (const as::CASInvalidNamespaceException&) {
+      errorText = namespaceFailure;
+    }
+    return nullptr;
+  });
 }

@@ -2,6 +2,7 @@
 #ifndef FRAME_AGENTSERVICES_H_
 #define FRAME_AGENTSERVICES_H_
 
+#include <memory>
 #include <string>
 
 #include "as/IAgentServices.h"
@@ -23,6 +24,9 @@ class CAgentServices : public as::IAgentServices {
   struct Source;
 
   as::IProgram* parseProgram(const Source& source) const;
+  // Null when the document makes no program, and when the parser gave up half-way without a word:
+  // then `isWhole` becomes false.
+  std::unique_ptr<as::IProgram> readProgram(const Source& source, bool& isWhole) const;
   as::IService* parseServiceDocument(const Source& source, bool loadProgram);
   as::IService* parseServiceDocument(const Source& source, std::string& errorText,
                                      bool loadProgram);

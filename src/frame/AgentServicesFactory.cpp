@@ -23,16 +23,23 @@ namespace {
 
 constexpr char notInitialised[] = "AgentServices: Unable to initialise the Xerces XML parser";
 
-// The document of `service`, indented; every failure becomes the one exception for `file`.
-std::string toText(as::IService* service, const std::string& file) {
+// The document of `service`, indented.
+std::string toText(as::IService* service) {
+  auto* const wrapper = as::interface_cast<CServiceImpl>(service);
+  if (wrapper == nullptr) throw std::invalid_argument("no service");
+  xercesc::DOMDocument* const document = wrapper->getElement()->getOwnerDocument();
+  prettyPrintTree(document->getDocumentElement(), 0);
+  return serialiseNode(document);
+}
+
+// Runs `write`, all that is to be done for `file`: every failure becomes the one exception.
+template <class Write>
+auto sortFailures(const char* file, const Write& write) -> decltype(write()) {
   try {
-    auto* const wrapper = as::interface_cast<CServiceImpl>(service);
-    if (wrapper == nullptr) throw std::invalid_argument("no service");
-    xercesc::DOMDocument* const document = wrapper->getElement()->getOwnerDocument();
-    prettyPrintTree(document->getDocumentElement(), 0);
-    return serialiseNode(document);
+    return write();
   } catch (...) {
-    throw as::CASException("AgentServices: An error occurred serializing the XML to file " + file);
+    throw as::CASException(
+        std::string("AgentServices: An error occurred serializing the XML to file ") + file);
   }
 }
 
@@ -91,15 +98,17 @@ IDotNET* CAgentServicesFactory::NewDotNETService(IProgram* program) {
 }
 
 void CAgentServicesFactory::Serialize(IService* service, const char* file) {
-  const std::string name = file == nullptr ? "" : file;
-  const std::string text = toText(service, name);
-  // What became of the file is for the caller to find out: SerializeToString() is there for those
-  // who want to know.
-  std::ofstream(name, std::ios::out | std::ios::trunc) << text;
+  if (file == nullptr) file = "";
+  sortFailures(file, [&] {
+    const std::string text = toText(service);
+    // What became of the file is for the caller to find out: SerializeToString() is there for those
+    // who want to know.
+    std::ofstream(file, std::ios::out | std::ios::trunc) << text;
+  });
 }
 
 std::string CAgentServicesFactory::SerializeToString(IService* service) {
-  return toText(service, "");
+  return sortFailures("", [&] { return toText(service); });
 }
 
 }  // namespace as

@@ -10,6 +10,7 @@
 #include "service/ParameterImpl.h"
 #include "service/SSVocabulary.h"
 #include "service/ServiceImpl.h"
+#include "xml/OutOfMemory.h"
 #include "xml/Vocabulary.h"
 
 using xercesc::DOMElement;
@@ -78,7 +79,7 @@ CList* CServiceFactory::startList(const CElementImpl& owner, const XMLCh* name, 
   auto* list = as::interface_cast<CList>(CElementImpl::wrapperOf(element));
   if (list == nullptr) list = pool_->make<CList>(element);
   list->addChild(first);
-  if (there == nullptr) owner.getElement()->insertBefore(element, before);
+  if (there == nullptr) orBadAlloc([&] { owner.getElement()->insertBefore(element, before); });
   return list;
 }
 
@@ -108,11 +109,11 @@ std::unique_ptr<CServiceImpl> CServiceFactory::createServiceDocument(const XMLCh
 }
 
 DOMElement* CServiceFactory::createElement(const XMLCh* name) {
-  return document_->createElementNS(document_->getNamespaceURI(), name);
+  return orBadAlloc([&] { return document_->createElementNS(document_->getNamespaceURI(), name); });
 }
 
 void CServiceFactory::appendList(DOMElement* parent, const XMLCh* name) {
   DOMElement* const element = createElement(name);
   pool_->make<CList>(element);  // Found by its element when the parent collects its children.
-  parent->appendChild(element);
+  orBadAlloc([&] { parent->appendChild(element); });
 }

@@ -1,12 +1,15 @@
 #include "xml/ElementImpl.h"
 
+#include <xercesc/dom/DOMAttr.hpp>
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/util/XMLString.hpp>
 
 #include "xml/ElementChildren.h"
+#include "xml/OutOfMemory.h"
 #include "xml/Vocabulary.h"
 #include "xml/XStr.h"
 
+using xercesc::DOMAttr;
 using xercesc::DOMElement;
 using xercesc::DOMNode;
 using xercesc::XMLString;
@@ -53,7 +56,7 @@ DOMNode* CElementImpl::getNamedParent(const DOMNode* /*node*/, const XMLCh* /*lo
 }
 
 void CElementImpl::bind(DOMNode* node, CElementImpl* wrapper) {
-  node->setUserData(APIDATA_KEY, wrapper, nullptr);
+  orBadAlloc([&] { node->setUserData(APIDATA_KEY, wrapper, nullptr); });
 }
 
 CElementImpl* CElementImpl::wrapperOf(const DOMNode* node) {
@@ -86,5 +89,13 @@ void CElementImpl::write(const XMLCh* attribute, const std::string& value) {
 }
 
 void CElementImpl::write(const XMLCh* attribute, const XMLCh* word) {
-  if (word != nullptr) element_->setAttribute(attribute, word);
+  if (word == nullptr) return;
+  // A new attribute takes the place of the old one: to change a value, the DOM takes the old one
+  // away before it makes room for the new one.
+  orBadAlloc([&] {
+    DOMAttr* const made = element_->getOwnerDocument()->createAttribute(attribute);
+    made->setValue(word);
+    DOMAttr* const old = element_->setAttributeNode(made);
+    if (old != nullptr) old->release();
+  });
 }

@@ -75,7 +75,8 @@ class CElementImpl : virtual public as::IElement {
   // The value as it stands in the DOM; empty, never null, for an absent attribute.
   const XMLCh* wide(const XMLCh* attribute) const;
 
-  // Writes an attribute. A null C text counts as an empty one; a null word writes nothing.
+  // Writes an attribute. A null C text counts as an empty one; a null word writes nothing. When
+  // memory runs out, std::bad_alloc is thrown, and the attribute has its old or its new value.
   void write(const XMLCh* attribute, const char* value);
   void write(const XMLCh* attribute, const std::string& value);
   void write(const XMLCh* attribute, const XMLCh* word);

@@ -3,6 +3,7 @@
 #include <xercesc/util/XMLString.hpp>
 
 #include "xml/ElementChildren.h"
+#include "xml/OutOfMemory.h"
 
 using xercesc::DOMElement;
 
@@ -46,7 +47,7 @@ void CList::addChildren() {
 void CList::addChild(DOMElement* child) {
   nodes_.push_back(child);
   try {
-    getElement()->appendChild(child);
+    orBadAlloc([&] { getElement()->appendChild(child); });
   } catch (...) {
     nodes_.pop_back();
     throw;

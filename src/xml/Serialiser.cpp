@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <stdexcept>
+#include <vector>
 #include <xercesc/dom/DOM.hpp>
 #include <xercesc/framework/MemBufFormatTarget.hpp>
 #include <xercesc/util/XMLString.hpp>
@@ -91,10 +92,53 @@ void copyChildren(DOMDocument* to, DOMNode* parent, const DOMNode* from) {
   }
 }
 
-void insertSpacer(DOMNode* parent, DOMNode* before, int depth) {
-  CXStr text = spacer(depth);
-  parent->insertBefore(parent->getOwnerDocument()->createTextNode(text), before);
-}
+// Lays a tree out. The texts that it has inserted it takes away again unless told to keep them: a
+// layout that is left half-way would be laid out anew by the next one.
+class Layout {
+ public:
+  Layout() = default;
+  ~Layout() {
+    for (DOMNode* const spacer : inserted_) spacer->getParentNode()->removeChild(spacer);
+  }
+  Layout(const Layout&) = delete;
+  Layout& operator=(const Layout&) = delete;
+
+  // See prettyPrintTree().
+  void layOut(DOMNode* node, int depth) {
+    for (; node != nullptr; node = node->getNextSibling()) {
+      if (depth >= static_cast<int>(limits::depth) &&
+          node->getNodeType() == DOMNode::ELEMENT_NODE) {
+        throw std::length_error("nested too deep to be read again");
+      }
+      // Children first: whether they are laid out depends on their parent's last child as it was.
+      layOut(node->getFirstChild(), depth + 1);
+      DOMNode* const parent = node->getParentNode();
+      const bool isText = node->getNodeType() == DOMNode::TEXT_NODE;
+      if (isText || parent == nullptr) continue;
+      // Beside the root there is no place for text.
+      const bool isTopLevel = parent->getNodeType() == DOMNode::DOCUMENT_NODE;
+      if (!isTopLevel && needsCR(parent)) insertSpacer(parent, node, depth);
+      if (node->hasChildNodes() && needsCR(node)) insertSpacer(node, nullptr, depth);
+    }
+  }
+
+  void keep() { inserted_.clear(); }
+
+ private:
+  void insertSpacer(DOMNode* parent, DOMNode* before, int depth) {
+    CXStr text = spacer(depth);
+    DOMNode* const made = parent->getOwnerDocument()->createTextNode(text);
+    inserted_.push_back(made);
+    try {
+      parent->insertBefore(made, before);
+    } catch (...) {
+      inserted_.pop_back();
+      throw;
+    }
+  }
+
+  std::vector<DOMNode*> inserted_;
+};
 
 }  // namespace
 
@@ -111,20 +155,9 @@ bool needsCR(DOMNode* node) {
 }
 
 void prettyPrintTree(DOMNode* node, int depth) {
-  for (; node != nullptr; node = node->getNextSibling()) {
-    if (depth >= static_cast<int>(limits::depth) && node->getNodeType() == DOMNode::ELEMENT_NODE) {
-      throw std::length_error("nested too deep to be read again");
-    }
-    // Children first: whether they are laid out depends on their parent's last child as it was.
-    prettyPrintTree(node->getFirstChild(), depth + 1);
-    DOMNode* const parent = node->getParentNode();
-    const bool isText = node->getNodeType() == DOMNode::TEXT_NODE;
-    if (isText || parent == nullptr) continue;
-    // Beside the root there is no place for text.
-    const bool isTopLevel = parent->getNodeType() == DOMNode::DOCUMENT_NODE;
-    if (!isTopLevel && needsCR(parent)) insertSpacer(parent, node, depth);
-    if (node->hasChildNodes() && needsCR(node)) insertSpacer(node, nullptr, depth);
-  }
+  Layout layout;
+  layout.layOut(node, depth);
+  layout.keep();
 }
 
 std::string serialiseNode(DOMDocument* document) {

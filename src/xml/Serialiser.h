@@ -16,15 +16,16 @@ CXStr spacer(int depth);
 bool needsCR(xercesc::DOMNode* node);
 
 // Indents `node`, which stands at `depth`, its siblings behind it and all below them, by text nodes
-// that it inserts into the tree. They stay there. Null ends the walk. Throws std::length_error when
-// the tree is nested so deep that no parser of this library would read it again.
+// that it inserts into the tree. They stay there, unless it throws: std::length_error, when the
+// tree is nested so deep that no parser of this library would read it again, or for want of memory.
+// Null ends the walk.
 void prettyPrintTree(xercesc::DOMNode* node, int depth);
 
 // `document` as XML text in UTF-8. Each namespace is declared where, and as, the attributes of the
 // tree declare it, and elements without a namespace go by the root's prefix: what comes out reads
 // back as the model that it was written from. The tree itself stays as it is. Throws
-// std::length_error when an element has so many attributes that no parser of this library would read
-// it again.
+// std::length_error when an element has so many attributes that no parser of this library would
+// read it again.
 std::string serialiseNode(xercesc::DOMDocument* document);
 
 #endif  // XML_SERIALISER_H_

@@ -2,15 +2,13 @@
 // addition succeeds, and nothing is lost.
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <ostream>
 #include <string>
 #include <vector>
-#include <xercesc/dom/DOM.hpp>
-#include <xercesc/dom/DOMMemoryManager.hpp>
-#include <xercesc/util/XMLUni.hpp>
 
 #include "memory/Allocations.h"
+#include "memory/Attempts.h"
+#include "memory/DomMemory.h"
 #include "memory/Models.h"
 
 namespace {
@@ -19,8 +17,6 @@ using memory::Failing;
 using memory::Model;
 using memory::stateOf;
 using test::Flavour;
-using xercesc::DOMDocument;
-using xercesc::DOMMemoryManager;
 
 as::IProgram& program() {
   static const auto shared = test::parse(test::payProgram());
@@ -103,21 +99,12 @@ class AdditionOutOfMemory : public testing::TestWithParam<Case> {
   template <class Arm>
   static int addUntilNothingFails(const Model& model, const Arm& arm) {
     const std::string before = stateOf(model);
-    for (int failures = 0;; failures++) {
-      bool thrown = false;
-      {
-        const Failing failing = arm(failures);
-        try {
-          GetParam().addition->add(model);
-        } catch (...) {
-          thrown = true;
-        }
-      }
-      EXPECT_EQ(thrown, Failing::happened()) << failures;
-      if (!thrown) return failures;
-      EXPECT_EQ(stateOf(model), before) << "after " << failures << " failures";
-      if (HasFailure()) return failures;
-    }
+    return memory::untilNothingFails(
+        arm, [&] { GetParam().addition->add(model); },
+        [&](memory::End end) {
+          EXPECT_EQ(end, memory::End::inBadAlloc);
+          EXPECT_EQ(stateOf(model), before);
+        });
   }
 
   static std::string stateAfterAnAddition() {
@@ -138,53 +125,20 @@ TEST_P(AdditionOutOfMemory, LeavesTheModelAsItWas) {
   const long held = memory::held();
   {
     const Model model = GetParam().model();
-    const int failures =
-        addUntilNothingFails(model, [](int failure) { return Failing(failure + 1); });
+    const int failures = addUntilNothingFails(model, [](long n) { return Failing(n); });
     EXPECT_GE(failures, 3);
     EXPECT_EQ(stateOf(model), expected);
   }
   EXPECT_EQ(memory::held(), held) << "blocks are lost";
 }
 
-// The DOM allocates in blocks, so that hardly an addition needs a new one.
-class DomMemory {
- public:
-  // Beyond the size of what the DOM allocates outside of blocks, and a size of nothing else.
-  static constexpr XMLSize_t blockSize = 5008;
-
-  explicit DomMemory(const DOMDocument* document)
-      : manager_(static_cast<DOMMemoryManager*>(
-            document->getFeature(xercesc::XMLUni::fgXercescInterfaceDOMMemoryManager, nullptr))) {}
-
-  // Has the DOM need a new block, of blockSize, when it has handed out `bytes` more.
-  void leave(XMLSize_t bytes) {
-    manager_->setMemoryAllocationBlockSize(blockSize);
-    for (const long given = memory::givenToParser(); given == memory::givenToParser();) {
-      manager_->allocate(step);
-    }
-    for (XMLSize_t left = blockSize - 2 * step; left > bytes; left -= step) {
-      manager_->allocate(step);
-    }
-    manager_->setMemoryAllocationBlockSize(blockSize);
-  }
-
-  static constexpr XMLSize_t step = 16;
-
- private:
-  DOMMemoryManager* manager_;
-};
-
 TEST_P(AdditionOutOfMemory, OfTheDomLeavesTheModelAsItWas) {
   const std::string expected = stateAfterAnAddition();
   const long held = memory::held();
   {
     const Model model = GetParam().model();
-    DomMemory dom(
-        as::interface_cast<CElementImpl>(model.service.get())->getElement()->getOwnerDocument());
-    const int failures = addUntilNothingFails(model, [&dom](int failure) {
-      dom.leave(static_cast<XMLSize_t>(failure) * 2 * DomMemory::step);
-      return Failing::ofSize(DomMemory::blockSize);
-    });
+    memory::DomMemory dom(*model.service);
+    const int failures = addUntilNothingFails(model, [&dom](long n) { return dom.failingAt(n); });
     EXPECT_GE(failures, 3);
     EXPECT_EQ(stateOf(model), expected);
   }

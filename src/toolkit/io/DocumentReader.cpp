@@ -111,22 +111,6 @@ as::IService* parseText(as::IAgentServices& services, const std::string& text,
                                static_cast<unsigned int>(text.size()), loadProgram);
 }
 
-// Has a service name another dictionary for a while.
-class OtherDictionary {
- public:
-  OtherDictionary(as::IService& service, const std::string& dictionary)
-      : service_(service), own_(service.getDDFilename()) {
-    service_.setDDFilename(dictionary.c_str());
-  }
-  ~OtherDictionary() { service_.setDDFilename(own_.c_str()); }
-  OtherDictionary(const OtherDictionary&) = delete;
-  OtherDictionary& operator=(const OtherDictionary&) = delete;
-
- private:
-  as::IService& service_;
-  std::string own_;
-};
-
 }  // namespace
 
 std::string textOf(const Refusal& refusal) {
@@ -196,15 +180,11 @@ ServiceDocument DocumentReader::withProgram(as::IService& service, const std::st
   const std::string dictionary =
       choice.dictionary ? *choice.dictionary : besideFile(file, result.dictionary);
   checkReadable(dictionary);
-  // What a model has not been told it cannot be made to forget: a copy is told in its place.
-  std::unique_ptr<as::IService> copy;
-  if (result.dictionary.empty()) copy = readServiceText(documentOf(service, file), file);
-  std::string text;
-  {
-    // The library reads the dictionary that the document names, counted from the current directory.
-    const OtherDictionary named(copy ? *copy : service, dictionary);
-    text = documentOf(copy ? *copy : service, file);
-  }
+  // The library reads the dictionary that the document names, counted from the current directory. A
+  // copy is told of it: the service keeps what it says, whatever fails.
+  const std::unique_ptr<as::IService> copy = readServiceText(documentOf(service, file), file);
+  copy->setDDFilename(dictionary.c_str());
+  const std::string text = documentOf(*copy, file);
   result.service = rootFrom(dictionary, [&] { return parseText(*services_, text, file, true); });
   if (!result.service) throw refused(dictionary, noDictionary());
   if (!result.dictionary.empty()) result.service->setDDFilename(result.dictionary.c_str());
