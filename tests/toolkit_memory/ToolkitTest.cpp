@@ -93,6 +93,16 @@ const Work works[] = {
      }},
 };
 
+// Whether a result tells that something could not be read. (The parser swallows what it does not
+// know: then there is nothing in a document.)
+bool isTold(const std::string& result) {
+  for (const char* const words :
+       {"nothing found in it", "cannot be used", "An unexpected error occurred"}) {
+    if (result.find(words) != std::string::npos) return true;
+  }
+  return false;
+}
+
 class ToolkitOutOfMemory : public test::ToolkitTest, public testing::WithParamInterface<Work> {
  protected:
   void SetUp() override {
@@ -129,9 +139,7 @@ TEST_P(ToolkitOutOfMemory, IsDoneOrTold) {
       },
       [&](End end) {
         EXPECT_NE(end, End::inOther);
-        // The parser swallows what it does not know: then there is nothing in a document.
-        EXPECT_TRUE(end != End::well || !told.empty() || result == expected ||
-                    result.find("nothing found in it") != std::string::npos)
+        EXPECT_TRUE(end != End::well || !told.empty() || result == expected || isTold(result))
             << result;
         forget();
         EXPECT_EQ(memory::held(), held) << "blocks are lost";
