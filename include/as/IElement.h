@@ -12,8 +12,13 @@ namespace as {
 // document's data: every getter reads the element when it is called, every setter writes it.
 //
 // Ownership: a client owns only the roots that it was given (a program, a service) and deletes only
-// those, before the library is unloaded. Everything reached from a root lives exactly as long as
-// the root; never delete it.
+// those. Everything reached from a root lives exactly as long as the root; never delete it.
+//
+// The end: delete a root before the library is unloaded, and before it stops the XML parser as the
+// process ends; one that is never deleted does no harm then. The handler that stops the parser is
+// registered while the library is loaded. So objects of static duration in a program linked with
+// the library are in time, as are exit handlers; a host that loads it with dlopen() has to make its
+// own after that. The entry object may go later, while the library is loaded.
 //
 // Threads: the library serves one thread at a time, process-wide, since every conversion of text
 // goes through one shared transcoder. Two threads with a document each have to take turns too.

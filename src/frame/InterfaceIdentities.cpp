@@ -50,6 +50,7 @@ namespace {
 
 // The factory is cast like the interfaces, but it is none: it registers with its own source file.
 #define AS_INTERFACE(Interface, registered, bases)                         \
+  AS_RELEASE_DERIVED(Interface, Interface)                                 \
   AS_INTERFACES_FIRST const IdentityRegistration registration_##Interface( \
       Interface::RTTI_obj, #Interface, recordsOf<AS_BASES registered>, &Interface::RTTI_scast);
 #include "frame/Interfaces.def"

@@ -2,6 +2,8 @@
 #ifndef XML_IDENTITY_H_
 #define XML_IDENTITY_H_
 
+#include <utility>
+
 #include "as/RTTI.h"
 
 // Registers one class for its lifetime: constructed when the library is loaded, destroyed when the
@@ -14,7 +16,7 @@ class IdentityRegistration {
                        RTTITypeinfo::StaticCast scast);
 
   // Frees the name and takes the record out of its bases' derived classes. Their counts and arrays
-  // stay as they are: nobody reads them after process exit has begun.
+  // stay as they are: AS_RELEASE_DERIVED frees the arrays, later.
   ~IdentityRegistration();
 
   IdentityRegistration(const IdentityRegistration&) = delete;
@@ -58,8 +60,18 @@ class IdentityRegistration {
 #define AS_INTERFACES_FIRST [[gnu::init_priority(101)]]
 #define AS_IMPLEMENTATIONS_NEXT [[gnu::init_priority(102)]]
 
+// Frees the array of Class's derived classes when nobody can read it any more: behind all
+// clean-ups, the client's own included, as the library's image goes. Without it each load would
+// lose it anew.
+#define AS_RELEASE_DERIVED(Class, name)                           \
+  [[gnu::destructor(101)]] static void releaseDerivedOf##name() { \
+    Class::RTTI_obj.derivedCount = 0;                             \
+    delete[] std::exchange(Class::RTTI_obj.derived, nullptr);     \
+  }
+
 // Registers implementation class Class under `name` with the records given, ended by a null.
 #define AS_REGISTER_IDENTITY(Class, name, ...)                                   \
+  AS_RELEASE_DERIVED(Class, name)                                                \
   static constinit RTTITypeinfo* RTTI_base_##name[] = {__VA_ARGS__};             \
   AS_IMPLEMENTATIONS_NEXT static const IdentityRegistration registration_##name( \
       Class::RTTI_obj, #name, RTTI_base_##name, &Class::RTTI_scast);
