@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "support/Documents.h"
 #include "support/OwnProcess.h"
@@ -395,6 +396,62 @@ TEST_F(BroughtSchema, TheFirstMessageIsTheOneTold) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
     EXPECT_THAT(outcomeOf(row.document).text, HasSubstr(row.text));
+  }
+}
+
+// A schema that lets every element in everywhere, with any attributes.
+std::string laxSchema(const std::string& target, const std::vector<std::string>& elements) {
+  std::string content;
+  for (const std::string& element : elements) {
+    content += "<xs:element name='" + element +
+               "'><xs:complexType mixed='true'><xs:sequence><xs:any processContents='lax' "
+               "minOccurs='0' maxOccurs='unbounded'/></xs:sequence><xs:anyAttribute "
+               "processContents='skip'/></xs:complexType></xs:element>";
+  }
+  return schemaOf(content, "", target);
+}
+
+// What our schemas never let through, but the builders have objects for.
+TEST_F(BroughtSchemaDeathTest, MayLetElementsStandWhereTheyMeanNothing) {
+  const struct {
+    const char* content;
+    Result result;
+  } rows[] = {
+      {"<program/>", Result::root},
+      {"<group><program><dataItems><numeric/></dataItems></program></group>", Result::root},
+      {"<dataItems><numeric/></dataItems><dataItems><group/></dataItems>", Result::root},
+      {"<dataItems><dataItems><numeric name='N'/></dataItems></dataItems>", Result::root},
+      {"<dataItems><entryPoints/><property/><fd><fd/></fd></dataItems>", Result::root},
+      {"<entryPoints><numeric/><entryPoint><group/><parameter><parameter/></parameter>"
+       "</entryPoint></entryPoints>",
+       Result::root},
+      {"<fileSection><numeric/><fd><dataItems><property/></dataItems><dataItems/></fd>"
+       "</fileSection>",
+       Result::root},
+      {"<dataItems><numeric><numericCondition><numericCondition/><numeric/></numericCondition>"
+       "</numeric></dataItems>",
+       Result::root},
+      {"<numericRange/><numericConstant/><parameter/>text", Result::root},
+  };
+  directory_.write(
+      "s.xsd", laxSchema(ns, {"program", "group", "dataItems", "numeric", "property", "entryPoints",
+                              "entryPoint", "parameter", "fd", "fileSection", "numericCondition",
+                              "numericRange", "numericConstant"}));
+  const std::string declared = " xmlns='" + ns +
+                               "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' " +
+                               located("s.xsd");
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.content);
+    const auto expected = testing::ExitedWithCode(static_cast<int>(row.result));
+    EXPECT_EXIT(
+        test::tellAndExit(outcomeBesides("<program" + declared + ">" + row.content + "</program>")),
+        expected, "");
+  }
+  for (const char* root : {"numeric", "group", "dataItems", "parameter", "fd", "property"}) {
+    SCOPED_TRACE(root);
+    const std::string document = "<" + std::string(root) + declared + "><program/></" + root + ">";
+    EXPECT_EXIT(test::tellAndExit(outcomeBesides(document)),
+                testing::ExitedWithCode(static_cast<int>(Result::null)), "");
   }
 }
 
