@@ -1,6 +1,7 @@
 #include "xml/GrammarMemory.h"
 
-#include <cstddef>
+#include <algorithm>
+#include <cstdint>
 #include <new>
 #include <xercesc/util/PlatformUtils.hpp>
 
@@ -9,49 +10,75 @@
 using xercesc::MemoryManager;
 using xercesc::XMLPlatformUtils;
 
-namespace {
-
-// Where a block starts behind its header: at the strictest alignment.
-constexpr std::size_t alignment = alignof(std::max_align_t);
-
-constexpr std::size_t rounded(std::size_t size) {
-  return (size + alignment - 1) / alignment * alignment;
-}
-
-}  // namespace
-
-GrammarMemory::GrammarMemory() : blocks_{&blocks_, &blocks_, 0} {}
-
 GrammarMemory::~GrammarMemory() {
-  while (blocks_.after != &blocks_) {
-    Header* const block = blocks_.after;
-    blocks_.after = block->after;
-    XMLPlatformUtils::fgMemoryManager->deallocate(block);
+  while (links_.after != &links_) {
+    Link* const gone = links_.after;
+    links_.after = gone->after;
+    XMLPlatformUtils::fgMemoryManager->deallocate(gone);
   }
 }
 
 void* GrammarMemory::allocate(XMLSize_t size) {
+  std::byte* block = nullptr;
+  if (size <= largestSmall) {
+    const std::size_t rounded = (size + alignment - 1) / alignment * alignment;
+    Free*& free = freeFor(rounded);
+    if (free != nullptr) {
+      block = reinterpret_cast<std::byte*>(free) - sizeof(Header);
+      free = free->next;
+      new (block) Header{size};
+      return block + sizeof(Header);
+    }
+    block = cut(sizeof(Header) + rounded);
+  } else {
+    // No size is so large that its sum with a header is a small one.
+    block = link(sizeof(Header) + std::min(size, static_cast<XMLSize_t>(PTRDIFF_MAX)));
+  }
+  new (block) Header{size};
+  return block + sizeof(Header);
+}
+
+void GrammarMemory::deallocate(void* pointer) {
+  if (pointer == nullptr) return;
+  std::byte* const block = static_cast<std::byte*>(pointer) - sizeof(Header);
+  const XMLSize_t size = reinterpret_cast<const Header*>(block)->size;
+  if (size > largestSmall) {
+    held_ -= sizeof(Header) + size;
+    auto* const link = reinterpret_cast<Link*>(block - sizeof(Link));
+    link->before->after = link->after;
+    link->after->before = link->before;
+    XMLPlatformUtils::fgMemoryManager->deallocate(link);
+  } else if (size != 0) {
+    Free*& free = freeFor((size + alignment - 1) / alignment * alignment);
+    free = new (pointer) Free{free};
+  }
+}
+
+// A piece of a chunk; what is left of one that is too small for it is lost until the end.
+std::byte* GrammarMemory::cut(std::size_t size) {
+  if (size > left_) {
+    chunk_ = link(chunkSize);
+    left_ = chunkSize;
+  }
+  std::byte* const piece = chunk_;
+  chunk_ += size;
+  left_ -= size;
+  return piece;
+}
+
+// So many bytes from elsewhere.
+std::byte* GrammarMemory::link(std::size_t size) {
   if ((size > limits::schemaMemory || held_ > limits::schemaMemory - size) && tell_) {
     // What frees memory on the way out may need some.
     const std::function<void()> tell = std::exchange(tell_, nullptr);
     tell();
   }
-  void* const place = XMLPlatformUtils::fgMemoryManager->allocate(rounded(sizeof(Header)) + size);
-  auto* const block = new (place) Header{&blocks_, blocks_.after, size};
-  block->after->before = block;
-  blocks_.after = block;
+  void* const place = XMLPlatformUtils::fgMemoryManager->allocate(sizeof(Link) + size);
   held_ += size;
-  return static_cast<std::byte*>(place) + rounded(sizeof(Header));
-}
-
-void GrammarMemory::deallocate(void* pointer) {
-  if (pointer == nullptr) return;
-  void* const place = static_cast<std::byte*>(pointer) - rounded(sizeof(Header));
-  const auto* const block = static_cast<const Header*>(place);
-  block->before->after = block->after;
-  block->after->before = block->before;
-  held_ -= block->size;
-  XMLPlatformUtils::fgMemoryManager->deallocate(place);
+  auto* const made = new (place) Link{&links_, links_.after};
+  made->after->before = made;
+  links_.after = made;
+  return static_cast<std::byte*>(place) + sizeof(Link);
 }
 
 MemoryManager* GrammarMemory::getExceptionMemoryManager() {

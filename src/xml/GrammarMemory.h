@@ -2,6 +2,8 @@
 #ifndef XML_GRAMMARMEMORY_H_
 #define XML_GRAMMARMEMORY_H_
 
+#include <array>
+#include <cstddef>
 #include <functional>
 #include <utility>
 #include <xercesc/framework/MemoryManager.hpp>
@@ -9,10 +11,14 @@
 
 // A content model of a few lines may be laid out to any size. What is beyond the limit is told to
 // whoever wants to know, once, who may throw to end the parse.
+//
+// Schemas are made of thousands of small blocks that go all at once: these are cut from large ones
+// and used again by blocks of their size, which is faster than to allocate each.
 class GrammarMemory final : public xercesc::MemoryManager {
  public:
-  GrammarMemory();
-  // Frees what is left: where a parse ends half-way, the parser loses some of what it has made.
+  GrammarMemory() = default;
+  // Frees what is left, too: where a parse ends half-way, the parser loses some of what it has
+  // made.
   ~GrammarMemory() override;
   GrammarMemory(const GrammarMemory&) = delete;
   GrammarMemory& operator=(const GrammarMemory&) = delete;
@@ -25,15 +31,34 @@ class GrammarMemory final : public xercesc::MemoryManager {
   xercesc::MemoryManager* getExceptionMemoryManager() override;
 
  private:
+  static constexpr std::size_t alignment = alignof(std::max_align_t);
+  static constexpr std::size_t largestSmall = 512;
+  static constexpr std::size_t chunkSize = 65536;
+
   // In front of every block.
-  struct Header {
-    Header* before;
-    Header* after;
+  struct alignas(alignment) Header {
     XMLSize_t size;
   };
+  // In front of what comes from elsewhere: chunks, and blocks that are too large for one.
+  struct alignas(alignment) Link {
+    Link* before;
+    Link* after;
+  };
+  // In a small block that is free.
+  struct Free {
+    Free* next;
+  };
 
-  XMLSize_t held_ = 0;
-  Header blocks_;  // The two ends of the list of them.
+  // The list of free blocks for so many bytes.
+  Free*& freeFor(std::size_t size) { return free_[size / alignment]; }
+  std::byte* cut(std::size_t size);
+  std::byte* link(std::size_t size);
+
+  XMLSize_t held_ = 0;  // From elsewhere.
+  std::array<Free*, largestSmall / alignment + 1> free_ = {};
+  std::byte* chunk_ = nullptr;  // What is left of the last one.
+  std::size_t left_ = 0;
+  Link links_{&links_, &links_};
   std::function<void()> tell_;
 };
 

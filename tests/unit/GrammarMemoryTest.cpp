@@ -28,14 +28,40 @@ TEST(GrammarMemory, TellsOnceWhenItIsFull) {
   GrammarMemory memory;
   int told = 0;
   memory.whenFull([&] { told++; });
-  constexpr XMLSize_t most = limits::schemaMemory;
-  void* const half = memory.allocate(most / 2);
-  void* const other = memory.allocate(most / 2);
+  constexpr XMLSize_t half = limits::schemaMemory / 2 - 100;
+  void* const first = memory.allocate(half);
+  void* const second = memory.allocate(half);
   EXPECT_EQ(told, 0);
   void* const more = memory.allocate(1);
-  void* const evenMore = memory.allocate(1);
+  void* const evenMore = memory.allocate(half);
   EXPECT_EQ(told, 1);
-  for (void* const block : {half, other, more, evenMore}) memory.deallocate(block);
+  for (void* const block : {first, second, more, evenMore}) memory.deallocate(block);
+}
+
+TEST(GrammarMemory, GivesBlocksThatWereFreedToOthersOfTheirSize) {
+  GrammarMemory memory;
+  memory.whenFull([] { throw std::length_error("full"); });
+  void* const first = memory.allocate(100);
+  void* const second = memory.allocate(100);
+  memory.deallocate(first);
+  memory.deallocate(second);
+  EXPECT_EQ(memory.allocate(98), second);
+  EXPECT_EQ(memory.allocate(112), first);
+  for (XMLSize_t i = 0; i < limits::schemaMemory / 100; i++) {
+    memory.deallocate(memory.allocate(300));
+  }
+}
+
+TEST(GrammarMemory, SmallBlocksAddUp) {
+  GrammarMemory memory;
+  memory.whenFull([] { throw std::length_error("full"); });
+  XMLSize_t held = 0;
+  EXPECT_THROW(
+      {
+        for (; held <= limits::schemaMemory; held += 500) memory.allocate(500);
+      },
+      std::length_error);
+  EXPECT_GT(held, limits::schemaMemory * 9 / 10);
 }
 
 TEST(GrammarMemory, WhatIsFreedDoesNotCount) {
@@ -58,8 +84,8 @@ TEST(GrammarMemory, FreesWhatIsLeft) {
   GrammarMemory memory;
   void* const first = memory.allocate(10);
   memory.allocate(20);
-  void* const third = memory.allocate(30);
-  memory.allocate(40);
+  void* const third = memory.allocate(3000);
+  memory.allocate(4000);
   memory.deallocate(third);
   memory.deallocate(first);
 }
