@@ -66,13 +66,11 @@ std::string refusals::ofAttributeDeclarations(const xercesc::DTDElementDecl& ele
          "' are refused: attributes are declared by the schema";
 }
 
-std::string refusals::ofAttributes(XMLSize_t count) {
-  if (count <= limits::attributes) return {};
+std::string refusals::ofTooManyAttributes() {
   return "an element has more than " + std::to_string(limits::attributes) + " attributes";
 }
 
-std::string refusals::ofDepth(XMLSize_t depth) {
-  if (depth <= limits::depth) return {};
+std::string refusals::ofTooManyLevels() {
   return "elements are nested deeper than " + std::to_string(limits::depth) + " levels";
 }
 

@@ -32,9 +32,9 @@ std::string ofExternalEntity(const std::string& name);
 std::string ofEntity(const xercesc::DTDEntityDecl& entity, bool isParameterEntity);
 std::string ofAttributeDeclarations(const xercesc::DTDElementDecl& element);
 
-// What stands in a document.
-std::string ofAttributes(XMLSize_t count);
-std::string ofDepth(XMLSize_t depth);
+// What stands in a document; the numbers are compared where they are counted, element by element.
+std::string ofTooManyAttributes();
+std::string ofTooManyLevels();
 std::string ofUndeclared(const std::string& element);
 std::string ofForeign(const std::string& element, const std::string& uri);
 

@@ -124,7 +124,7 @@ class SchemaParser final : public xercesc::SAXParser {
                     const RefVectorOf<XMLAttr>& attributes, XMLSize_t attributeCount, bool isEmpty,
                     bool /*isRoot*/) override {
     check("levels of elements", open_.size() + 1, limits::schemaDepth);
-    refuse(refusals::ofAttributes(attributeCount));
+    if (attributeCount > limits::attributes) refuse(refusals::ofTooManyAttributes());
     const bool isSchemas =
         XMLString::equals(getScanner().getURIText(uriId), SchemaSymbols::fgURI_SCHEMAFORSCHEMA);
     const XMLCh* const name = declaration.getBaseName();

@@ -166,7 +166,7 @@ void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int ur
                               const XMLCh* prefix, const RefVectorOf<XMLAttr>& attributes,
                               XMLSize_t attributeCount, bool isEmpty, bool isRoot) {
   // In front of the DOM, which would hold them.
-  refuseAtOnce(refusals::ofAttributes(attributeCount));
+  if (attributeCount > limits::attributes) refuseAtOnce(refusals::ofTooManyAttributes());
   if (!brought_.empty()) countDefaults(attributes, attributeCount);
   // For an empty element the base class would end it from here, in front of the handler's start.
   XercesDOMParser::startElement(declaration, uriId, prefix, attributes, attributeCount, false,
@@ -186,7 +186,7 @@ void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int ur
       !belongs(element, static_cast<const SchemaElementDecl&>(declaration))) {
     refuse(refusals::ofForeign(narrow(element->getNodeName()), narrow(rootNamespaceOf(element))));
   }
-  refuse(refusals::ofDepth(++depth_));
+  if (++depth_ > limits::depth) refuse(refusals::ofTooManyLevels());
   if (handler_ != nullptr) handler_->startElement(element);
   if (isEmpty) endElement(declaration, uriId, isRoot, prefix);
 }
