@@ -26,7 +26,7 @@ class GrammarMemory final : public xercesc::MemoryManager {
   void whenFull(std::function<void()> tell) { tell_ = std::move(tell); }
 
   void* allocate(XMLSize_t size) override;
-  void deallocate(void* block) override;
+  void deallocate(void* pointer) override;
   // An exception may outlive this.
   xercesc::MemoryManager* getExceptionMemoryManager() override;
 
