@@ -24,7 +24,8 @@ class IService;
 // A request returns the root of a new model, which the caller owns and deletes; it outlives this
 // object. The result is null when the document is valid but its root makes no model, which the
 // shipped schemas never let happen. A request that runs out of memory makes no model: it throws
-// as::CASException or gives null, and nothing that is this library's is leaked.
+// as::CASException or gives null, and nothing that is this library's is leaked. (Refused memory
+// itself, the XML parser may lose some of its own, or end the process.)
 //
 // Refused, with as::CASParseException, whoever made the document:
 //  - elements nested deeper than 2,048 levels;

@@ -14,8 +14,8 @@ std::string documentOf(as::IService& service, const std::string& file) {
     return as::CAgentServicesFactory::SerializeToString(&service);
   } catch (const as::CASException&) {
     throw RefusedDocument({file, 0, 0,
-                           "the service cannot be written as XML: its elements nest too deep, or a "
-                           "name holds control characters",
+                           "the service cannot be written as XML: its elements nest too deep, one "
+                           "has too many attributes, or a name holds control characters",
                            ""});
   }
 }

@@ -57,24 +57,49 @@ class ServiceJson {
     writeObjects<T>(writer_, key, list, [this](T& member) { writeMembers(member); });
   }
 
-  // A whole forest of parameters or fields.
+  // A whole forest of parameters or fields, with their field attributes. Documents nest deeply: the
+  // way is kept in a vector, not on the stack.
   void writeFields(const char* key, as::IList* list) {
-    writer_.key(key);
-    writer_.beginArray();
-    walkFields(
-        list,
-        [this](as::IField& field, std::size_t depth) {
-          writer_.beginObject();
-          writeMembers(field, depth == 0);
-          if (!referenceOf(field).empty()) return;
-          writer_.key("children");
-          writer_.beginArray();
-        },
-        [this](as::IField& field) {
-          if (referenceOf(field).empty()) writer_.end();
+    struct Array {
+      as::IField* owner;  // Null for `list`.
+      as::IList* members;
+      int next;
+      bool isOfAttributes;
+    };
+    std::vector<Array> way;
+    const auto begin = [&](const char* name, const Array& array) {
+      writer_.key(name);
+      writer_.beginArray();
+      way.push_back(array);
+    };
+    begin(key, {nullptr, list, 0, false});
+    while (!way.empty()) {
+      Array& array = way.back();
+      if (array.next == array.members->getLength()) {
+        as::IField* const owner = array.owner;
+        const bool wereAttributes = array.isOfAttributes;
+        writer_.end();
+        way.pop_back();
+        if (owner == nullptr) continue;
+        if (wereAttributes) {
+          begin("children", {owner, owner->getChildren(), 0, false});
+        } else {
           writer_.end();
-        });
-    writer_.end();
+        }
+        continue;
+      }
+      auto* const field = as::interface_cast<as::IField>(array.members->getItem(array.next++));
+      if (field == nullptr) continue;
+      writer_.beginObject();
+      writeMembers(*field, array.owner == nullptr || array.isOfAttributes);
+      if (!referenceOf(*field).empty()) {
+        writer_.end();
+      } else if (as::IList* const attributes = flavour_.attributesOf(*field)) {
+        begin("fieldAttributes", {field, attributes, 0, true});
+      } else {
+        begin("children", {field, field->getChildren(), 0, false});
+      }
+    }
   }
 
   void writeMembers(as::IOperation& operation) {
@@ -110,7 +135,7 @@ class ServiceJson {
     }
   }
 
-  // Everything but the children.
+  // Everything but the field attributes and children.
   void writeMembers(as::IField& field, bool isParameter) {
     writer_.member("name", field.getName());
     writer_.member("qualifiedName", field.getQualifiedName());
@@ -131,9 +156,6 @@ class ServiceJson {
     writer_.member("hasChildren", field.hasChildren());
     if (!referenceOf(field).empty()) return;
     writeArray<as::IMapping>("mappings", field.getMappings());
-    if (as::IList* const attributes = flavour_.attributesOf(field)) {
-      writeFields("fieldAttributes", attributes);
-    }
   }
 
   void writeMembers(as::IHiddenParameter& hidden) {
