@@ -41,8 +41,8 @@ class AS_EXPORT CAgentServicesFactory {
   // A .NET service is written in the Web service namespace, and is read back as a Web service;
   // getImplementation() tells it apart.
   //
-  // A program of the client's own making (a class of its own that is an as::IProgram) is served like
-  // one that was read. Nobody knows its file: "dataDictFilename" is not written then.
+  // A program of the client's own making (a class of its own that is an as::IProgram) is served
+  // like one that was read. Nobody knows its file: "dataDictFilename" is not written then.
   static IWebService* NewWebService(IProgram* program);
   static IService* NewCOMService(IProgram* program);
   static IService* NewJavaService(IProgram* program);

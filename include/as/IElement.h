@@ -30,8 +30,8 @@ namespace as {
 // written while it holds one (see CAgentServicesFactory::Serialize).
 //
 // Where an interface says nothing else, its operations throw nothing, unless memory runs out. Then
-// they throw std::bad_alloc: a getter has changed nothing, an adding operation has left the model as
-// it was, and of what a setter writes each attribute has its old or its new value.
+// they throw std::bad_alloc: a getter has changed nothing, an adding operation has left the model
+// as it was, and of what a setter writes each attribute has its old or its new value.
 class AS_EXPORT IElement {
  public:
   virtual ~IElement();

@@ -201,7 +201,8 @@ class ServiceMaker {
     if (!item.hasODO() || item.getMaxOccurs() == 0) return;
     note("variable-table", item,
          "it occurs up to " + std::to_string(item.getMaxOccurs()) + " times, as often as " +
-             (counter == nullptr ? item.getAttributeValue("odo") : dottedPath(*counter)) + " tells");
+             (counter == nullptr ? item.getAttributeValue("odo") : dottedPath(*counter)) +
+             " tells");
   }
 
   void note(const char* rule, as::IDataItem& item, const std::string& text) {
