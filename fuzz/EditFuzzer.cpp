@@ -455,12 +455,6 @@ int depthOf(const fuzz::Node& node) {
   return deepest + 1;
 }
 
-// Whether the document may hold what XML 1.0 does not: control characters.
-bool isOtherXml(const fuzz::Document& document) {
-  return !document.nodes.empty() && document.nodes.front().name == "xml" &&
-         document.nodes.front().text.find("1.1") != std::string::npos;
-}
-
 std::unique_ptr<as::IService> newService(as::IAgentServices& by, std::size_t choice) {
   using Factory = as::CAgentServicesFactory;
   static const char* const dictionaries[] = {"MOTPREM.xml", "own.xml", "WHSLOTS.xml",
@@ -515,7 +509,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     written = as::CAgentServicesFactory::SerializeToString(service.get());
   } catch (const as::CASException&) {
     const int depth = document.root() == nullptr ? 0 : depthOf(*document.root());
-    if (editor.isHardToWrite() || isOtherXml(document) ||
+    if (editor.isHardToWrite() || document.isOtherXml() ||
         depth + 2 * editor.depthAdded() + 8 > maxDepth) {
       return 0;
     }

@@ -1,4 +1,5 @@
 // Runs a target once on each of the files and folders named, without libFuzzer: as a test.
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -21,6 +22,7 @@ int main(int argc, char** argv) {
       if (entry.is_regular_file()) files.push_back(entry.path());
     }
   }
+  std::sort(files.begin(), files.end());
   for (const std::filesystem::path& file : files) {
     // In front of the run: the last one named is the one that failed.
     std::printf("%s\n", file.c_str());

@@ -1,5 +1,6 @@
 // Gives the input, a dictionary or a service, to everything that the toolkit does with documents.
 // What it writes must be good, and the models that it looks at must stay as they are.
+#include <cstdio>
 #include <cstdlib>
 #include <functional>
 #include <memory>
@@ -11,6 +12,7 @@
 #include "InputFiles.h"
 #include "Mutator.h"
 #include "Report.h"
+#include "XmlTree.h"
 #include "as/AgentServices.h"
 #include "as/toolkit/Toolkit.h"
 #include "support/ModelText.h"
@@ -67,28 +69,38 @@ void look(as::IService& service) {
   require(test::modelText(service) == before);
 }
 
-// What the toolkit has made is written, and read again.
-void check(as::IService& service) {
+// What the toolkit has made of the input is written, and read again.
+void check(as::IService& service, std::string_view input) {
   std::string written;
   try {
     written = as::CAgentServicesFactory::SerializeToString(&service);
   } catch (const as::CASException&) {
-    return;  // It holds what cannot be written: control characters of XML 1.1.
+    if (fuzz::readTree(input).isOtherXml()) return;
+    throw;
   }
-  const std::unique_ptr<as::IService> again = reader().readServiceText(written, "again.xml");
+  std::unique_ptr<as::IService> again;
+  try {
+    again = reader().readServiceText(written, "again.xml");
+  } catch (const toolkit::RefusedDocument& refused) {
+    std::fprintf(stderr, "%s\n%s\n", written.c_str(), refused.refusal().text.c_str());
+    std::abort();
+  }
   require(again != nullptr);
+  fuzz::requireSame(written, as::CAgentServicesFactory::SerializeToString(again.get()));
   look(*again);
 }
 
-void lookAtDictionary(std::unique_ptr<as::IProgram> program, const toolkit::Flavour& flavour) {
+void lookAtDictionary(std::unique_ptr<as::IProgram> program, std::string_view input,
+                      const toolkit::Flavour& flavour) {
   render(*program);
   const toolkit::MadeService made = toolkit::makeService(std::move(program), flavour);
   require(made.operations == made.service->getOperations()->getLength());
   look(*made.service);
-  check(*made.service);
+  check(*made.service, input);
 }
 
-void convert(as::IService& service, const std::string& file, const toolkit::Flavour& flavour) {
+void convert(as::IService& service, const std::string& file, std::string_view input,
+             const toolkit::Flavour& flavour) {
   toolkit::ServiceDocument withProgram;
   unlessRefused([&] { withProgram = reader().readServiceWithProgram(file); });
   as::IProgram* program = nullptr;
@@ -101,7 +113,7 @@ void convert(as::IService& service, const std::string& file, const toolkit::Flav
     const toolkit::ConvertedService converted =
         toolkit::convertService(reader(), service, file, flavour, program);
     require(&toolkit::flavourOf(*converted.service) == &flavour);
-    check(*converted.service);
+    check(*converted.service, input);
   });
   require(test::modelText(service) == before);
 }
@@ -122,9 +134,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require((document.dictionary == nullptr) != (document.service == nullptr));
     fuzz::countModel();
     if (document.dictionary) {
-      lookAtDictionary(std::move(document.dictionary), flavour);
+      lookAtDictionary(std::move(document.dictionary), input, flavour);
     } else if (toConvert) {
-      convert(*document.service, file, flavour);
+      convert(*document.service, file, input, flavour);
     } else {
       look(*document.service);
       toolkit::lintFile(reader(), file);

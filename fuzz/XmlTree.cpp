@@ -350,6 +350,11 @@ Node* Document::root() {
 
 const Node* Document::root() const { return const_cast<Document*>(this)->root(); }
 
+bool Document::isOtherXml() const {
+  return !nodes.empty() && nodes.front().name == "xml" &&
+         nodes.front().text.find("1.1") != std::string::npos;
+}
+
 Node* Document::instruction(std::string_view name) {
   for (Node& candidate : nodes) {
     if (candidate.kind == Node::Kind::instruction && candidate.name == name) return &candidate;

@@ -50,6 +50,8 @@ struct Document {
   // The first element of all; null when there is none.
   Node* root();
   const Node* root() const;
+  // Whether it may hold what XML 1.0 does not, and what is not written: control characters.
+  bool isOtherXml() const;
   // The first instruction of that name beside the root; null when there is none.
   Node* instruction(std::string_view name);
   const Node* instruction(std::string_view name) const;
