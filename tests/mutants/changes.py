@@ -189,9 +189,9 @@ class Source:
         end += 1
         while self.at(end) in ('.', '->', '::', '(', '['):
             end = self.partner.get(end, end + 1) + 1 if self.at(end) in '([' else end + 2
-        isCall = self.at(end) == ';' and end > i + 1
-        isSet = self.at(end) in ('=', '+=', '-=', '|=', '&=', '<<', '++', '--')
-        if not isCall and not isSet:
+        is_call = self.at(end) == ';' and end > i + 1
+        is_set = self.at(end) in ('=', '+=', '-=', '|=', '&=', '<<', '++', '--')
+        if not is_call and not is_set:
             return
         ends = self.split(end, len(self.tokens), ';')
         if ends:

@@ -28,36 +28,49 @@ struct Row {
 
 void PrintTo(const Row& row, std::ostream* out) { *out << row.label; }
 
-class CapacityTest : public test::ToolkitTest, public testing::WithParamInterface<Row> {};
-
-TEST_P(CapacityTest, IsThatOfTheRow) {
-  const Row& row = GetParam();
-  write("P.xml", test::dictionary("<dataItems>" + row.item +
-                                  "</dataItems><entryPoints><entryPoint name='E'><parameter "
-                                  "dataItem='I' byType='reference'/></entryPoint></entryPoints>"));
-  const bool isWeb = std::string(row.flavour) == "ws";
-  const std::string root = std::string("name='S' implementation='") + row.flavour +
-                           "' programName='PAYROLL' dataDictFilename='P.xml'";
-  const std::string operation =
-      std::string("<operations><operation name='o' entryPoint='E' ") +
-      (isWeb ? "style='rpc' inputUse='literal' outputUse='literal' inputNamespace='urn:i' "
-               "outputNamespace='urn:o'"
-             : "") +
-      "><parameters><parameter name='p' dataType='" + row.type +
-      "'><mappings><mapping item='I'/></mappings></parameter></parameters></operation>"
-      "</operations>";
-  write("s.xml", isWeb ? test::webService(root, operation) : test::javaService(root, operation));
-  std::vector<std::string> problems;
-  for (const toolkit::Finding& finding : toolkit::lintFile(reader(), "s.xml")) {
-    problems.push_back(finding.problem);
-  }
-  if (row.problem.empty()) {
-    EXPECT_THAT(problems, IsEmpty());
-  } else {
-    EXPECT_THAT(problems, ElementsAre(std::string("data type '") + row.type +
-                                      "' cannot hold I: it " + row.problem));
-  }
+const char* namespaceOf(const std::string& flavour) {
+  if (flavour == "com") return as::namespaces::com.uri;
+  if (flavour == "dotnet") return as::namespaces::dotnet.uri;
+  return flavour == "java" ? as::namespaces::java.uri : as::namespaces::ws.uri;
 }
+
+class CapacityTest : public test::ToolkitTest {
+ protected:
+  void expect(const Row& row) const {
+    SCOPED_TRACE(row.label + " " + row.flavour + " " + row.type + " " + row.item);
+    write("P.xml",
+          test::dictionary("<dataItems>" + row.item +
+                           "</dataItems><entryPoints><entryPoint name='E'><parameter "
+                           "dataItem='I' byType='reference'/></entryPoint></entryPoints>"));
+    const bool isWeb = std::string(row.flavour) == "ws";
+    const std::string operation =
+        std::string("<operations><operation name='o' entryPoint='E' ") +
+        (isWeb ? "style='rpc' inputUse='literal' outputUse='literal' inputNamespace='urn:i' "
+                 "outputNamespace='urn:o'"
+               : "") +
+        "><parameters><parameter name='p' dataType='" + row.type +
+        "'><mappings><mapping item='I'/></mappings></parameter></parameters></operation>"
+        "</operations>";
+    write("s.xml", test::serviceDocument(namespaceOf(row.flavour),
+                                         std::string("name='S' implementation='") + row.flavour +
+                                             "' programName='PAYROLL' dataDictFilename='P.xml'",
+                                         operation));
+    std::vector<std::string> problems;
+    for (const toolkit::Finding& finding : toolkit::lintFile(reader(), "s.xml")) {
+      problems.push_back(finding.problem);
+    }
+    if (row.problem.empty()) {
+      EXPECT_THAT(problems, IsEmpty());
+    } else {
+      EXPECT_THAT(problems, ElementsAre(std::string("data type '") + row.type +
+                                        "' cannot hold I: it " + row.problem));
+    }
+  }
+};
+
+class CapacityRow : public CapacityTest, public testing::WithParamInterface<Row> {};
+
+TEST_P(CapacityRow, IsThatOfTheTable) { expect(GetParam()); }
 
 std::string numeric(const std::string& attributes) {
   return "<numeric name='I' linkage='true' " + attributes + "/>";
@@ -68,7 +81,7 @@ std::string edited(const std::string& attributes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Numbers, CapacityTest,
+    Numbers, CapacityRow,
     testing::Values(
         Row{"DigitsThatFit", numeric("digits='4' length='4' picture='9(4)'"), "java", "short", ""},
         Row{"OneDigitMore", numeric("digits='5' length='5' picture='9(5)'"), "java", "short",
@@ -77,6 +90,16 @@ INSTANTIATE_TEST_SUITE_P(
             "short", "holds 4 digits, the item has 5"},
         Row{"ToldDigitsBeforeThoseOfTheBytes", numeric("length='3' usage='comp-3' digits='4'"),
             "java", "short", ""},
+        Row{"MoreDigitsThanThereAre", numeric("digits='2000000000' picture='9'"), "java", "short",
+            "holds 4 digits, the item has 1000000000"},
+        Row{"LongMantissa", numeric("picture='+9(20)E+99' digits='20' usage='externalFloat'"),
+            "java", "double", "holds 15 digits, the item has 20"},
+        Row{"MantissaThatFits", numeric("picture='+9(15)E+99' digits='15' usage='externalFloat'"),
+            "java", "double", ""},
+        Row{"MantissaOfADouble", numeric("picture='+9(6)E+99' digits='6' usage='externalFloat'"),
+            "java", "float", "is too short for a double"},
+        Row{"FloatingPointAsAnInteger", numeric("usage='comp-1' length='4'"), "java", "long",
+            "holds no floating-point numbers"},
         Row{"NothingToldIsHeld", numeric("picture='?'"), "java", "short", ""},
         Row{"BinaryOfAnUnreadablePicture",
             numeric("length='4' usage='comp-5' sign='true' picture='?'"), "java", "int", ""},
@@ -89,8 +112,67 @@ INSTANTIATE_TEST_SUITE_P(
             "holds 4 digits, the item has 7"}),
     test::labelOf<Row>);
 
+// A type for whole numbers: so many digits, and so many bytes of a binary item.
+struct WholeNumbers {
+  const char* flavour;
+  const char* type;
+  int digits;
+  int bytes;
+  bool isSigned = true;
+};
+
+TEST_F(CapacityTest, OfTypesForWholeNumbersAreTheirDigitsAndBits) {
+  const WholeNumbers types[] = {
+      {"com", "byte", 2, 1, false},
+      {"com", "short", 4, 2},
+      {"com", "int", 9, 4},
+      {"com", "long", 9, 4},
+      {"dotnet", "Byte", 2, 1, false},
+      {"dotnet", "SByte", 2, 1},
+      {"dotnet", "Int16", 4, 2},
+      {"dotnet", "UInt16", 4, 2, false},
+      {"dotnet", "Int32", 9, 4},
+      {"dotnet", "UInt32", 9, 4, false},
+      {"dotnet", "Int64", 18, 8},
+      {"dotnet", "UInt64", 19, 8, false},
+      {"java", "byte", 2, 1},
+      {"java", "short", 4, 2},
+      {"java", "int", 9, 4},
+      {"java", "long", 18, 8},
+      {"ws", "byte", 2, 1},
+      {"ws", "unsignedByte", 2, 1, false},
+      {"ws", "short", 4, 2},
+      {"ws", "unsignedShort", 4, 2, false},
+      {"ws", "int", 9, 4},
+      {"ws", "unsignedInt", 9, 4, false},
+      {"ws", "long", 18, 8},
+      {"ws", "unsignedLong", 19, 8, false},
+  };
+  for (const WholeNumbers& type : types) {
+    const auto digits = [](int number) {
+      return numeric("picture='9' digits='" + std::to_string(number) + "'");
+    };
+    const auto binary = [&type](int bytes) {
+      return numeric("picture='9' usage='comp-5' length='" + std::to_string(bytes) + "' sign='" +
+                     (type.isSigned ? "true'" : "false'"));
+    };
+    expect({"digits", digits(type.digits), type.flavour, type.type, ""});
+    expect({"one more", digits(type.digits + 1), type.flavour, type.type,
+            "holds " + std::to_string(type.digits) + " digits, the item has " +
+                std::to_string(type.digits + 1)});
+    expect({"bytes", binary(type.bytes), type.flavour, type.type, ""});
+    expect({"a byte more", binary(type.bytes + 1), type.flavour, type.type,
+            "has " + std::to_string(8 * type.bytes) + " bits, the item needs " +
+                std::to_string(8 * (type.bytes + 1))});
+    if (!type.isSigned) {
+      expect({"a sign", numeric("picture='S9' digits='1' sign='true'"), type.flavour, type.type,
+              "holds no negative numbers, the item does"});
+    }
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(
-    EditedNumbers, CapacityTest,
+    EditedNumbers, CapacityRow,
     testing::Values(
         Row{"DigitsThatFit", edited("picture='Z(3)9' digits='4' length='4'"), "java", "short", ""},
         Row{"OneDigitMore", edited("picture='Z(4)9' digits='5' length='5'"), "java", "short",
@@ -109,7 +191,7 @@ INSTANTIATE_TEST_SUITE_P(
     test::labelOf<Row>);
 
 INSTANTIATE_TEST_SUITE_P(
-    Others, CapacityTest,
+    Others, CapacityRow,
     testing::Values(Row{"AnAddressAsANumberThatFits",
                         "<pointer name='I' linkage='true' length='4'/>", "ws", "unsignedInt", ""},
                     Row{"AnAddressAsANumber", "<pointer name='I' linkage='true' length='8'/>", "ws",
