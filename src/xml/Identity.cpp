@@ -43,7 +43,7 @@ IdentityRegistration::IdentityRegistration(RTTITypeinfo& record, const char* nam
 }
 
 IdentityRegistration::~IdentityRegistration() {
-  std::free(record_.name);
+  std::free(record_.name);  // strdup made it. NOLINT(cppcoreguidelines-no-malloc)
   record_.name = nullptr;
   if (record_.bases == nullptr) return;
   for (RTTITypeinfo** base = record_.bases; *base != nullptr; ++base) {

@@ -14,7 +14,7 @@ struct Capacity {
   // A group type is for groups only. An open type holds what its user makes of it: dates, objects.
   enum class Kind { integer, floating, decimal, text, bytes, group, open };
 
-  Kind kind;
+  Kind kind = Kind::open;
   // Of numbers: all numbers of this many decimal digits can be held; 0 for any number of digits.
   int digits = 0;
   // Of integers: the size in bits, the sign's included; 0 for any size.

@@ -43,8 +43,8 @@ struct Message {
 
 // A data type of a flavour.
 struct DataType {
-  int code;
-  const char* word;
+  int code = 0;
+  const char* word = "";
   Capacity capacity;
 };
 

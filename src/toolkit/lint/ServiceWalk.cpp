@@ -31,8 +31,8 @@ namespace {
 
 // What holds for a parameter or type definition with everything below it.
 struct Tree {
-  int direction;                          // Of the parameter.
-  const CallInterface* interface;         // Null when unknown, and in a type definition.
+  int direction = 0;                         // Of the parameter.
+  const CallInterface* interface = nullptr;  // Null when unknown, and in a type definition.
   std::optional<std::size_t> definition;  // Its number; none in an operation.
 };
 

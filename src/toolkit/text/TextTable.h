@@ -40,8 +40,8 @@ class TextTable {
  private:
   struct MeasuredColumn {
     Column column;
-    std::size_t width;
-    bool used;
+    std::size_t width = 0;
+    bool used = false;
   };
 
   std::vector<MeasuredColumn> columns_;
