@@ -106,7 +106,22 @@ class Build:
     """Compiles and links what a mutant is in, from the commands of build/dev."""
 
     def __init__(self, goes_on: bool):
-        self.compile = {}
+        self.objects = {}  # Those of the present mutant, in place of others.
+        kept = BASE / 'commands.json'
+        if not goes_on:
+            shutil.rmtree(BASE, ignore_errors=True)
+            commands = self._read()
+            self._keep(commands)
+            kept.write_text(json.dumps(commands))
+        commands = json.loads(kept.read_text())
+        self.compile = commands['compile']  # For each source the command, and its object.
+        self.users = commands['users']  # For each header the sources that include it.
+        self.links = commands['links']
+
+    @staticmethod
+    def _read() -> dict:
+        """The commands of build/dev, as lists of words."""
+        compiled, links, users = {}, {}, defaultdict(list)
         for entry in json.loads((DEV / 'compile_commands.json').read_text()):
             file = os.path.relpath(entry['file'], ROOT)
             if file.startswith('src/'):
@@ -114,32 +129,30 @@ class Build:
                          for word in shlex.split(entry['command'])
                          if word != '-g' and not word.startswith('-W')]
                 at = words.index('-o')
-                self.compile[file] = (words[:at], words[at + 1])
-        self.users = defaultdict(set)  # For each header the sources that include it.
-        object_file = ''
+                compiled[file] = (words[:at], words[at + 1])
+        source_of = {obj: file for file, (_, obj) in compiled.items()}
         told = subprocess.run(['ninja', '-C', DEV, '-t', 'deps'], check=True, capture_output=True,
                               text=True).stdout
-        source_of = {obj: file for file, (_, obj) in self.compile.items()}
+        source = None
         for line in told.splitlines():
             if line[:1] not in ('', ' '):
-                object_file = line.split(':')[0]
-            elif object_file in source_of:
-                included = os.path.relpath(DEV / line.strip(), ROOT)
-                self.users[included].add(source_of[object_file])
-        self.links = {name: link_command(f'{so}.1.0.0') for name, so in CHANGED.items()}
-        self.links |= {name: link_command(f'tests/{name}_tests') for name in LINKED_WITH_OBJECTS}
-        self.objects = {}  # Those of the present mutant, in place of others.
-        if not goes_on:
-            self._keep()
+                source = source_of.get(line.split(':')[0])
+            elif source and line.strip():
+                users[os.path.relpath(DEV / line.strip(), ROOT)].append(source)
+        for name, library in CHANGED.items():
+            links[name] = link_command(f'{library}.1.0.0')
+        for name in LINKED_WITH_OBJECTS:
+            links[name] = link_command(f'tests/{name}_tests')
+        return {'compile': compiled, 'users': users, 'links': links}
 
-    def _keep(self):
+    @staticmethod
+    def _keep(commands: dict):
         """Copies what is used; in the links the copies take the place of what was copied."""
-        shutil.rmtree(BASE, ignore_errors=True)
         for folder in ('src', 'include'):
             shutil.copytree(ROOT / folder, BASE / folder)
         programs = [f'tests/{name}_tests' for name in PROGRAMS]
         libraries = [f'{library}.1' for library in CHANGED.values()]
-        words = {word for link in self.links.values() for word in link
+        words = {word for link in commands['links'].values() for word in link
                  if not word.startswith('/') and (DEV / word).is_file()}
         for file in {*programs, *libraries, *words}:
             (BASE / file).parent.mkdir(parents=True, exist_ok=True)
@@ -163,7 +176,7 @@ class Build:
             changed.write_text(text[:change.start] + change.text + text[change.end:])
             libraries = set()
             sources = [mutant.file] if mutant.file in self.compile else \
-                sorted(self.users[mutant.file])
+                self.users.get(mutant.file, [])
             for number, source in enumerate(sources):
                 command, replaced = self.compile[source]
                 obj = str(NOW / f'{number}.o')
