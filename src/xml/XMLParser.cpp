@@ -274,7 +274,7 @@ std::unique_ptr<InputSource> CXMLParser::sourceOf(const XMLResourceIdentifier& r
   if (place.kind != Place::Kind::file) return std::move(place.parsers);
   const bool isFromClients =
       reference.getResourceIdentifierType() != XMLResourceIdentifier::SchemaGrammar &&
-      reference.getBaseURI() != nullptr && clients_.count(reference.getBaseURI()) != 0;
+      reference.getBaseURI() != nullptr && clients_.contains(reference.getBaseURI());
   const XMLCh* const called = place.parsers->getSystemId();
   return isFromClients ? clients(place.path, called) : brought(place.path, called);
 }
