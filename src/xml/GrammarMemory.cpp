@@ -44,10 +44,10 @@ void GrammarMemory::deallocate(void* pointer) {
   const XMLSize_t size = reinterpret_cast<const Header*>(block)->size;
   if (size > largestSmall) {
     held_ -= sizeof(Header) + size;
-    auto* const link = reinterpret_cast<Link*>(block - sizeof(Link));
-    link->before->after = link->after;
-    link->after->before = link->before;
-    XMLPlatformUtils::fgMemoryManager->deallocate(link);
+    auto* const released = reinterpret_cast<Link*>(block - sizeof(Link));
+    released->before->after = released->after;
+    released->after->before = released->before;
+    XMLPlatformUtils::fgMemoryManager->deallocate(released);
   } else if (size != 0) {
     Free*& free = freeFor((size + alignment - 1) / alignment * alignment);
     free = new (pointer) Free{free};

@@ -98,7 +98,7 @@ class Layout {
  public:
   Layout() = default;
   ~Layout() {
-    for (DOMNode* const spacer : inserted_) spacer->getParentNode()->removeChild(spacer);
+    for (DOMNode* const node : inserted_) node->getParentNode()->removeChild(node);
   }
   Layout(const Layout&) = delete;
   Layout& operator=(const Layout&) = delete;

@@ -107,6 +107,17 @@ TEST_F(NoteRule, OfANumberThatNoNumericTypeHolds) {
   const toolkit::MadeService made =
       toolkit::makeServiceFile(reader(), "p.xml", "s.xml", *toolkit::findFlavour("com"));
   EXPECT_THAT(rulesOf(made.notes), ElementsAre("number-as-text"));
+  EXPECT_THAT(test::textsOf(made.notes),
+              ElementsAre("GO.R.N: no numeric data type of COM services holds it: made 'string'"));
+}
+
+TEST_F(NoteRule, OfATwinOfAnEntryPointSaysThatItIsLeftOut) {
+  write("p.xml", programOf("", "<entryPoint name='A'/><entryPoint name='A'/>"));
+  const toolkit::MadeService made =
+      toolkit::makeServiceFile(reader(), "p.xml", "s.xml", *toolkit::findFlavour("java"));
+  EXPECT_THAT(test::textsOf(made.notes),
+              ElementsAre("A: the program has another entry point of that name, which cannot be "
+                          "bound: left out"));
 }
 
 TEST_F(NoteRule, OfARedefinitionInPlaceComesBeforeThatOfTheUnnamed) {

@@ -33,7 +33,7 @@ namespace {
 struct Tree {
   int direction = 0;                         // Of the parameter.
   const CallInterface* interface = nullptr;  // Null when unknown, and in a type definition.
-  std::optional<std::size_t> definition;  // Its number; none in an operation.
+  std::optional<std::size_t> definition;     // Its number; none in an operation.
 };
 
 // A field on the way from its parameter. What it points at must outlive it.
