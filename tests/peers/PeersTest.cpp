@@ -69,7 +69,7 @@ TEST_P(PeersDocument, IsCountedByWhatItsRequestsComeTo) {
 
 INSTANTIATE_TEST_SUITE_P(
     All, PeersDocument,
-    testing::Values(Document{"Good", test::dictionary(""), {2, 8, 6, 4, 0, 0}},
+    testing::Values(Document{"Good", test::dictionary(""), {2, 8, 2, 8, 0, 0}},
                     Document{"Cut", "<program", {0, 8, 12, 0, 0, 0}},
                     Document{"Foreign", "<html><body/></html>", {0, 8, 0, 12, 0, 0}}),
     test::labelOf<Document>);
