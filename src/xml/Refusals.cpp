@@ -1,7 +1,11 @@
 #include "xml/Refusals.h"
 
+#include <xercesc/util/XMLString.hpp>
+
 #include "xml/Limits.h"
 #include "xml/XStr.h"
+
+using xercesc::XMLString;
 
 namespace {
 
@@ -64,6 +68,12 @@ std::string refusals::ofAttributeDeclarations(const xercesc::DTDElementDecl& ele
   // Defaults would be expanded without limits, and come into the model unseen by the schema.
   return "the attribute declarations for '" + narrow(element.getFullName()) +
          "' are refused: attributes are declared by the schema";
+}
+
+std::string refusals::ofVersion(const XMLCh* version) {
+  // The parser reads others, too, but has no tree for them, and does not tell.
+  if (XMLString::equals(version, u"1.0") || XMLString::equals(version, u"1.1")) return {};
+  return "version '" + narrow(version) + "' of XML is not known";
 }
 
 std::string refusals::ofTooManyAttributes() {

@@ -33,6 +33,7 @@ std::string ofEntity(const xercesc::DTDEntityDecl& entity, bool isParameterEntit
 std::string ofAttributeDeclarations(const xercesc::DTDElementDecl& element);
 
 // What stands in a document; the numbers are compared where they are counted, element by element.
+std::string ofVersion(const XMLCh* version);
 std::string ofTooManyAttributes();
 std::string ofTooManyLevels();
 std::string ofUndeclared(const std::string& element);

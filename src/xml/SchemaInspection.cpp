@@ -120,6 +120,10 @@ class SchemaParser final : public xercesc::SAXParser {
   }
 
   // From the parser's document side.
+  void XMLDecl(const XMLCh* version, const XMLCh* /*encoding*/, const XMLCh* /*standalone*/,
+               const XMLCh* /*actualEncoding*/) override {
+    refuse(refusals::ofVersion(version));
+  }
   void startElement(const XMLElementDecl& declaration, unsigned int uriId, const XMLCh* /*prefix*/,
                     const RefVectorOf<XMLAttr>& attributes, XMLSize_t attributeCount, bool isEmpty,
                     bool /*isRoot*/) override {

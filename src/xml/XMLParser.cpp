@@ -1,7 +1,6 @@
 #include "xml/XMLParser.h"
 
 #include <xercesc/dom/DOMElement.hpp>
-#include <xercesc/dom/DOMException.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
@@ -18,7 +17,6 @@
 #include "xml/Refusals.h"
 #include "xml/XStr.h"
 
-using xercesc::DOMException;
 using xercesc::DOMNode;
 using xercesc::DTDElementDecl;
 using xercesc::DTDEntityDecl;
@@ -149,11 +147,6 @@ void CXMLParser::run(const Source& source) {
     throw;
   } catch (const as::CASInvalidNamespaceException&) {
     throw;
-  } catch (const DOMException& failure) {
-    // A version of XML that the DOM does not have, in the document or in a schema: the parser does
-    // not tell.
-    report(as::CASParseException(failure.code, 0, 0, narrow(failure.getMessage()), std::string(),
-                                 documentName_));
   } catch (...) {  // NOLINT(bugprone-empty-catch)
     // The caller finds what the handler had built until then.
   }
@@ -219,6 +212,12 @@ void CXMLParser::endDocument() {
   xercesc::DOMDocument* const document = getDocument();
   document->normalize();
   if (handler_ != nullptr) handler_->endParse(document);
+}
+
+void CXMLParser::XMLDecl(const XMLCh* version, const XMLCh* encoding, const XMLCh* standalone,
+                         const XMLCh* actualEncoding) {
+  refuseAtOnce(refusals::ofVersion(version));
+  XercesDOMParser::XMLDecl(version, encoding, standalone, actualEncoding);
 }
 
 void CXMLParser::entityDecl(const DTDEntityDecl& entity, bool isParameterEntity, bool isIgnored) {

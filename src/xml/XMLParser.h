@@ -58,6 +58,8 @@ class CXMLParser : public xercesc::XercesDOMParser,
   void endElement(const xercesc::XMLElementDecl& declaration, unsigned int uriId, bool isRoot,
                   const XMLCh* prefix) override;
   void endDocument() override;
+  void XMLDecl(const XMLCh* version, const XMLCh* encoding, const XMLCh* standalone,
+               const XMLCh* actualEncoding) override;
   void entityDecl(const xercesc::DTDEntityDecl& entity, bool isParameterEntity,
                   bool isIgnored) override;
   void startAttList(const xercesc::DTDElementDecl& element) override;

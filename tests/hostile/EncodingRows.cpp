@@ -160,8 +160,8 @@ const Row rows[] = {
     {"ControlOfVersion11", model(), "<?xml version='1.1'?>" + item("&#1;")},
     {"BareControlOfVersion11", refused(""), "<?xml version='1.1'?>" + item("\x01")},
     {"NullOfVersion11", refused(""), "<?xml version='1.1'?>" + item("&#0;")},
-    // The parser would read it, but has no tree for it.
-    {"Version12", refused(""), "<?xml version='1.2'?>" + item("N")},
+    {"Version12", refused("version '1.2' of XML is not known"),
+     "<?xml version='1.2'?>" + item("N")},
     {"Version2", refused(""), "<?xml version='2.0'?>" + item("N")},
     {"NoVersion", refused(""), "<?xml encoding='UTF-8'?>" + item("N")},
     {"Nothing", refused(""), ""},
