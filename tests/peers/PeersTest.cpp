@@ -153,6 +153,13 @@ const std::vector<Misbehaviour> misbehaviours = {
 INSTANTIATE_TEST_SUITE_P(All, PeersMisbehaviour, testing::ValuesIn(misbehaviours),
                          test::labelOf<Misbehaviour>);
 
+TEST_F(Peers, ASchemaOfTheClientsOwnMayTakeAnyTime) {
+  write("docs/slow.xml", "<!--misbehave:hang in a schema--><x/>");
+  const ToolOutcome outcome = tryDocs({"--misbehave", "--patience", "1"});
+  EXPECT_EQ(outcome.exitCode, 0) << outcome.out;
+  EXPECT_THAT(outcome.out, HasSubstr("given up, as schemas of the client's own have no bounds: 1"));
+}
+
 // Only files that are told to, by whoever runs the program, misbehave.
 TEST_F(Peers, NoFileMisbehavesByItself) {
   write("docs/bad.xml", "<!--misbehave:crash--><x/>");

@@ -149,12 +149,14 @@ class Misbehaviour {
 
   explicit operator bool() const { return !what_.empty(); }
 
+  Place place() const { return what_ == "hang in a schema" ? shippedSchema : document; }
+
   void commit() const {
     if (what_ == "crash") std::abort();
     if (what_ == "exit") ::_exit(7);
     if (what_ == "connect") ::connect(0, nullptr, 0);
     if (what_ == "throw") throw std::runtime_error("one of no kind of ours");
-    if (what_ == "hang") {
+    if (what_ == "hang" || what_ == "hang in a schema") {
       for (;;) ::pause();
     }
     if (what_ == "spin") {
@@ -215,7 +217,7 @@ void liveFor(const std::filesystem::path& file, std::size_t first, const Surroun
   const Requests requests(peer, surroundings.schemas, surroundings.work);
   std::vector<Request> all = requests.all();
   if (const Misbehaviour misbehaviour(peer.text()); limits.mayMisbehave && misbehaviour) {
-    all = {{Place::document, "misbehaviour", [misbehaviour] {
+    all = {{misbehaviour.place(), "misbehaviour", [misbehaviour] {
               misbehaviour.commit();
               return null;
             }}};
@@ -225,6 +227,7 @@ void liveFor(const std::filesystem::path& file, std::size_t first, const Surroun
   for (record.next = first; record.next < all.size();) {
     const Request& request = all[record.next++];
     Record::put(record.request, request.name);
+    record.place = request.place;
     watch::beginRequest();
     const unsigned before = networkAttempts();
     make(request, record);

@@ -16,6 +16,10 @@ inline constexpr std::array<const char*, placeCount> placeNames = {
     "a document", "the content of a document of ours", "a schema that a document names",
     "a program that a service names", "one of the schema directory"};
 
+// The schema directory is the client's own: no bounds of time and memory are promised for what a
+// schema in it comes to.
+inline bool hasBounds(Place place) { return place != shippedSchema; }
+
 // How a request ends that does not misbehave.
 enum Outcome { model, told, parseException, namespaceException, null, exception };
 inline constexpr std::size_t outcomeCount = 6;
@@ -32,7 +36,8 @@ struct Record {
   }
 
   Counts outcomes = {};
-  std::array<char, 200> request = {};  // The request under way, or the last one.
+  std::array<char, 200> request = {};  // The request under way, or the last one, and ...
+  Place place = document;              // ... what the file is to it.
   std::size_t next = 0;                // The number of the request behind it.
   bool done = false;                   // All requests were made.
   // The first request of each misbehaviour; nothing for none.

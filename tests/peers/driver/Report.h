@@ -36,6 +36,7 @@ class Report {
   std::set<std::filesystem::path> files_;
   Record::Counts outcomes_ = {};
   std::map<std::string, unsigned> kinds_;  // Of failures.
+  unsigned unbounded_ = 0;                 // Requests that were given up and are no failures.
   std::map<std::filesystem::path, std::vector<std::string>> failures_;
   std::map<std::filesystem::path, std::string> untold_;
 };
