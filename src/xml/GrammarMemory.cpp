@@ -19,6 +19,12 @@ GrammarMemory::~GrammarMemory() {
 }
 
 void* GrammarMemory::allocate(XMLSize_t size) {
+  if (size > largestUntold && tell_ &&
+      (size > limits::schemaMemory || held_ > limits::schemaMemory - size)) {
+    // What frees memory on the way out may need some.
+    const std::function<void()> tell = std::exchange(tell_, nullptr);
+    tell();
+  }
   std::byte* block = nullptr;
   if (size <= largestSmall) {
     const std::size_t rounded = (size + alignment - 1) / alignment * alignment;
@@ -68,11 +74,6 @@ std::byte* GrammarMemory::cut(std::size_t size) {
 
 // So many bytes from elsewhere.
 std::byte* GrammarMemory::link(std::size_t size) {
-  if ((size > limits::schemaMemory || held_ > limits::schemaMemory - size) && tell_) {
-    // What frees memory on the way out may need some.
-    const std::function<void()> tell = std::exchange(tell_, nullptr);
-    tell();
-  }
   void* const place = XMLPlatformUtils::fgMemoryManager->allocate(sizeof(Link) + size);
   held_ += size;
   auto* const made = new (place) Link{&links_, links_.after};

@@ -9,8 +9,10 @@
 #include <xercesc/framework/MemoryManager.hpp>
 #include <xercesc/framework/XMLGrammarPoolImpl.hpp>
 
-// A content model of a few lines may be laid out to any size. What is beyond the limit is told to
-// whoever wants to know, once, who may throw to end the parse.
+// A content model of a few lines may be laid out to any size. A large block that goes beyond the
+// limit is told to whoever wants to know, once, who may throw to end the parse. Smaller ones are
+// given always: the parser's destructors need some, which must not throw. What grows without a
+// bound of its own, the tables of a content model, comes to large blocks.
 //
 // Schemas are made of thousands of small blocks that go all at once: these are cut from large ones
 // and used again by blocks of their size, which is faster than to allocate each.
@@ -29,6 +31,10 @@ class GrammarMemory final : public xercesc::MemoryManager {
   void deallocate(void* pointer) override;
   // An exception may outlive this.
   xercesc::MemoryManager* getExceptionMemoryManager() override;
+
+  // What a destructor of the parser's asks for at most: a stack of the elements that a content
+  // model has, as many as Limits.def allows.
+  static constexpr XMLSize_t largestUntold = 65536;
 
  private:
   static constexpr std::size_t alignment = alignof(std::max_align_t);

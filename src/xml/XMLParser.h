@@ -29,7 +29,7 @@
 // is read is opened here, once, and judged as it is read: the parser opens nothing.
 class CXMLParser : public xercesc::XercesDOMParser,
                    public xercesc::ErrorHandler,
-                   private virtual GrammarStore {
+                   protected virtual GrammarStore {
  public:
   CXMLParser();
   ~CXMLParser() override;
