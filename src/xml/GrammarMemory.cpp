@@ -50,7 +50,7 @@ void GrammarMemory::deallocate(void* pointer) {
   const XMLSize_t size = reinterpret_cast<const Header*>(block)->size;
   if (size > largestSmall) {
     held_ -= sizeof(Header) + size;
-    auto* const released = reinterpret_cast<Link*>(block - sizeof(Link));
+    auto* const released = reinterpret_cast<Link*>(block - linkSize);
     released->before->after = released->after;
     released->after->before = released->before;
     XMLPlatformUtils::fgMemoryManager->deallocate(released);
@@ -74,12 +74,12 @@ std::byte* GrammarMemory::cut(std::size_t size) {
 
 // So many bytes from elsewhere.
 std::byte* GrammarMemory::link(std::size_t size) {
-  void* const place = XMLPlatformUtils::fgMemoryManager->allocate(sizeof(Link) + size);
+  void* const place = XMLPlatformUtils::fgMemoryManager->allocate(linkSize + size);
   held_ += size;
   auto* const made = new (place) Link{&links_, links_.after};
   made->after->before = made;
   links_.after = made;
-  return static_cast<std::byte*>(place) + sizeof(Link);
+  return static_cast<std::byte*>(place) + linkSize;
 }
 
 MemoryManager* GrammarMemory::getExceptionMemoryManager() {

@@ -45,11 +45,14 @@ class GrammarMemory final : public xercesc::MemoryManager {
   struct alignas(alignment) Header {
     XMLSize_t size;
   };
-  // In front of what comes from elsewhere: chunks, and blocks that are too large for one.
-  struct alignas(alignment) Link {
+  // In front of what comes from elsewhere: chunks, and blocks that are too large for one. Not
+  // aligned itself: it is a member, too, and parsers are made where nothing stricter than a pointer
+  // fits.
+  struct Link {
     Link* before;
     Link* after;
   };
+  static constexpr std::size_t linkSize = (sizeof(Link) + alignment - 1) / alignment * alignment;
   // In a small block that is free.
   struct Free {
     Free* next;

@@ -81,6 +81,9 @@ std::unique_ptr<InputSource> emptySource() { return sourceOfBytes(emptySchema(),
 
 }  // namespace
 
+// Parsers come from the XML parser's operator new, which gives no more.
+static_assert(alignof(CXMLParser) <= alignof(void*));
+
 CXMLParser::CXMLParser() : XercesDOMParser(nullptr, XMLPlatformUtils::fgMemoryManager, &grammars) {
   limits_.setEntityExpansionLimit(limits::entityExpansions);
   memory.whenFull([this] { refuseAtOnce(refusals::ofGrammars()); });
