@@ -76,9 +76,9 @@ auto sortFailures(const char* text, const Request& request) -> decltype(request(
 }  // namespace
 
 struct CAgentServices::Source {
-  const char* id;
-  const unsigned char* buffer;  // Null for a file named id.
-  unsigned int length;
+  const char* id = "";
+  const unsigned char* buffer = nullptr;  // Null for a file named id.
+  unsigned int length = 0;
   bool isReferred = false;  // The file is named by a document, not by the client.
 
   static Source file(const char* name) { return {name == nullptr ? "" : name, nullptr, 0}; }

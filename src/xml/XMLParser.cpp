@@ -278,7 +278,8 @@ std::unique_ptr<InputSource> CXMLParser::sourceOf(const XMLResourceIdentifier& r
       reference.getResourceIdentifierType() != XMLResourceIdentifier::SchemaGrammar &&
       reference.getBaseURI() != nullptr && clients_.contains(reference.getBaseURI());
   const XMLCh* const called = place.parsers->getSystemId();
-  return isFromClients ? clients(place.path, called) : brought(place.path, called);
+  if (isFromClients) return clients(place.path, called);
+  return brought(place.path, called);
 }
 
 std::unique_ptr<InputSource> CXMLParser::clients(const std::string& path, const XMLCh* name) {
