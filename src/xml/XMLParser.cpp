@@ -10,6 +10,7 @@
 #include <xercesc/validators/DTD/DTDEntityDecl.hpp>
 
 #include "as/CASInvalidNamespaceException.h"
+#include "xml/DocumentPointer.h"
 #include "xml/FileSource.h"
 #include "xml/Limits.h"
 #include "xml/Place.h"
@@ -92,6 +93,8 @@ CXMLParser::CXMLParser() : XercesDOMParser(nullptr, XMLPlatformUtils::fgMemoryMa
 CXMLParser::~CXMLParser() {
   // Nothing is refused any more.
   memory.whenFull(nullptr);
+  // The base class would release it.
+  const DocumentPointer document(adoptDocument());
 }
 
 void CXMLParser::parse(const XMLCh* systemId) { parseFile(systemId, LocalFile::Opening::any); }
