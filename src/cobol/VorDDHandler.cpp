@@ -62,6 +62,8 @@ void CVorDDHandler::newElement(DOMNode* node) {
 
 bool CVorDDHandler::takes(const DOMNode* node) const { return rowFor(node, rows) != nullptr; }
 
+bool CVorDDHandler::keepsBlanks() const { return false; }
+
 void CVorDDHandler::startDocument(DOMNode* root) {
   if (!XMLString::equals(root->getNamespaceURI(), XSDNS::ddURI)) {
     throw as::CASInvalidNamespaceException();

@@ -14,6 +14,9 @@ class CVorDDHandler final : public ModelBuilder {
   void startDocument(xercesc::DOMNode* root) override;
   void endParse(xercesc::DOMDocument* document) override;
   bool takes(const xercesc::DOMNode* node) const override;
+  // No: dictionaries are never written, and nothing that reads one can see them. As nodes they take
+  // about as long to make as the wrappers.
+  bool keepsBlanks() const override;
 
   // The program, null until endParse() and when the root is none. The handler owns it until the
   // caller takes it with takeProgram().

@@ -7,3 +7,5 @@ void CElementHandler::startElement(DOMNode* /*node*/) {}
 void CElementHandler::startDocument(DOMNode* /*root*/) {}
 
 bool CElementHandler::takes(const DOMNode* /*node*/) const { return true; }
+
+bool CElementHandler::keepsBlanks() const { return true; }

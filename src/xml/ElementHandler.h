@@ -20,13 +20,16 @@ class CElementHandler {
   // The root has begun: throws as::CASInvalidNamespaceException when its namespace is not the
   // handler's. Does nothing unless overridden.
   virtual void startDocument(xercesc::DOMNode* root);
-  // The document is complete and normalised: binds the root's wrapper to it and has the root
+  // The document is complete: binds the root's wrapper to it and has the root
   // collect its children.
   virtual void endParse(xercesc::DOMDocument* document) = 0;
   // Whether newElement() takes elements of that name. The parser asks as the element begins, since
   // the schema judges an element's place only as its parent ends, and refuses the document that has
   // another. Every one unless overridden.
   virtual bool takes(const xercesc::DOMNode* node) const;
+  // Whether the blanks between elements are to stand in the document, where the schema lets nothing
+  // but elements in: they do unless overridden, for documents that are written back.
+  virtual bool keepsBlanks() const;
 
  protected:
   CElementHandler() = default;

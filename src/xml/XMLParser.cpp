@@ -147,6 +147,7 @@ void CXMLParser::run(const Source& source) {
   setSecurityManager(&limits_);
   // The text of an entity counts as if it stood in its place, so that no list passes over it.
   setCreateEntityReferenceNodes(false);
+  setIncludeIgnorableWhitespace(handler_ == nullptr || handler_->keepsBlanks());
   try {
     XercesDOMParser::parse(source);
   } catch (const as::CASParseException&) {
@@ -215,9 +216,9 @@ void CXMLParser::endElement(const XMLElementDecl& declaration, unsigned int uriI
 
 void CXMLParser::endDocument() {
   XercesDOMParser::endDocument();
-  xercesc::DOMDocument* const document = getDocument();
-  document->normalize();
-  if (handler_ != nullptr) handler_->endParse(document);
+  // Needs no normalising, which would look at every node: the DOM parser puts a run of characters
+  // into one text, in however many pieces it comes, as long as it makes no entity references.
+  if (handler_ != nullptr) handler_->endParse(getDocument());
 }
 
 void CXMLParser::XMLDecl(const XMLCh* version, const XMLCh* encoding, const XMLCh* standalone,

@@ -54,6 +54,7 @@ class Recorder : public CElementHandler {
   bool takes(const xercesc::DOMNode* node) const override {
     return test::narrow(node->getLocalName()) != doesNotTake;
   }
+  bool keepsBlanks() const override { return keeps; }
   void endParse(xercesc::DOMDocument* document) override {
     calls.emplace_back("endParse");
     textChildren = document->getDocumentElement()->getChildNodes()->getLength();
@@ -64,6 +65,7 @@ class Recorder : public CElementHandler {
   bool refuseRoot = false;
   std::string failAt;
   std::string doesNotTake;
+  bool keeps = true;
 
  private:
   void note(const std::string& call, const xercesc::DOMNode* node) {
@@ -136,9 +138,37 @@ TEST_F(XMLParser, BuildsOnlyTheDocumentWithoutAHandler) {
   EXPECT_EQ(test::narrow(parser_.getDocument()->getDocumentElement()->getLocalName()), "r");
 }
 
-TEST_F(XMLParser, NormalisesTheDocumentBeforeTheEnd) {
-  parse("<!DOCTYPE r [<!ENTITY e 'two'>]>" + document("one &e; three"), &recorder_);
-  EXPECT_EQ(recorder_.textChildren, 1u);
+TEST_F(XMLParser, TextInPiecesIsOneText) {
+  const std::string doctype = "<!DOCTYPE r [<!ENTITY e 'two'><!ENTITY f ' &e; &#32;'>]>";
+  const std::string big(200000, 'x');
+  for (const std::string& content :
+       {std::string("one &e; three"), std::string("&f;&f; \r\n &lt;&f; \n"),
+        std::string(" &#32; &e;&#32; "), big + "&e;" + big + "&f;" + big}) {
+    CXMLParser parser;
+    parser.setSchemaLocation((directory_.path() + "/").c_str());
+    parser.setElementHandler(&recorder_);
+    const std::string text = doctype + document(content);
+    xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(text.data()), text.size(),
+                                      u"doc");
+    parser.parse(&source);
+    EXPECT_EQ(recorder_.textChildren, 1u) << content.substr(0, 40);
+  }
+}
+
+TEST_F(XMLParser, BlanksBetweenElementsStandInTheDocumentIfTheHandlerKeepsThem) {
+  for (const bool keeps : {true, false}) {
+    CXMLParser parser;
+    recorder_.keeps = keeps;
+    parser.setSchemaLocation((directory_.path() + "/").c_str());
+    parser.setElementHandler(&recorder_);
+    const std::string text = document(" <open> </open> ");
+    xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(text.data()), text.size(),
+                                      u"doc");
+    parser.parse(&source);
+    const auto* const open = parser.getDocument()->getDocumentElement()->getFirstElementChild();
+    EXPECT_EQ(open->hasChildNodes(), keeps);
+    EXPECT_EQ(recorder_.textChildren, 3u) << "where the schema lets text in, blanks are text";
+  }
 }
 
 TEST_F(XMLParser, ParsesAFileByName) {
