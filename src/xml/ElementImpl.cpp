@@ -4,6 +4,7 @@
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/util/XMLString.hpp>
 
+#include "xml/AttributeValue.h"
 #include "xml/ElementChildren.h"
 #include "xml/OutOfMemory.h"
 #include "xml/Vocabulary.h"
@@ -76,7 +77,8 @@ int CElementImpl::integer(const XMLCh* attribute) const { return CXStr(wide(attr
 bool CElementImpl::truth(const XMLCh* attribute) const { return CXStr(wide(attribute), false); }
 
 const XMLCh* CElementImpl::wide(const XMLCh* attribute) const {
-  return element_->getAttribute(attribute);
+  const DOMAttr* const found = element_->getAttributeNode(attribute);
+  return found == nullptr ? u"" : valueOf(*found);
 }
 
 void CElementImpl::write(const XMLCh* attribute, const char* value) {

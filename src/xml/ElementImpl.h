@@ -40,6 +40,9 @@ class CElementImpl : virtual public as::IElement {
   // The wrapped element; null only for an unbound wrapper.
   xercesc::DOMElement* getElement() const { return element_; }
 
+  // The value of an attribute as it stands in the DOM; empty, never null, for an absent one.
+  const XMLCh* wide(const XMLCh* attribute) const;
+
   // The wrapper of the first child element of that local name, in whatever namespace; null when
   // there is no such child or it carries no wrapper.
   CElementImpl* getNamedChild(const XMLCh* localName);
@@ -72,9 +75,6 @@ class CElementImpl : virtual public as::IElement {
   std::string text(const XMLCh* attribute) const;
   int integer(const XMLCh* attribute) const;
   bool truth(const XMLCh* attribute) const;
-  // The value as it stands in the DOM; empty, never null, for an absent attribute.
-  const XMLCh* wide(const XMLCh* attribute) const;
-
   // Writes an attribute. A null C text counts as an empty one; a null word writes nothing. When
   // memory runs out, std::bad_alloc is thrown, and the attribute has its old or its new value.
   void write(const XMLCh* attribute, const char* value);

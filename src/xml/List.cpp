@@ -11,25 +11,27 @@ AS_DEFINE_IDENTITY2(CList, as::IList, CElementImpl)
 
 CList CList::emptyList(nullptr);
 
-int CList::getLength() { return static_cast<int>(nodes_.size()); }
+int CList::getLength() { return static_cast<int>(members_.size()); }
 
 as::IElement* CList::getItem(int index) {
-  if (index < 0 || index >= getLength() || getNode(index) == nullptr) return nullptr;
-  return as::interface_cast<as::IElement>(getElement(index));
+  if (index < 0 || index >= getLength()) return nullptr;
+  return getElement(index);
 }
 
 void CList::collectChildren() { addChildren(); }
 
 void CList::onAddChild(CElementImpl* /*child*/) {}
 
-DOMElement* CList::getNode(int index) const { return nodes_[static_cast<std::size_t>(index)]; }
+DOMElement* CList::getNode(int index) const { return getElement(index)->getElement(); }
 
-CElementImpl* CList::getElement(int index) const { return wrapperOf(getNode(index)); }
+CElementImpl* CList::getElement(int index) const {
+  return members_[static_cast<std::size_t>(index)];
+}
 
 int CList::find(const XMLCh* attribute, const XMLCh* value, int from) const {
-  const int count = static_cast<int>(nodes_.size());
+  const int count = static_cast<int>(members_.size());
   for (int i = from; i < count; i++) {
-    if (xercesc::XMLString::equals(getNode(i)->getAttribute(attribute), value)) return i;
+    if (xercesc::XMLString::equals(getElement(i)->wide(attribute), value)) return i;
   }
   return -1;
 }
@@ -37,19 +39,19 @@ int CList::find(const XMLCh* attribute, const XMLCh* value, int from) const {
 void CList::addChildren() {
   ElementChildren children(getElement(), filter_);
   while (DOMElement* const child = children.next()) {
-    nodes_.push_back(child);
     CElementImpl* const wrapper = wrapperOf(child);
+    members_.push_back(wrapper);
     onAddChild(wrapper);
     wrapper->collectChildren();
   }
 }
 
 void CList::addChild(DOMElement* child) {
-  nodes_.push_back(child);
+  members_.push_back(wrapperOf(child));
   try {
     orBadAlloc([&] { getElement()->appendChild(child); });
   } catch (...) {
-    nodes_.pop_back();
+    members_.pop_back();
     throw;
   }
 }

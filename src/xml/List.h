@@ -55,7 +55,7 @@ class CList : virtual public as::IList, virtual public CElementImpl {
   void setFilter(const xercesc::DOMNodeFilter* filter) { filter_ = filter; }
 
  private:
-  std::vector<xercesc::DOMElement*> nodes_;
+  std::vector<CElementImpl*> members_;
   const xercesc::DOMNodeFilter* filter_ = nullptr;
 };
 

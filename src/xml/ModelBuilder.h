@@ -34,7 +34,7 @@ class ModelBuilder : public CElementHandler {
   template <class Wrapper, class... Arguments>
   void wrap(xercesc::DOMNode* node, Arguments... arguments) {
     auto* const element = static_cast<xercesc::DOMElement*>(node);
-    if (node->getParentNode() != node->getOwnerDocument()) {
+    if (node->getOwnerDocument()->getDocumentElement() != element) {
       pool_->make<Wrapper>(element, arguments...);
     } else {
       auto made = std::make_unique<Wrapper>(element, arguments...);
