@@ -1,96 +1,202 @@
 #include "xml/Serialiser.h"
 
-#include <memory>
+#include <algorithm>
 #include <stdexcept>
+#include <string_view>
 #include <vector>
 #include <xercesc/dom/DOM.hpp>
-#include <xercesc/framework/MemBufFormatTarget.hpp>
+#include <xercesc/util/TransService.hpp>
+#include <xercesc/util/XMLChar.hpp>
 #include <xercesc/util/XMLString.hpp>
-#include <xercesc/util/XMLUni.hpp>
 
+#include "as/Globals.h"
+#include "xml/AttributeValue.h"
 #include "xml/Limits.h"
 
+using xercesc::DOMAttr;
 using xercesc::DOMDocument;
 using xercesc::DOMElement;
-using xercesc::DOMImplementation;
-using xercesc::DOMImplementationRegistry;
-using xercesc::DOMLSOutput;
-using xercesc::DOMLSSerializer;
 using xercesc::DOMNamedNodeMap;
 using xercesc::DOMNode;
-using xercesc::MemBufFormatTarget;
+using xercesc::XMLChar1_0;
 using xercesc::XMLString;
-using xercesc::XMLUni;
+using xercesc::XMLTranscoder;
 
 namespace {
 
-struct Release {
-  template <class Object>
-  void operator()(Object* object) const {
-    object->release();
-  }
-};
-
 using WideText = std::basic_string<XMLCh>;
 
-// The name that `element` is written by: its own, with a prefix of the document's namespace when it
-// is in none (new elements are; they belong to the document's). That is the root's prefix, unless
-// it means something else there: then it is that of the nearest element around that has one.
-WideText writtenName(const DOMElement* element) {
-  WideText name;
-  if (element->getNamespaceURI() == nullptr) {
-    const DOMNode* at = element;
-    while (at->getNamespaceURI() == nullptr && at->getParentNode() != nullptr) {
-      at = at->getParentNode();
-    }
-    const DOMElement* const root = element->getOwnerDocument()->getDocumentElement();
-    const bool isRoots =
-        XMLString::equals(at->lookupNamespaceURI(root->getPrefix()), root->getNamespaceURI());
-    const XMLCh* const prefix = isRoots ? root->getPrefix() : at->getPrefix();
-    if (prefix != nullptr) name.append(prefix).push_back(u':');
-  }
-  return name.append(element->getNodeName());
-}
-
-// Copies one node without its children into `to`, where names are nothing but names.
-DOMNode* copyNode(DOMDocument* to, const DOMNode* node) {
-  const XMLCh* const value = node->getNodeValue();
-  switch (node->getNodeType()) {
-    case DOMNode::ELEMENT_NODE: {
-      DOMElement* const copy =
-          to->createElement(writtenName(static_cast<const DOMElement*>(node)).c_str());
-      const DOMNamedNodeMap* const attributes = node->getAttributes();
-      if (attributes->getLength() > limits::attributes) {
-        throw std::length_error("too many attributes to be read again");
-      }
-      for (XMLSize_t i = 0; i < attributes->getLength(); i++) {
-        const DOMNode* const attribute = attributes->item(i);
-        copy->setAttribute(attribute->getNodeName(), attribute->getNodeValue());
-      }
-      return copy;
-    }
-    case DOMNode::TEXT_NODE:
-      return to->createTextNode(value);
-    case DOMNode::CDATA_SECTION_NODE:
-      return to->createCDATASection(value);
-    case DOMNode::COMMENT_NODE:
-      return to->createComment(value);
-    case DOMNode::PROCESSING_INSTRUCTION_NODE:
-      return to->createProcessingInstruction(node->getNodeName(), value);
+// What stands for a character of a text; null where it stands for itself.
+const XMLCh* referenceInText(XMLCh character) {
+  switch (character) {
+    case u'&':
+      return u"&amp;";
+    case u'<':
+      return u"&lt;";
+    case u'>':
+      return u"&gt;";
+    case u'\r':
+      return u"&#xD;";
     default:
-      // A document type: what it declared has been put in place when the document was read.
       return nullptr;
   }
 }
 
-void copyChildren(DOMDocument* to, DOMNode* parent, const DOMNode* from) {
-  for (DOMNode* child = from->getFirstChild(); child != nullptr; child = child->getNextSibling()) {
-    DOMNode* const copy = copyNode(to, child);
-    if (copy == nullptr) continue;
-    parent->appendChild(copy);
-    copyChildren(to, copy, child);
+// The same for one of an attribute's value, which is read again with its line ends and tabs.
+const XMLCh* referenceInValue(XMLCh character) {
+  switch (character) {
+    case u'&':
+      return u"&amp;";
+    case u'<':
+      return u"&lt;";
+    case u'"':
+      return u"&quot;";
+    case u'\n':
+      return u"&#xA;";
+    case u'\r':
+      return u"&#xD;";
+    case u'\t':
+      return u"&#x9;";
+    default:
+      return nullptr;
   }
 }
+
+const XMLCh* noReference(XMLCh /*character*/) { return nullptr; }
+
+// Writes nodes with all below them, as they are: the parser's own writer "repairs" namespaces, it
+// declares anew what the tree's plain attributes declare already. Always XML 1.0. Throws
+// std::runtime_error for what that cannot hold: some characters, and names that only 1.1 knows.
+class Writer {
+ public:
+  void write(const DOMNode* node) {
+    switch (node->getNodeType()) {
+      case DOMNode::ELEMENT_NODE:
+        writeElement(static_cast<const DOMElement*>(node));
+        break;
+      case DOMNode::TEXT_NODE:
+        writeText<referenceInText>(node->getNodeValue());
+        break;
+      case DOMNode::CDATA_SECTION_NODE:
+        text_.append(u"<![CDATA[").append(node->getNodeValue()).append(u"]]>");
+        break;
+      case DOMNode::COMMENT_NODE:
+        text_ += u"<!--";
+        writeText<noReference>(node->getNodeValue());
+        text_ += u"-->";
+        break;
+      case DOMNode::PROCESSING_INSTRUCTION_NODE:
+        text_ += u"<?";
+        writeName(node->getNodeName());
+        if (XMLString::stringLen(node->getNodeValue()) != 0) {
+          text_ += u' ';
+          writeText<noReference>(node->getNodeValue());
+        }
+        text_ += u"?>";
+        break;
+      default:
+        // A document type: what it declared has been put in place when the document was read.
+        break;
+    }
+  }
+
+  void write(std::basic_string_view<XMLCh> text) { text_ += text; }
+
+  // All that has been written, in UTF-8.
+  std::string text() const {
+    constexpr std::size_t room = 16384;
+    constexpr std::size_t bytesACharacter = 3;  // At most, also when two make one character.
+    std::string narrow;
+    narrow.reserve(text_.size() + text_.size() / 8);
+    std::vector<XMLByte> bytes(room);
+    for (std::size_t at = 0; at < text_.size();) {
+      XMLSize_t eaten = 0;
+      const XMLSize_t length = gUTF8Transcoder->transcodeTo(
+          text_.data() + at, std::min(room / bytesACharacter, text_.size() - at), bytes.data(),
+          room, eaten, XMLTranscoder::UnRep_Throw);
+      if (eaten == 0) throw std::runtime_error("half a character");
+      narrow.append(reinterpret_cast<const char*>(bytes.data()), length);
+      at += eaten;
+    }
+    return narrow;
+  }
+
+ private:
+  void writeElement(const DOMElement* element) {
+    text_ += u'<';
+    const std::size_t nameAt = text_.size();
+    writeNameOf(element);
+    const std::size_t nameLength = text_.size() - nameAt;
+    const DOMNamedNodeMap* const attributes = element->getAttributes();
+    const XMLSize_t count = attributes->getLength();
+    if (count > limits::attributes) {
+      throw std::length_error("too many attributes to be read again");
+    }
+    for (XMLSize_t i = 0; i < count; i++) {
+      const auto* const attribute = static_cast<const DOMAttr*>(attributes->item(i));
+      text_ += u' ';
+      writeName(attribute->getNodeName());
+      text_ += u"=\"";
+      writeText<referenceInValue>(valueOf(*attribute));
+      text_ += u'"';
+    }
+    const DOMNode* child = element->getFirstChild();
+    if (child == nullptr) {
+      text_ += u"/>";
+      return;
+    }
+    text_ += u'>';
+    for (; child != nullptr; child = child->getNextSibling()) write(child);
+    text_ += u"</";
+    text_.append(text_, nameAt, nameLength);
+    text_ += u'>';
+  }
+
+  // Writes the name of `element`: its own, with a prefix of the document's namespace when it is in
+  // none (new elements are; they belong to the document's). That is the root's prefix, unless it
+  // means something else there: then it is that of the nearest element around that has one.
+  void writeNameOf(const DOMElement* element) {
+    if (element->getNamespaceURI() == nullptr) {
+      const DOMNode* at = element;
+      while (at->getNamespaceURI() == nullptr && at->getParentNode() != nullptr) {
+        at = at->getParentNode();
+      }
+      const DOMElement* const root = element->getOwnerDocument()->getDocumentElement();
+      const bool isRoots =
+          XMLString::equals(at->lookupNamespaceURI(root->getPrefix()), root->getNamespaceURI());
+      const XMLCh* const prefix = isRoots ? root->getPrefix() : at->getPrefix();
+      if (prefix != nullptr) text_.append(prefix).push_back(u':');
+    }
+    writeName(element->getNodeName());
+  }
+
+  void writeName(const XMLCh* name) {
+    const XMLSize_t length = XMLString::stringLen(name);
+    if (!XMLChar1_0::isValidName(name, length)) throw std::runtime_error("no name");
+    text_.append(name, length);
+  }
+
+  // Runs of characters that stand for themselves are written at once.
+  template <const XMLCh* (*referenceFor)(XMLCh)>
+  void writeText(const XMLCh* text) {
+    const XMLCh* run = text;
+    for (; *text != 0; text++) {
+      if (!XMLChar1_0::isXMLChar(*text)) {
+        // Two may make one character.
+        if (text[1] == 0 || !XMLChar1_0::isXMLChar(text[0], text[1])) {
+          throw std::runtime_error("a character that XML cannot hold");
+        }
+        text++;
+      } else if (const XMLCh* const reference = referenceFor(*text)) {
+        text_.append(run, text).append(reference);
+        run = text + 1;
+      }
+    }
+    text_.append(run, text);
+  }
+
+  WideText text_;
+};
 
 // Lays a tree out. The texts that it has inserted it takes away again unless told to keep them: a
 // layout that is left half-way would be laid out anew by the next one.
@@ -105,26 +211,34 @@ class Layout {
 
   // See prettyPrintTree().
   void layOut(DOMNode* node, int depth) {
-    for (; node != nullptr; node = node->getNextSibling()) {
-      if (depth >= static_cast<int>(limits::depth) &&
-          node->getNodeType() == DOMNode::ELEMENT_NODE) {
-        throw std::length_error("nested too deep to be read again");
-      }
-      // Children first: whether they are laid out depends on their parent's last child as it was.
-      layOut(node->getFirstChild(), depth + 1);
-      DOMNode* const parent = node->getParentNode();
-      const bool isText = node->getNodeType() == DOMNode::TEXT_NODE;
-      if (isText || parent == nullptr) continue;
-      // Beside the root there is no place for text.
-      const bool isTopLevel = parent->getNodeType() == DOMNode::DOCUMENT_NODE;
-      if (!isTopLevel && needsCR(parent)) insertSpacer(parent, node, depth);
-      if (node->hasChildNodes() && needsCR(node)) insertSpacer(node, nullptr, depth);
-    }
+    if (node == nullptr) return;
+    DOMNode* const parent = node->getParentNode();
+    // Beside the root there is no place for text.
+    const bool isApart =
+        parent != nullptr && parent->getNodeType() != DOMNode::DOCUMENT_NODE && needsCR(parent);
+    layOut(parent, isApart, node, depth);
   }
 
   void keep() { inserted_.clear(); }
 
  private:
+  // Lays out `node` and what follows it below `parent`, on lines of its own if `isApart`. That
+  // depends on the parent's last child as it was in front of all this, and so it does below.
+  void layOut(DOMNode* parent, bool isApart, DOMNode* node, int depth) {
+    for (; node != nullptr; node = node->getNextSibling()) {
+      const DOMNode::NodeType type = node->getNodeType();
+      if (type == DOMNode::TEXT_NODE) continue;
+      if (depth >= static_cast<int>(limits::depth) && type == DOMNode::ELEMENT_NODE) {
+        throw std::length_error("nested too deep to be read again");
+      }
+      DOMNode* const first = node->getFirstChild();
+      const bool areApart = first != nullptr && needsCR(node);
+      if (first != nullptr) layOut(node, areApart, first, depth + 1);
+      if (isApart) insertSpacer(parent, node, depth);
+      if (areApart && parent != nullptr) insertSpacer(node, nullptr, depth);
+    }
+  }
+
   void insertSpacer(DOMNode* parent, DOMNode* before, int depth) {
     CXStr text = spacer(depth);
     DOMNode* const made = parent->getOwnerDocument()->createTextNode(text);
@@ -161,38 +275,16 @@ void prettyPrintTree(DOMNode* node, int depth) {
 }
 
 std::string serialiseNode(DOMDocument* document) {
-  // The parser's writer "repairs" namespaces: it declares anew what the tree's plain attributes
-  // declare already. From a copy that knows no namespaces it writes what is there.
-  DOMImplementation* const implementation = DOMImplementationRegistry::getDOMImplementation(u"LS");
-  const auto newDocument = [&] {
-    std::unique_ptr<DOMDocument, Release> made(implementation->createDocument());
-    // Always XML 1.0: the writer does not escape line ends in attributes of 1.1.
-    made->setXmlStandalone(document->getXmlStandalone());
-    return made;
-  };
-  const std::unique_ptr<DOMDocument, Release> copy = newDocument();
-  copyChildren(copy.get(), copy.get(), document);
-
-  // The writer's own pretty-printing stays off: it would lay out anew what is laid out already.
-  const std::unique_ptr<DOMLSSerializer, Release> writer(implementation->createLSSerializer());
-  constexpr XMLSize_t initialCapacity = 1023;
-  MemBufFormatTarget target(initialCapacity);
-  const std::unique_ptr<DOMLSOutput, Release> output(implementation->createLSOutput());
-  output->setEncoding(XMLUni::fgUTF8EncodingString);
-  output->setByteStream(&target);
-  const auto write = [&](const DOMNode* node) {
-    target.reset();
-    if (!writer->write(node, output.get())) throw std::runtime_error("not written");
-    return std::string(reinterpret_cast<const char*>(target.getRawBuffer()), target.getLen());
-  };
-
-  // An empty document is written as its declaration; what follows stands on lines of its own.
-  const std::unique_ptr<DOMDocument, Release> empty = newDocument();
-  std::string text = write(empty.get());
-  if (!text.empty() && text.back() != '\n') text += '\n';
-  for (const DOMNode* node = copy->getFirstChild(); node != nullptr;
+  Writer writer;
+  writer.write(u"<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"");
+  writer.write(document->getXmlStandalone() ? u"yes" : u"no");
+  writer.write(u"\" ?>\n");
+  // What stands beside the root stands on lines of its own.
+  for (const DOMNode* node = document->getFirstChild(); node != nullptr;
        node = node->getNextSibling()) {
-    text += write(node) + '\n';
+    if (node->getNodeType() == DOMNode::DOCUMENT_TYPE_NODE) continue;
+    writer.write(node);
+    writer.write(u"\n");
   }
-  return text;
+  return writer.text();
 }

@@ -25,7 +25,7 @@ void prettyPrintTree(xercesc::DOMNode* node, int depth);
 // tree declare it, and elements without a namespace go by the root's prefix: what comes out reads
 // back as the model that it was written from. The tree itself stays as it is. Throws
 // std::length_error when an element has so many attributes that no parser of this library would
-// read it again.
+// read it again, and std::runtime_error for what XML 1.0 cannot hold.
 std::string serialiseNode(xercesc::DOMDocument* document);
 
 #endif  // XML_SERIALISER_H_
