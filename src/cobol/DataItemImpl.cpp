@@ -62,4 +62,4 @@ as::IList* CDataItemImpl::getConditions() { return &conditions_; }
 
 as::IGroup* CDataItemImpl::getParent() { return as::interface_cast<as::IGroup>(parent_); }
 
-void CDataItemImpl::collectChildren() { conditions_.addChildren(); }
+void CDataItemImpl::collectChildren() { conditions_.addChildrenOf(*this); }

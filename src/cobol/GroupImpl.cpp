@@ -6,5 +6,5 @@ as::IList* CGroupImpl::getChildren() { return &children_; }
 
 void CGroupImpl::collectChildren() {
   CDataItemImpl::collectChildren();
-  children_.addChildren();
+  children_.addChildrenOf(*this);
 }

@@ -54,6 +54,14 @@ class CElementImpl : virtual public as::IElement {
   CElementImpl* getNamedParent(const XMLCh* localName);
   static xercesc::DOMNode* getNamedParent(const xercesc::DOMNode* node, const XMLCh* localName);
 
+  // Whether the pool has told which wrappers are those of the child elements (see
+  // WrapperPool::close()), and these wrappers, the last first.
+  bool knowsChildren() const { return beforeSubtree_ != this; }
+  template <class Visit>
+  void visitChildrenBackwards(const Visit& visit) const {
+    for (CElementImpl* at = madeBefore_; at != beforeSubtree_; at = at->beforeSubtree_) visit(at);
+  }
+
   // Binds `wrapper` to the node that it wraps, in place of any earlier one.
   static void bind(xercesc::DOMNode* node, CElementImpl* wrapper);
   // The wrapper bound to `node`; null when there is none and for a null node.
@@ -100,7 +108,10 @@ class CElementImpl : virtual public as::IElement {
 
   void* userData_ = nullptr;
   xercesc::DOMElement* element_ = nullptr;
-  CElementImpl* madeBefore_ = nullptr;  // The pool's.
+  // The pool's: the wrapper made before this one, and the one made before all below this one. This
+  // itself: not known.
+  CElementImpl* madeBefore_ = nullptr;
+  CElementImpl* beforeSubtree_ = this;
 };
 
 #endif  // XML_ELEMENTIMPL_H_

@@ -36,14 +36,32 @@ int CList::find(const XMLCh* attribute, const XMLCh* value, int from) const {
   return -1;
 }
 
-void CList::addChildren() {
-  ElementChildren children(getElement(), filter_);
-  while (DOMElement* const child = children.next()) {
-    CElementImpl* const wrapper = wrapperOf(child);
-    members_.push_back(wrapper);
-    onAddChild(wrapper);
-    wrapper->collectChildren();
+void CList::addChildrenOf(const CElementImpl& owner) {
+  if (!owner.knowsChildren()) {
+    ElementChildren children(getElement(), filter_);
+    while (DOMElement* const child = children.next()) add(wrapperOf(child));
+    return;
   }
+  // Told by the pool, members cost neither a walk through the document nor a look-up each.
+  std::vector<CElementImpl*> backwards;
+  owner.visitChildrenBackwards([&](CElementImpl* child) {
+    const bool isMember = filter_ == nullptr || filter_->acceptNode(child->getElement()) ==
+                                                    xercesc::DOMNodeFilter::FILTER_ACCEPT;
+    if (isMember) backwards.push_back(child);
+  });
+  members_.reserve(members_.size() + backwards.size());
+  while (!backwards.empty()) {
+    CElementImpl* const member = backwards.back();
+    backwards.pop_back();
+    add(member);
+  }
+}
+
+// One by one: a member that refers to others finds those in front of it.
+void CList::add(CElementImpl* member) {
+  members_.push_back(member);
+  onAddChild(member);
+  member->collectChildren();
 }
 
 void CList::addChild(DOMElement* child) {

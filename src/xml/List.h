@@ -37,7 +37,9 @@ class CList : virtual public as::IList, virtual public CElementImpl {
   // Appends every child element that the filter accepts, in document order, each with its own
   // children collected before the next. REQUIRES: each of them carries its wrapper.
   // Calling it again appends them all again.
-  void addChildren();
+  void addChildren() { addChildrenOf(*this); }
+  // The same for a list that is a member of `owner`, the wrapper of the list's element.
+  void addChildrenOf(const CElementImpl& owner);
 
   // Appends `child` to the list's element and to the list, or, when it throws, to neither. Its
   // wrapper exists and has collected its children already.
@@ -55,6 +57,8 @@ class CList : virtual public as::IList, virtual public CElementImpl {
   void setFilter(const xercesc::DOMNodeFilter* filter) { filter_ = filter; }
 
  private:
+  void add(CElementImpl* member);
+
   std::vector<CElementImpl*> members_;
   const xercesc::DOMNodeFilter* filter_ = nullptr;
 };

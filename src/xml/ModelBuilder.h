@@ -36,10 +36,12 @@ class ModelBuilder : public CElementHandler {
     auto* const element = static_cast<xercesc::DOMElement*>(node);
     if (node->getOwnerDocument()->getDocumentElement() != element) {
       pool_->make<Wrapper>(element, arguments...);
+      pool_->close(*pool_->newest());
     } else {
       auto made = std::make_unique<Wrapper>(element, arguments...);
       root_.reset(as::interface_cast<CElementImpl>(made.get()));
       static_cast<void>(made.release());
+      pool_->close(*root_);
     }
   }
 

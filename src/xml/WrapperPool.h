@@ -28,6 +28,13 @@ class WrapperPool {
     return made;
   }
 
+  // Tells `parent`, which was made last or by itself, which wrappers are those of its element's
+  // children: a document that is parsed has them made just before their parents. Does nothing
+  // unless each of them has been told of its own. Edits do not change what has been told.
+  void close(CElementImpl& parent) noexcept;
+  // The wrapper made last.
+  CElementImpl* newest() const { return newest_; }
+
  private:
   // Where a class hides that it is a wrapper, its identity still tells.
   template <class Wrapper>
