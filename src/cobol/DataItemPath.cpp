@@ -4,13 +4,25 @@
 
 #include "as/IGroup.h"
 #include "cobol/NamedItems.h"
+#include "cobol/ProgramImpl.h"
 #include "xml/XStr.h"
 
 namespace {
 
 using Components = std::vector<CXStr>;
 
-// Follows the components from number `at` on through `items`.
+// Follows the components through a program of the library's own.
+as::IDataItem* follow(Components& components, CProgramImpl& program) {
+  const NameIndex& names = program.dataItemsByName();
+  const NameIndex::Entry* at = nullptr;
+  for (CXStr& component : components) {
+    at = names.find(at, component);
+    if (at == nullptr) return nullptr;
+  }
+  return as::interface_cast<as::IDataItem>(at->first);
+}
+
+// Follows the components from number `at` on through `items`, of whatever making.
 as::IDataItem* follow(Components& components, std::size_t at, as::IList* items) {
   const bool isLast = at + 1 == components.size();
   NamedItems<as::IDataItem> named(items, components[at]);
@@ -44,5 +56,6 @@ as::IDataItem* findDataItem(const std::string& path, as::IProgram* program) {
   const std::vector<std::string> names = splitDataItemPath(path);
   if (names.empty()) return nullptr;
   Components components(names.begin(), names.end());
+  if (CProgramImpl* const own = CProgramImpl::own(program)) return follow(components, *own);
   return follow(components, 0, program->getDataItems());
 }

@@ -2,7 +2,6 @@
 
 #include "as/IDataItem.h"
 #include "cobol/DDVocabulary.h"
-#include "cobol/NamedItems.h"
 #include "cobol/ProgramImpl.h"
 #include "xml/WordTable.h"
 
@@ -23,5 +22,5 @@ as::IDataItem* CLinkageItemImpl::getDataItem() {
   auto* const program = as::interface_cast<CProgramImpl>(rootOf(getElement()));
   if (program == nullptr) return nullptr;
   // The top level only: what can be handed over at a call are whole records.
-  return NamedItems<as::IDataItem>(program->getDataItems(), wide(DD::dataItem)).next();
+  return as::interface_cast<as::IDataItem>(program->dataItemsByName().first(wide(DD::dataItem)));
 }

@@ -9,10 +9,9 @@
 #include "xml/List.h"
 #include "xml/XStr.h"
 
-// Yields the Items of a list whose name is the one given, in order. In the library's own lists
-// names are compared where they stand in the document, which is much faster than asking for them: a
-// service resolves thousands of names against thousands of items. Lists of a program of a client's
-// own making are asked item by item.
+// Yields the Items of a list whose name is the one given, in order: how a program of a client's own
+// making is searched, which has no NameIndex. It may show lists of the library's own: there, names
+// are compared where they stand in the document. Lists of its making are asked item by item.
 template <class Item>
 class NamedItems {
  public:

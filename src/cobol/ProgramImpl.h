@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "as/IProgram.h"
+#include "cobol/NameIndex.h"
 #include "xml/List.h"
 #include "xml/WrapperPool.h"
 #include "xml/XMLParser.h"
@@ -23,6 +24,15 @@ class CProgramImpl : virtual public as::IProgram, virtual public CElementImpl {
 
   void collectChildren() override;
 
+  // `program` as one of the library's own; null for one of a client's making and for null.
+  static CProgramImpl* own(as::IProgram* program);
+
+  // The program's data items from the top level down through groups, and its entry points, by their
+  // names. Nothing changes a program, so each is made once, when it is first asked for; where
+  // memory runs out on the way, nothing is kept of it.
+  const NameIndex& dataItemsByName();
+  const NameIndex& entryPointsByName();
+
   // Hand over what lives as long as the program: the parser that holds its document, and the
   // wrappers.
   void setParser(std::unique_ptr<CXMLParser> parser) { parser_ = std::move(parser); }
@@ -34,6 +44,9 @@ class CProgramImpl : virtual public as::IProgram, virtual public CElementImpl {
   CList* fileSection_ = nullptr;
   CList* dataItems_ = nullptr;
   CList* entryPoints_ = nullptr;
+  // Null until asked for.
+  std::unique_ptr<const NameIndex> dataItemsByName_;
+  std::unique_ptr<const NameIndex> entryPointsByName_;
   std::unique_ptr<CXMLParser> parser_;  // Outlives the pool: wrappers stand on the document.
   std::unique_ptr<WrapperPool> pool_;
 };

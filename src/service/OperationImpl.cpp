@@ -3,6 +3,7 @@
 #include "as/IEntryPoint.h"
 #include "as/IService.h"
 #include "cobol/NamedItems.h"
+#include "cobol/ProgramImpl.h"
 #include "service/HiddenParameterImpl.h"
 #include "service/ParameterImpl.h"
 #include "service/SSVocabulary.h"
@@ -78,5 +79,8 @@ void COperationImpl::addParameter(as::IParameter* parameter) {
 as::IEntryPoint* COperationImpl::GetEntryPoint(as::IProgram* program, const std::string& name) {
   if (program == nullptr) return nullptr;
   CXStr wide(name);
+  if (CProgramImpl* const own = CProgramImpl::own(program)) {
+    return as::interface_cast<as::IEntryPoint>(own->entryPointsByName().first(wide));
+  }
   return NamedItems<as::IEntryPoint>(program->getEntryPoints(), wide).next();
 }

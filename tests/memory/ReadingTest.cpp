@@ -2,6 +2,7 @@
 // writing it. The model stays as it was, and nothing is lost.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -9,6 +10,8 @@
 #include "memory/Allocations.h"
 #include "memory/Attempts.h"
 #include "memory/Models.h"
+#include "service/OperationImpl.h"
+#include "service/ParameterImpl.h"
 #include "support/Labels.h"
 #include "support/ServiceSamples.h"
 #include "support/TempDirectory.h"
@@ -131,6 +134,53 @@ TEST(DictionaryOutOfMemory, EveryAnswerIsWholeOrNone) {
     EXPECT_EQ(memory::held(), held);
   });
   EXPECT_EQ(sum(), expected);
+}
+
+// The first look-up of a program prepares for all others.
+TEST(LookUpOutOfMemory, LosesNothingAndIsDoneAnew) {
+  using LookUp = std::function<as::IElement*(as::IProgram&)>;
+  const struct {
+    const char* label;
+    LookUp lookUp;
+    const char* found;
+  } rows[] = {
+      {"what an item depends on",
+       [](as::IProgram& program) { return test::topItem<as::IDataItem>(program, 1)->getODO(); },
+       "COUNTER"},
+      {"a linkage item",
+       [](as::IProgram& program) {
+         return test::itemOf<as::ILinkageItem>(test::entryPointOf(program), 0)->getDataItem();
+       },
+       "TABLE"},
+      {"a path",
+       [](as::IProgram& program) { return CParameterImpl::GetDataItem("TABLE.W", &program); }, "W"},
+      {"an entry point",
+       [](as::IProgram& program) { return COperationImpl::GetEntryPoint(&program, "E1"); }, "E1"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.label);
+    const std::unique_ptr<as::IProgram> program = test::parse(everyItem());
+    const long before = memory::held();
+    long kept = before;
+    // All that was prepared is kept, or nothing.
+    const auto look = [&] {
+      const long held = memory::held();
+      if (kept == before) kept = held;
+      EXPECT_TRUE(held == before || held == kept) << held;
+    };
+    as::IElement* found = nullptr;
+    const int failures = memory::untilNothingFails([&] { found = row.lookUp(*program); },
+                                                   [&](End end) {
+                                                     EXPECT_EQ(end, End::inBadAlloc);
+                                                     look();
+                                                   });
+    EXPECT_GT(failures, 1);
+    ASSERT_NE(found, nullptr);
+    EXPECT_EQ(found->getAttributeValue("name"), row.found);
+    EXPECT_EQ(row.lookUp(*program), found);
+    look();
+    EXPECT_GT(kept, before);
+  }
 }
 
 }  // namespace
