@@ -87,7 +87,10 @@ void CParameterImpl::collectChildren() {
     CParameterImpl* const found = service == nullptr ? nullptr : service->getPrototypeByName(ref);
     // A definition is found by what stands behind it and, while the list of definitions grows, by
     // itself. Only the latter would lead back to where it started: it defines nothing.
-    if (found != this) reference_ = found;
+    if (found == nullptr || found == this) return;
+    // It stands in front or around, and has its own reference already.
+    reference_ = found;
+    source_ = found->source_;
     return;
   }
   collectNamedList(SS::mappings, mappings_);
@@ -97,12 +100,6 @@ void CParameterImpl::collectChildren() {
     if (mapping != nullptr) mapping->setField(this);
   }
   fields_.collectChildren();
-}
-
-CParameterImpl* CParameterImpl::source() {
-  CParameterImpl* at = this;
-  while (at->reference_ != nullptr) at = at->reference_;
-  return at;
 }
 
 const XMLCh* CParameterImpl::wideAtSource(const XMLCh* attribute) {

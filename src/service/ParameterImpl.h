@@ -45,9 +45,9 @@ class CParameterImpl : virtual public as::IParameter,
   // The type definition that the element refers to; null when it refers to none.
   CParameterImpl* getReference() const { return reference_; }
   // What tells of the element: the definition at the end of the references that start here, or the
-  // object itself when it refers to none. Found step by step: documents may hold chains of any
-  // length.
-  CParameterImpl* source();
+  // object itself when it refers to none. Documents may hold chains of any length: none is followed
+  // twice.
+  CParameterImpl* source() { return source_; }
   // The value of an attribute of that object's element.
   const XMLCh* wideAtSource(const XMLCh* attribute);
 
@@ -55,6 +55,7 @@ class CParameterImpl : virtual public as::IParameter,
   CFieldList fields_;
   CList* mappings_ = nullptr;
   CParameterImpl* reference_ = nullptr;
+  CParameterImpl* source_ = this;
 };
 
 #endif  // SERVICE_PARAMETERIMPL_H_

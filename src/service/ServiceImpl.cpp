@@ -118,11 +118,12 @@ CParameterImpl* CServiceImpl::getPrototypeByName(const std::string& name) {
   const int count = parameterTypeDefs_ == nullptr ? 0 : parameterTypeDefs_->getLength();
   if (index_) {
     for (int& i = index_->definitions; i < count; i++) {
-      if (CParameterImpl* const found = definitionAt(i))
-        index_->firstOfName.emplace(parameterTypeDefs_->getNode(i)->getAttribute(SS::name), found);
+      if (CParameterImpl* const found = definitionAt(i)) {
+        const XMLCh* const itsName = parameterTypeDefs_->getNode(i)->getAttribute(SS::name);
+        index_->byName.add(nullptr, itsName, found);
+      }
     }
-    const auto found = index_->firstOfName.find(wideName);
-    return found == index_->firstOfName.end() ? nullptr : found->second;
+    return as::interface_cast<CParameterImpl>(index_->byName.first(wideName));
   }
   if (count == 0) return nullptr;
   for (int i = parameterTypeDefs_->find(SS::name, wideName); i >= 0;

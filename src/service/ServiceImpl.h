@@ -4,10 +4,10 @@
 
 #include <memory>
 #include <string>
-#include <unordered_map>
 
 #include "as/IProgram.h"
 #include "as/IService.h"
+#include "cobol/NameIndex.h"
 #include "service/ServiceFactory.h"
 #include "xml/DocumentPointer.h"
 #include "xml/List.h"
@@ -67,7 +67,7 @@ class CServiceImpl : virtual public as::IService, virtual public CElementImpl {
   // Finds definitions fast while the children are collected, when nobody can change a name: one
   // look-up for each reference of the document, however many definitions there are.
   struct DefinitionIndex {
-    std::unordered_map<std::basic_string<XMLCh>, CParameterImpl*> firstOfName;
+    NameIndex byName;
     int definitions = 0;  // How many are in it; the list grows meanwhile.
   };
   CParameterImpl* definitionAt(int index) const;
