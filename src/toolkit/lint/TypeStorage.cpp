@@ -1,5 +1,7 @@
 #include "toolkit/lint/TypeStorage.h"
 
+#include <utility>
+
 namespace as::toolkit {
 
 std::size_t TypeStorage::addDefinition() {
@@ -18,12 +20,35 @@ void TypeStorage::addReference(std::size_t definition, std::size_t other) {
 std::vector<as::IDataItem*> TypeStorage::wrongOnes(std::size_t definition,
                                                    const CallInterface& interface, int direction,
                                                    const IsWrong& isWrong) {
+  const std::size_t source = sourceOf(definition);
+  Answers& answers = answers_[{&interface, direction}];
+  const auto known = answers.wrong.find(source);
+  if (known != answers.wrong.end()) return known->second;
+  std::vector<as::IDataItem*> wrong = follow(source, answers.good, isWrong);
+  if (!wrong.empty()) answers.wrong.emplace(source, wrong);
+  return wrong;
+}
+
+std::size_t TypeStorage::sourceOf(std::size_t definition) {
+  const auto isReference = [this](std::size_t at) {
+    return parts_[at].size() == 1 && parts_[at].front().record == nullptr;
+  };
+  std::size_t source = definition;
+  while (isReference(source)) source = parts_[source].front().reference;
+  // Who comes this way again is led there at once.
+  for (std::size_t at = definition; at != source;) {
+    at = std::exchange(parts_[at].front().reference, source);
+  }
+  return source;
+}
+
+std::vector<as::IDataItem*> TypeStorage::follow(std::size_t definition, Known& good,
+                                                const IsWrong& isWrong) {
   struct Level {
     std::size_t definition;
     std::size_t next = 0;
     bool isGood = true;
   };
-  Known& good = good_[{&interface, direction}];
   Known visited;
   std::unordered_set<as::IDataItem*> told;
   std::vector<as::IDataItem*> wrong;

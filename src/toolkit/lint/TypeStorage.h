@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <functional>
 #include <map>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -18,7 +19,7 @@ namespace as::toolkit {
 struct CallInterface;
 
 // Definitions are numbers in the order of the document. Long chains of them are followed step by
-// step, and no part of them twice where nothing was found.
+// step, and none twice: neither where nothing was found nor where all that there is are references.
 class TypeStorage {
  public:
   // Answers the number of the next one.
@@ -42,9 +43,17 @@ class TypeStorage {
   };
   using Known = std::unordered_set<std::size_t>;
 
+  // Where the definition's records are told: itself, unless it is nothing but a reference.
+  std::size_t sourceOf(std::size_t definition);
+  std::vector<as::IDataItem*> follow(std::size_t definition, Known& good, const IsWrong& isWrong);
+
   std::vector<std::vector<Part>> parts_;
-  // The definitions without wrong records.
-  std::map<std::pair<const CallInterface*, int>, Known> good_;
+  // What has been asked: the wrong records, where there are some, and the definitions without any.
+  struct Answers {
+    std::unordered_map<std::size_t, std::vector<as::IDataItem*>> wrong;
+    Known good;
+  };
+  std::map<std::pair<const CallInterface*, int>, Answers> answers_;
 };
 
 }  // namespace as::toolkit
