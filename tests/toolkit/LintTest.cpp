@@ -709,16 +709,32 @@ TEST_F(LintChainTest, IsFollowedToItsEnd) {
                                    "called with; map to something within REQ, RC"));
 }
 
-TEST_F(LintChainTest, IsFollowedFromEachOfItsLinks) {
-  write("PAY.xml", test::payProgram());
+// Parameters that refer to the links, p0 to T0 and so on.
+std::string referringToEach(int links) {
   std::string referring;
   for (int i = 0; i < links; ++i) {
     const std::string number = std::to_string(i);
     referring.append("<parameter name='p").append(number).append("' ref='T").append(number);
     referring.append("'/>");
   }
-  write("s.xml", payService(chain(mappedTo("REQ.ID")) + parameters(referring)));
+  return referring;
+}
+
+TEST_F(LintChainTest, IsFollowedFromEachOfItsLinks) {
+  write("PAY.xml", test::payProgram());
+  write("s.xml", payService(chain(mappedTo("REQ.ID")) + parameters(referringToEach(links))));
   EXPECT_THAT(found(), IsEmpty());
+}
+
+TEST_F(LintChainTest, IsToldOfAtEachOfItsLinks) {
+  write("PAY.xml", test::payProgram());
+  write("s.xml", payService(chain(mappedTo("WS-COUNT")) + parameters(referringToEach(links))));
+  const std::vector<std::string> told = found();
+  ASSERT_EQ(told.size(), static_cast<std::size_t>(links));
+  for (int i = 0; i < links; ++i) {
+    ASSERT_THAT(told[static_cast<std::size_t>(i)],
+                testing::StartsWith("error: pay.p" + std::to_string(i) + ": WS-COUNT is nothing"));
+  }
 }
 
 }  // namespace
