@@ -6,10 +6,12 @@
 namespace {
 
 long blocks = 0;
+long allocations = 0;
 long countdown = 0;
 void (*stepAtZero)() = nullptr;
 
 void* allocate(std::size_t size, std::size_t alignment) {
+  allocations++;
   if (countdown > 0 && --countdown == 0) stepAtZero();
   const std::size_t rounded = (size + alignment) / alignment * alignment;
   void* const block = std::aligned_alloc(alignment, rounded);
@@ -28,6 +30,8 @@ void release(void* block) {
 namespace lifecycle {
 
 long held() { return blocks; }
+
+long made() { return allocations; }
 
 void atAllocation(long n, void (*step)()) {
   stepAtZero = step;

@@ -8,6 +8,8 @@ namespace lifecycle {
 
 // How many blocks are held.
 long held();
+// How many there have been, since the program began.
+long made();
 
 // Calls `step` once, in the allocation number `n` from now on, counted from 1.
 void atAllocation(long n, void (*step)());

@@ -8,6 +8,7 @@
 #include <iostream>
 #include <memory>
 #include <string>
+#include <vector>
 #include <xercesc/util/PlatformUtils.hpp>
 
 #include "as/AgentServices.h"
@@ -28,6 +29,16 @@ std::string work() {
   return lifecycle::work(*createAgentServices(), [](as::IService& service, const char* file) {
     CAgentServicesFactory::Serialize(&service, file);
   });
+}
+
+// Numbers of allocations from the first to nearly the last one of the work, for something to happen
+// in.
+std::vector<long> momentsOfWork() {
+  work();  // What is only made once is there from now on.
+  const long before = lifecycle::made();
+  work();
+  const long all = lifecycle::made() - before;
+  return {1, 2, 5, 20, 100, all / 4, all / 2, all * 3 / 4, all * 9 / 10};
 }
 
 // A client's object that holds a model and uses it as it goes.
@@ -114,8 +125,7 @@ struct End {
 class EndInTheMiddleDeathTest : public testing::TestWithParam<End> {};
 
 TEST_P(EndInTheMiddleDeathTest, EndsCleanly) {
-  // A request makes some thousands.
-  for (const long n : {1L, 2L, 5L, 20L, 100L, 500L, 1000L, 2000L, 4000L}) {
+  for (const long n : momentsOfWork()) {
     EXPECT_EXIT(
         {
           lifecycle::atAllocation(n, GetParam().end);
@@ -147,7 +157,7 @@ void forkHere() {
 
 TEST(LinkedDeathTest, AForkInTheMiddleLeavesBothProcessesWorking) {
   const std::string expected = work();
-  for (const long n : {1L, 100L, 1000L, 4000L}) {
+  for (const long n : momentsOfWork()) {
     EXPECT_EXIT(
         {
           lifecycle::atAllocation(n, forkHere);
