@@ -17,9 +17,9 @@ as::IDataItem* follow(Components& components, CProgramImpl& program) {
   const NameIndex::Entry* at = nullptr;
   for (CXStr& component : components) {
     at = names.find(at, component);
-    if (at == nullptr) return nullptr;
+    if (at == nullptr) break;
   }
-  return as::interface_cast<as::IDataItem>(at->first);
+  return at == nullptr ? nullptr : as::interface_cast<as::IDataItem>(at->first);
 }
 
 // Follows the components from number `at` on through `items`, of whatever making.
