@@ -15,6 +15,7 @@
 #include "xml/Limits.h"
 #include "xml/Place.h"
 #include "xml/Position.h"
+#include "xml/ReadAttribute.h"
 #include "xml/Refusals.h"
 #include "xml/XStr.h"
 
@@ -212,6 +213,12 @@ void CXMLParser::endElement(const XMLElementDecl& declaration, unsigned int uriI
   XercesDOMParser::endElement(declaration, uriId, isRoot, prefix);
   --depth_;
   if (handler_ != nullptr) handler_->newElement(getCurrentNode());
+}
+
+xercesc::DOMAttr* CXMLParser::createAttrNS(const XMLCh* namespaceUri, const XMLCh* prefix,
+                                           const XMLCh* localName, const XMLCh* qualifiedName) {
+  return new (fDocument, xercesc::DOMMemoryManager::ATTR_NS_OBJECT)
+      ReadAttribute(fDocument, namespaceUri, prefix, localName, qualifiedName);
 }
 
 void CXMLParser::endDocument() {

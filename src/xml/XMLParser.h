@@ -64,6 +64,10 @@ class CXMLParser : public xercesc::XercesDOMParser,
                   bool isIgnored) override;
   void startAttList(const xercesc::DTDElementDecl& element) override;
 
+  // For every attribute that is read.
+  xercesc::DOMAttr* createAttrNS(const XMLCh* namespaceUri, const XMLCh* prefix,
+                                 const XMLCh* localName, const XMLCh* qualifiedName) override;
+
   // From the parser's error reporter: every message, warnings included, ends the parse.
   void error(unsigned int code, const XMLCh* domain, xercesc::XMLErrorReporter::ErrTypes type,
              const XMLCh* text, const XMLCh* systemId, const XMLCh* publicId, XMLFileLoc line,
