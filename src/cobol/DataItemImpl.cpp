@@ -45,6 +45,7 @@ int CDataItemImpl::getOffset() { return integer(DD::offset); }
 int CDataItemImpl::getLine() { return integer(DD::line); }
 
 as::IDataItem* CDataItemImpl::getODO() {
+  if (!hasODO()) return nullptr;
   return findDataItem(text(DD::odo), as::interface_cast<as::IProgram>(rootOf(getElement())));
 }
 

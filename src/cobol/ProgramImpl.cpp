@@ -25,7 +25,7 @@ void addLevel(NameIndex& names, const Level& level, std::vector<Level>* below = 
   for (int i = 0; i < count; i++) {
     CElementImpl* const member = level.members->getElement(i);
     if (as::interface_cast<Member>(member) == nullptr) continue;
-    const XMLCh* const name = level.members->getNode(i)->getAttribute(DD::name);
+    const XMLCh* const name = member->wide(DD::name);
     const NameIndex::Entry* const entry = names.add(level.around, name, member);
     auto* const group = below == nullptr ? nullptr : as::interface_cast<as::IGroup>(member);
     if (group != nullptr)

@@ -68,13 +68,11 @@ CElementImpl* CElementImpl::rootOf(const DOMNode* node) {
   return node == nullptr ? nullptr : wrapperOf(node->getOwnerDocument());
 }
 
-std::string CElementImpl::text(const XMLCh* attribute) const {
-  return CXStr(wide(attribute), false);
-}
+std::string CElementImpl::text(const XMLCh* attribute) const { return textOf(wide(attribute)); }
 
-int CElementImpl::integer(const XMLCh* attribute) const { return CXStr(wide(attribute), false); }
+int CElementImpl::integer(const XMLCh* attribute) const { return integerOf(wide(attribute)); }
 
-bool CElementImpl::truth(const XMLCh* attribute) const { return CXStr(wide(attribute), false); }
+bool CElementImpl::truth(const XMLCh* attribute) const { return truthOf(wide(attribute)); }
 
 const XMLCh* CElementImpl::wide(const XMLCh* attribute) const {
   const DOMAttr* const found = element_->getAttributeNode(attribute);

@@ -174,3 +174,35 @@ std::unique_ptr<XMLCh[]> CXStr::rendered() const {
   std::unique_ptr<XMLCh[]> wide = transcode(text);
   return wide ? std::move(wide) : transcode(replaceMalformed(text));
 }
+
+std::string textOf(const XMLCh* text) {
+  const std::size_t length = XMLString::stringLen(text);
+  XMLCh all = 0;
+  for (std::size_t i = 0; i < length; i++) all = static_cast<XMLCh>(all | text[i]);
+  if (all > 0x7F) return CXStr(text, false);
+  std::string result(length, '\0');
+  for (std::size_t i = 0; i < length; i++) result[i] = static_cast<char>(text[i]);
+  return result;
+}
+
+int integerOf(const XMLCh* text) {
+  const XMLCh* at = text == nullptr ? u"" : text;
+  while (*at == u' ' || (*at >= u'\t' && *at <= u'\r')) at++;
+  // What else may count as a blank is for the C library to say.
+  if (*at > 0x7F) return CXStr(text, false);
+  const bool isNegative = *at == u'-';
+  if (*at == u'-' || *at == u'+') at++;
+  constexpr long long beyond = 1LL + INT_MAX;
+  long long value = 0;
+  for (; *at >= u'0' && *at <= u'9'; at++) value = std::min(10 * value + (*at - u'0'), beyond);
+  return static_cast<int>(isNegative ? -value : std::min<long long>(value, INT_MAX));
+}
+
+bool truthOf(const XMLCh* text) {
+  constexpr XMLCh lowerCase = 0x20;
+  if (text == nullptr) return false;
+  for (const XMLCh letter : {u't', u'r', u'u', u'e'}) {
+    if ((*text++ | lowerCase) != letter) return false;
+  }
+  return *text == 0;
+}

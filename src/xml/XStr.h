@@ -55,4 +55,10 @@ class CXStr {
   std::unique_ptr<XMLCh[]> wide_;  // The latest that was handed out.
 };
 
+// What a CXStr of `text` answers as text, integer and truth, without making one: a text of ASCII
+// alone, as nearly every attribute is, is read where it stands. Null counts as empty.
+std::string textOf(const XMLCh* text);
+int integerOf(const XMLCh* text);
+bool truthOf(const XMLCh* text);
+
 #endif  // XML_XSTR_H_

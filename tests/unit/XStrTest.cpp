@@ -279,6 +279,63 @@ TEST(XStr, WideRenderingFollowsTheText) {
   EXPECT_EQ(wide(value), nullptr);
 }
 
+// Texts that are read where they stand, and texts that are not.
+const std::vector<std::u16string> readTexts = {
+    u"",
+    u"0",
+    u"42",
+    u"-42",
+    u"+42",
+    u"--42",
+    u"+-42",
+    u"-",
+    u" \t\n\v\f\r7",
+    u"\u00A07",
+    u"\u20287",
+    u"7\u00E9",
+    u"-\u0663",
+    u"1,2",
+    u"0x10",
+    u"2147483646",
+    u"2147483647",
+    u"2147483648",
+    u"-2147483647",
+    u"-2147483648",
+    u"-2147483649",
+    u"99999999999999999999999999999999999999",
+    u"-99999999999999999999999999999999999999",
+    u"true",
+    u"TRUE",
+    u"tRuE",
+    u"tru",
+    u"truE ",
+    u" true",
+    u"truex",
+    u"T\u0052UE",
+    u"\u0174rue",
+    u"t\u0072u\u0145",
+    u"\u007F",
+    u"\u0080",
+    u"caf\u00E9",
+    u"\xD83D\xDE00",
+    u"a lone \xD83D surrogate",
+};
+
+TEST(XStr, TextsAreReadAsACXStrOfThemReads) {
+  for (const std::u16string& read : readTexts) {
+    CXStr converted(read.c_str(), false);
+    EXPECT_EQ(textOf(read.c_str()), static_cast<std::string>(converted));
+    EXPECT_EQ(integerOf(read.c_str()), static_cast<int>(converted)) << textOf(read.c_str());
+    EXPECT_EQ(truthOf(read.c_str()), static_cast<bool>(converted)) << textOf(read.c_str());
+  }
+}
+
+TEST(XStr, NoTextIsReadAsAnEmptyOne) {
+  EXPECT_EQ(textOf(nullptr), "");
+  EXPECT_EQ(integerOf(nullptr), 0);
+  EXPECT_FALSE(truthOf(nullptr));
+}
+
 TEST(XStr, HasAVirtualDestructor) { EXPECT_TRUE(std::has_virtual_destructor_v<CXStr>); }
 
 }  // namespace
