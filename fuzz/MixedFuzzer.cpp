@@ -1,6 +1,7 @@
 // Reads the input as a dictionary and as a service, with the shipped schemas and without them.
 // Inputs mix the namespaces and bring schemas of their own. Whatever a schema lets through, a
-// request ends with a model or with one of its exceptions, and a model answers every question.
+// request ends with a model or with one of its exceptions, and a model answers every question. An
+// entry object that keeps schemas answers the same.
 #include "DictionaryWalk.h"
 #include "Mutator.h"
 #include "Report.h"
@@ -12,23 +13,45 @@ const fuzz::Shape fuzz::shape = {{}, false, fuzz::Shape::Files::schemas};
 
 namespace {
 
-// Whether there was a model.
-bool ask(as::IAgentServices& by, std::string_view input) {
+struct Answers {
+  bool isGood = false;  // There was a model.
+  std::string text;     // What came of each request.
+};
+
+// Makes a request, as unlessRefused() does.
+template <class Request>
+auto answer(Answers& answers, const Request& request) -> decltype(request()) {
+  try {
+    auto root = request();
+    answers.isGood = answers.isGood || root != nullptr;
+    answers.text += root ? "a model\n" : "nothing\n";
+    return root;
+  } catch (const as::CASParseException& refusal) {
+    answers.text += std::to_string(refusal.getLineNum()) + ":" +
+                    std::to_string(refusal.getColNum()) + ": " + refusal.getErrorText() + "\n";
+  } catch (const as::CASInvalidNamespaceException&) {
+    answers.text += "another namespace\n";
+  }
+  return nullptr;
+}
+
+Answers ask(as::IAgentServices& by, std::string_view input) {
+  Answers answers;
   // Schemas are looked up beside the document.
   const std::string id = fuzz::workDirectory().file("document.xml");
   const std::unique_ptr<as::IProgram> program =
-      fuzz::unlessRefused([&] { return fuzz::parseDictionary(by, id, input); });
+      answer(answers, [&] { return fuzz::parseDictionary(by, id, input); });
   if (program) fuzz::DictionaryWalk(fuzz::Schemas::any).walk(*program);
   const std::unique_ptr<as::IService> service =
-      fuzz::unlessRefused([&] { return fuzz::parseService(by, id, input, false); });
-  if (!service) return program != nullptr;
-  test::modelText(*service);
+      answer(answers, [&] { return fuzz::parseService(by, id, input, false); });
+  if (!service) return answers;
+  answers.text += test::modelText(*service);
   try {
     as::CAgentServicesFactory::SerializeToString(service.get());
   } catch (const as::CASException&) {
     if (!fuzz::readTree(input).isOtherXml()) throw;
   }
-  return true;
+  return answers;
 }
 
 }  // namespace
@@ -36,10 +59,17 @@ bool ask(as::IAgentServices& by, std::string_view input) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const std::unique_ptr<as::IAgentServices> withoutSchemas(
       as::CAgentServicesFactory::CreateAgentServices());
+  // Keeps schemas from one input to the next, and must answer as if it did not.
+  static const std::unique_ptr<as::IAgentServices> caching = [] {
+    std::unique_ptr<as::IAgentServices> created(
+        as::CAgentServicesFactory::CreateCachingAgentServices());
+    created->setSchemaLocation(fuzz::schemaDirectory().c_str());
+    return created;
+  }();
   const std::string_view input(reinterpret_cast<const char*>(data), size);
   const fuzz::InputFiles files(input);
-  const bool isGood = ask(fuzz::services(), input);
-  const bool isGoodWithoutSchemas = ask(*withoutSchemas, input);
-  if (isGood || isGoodWithoutSchemas) fuzz::countModel();
+  const Answers withSchemas = ask(fuzz::services(), input);
+  fuzz::requireSame(withSchemas.text, ask(*caching, input).text);
+  if (ask(*withoutSchemas, input).isGood || withSchemas.isGood) fuzz::countModel();
   return 0;
 }

@@ -27,6 +27,23 @@ class AS_EXPORT CAgentServicesFactory {
   // the AgentServices processor" on any other failure.
   static IAgentServices* CreateAgentServices();
 
+  // The same, for those who read many documents: an entry object that keeps what the XML parser
+  // makes of the schemas, which a small document would otherwise spend most of its time on. Every
+  // request comes to the same as with the one above, model or refusal.
+  //
+  // A schema is compiled by the first request whose document needs it, and kept until a request
+  // finds that its file, which each looks at, is another by then or gone, or that another schema
+  // directory has been named, or this object is deleted. Models share the memory of the schemas
+  // that they were read with, which goes with the last of them. The object has to be deleted in
+  // time as roots have: see as::IElement.
+  //
+  // Shared are the schemas of the schema directory, by documents that name them by their namespaces
+  // or by the bare names of their files, bring no other schema and have no DTD; and only schemas
+  // that refer to no other and of which the parser has nothing to tell. Whatever else there is, a
+  // device or a pipe that the client names as the document, say, is read as by the object above. A
+  // file may be opened more than once in one request for that.
+  static IAgentServices* CreateCachingAgentServices();
+
   // A new, empty service definition of a flavour for `program`, to be extended through its
   // operations and written with Serialize(). The caller owns the service; the service owns the
   // program from now on, and deletes it with itself. Null for a null program.

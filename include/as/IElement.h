@@ -18,7 +18,8 @@ namespace as {
 // process ends; one that is never deleted does no harm then. The handler that stops the parser is
 // registered while the library is loaded. So objects of static duration in a program linked with
 // the library are in time, as are exit handlers; a host that loads it with dlopen() has to make its
-// own after that. The entry object may go later, while the library is loaded.
+// own after that. The entry object may go later, while the library is loaded, unless it keeps
+// schemas (see CAgentServicesFactory).
 //
 // Threads: the library serves one thread at a time, process-wide, since every conversion of text
 // goes through one shared transcoder. Two threads with a document each have to take turns too.

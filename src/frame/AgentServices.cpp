@@ -108,6 +108,10 @@ struct CAgentServices::Source {
   }
 };
 
+CAgentServices::CAgentServices(Schemas schemas) {
+  if (schemas == Schemas::kept) schemas_.emplace();
+}
+
 void CAgentServices::setSchemaLocation(const char* dir) {
   std::string directory = dir == nullptr ? "" : dir;
   if (directory.empty()) schemaDirectory_.clear();
@@ -149,34 +153,44 @@ as::IService* CAgentServices::parseService(const char* id, const unsigned char* 
   return parseServiceDocument(Source::memory(id, buf, len), errorText, loadProgram);
 }
 
-as::IProgram* CAgentServices::parseProgram(const Source& source) const {
+as::IProgram* CAgentServices::parseProgram(const Source& source) {
   return sortFailures(dictionaryFailure, [&] {
     bool isWhole = true;
     return readProgram(source, isWhole).release();
   });
 }
 
-std::unique_ptr<as::IProgram> CAgentServices::readProgram(const Source& source,
-                                                          bool& isWhole) const {
-  // The handler goes before the parser: what it releases may look at the document.
-  auto parser = std::make_unique<CXMLParser>();
-  CVorDDHandler handler;
-  source.parse(*parser, schemaDirectory_, handler);
-  isWhole = handler.isWhole();
-  std::unique_ptr<CProgramImpl> program = handler.takeProgram();
-  if (program) program->setParser(std::move(parser));
-  return program;
+template <class Handler, class Take>
+auto CAgentServices::read(const Source& source, const Take& take) {
+  const auto attempt = [&](std::shared_ptr<SharedSchemas> shared) {
+    // The handler goes before the parser: what it releases may look at the document.
+    auto parser = std::make_unique<CXMLParser>(std::move(shared));
+    Handler handler;
+    source.parse(*parser, schemaDirectory_, handler);
+    return take(handler, std::move(parser));
+  };
+  return schemas_ ? schemas_->run(schemaDirectory_, attempt) : attempt(nullptr);
+}
+
+std::unique_ptr<as::IProgram> CAgentServices::readProgram(const Source& source, bool& isWhole) {
+  return read<CVorDDHandler>(source,
+                             [&](CVorDDHandler& handler, std::unique_ptr<CXMLParser> parser) {
+                               isWhole = handler.isWhole();
+                               std::unique_ptr<CProgramImpl> program = handler.takeProgram();
+                               if (program) program->setParser(std::move(parser));
+                               return program;
+                             });
 }
 
 as::IService* CAgentServices::parseServiceDocument(const Source& source, bool loadProgram) {
   return sortFailures(serviceFailure, [&]() -> as::IService* {
-    // The handler goes before the parser: what it releases may look at the document.
-    auto parser = std::make_unique<CXMLParser>();
-    CDelegatingHandler handler;
-    source.parse(*parser, schemaDirectory_, handler);
-    std::unique_ptr<CServiceImpl> service = handler.takeService();
+    std::unique_ptr<CServiceImpl> service = read<CDelegatingHandler>(
+        source, [](CDelegatingHandler& handler, std::unique_ptr<CXMLParser> parser) {
+          std::unique_ptr<CServiceImpl> made = handler.takeService();
+          if (made) made->setParser(std::move(parser));
+          return made;
+        });
     if (!service) return nullptr;
-    service->setParser(std::move(parser));
     if (loadProgram) {
       bool isWhole = true;
       std::unique_ptr<as::IProgram> program =

@@ -3,12 +3,19 @@
 #define FRAME_AGENTSERVICES_H_
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "as/IAgentServices.h"
+#include "xml/SchemaCache.h"
 
 class CAgentServices : public as::IAgentServices {
  public:
+  // Whether the schemas of the schema directory are compiled for each request, or kept.
+  enum class Schemas { compiled, kept };
+
+  explicit CAgentServices(Schemas schemas);
+
   void setSchemaLocation(const char* dir) override;
   as::IProgram* parseCobolDD(const char* file) override;
   as::IService* parseService(const char* file, bool loadProgram) override;
@@ -23,15 +30,21 @@ class CAgentServices : public as::IAgentServices {
   // What a parse request reads: a file by name, or a buffer.
   struct Source;
 
-  as::IProgram* parseProgram(const Source& source) const;
+  // Parses `source` with a new parser, which drives a new Handler, and answers take(handler,
+  // parser).
+  template <class Handler, class Take>
+  auto read(const Source& source, const Take& take);
+
+  as::IProgram* parseProgram(const Source& source);
   // Null when the document makes no program, and when the parser gave up half-way without a word:
   // then `isWhole` becomes false.
-  std::unique_ptr<as::IProgram> readProgram(const Source& source, bool& isWhole) const;
+  std::unique_ptr<as::IProgram> readProgram(const Source& source, bool& isWhole);
   as::IService* parseServiceDocument(const Source& source, bool loadProgram);
   as::IService* parseServiceDocument(const Source& source, std::string& errorText,
                                      bool loadProgram);
 
   std::string schemaDirectory_;
+  std::optional<SchemaCache> schemas_;
 };
 
 // Starts the XML parser library and creates the transcoder; 1 on success, 0 on failure.

@@ -43,6 +43,15 @@ auto sortFailures(const char* file, const Write& write) -> decltype(write()) {
   }
 }
 
+as::IAgentServices* newAgentServices(CAgentServices::Schemas schemas) {
+  if (nXercesInitStatus == 0) throw as::CASException(notInitialised);
+  try {
+    return new CAgentServices(schemas);
+  } catch (...) {
+    throw as::CASException("AgentServices: An error occurred the AgentServices processor");
+  }
+}
+
 // A new service of the flavour that Factory makes, for `program`, which it owns from then on; null
 // for a null program.
 template <class Factory>
@@ -73,12 +82,11 @@ void* CAgentServicesFactory::RTTI_cast(RTTItypeid id) {
 }
 
 IAgentServices* CAgentServicesFactory::CreateAgentServices() {
-  if (nXercesInitStatus == 0) throw CASException(notInitialised);
-  try {
-    return new CAgentServices;
-  } catch (...) {
-    throw CASException("AgentServices: An error occurred the AgentServices processor");
-  }
+  return newAgentServices(CAgentServices::Schemas::compiled);
+}
+
+IAgentServices* CAgentServicesFactory::CreateCachingAgentServices() {
+  return newAgentServices(CAgentServices::Schemas::kept);
 }
 
 IWebService* CAgentServicesFactory::NewWebService(IProgram* program) {

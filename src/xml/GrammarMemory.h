@@ -7,7 +7,6 @@
 #include <functional>
 #include <utility>
 #include <xercesc/framework/MemoryManager.hpp>
-#include <xercesc/framework/XMLGrammarPoolImpl.hpp>
 
 // A content model of a few lines may be laid out to any size. A large block that goes beyond the
 // limit is told to whoever wants to know, once, who may throw to end the parse. Smaller ones are
@@ -69,13 +68,6 @@ class GrammarMemory final : public xercesc::MemoryManager {
   std::size_t left_ = 0;
   Link links_{&links_, &links_};
   std::function<void()> tell_;
-};
-
-// That memory with the pool of grammars in it, for a parser to derive from virtually: made in front
-// of the parser and destroyed behind it.
-struct GrammarStore {
-  GrammarMemory memory;
-  xercesc::XMLGrammarPoolImpl grammars{&memory};
 };
 
 #endif  // XML_GRAMMARMEMORY_H_

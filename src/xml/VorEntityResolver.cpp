@@ -1,5 +1,7 @@
 #include "xml/VorEntityResolver.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <xercesc/framework/LocalFileInputSource.hpp>
 #include <xercesc/util/XMLString.hpp>
@@ -12,14 +14,20 @@ using xercesc::XMLString;
 
 namespace {
 
-// The schemas, in the order in which a reference is compared with them.
-constexpr struct {
+struct Schema {
   const XMLCh* uri;
   const XMLCh* fileName;
-} schemas[] = {
+};
+
+// The schemas, in the order in which a reference is compared with them.
+constexpr Schema schemas[] = {
 #define AS_NAMESPACE(prefix, uri, file) {XSDNS::prefix##URI, XSDNS::prefix##Name},
 #include "as/Namespaces.def"
 };
+
+bool standsFor(const XMLCh* systemId, const Schema& schema) {
+  return XMLString::equals(systemId, schema.uri) || XMLString::equals(systemId, schema.fileName);
+}
 
 }  // namespace
 
@@ -32,9 +40,7 @@ CXStr VorEntityResolver::getLocationForSchema(const XMLCh* fileName) {
 InputSource* VorEntityResolver::resolveEntity(const XMLCh* /*publicId*/, const XMLCh* systemId) {
   if (directory_.isEmpty()) return nullptr;
   for (const auto& schema : schemas) {
-    if (XMLString::equals(systemId, schema.uri) || XMLString::equals(systemId, schema.fileName)) {
-      return open(schema.fileName);
-    }
+    if (standsFor(systemId, schema)) return open(schema.fileName);
   }
   return nullptr;
 }
@@ -45,6 +51,12 @@ InputSource* VorEntityResolver::resolveNamespace(const XMLCh* uri) {
     if (XMLString::equals(uri, schema.uri)) return open(schema.fileName);
   }
   return nullptr;
+}
+
+bool VorEntityResolver::isPlaceOf(const XMLCh* uri, const XMLCh* systemId) {
+  return std::any_of(std::begin(schemas), std::end(schemas), [&](const Schema& schema) {
+    return XMLString::equals(uri, schema.uri) && standsFor(systemId, schema);
+  });
 }
 
 InputSource* VorEntityResolver::open(const XMLCh* fileName) {

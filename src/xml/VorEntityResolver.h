@@ -30,6 +30,9 @@ class VorEntityResolver : public xercesc::EntityResolver {
   // The same for the schema of a namespace, wherever a document says that it is.
   xercesc::InputSource* resolveNamespace(const XMLCh* uri);
 
+  // Whether `systemId` stands for our schema of that very namespace.
+  static bool isPlaceOf(const XMLCh* uri, const XMLCh* systemId);
+
  private:
   xercesc::InputSource* open(const XMLCh* fileName);
 

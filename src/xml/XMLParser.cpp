@@ -1,5 +1,6 @@
 #include "xml/XMLParser.h"
 
+#include <utility>
 #include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
@@ -86,7 +87,9 @@ std::unique_ptr<InputSource> emptySource() { return sourceOfBytes(emptySchema(),
 // Parsers come from the XML parser's operator new, which gives no more.
 static_assert(alignof(CXMLParser) <= alignof(void*));
 
-CXMLParser::CXMLParser() : XercesDOMParser(nullptr, XMLPlatformUtils::fgMemoryManager, &grammars) {
+CXMLParser::CXMLParser(std::shared_ptr<SharedSchemas> shared)
+    : GrammarStore(std::move(shared)),
+      XercesDOMParser(nullptr, XMLPlatformUtils::fgMemoryManager, &grammars) {
   limits_.setEntityExpansionLimit(limits::entityExpansions);
   memory.whenFull([this] { refuseAtOnce(refusals::ofGrammars()); });
 }
@@ -116,36 +119,37 @@ void CXMLParser::parseFile(const XMLCh* systemId, LocalFile::Opening opening) {
     place = Place::ofDocument(systemId);
   } catch (const XMLException&) {
     // The current directory is gone: the parser tells.
-    run(systemId);
+    run(systemId, false);
     return;
   }
   if (place.kind == Place::Kind::network) {
     refuseDocument(refusals::ofDocumentOnNetwork(documentName_));
   }
   if (place.kind != Place::Kind::file) {
-    run(*place.parsers);
+    run(*place.parsers, false);
     return;
   }
   const auto file = std::make_shared<const LocalFile>(place.path, opening);
   refuseDocument(opening == LocalFile::Opening::any
                      ? refusals::ofDocument(documentName_, file->kind())
                      : refusals::ofReferredDocument(documentName_, file->kind()));
-  run(FileSource(file, place.parsers->getSystemId()));
+  run(FileSource(file, place.parsers->getSystemId()), file->kind() == LocalFile::Kind::regular);
 }
 
 void CXMLParser::parse(MemBufInputSource* source) {
   documentName_ = narrow(source->getSystemId());
-  run(*source);
+  run(*source, true);
 }
 
 template <class Source>
-void CXMLParser::run(const Source& source) {
+void CXMLParser::run(const Source& source, bool canRepeat) {
   setValidationScheme(Val_Always);
   setEntityResolver(&resolver_);
   setErrorHandler(this);
   setDoSchema(true);
   setDoNamespaces(true);
   setSecurityManager(&limits_);
+  useCachedGrammarInParse(canRepeat && grammars.shared() != nullptr);
   // The text of an entity counts as if it stood in its place, so that no list passes over it.
   setCreateEntityReferenceNodes(false);
   setIncludeIgnorableWhitespace(handler_ == nullptr || handler_->keepsBlanks());
@@ -155,8 +159,11 @@ void CXMLParser::run(const Source& source) {
     throw;
   } catch (const as::CASInvalidNamespaceException&) {
     throw;
-  } catch (...) {  // NOLINT(bugprone-empty-catch)
+  } catch (const SharedSchemas::NotShared&) {
+    throw;
+  } catch (...) {
     // The caller finds what the handler had built until then.
+    if (isSharing()) grammars.shared()->spoil();
   }
   if (firstMessage_) throw as::CASParseException(*firstMessage_);
   // The model keeps the parser.
@@ -234,6 +241,13 @@ void CXMLParser::XMLDecl(const XMLCh* version, const XMLCh* encoding, const XMLC
   XercesDOMParser::XMLDecl(version, encoding, standalone, actualEncoding);
 }
 
+void CXMLParser::doctypeDecl(const DTDElementDecl& root, const XMLCh* publicId,
+                             const XMLCh* systemId, bool hasInternal, bool hasExternal) {
+  // The parser goes other ways through a DTD where it shares grammars.
+  if (isSharing()) throw SharedSchemas::NotShared();
+  XercesDOMParser::doctypeDecl(root, publicId, systemId, hasInternal, hasExternal);
+}
+
 void CXMLParser::entityDecl(const DTDEntityDecl& entity, bool isParameterEntity, bool isIgnored) {
   refuseAtOnce(refusals::ofEntity(entity, isParameterEntity));
   XercesDOMParser::entityDecl(entity, isParameterEntity, isIgnored);
@@ -256,6 +270,8 @@ InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
     // What the parser makes of an external DTD it never frees.
     refuseAtOnce(refusals::ofExternalEntity(narrow(reference->getSystemId())));
   }
+  // A document that brings schemas has all of them to itself.
+  if (isSharing()) throw SharedSchemas::NotShared();
   return sourceOf(*reference).release();
 }
 

@@ -16,8 +16,8 @@
 
 #include "as/CASParseException.h"
 #include "xml/ElementHandler.h"
-#include "xml/GrammarMemory.h"
 #include "xml/LocalFile.h"
+#include "xml/ParseGrammars.h"
 #include "xml/SchemaInspection.h"
 #include "xml/VorEntityResolver.h"
 
@@ -31,7 +31,9 @@ class CXMLParser : public xercesc::XercesDOMParser,
                    public xercesc::ErrorHandler,
                    protected virtual GrammarStore {
  public:
-  CXMLParser();
+  // Parses with the schemas that are shared, where they are given and will do; the parse throws
+  // SharedSchemas::NotShared where they will not, and is to be made again by another parser.
+  explicit CXMLParser(std::shared_ptr<SharedSchemas> shared = nullptr);
   ~CXMLParser() override;
 
   // The handler to drive; null for none: then only the DOM tree is built. Not owned.
@@ -60,6 +62,8 @@ class CXMLParser : public xercesc::XercesDOMParser,
   void endDocument() override;
   void XMLDecl(const XMLCh* version, const XMLCh* encoding, const XMLCh* standalone,
                const XMLCh* actualEncoding) override;
+  void doctypeDecl(const xercesc::DTDElementDecl& root, const XMLCh* publicId,
+                   const XMLCh* systemId, bool hasInternal, bool hasExternal) override;
   void entityDecl(const xercesc::DTDEntityDecl& entity, bool isParameterEntity,
                   bool isIgnored) override;
   void startAttList(const xercesc::DTDElementDecl& element) override;
@@ -84,8 +88,11 @@ class CXMLParser : public xercesc::XercesDOMParser,
 
  private:
   void parseFile(const XMLCh* systemId, LocalFile::Opening opening);
+  // Whether the parse shares schemas.
+  bool isSharing() const { return isUsingCachedGrammarInParse(); }
+  // What `canRepeat` can be read again if need be: only then may the parse share schemas.
   template <class Source>
-  void run(const Source& source);
+  void run(const Source& source, bool canRepeat);
 
   // The source of a schema: what `reference` leads to, or stands for.
   std::unique_ptr<xercesc::InputSource> sourceOf(const xercesc::XMLResourceIdentifier& reference);

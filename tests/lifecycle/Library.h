@@ -36,9 +36,10 @@ class Library {
   }
 
   std::unique_ptr<as::IAgentServices> createAgentServices() const {
-    using Create = as::IAgentServices*();
-    return std::unique_ptr<as::IAgentServices>(
-        find<Create>("_ZN2as21CAgentServicesFactory19CreateAgentServicesEv")());
+    return create("_ZN2as21CAgentServicesFactory19CreateAgentServicesEv");
+  }
+  std::unique_ptr<as::IAgentServices> createCachingAgentServices() const {
+    return create("_ZN2as21CAgentServicesFactory26CreateCachingAgentServicesEv");
   }
 
   void serialize(as::IService& service, const char* file) const {
@@ -48,9 +49,15 @@ class Library {
 
   // What a client does, with this copy of the library; the text that it writes.
   std::string work() const {
+    const auto write = [this](as::IService& service, const char* file) {
+      serialize(service, file);
+    };
+    // Both kinds are there at once.
     const auto services = createAgentServices();
-    return lifecycle::work(
-        *services, [this](as::IService& service, const char* file) { serialize(service, file); });
+    const auto caching = createCachingAgentServices();
+    const std::string text = lifecycle::work(*services, write);
+    if (lifecycle::work(*caching, write) != text) throw std::runtime_error("another text");
+    return text;
   }
 
   // The identity of an interface in this copy of the library.
@@ -60,6 +67,10 @@ class Library {
   }
 
  private:
+  std::unique_ptr<as::IAgentServices> create(const char* mangled) const {
+    using Create = as::IAgentServices*();
+    return std::unique_ptr<as::IAgentServices>(find<Create>(mangled)());
+  }
   template <class T>
   T* find(const char* mangled) const {
     void* const found = dlsym(handle_, mangled);

@@ -2,6 +2,7 @@
 #ifndef TESTS_SUPPORT_REQUESTS_H_
 #define TESTS_SUPPORT_REQUESTS_H_
 
+#include <cstdlib>
 #include <memory>
 #include <ostream>
 #include <stdexcept>
@@ -13,9 +14,19 @@
 
 namespace test {
 
-// An entry object that has been told of no schemas.
-inline std::unique_ptr<as::IAgentServices> servicesWithoutSchemas() {
+// Entry objects that have been told of no schemas: the plain one and that which keeps schemas.
+inline std::unique_ptr<as::IAgentServices> plainServices() {
   return std::unique_ptr<as::IAgentServices>(as::CAgentServicesFactory::CreateAgentServices());
+}
+inline std::unique_ptr<as::IAgentServices> cachingServices() {
+  return std::unique_ptr<as::IAgentServices>(
+      as::CAgentServicesFactory::CreateCachingAgentServices());
+}
+
+// One of them: whole suites are run with either, as an environment variable says.
+inline std::unique_ptr<as::IAgentServices> servicesWithoutSchemas() {
+  static const bool keepsSchemas = std::getenv("AS_TEST_CACHING") != nullptr;
+  return keepsSchemas ? cachingServices() : plainServices();
 }
 
 // One that validates against the shipped schemas.

@@ -128,7 +128,7 @@ RefusedDocument& RefusedDocument::operator=(const RefusedDocument& other) = defa
 RefusedDocument::~RefusedDocument() = default;
 
 DocumentReader::DocumentReader(const std::string& schemaDirectory)
-    : services_(as::CAgentServicesFactory::CreateAgentServices()) {
+    : services_(as::CAgentServicesFactory::CreateCachingAgentServices()) {
   services_->setSchemaLocation(schemaDirectory.c_str());
 }
 

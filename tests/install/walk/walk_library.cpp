@@ -151,6 +151,8 @@ void walkFactory(const Places& places) {
   std::unique_ptr<as::IAgentServices> services;
   CHECK(walked("CAgentServicesFactory::CreateAgentServices") &&
         (services.reset(Factory::CreateAgentServices()), services != nullptr));
+  CHECK(walked("CAgentServicesFactory::CreateCachingAgentServices") &&
+        (services.reset(Factory::CreateCachingAgentServices()), services != nullptr));
   // Without schemas a document that names one is not read.
   const std::string dictionary = places.examples + "/PAYSLIP.xml";
   CHECK(throws<as::CASParseException>([&] { services->parseCobolDD(dictionary.c_str()); }));

@@ -54,7 +54,8 @@ class Holder {
   void tell() { tells_ = true; }
 
  private:
-  std::unique_ptr<as::IAgentServices> services_ = createAgentServices();
+  std::unique_ptr<as::IAgentServices> services_{
+      CAgentServicesFactory::CreateCachingAgentServices()};
   std::unique_ptr<as::IProgram> program_ = lifecycle::parseDictionary(*services_);
   std::unique_ptr<as::IService> service_ = lifecycle::parseService(*services_);
   bool tells_ = false;

@@ -1,0 +1,46 @@
+// The grammars of one parse: those that are made for it, and those that it may share.
+#ifndef XML_PARSEGRAMMARS_H_
+#define XML_PARSEGRAMMARS_H_
+
+#include <memory>
+#include <optional>
+#include <utility>
+#include <xercesc/framework/XMLGrammarPoolImpl.hpp>
+#include <xercesc/util/SynchronizedStringPool.hpp>
+
+#include "xml/GrammarMemory.h"
+#include "xml/SharedSchemas.h"
+
+// A grammar that is shared is there from when the document has said where its schema is, and not
+// before: a document that does not is refused, whatever others have been read.
+class ParseGrammars final : public xercesc::XMLGrammarPoolImpl {
+ public:
+  // `shared` is null for nothing.
+  ParseGrammars(xercesc::MemoryManager* memory, std::shared_ptr<SharedSchemas> shared);
+  ~ParseGrammars() override;
+
+  // Null for a parse that shares nothing.
+  SharedSchemas* shared() const { return shared_.get(); }
+
+  // Called only where the parser has been told to use what is here: throws
+  // SharedSchemas::NotShared for a schema that it needs and that is not.
+  xercesc::Grammar* retrieveGrammar(xercesc::XMLGrammarDescription* description) override;
+  xercesc::XMLStringPool* getURIStringPool() override;
+
+ private:
+  const std::shared_ptr<SharedSchemas> shared_;
+  // The names that the parse comes across, numbered behind those of what is shared.
+  std::optional<xercesc::XMLSynchronizedStringPool> names_;
+};
+
+// Them with the memory of those that are made, for a parser to derive from virtually: made in front
+// of the parser and destroyed behind it.
+struct GrammarStore {
+  explicit GrammarStore(std::shared_ptr<SharedSchemas> shared = nullptr)
+      : grammars(&memory, std::move(shared)) {}
+
+  GrammarMemory memory;
+  ParseGrammars grammars;
+};
+
+#endif  // XML_PARSEGRAMMARS_H_

@@ -1,0 +1,211 @@
+// Tests of the schemas that parses share, and of what keeps them from one request to the next.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+#include <xercesc/framework/MemBufInputSource.hpp>
+
+#include "support/Documents.h"
+#include "support/Requests.h"
+#include "support/TempDirectory.h"
+#include "xml/SchemaCache.h"
+#include "xml/SharedSchemas.h"
+#include "xml/Vocabulary.h"
+#include "xml/XMLParser.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using NotShared = SharedSchemas::NotShared;
+using Schemas = std::shared_ptr<SharedSchemas>;
+using test::TempDirectory;
+
+const std::string shipped = AS_SCHEMA_DIR "/";
+const XMLCh* const dd = XSDNS::ddURI;
+
+// The namespace that is told as missing; "none" when nothing is.
+std::basic_string<XMLCh> missing(SharedSchemas& schemas, const XMLCh* uri, const XMLCh* place) {
+  try {
+    schemas.grammarFor(uri, place);
+  } catch (const NotShared& failure) {
+    return failure.uri;
+  }
+  return u"none";
+}
+
+TEST(SharedSchemas, HasWhatWasAdded) {
+  SharedSchemas schemas(shipped);
+  EXPECT_EQ(missing(schemas, dd, dd), dd);
+  EXPECT_FALSE(schemas.knows(dd));
+  schemas.add(dd);
+  EXPECT_TRUE(schemas.knows(dd));
+  xercesc::Grammar* const grammar = schemas.grammarFor(dd, dd);
+  ASSERT_NE(grammar, nullptr);
+  EXPECT_EQ(schemas.grammarFor(dd, XSDNS::ddName), grammar);
+  schemas.add(XSDNS::wsURI);
+  EXPECT_EQ(schemas.grammarFor(dd, dd), grammar);
+  EXPECT_NE(schemas.grammarFor(XSDNS::wsURI, XSDNS::wsName), grammar);
+  EXPECT_FALSE(schemas.isSpoilt());
+}
+
+TEST(SharedSchemas, AreForTheirOwnPlacesOnly) {
+  SharedSchemas schemas(shipped);
+  schemas.add(dd);
+  for (const XMLCh* place : {XSDNS::wsURI, XSDNS::wsName, u"", u"./vorcobol.xsd"}) {
+    EXPECT_EQ(missing(schemas, dd, place), u"");
+  }
+  EXPECT_EQ(missing(schemas, u"urn:o", u"urn:o"), u"");
+  EXPECT_EQ(missing(schemas, u"", dd), u"");
+}
+
+TEST(SharedSchemas, AreThereAsLongAsTheirFilesAreTheSame) {
+  const TempDirectory directory;
+  const std::string text = test::contentOf(shipped + "vorcobol.xsd");
+  directory.write("vorcobol.xsd", text);
+  SharedSchemas schemas(directory.path() + "/");
+  schemas.add(dd);
+  EXPECT_EQ(missing(schemas, dd, dd), u"none");
+  directory.write("vorcobol.xsd", text + "\n");
+  EXPECT_EQ(missing(schemas, dd, dd), dd);
+  directory.write("vorcobol.xsd", text);
+  EXPECT_EQ(missing(schemas, dd, dd), u"none");
+  fs::remove(directory.path() + "/vorcobol.xsd");
+  EXPECT_EQ(missing(schemas, dd, dd), dd);
+}
+
+// What makes a schema one that is not shared. Nothing is missing then, until the file changes.
+TEST(SharedSchemas, LeavesOutWhatParsesHaveToReadThemselves) {
+  const std::string ns = as::namespaces::dd.uri;
+  const std::string start = "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' ";
+  const std::string target = "targetNamespace='" + ns + "'>";
+  const std::string end = "<xs:element name='program'/></xs:schema>";
+  const struct {
+    const char* label;
+    std::string text;
+  } rows[] = {
+      {"of no well-formed text", "<schema"},
+      {"of a mistake", start + target + "<xs:element name='program' type='none'/></xs:schema>"},
+      {"of another namespace", start + "targetNamespace='urn:o'>" + end},
+      {"of no namespace", start + ">" + end},
+      {"that includes", start + target + "<xs:include schemaLocation='part.xsd'/>" + end},
+      {"that imports",
+       start + target + "<xs:import namespace='urn:o' schemaLocation='o.xsd'/>" + end},
+      {"with an external entity",
+       "<!DOCTYPE xs:schema SYSTEM 'schema.dtd'>" + start + target + end},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.label);
+    const TempDirectory directory;
+    directory.write("vorcobol.xsd", row.text);
+    directory.write("part.xsd", start + target + "</xs:schema>");
+    SchemaCache cache;
+    int alone = 0;
+    int shared = 0;
+    const auto attempt = [&](const Schemas& schemas) {
+      if (schemas == nullptr) {
+        alone++;
+      } else {
+        schemas->grammarFor(dd, dd);
+        shared++;
+      }
+    };
+    cache.run(directory.path() + "/", attempt);
+    cache.run(directory.path() + "/", attempt);
+    EXPECT_EQ(alone, 2);
+    EXPECT_EQ(shared, 0);
+    directory.write("vorcobol.xsd", test::contentOf(shipped + "vorcobol.xsd"));
+    cache.run(directory.path() + "/", attempt);
+    EXPECT_EQ(shared, 1);
+  }
+}
+
+TEST(SchemaCache, KeepsSchemasForADirectory) {
+  SchemaCache cache;
+  const auto kept = [&](const std::string& directory) {
+    return cache.run(directory, [](const Schemas& schemas) { return schemas; });
+  };
+  const Schemas first = kept(shipped);
+  ASSERT_NE(first, nullptr);
+  EXPECT_EQ(kept(shipped), first);
+  const Schemas other = kept("elsewhere/");
+  EXPECT_NE(other, first);
+  EXPECT_EQ(kept(""), nullptr);
+  EXPECT_NE(kept(shipped), first);
+}
+
+TEST(SchemaCache, LetsGoOfWhatIsSpoilt) {
+  SchemaCache cache;
+  Schemas first;
+  const auto spoil = [&](const Schemas& schemas) {
+    first = schemas;
+    schemas->spoil();
+    throw std::runtime_error("in the midst");
+  };
+  EXPECT_THROW(cache.run(shipped, spoil), std::runtime_error);
+  cache.run(shipped, [&](const Schemas& schemas) { EXPECT_NE(schemas, first); });
+}
+
+TEST(SchemaCache, EndsWithAnAttemptThatSharesNothing) {
+  const std::vector<std::basic_string<XMLCh>> wishes = {u"", dd, u"urn:o"};
+  for (const auto& wish : wishes) {
+    SchemaCache cache;
+    int attempts = 0;
+    cache.run(shipped, [&](const Schemas& schemas) {
+      attempts++;
+      if (schemas != nullptr) throw NotShared{wish};
+    });
+    EXPECT_GT(attempts, 1);
+    EXPECT_LT(attempts, 20);
+  }
+}
+
+void parse(CXMLParser& parser, const std::string& document) {
+  parser.setSchemaLocation(shipped.c_str());
+  xercesc::MemBufInputSource source(test::bytesOf(document), document.size(), "d.xml");
+  parser.parse(&source);
+}
+
+TEST(SharingParser, ReadsWithWhatIsThere) {
+  const auto schemas = std::make_shared<SharedSchemas>(shipped);
+  {
+    CXMLParser parser(schemas);
+    EXPECT_THROW(parse(parser, test::payProgram()), NotShared);
+  }
+  schemas->add(dd);
+  CXMLParser parser(schemas);
+  parse(parser, test::payProgram());
+  EXPECT_NE(parser.getDocument(), nullptr);
+  EXPECT_FALSE(schemas->isSpoilt());
+}
+
+// The names of documents are numbered behind those of the schemas, for each parse anew.
+TEST(SharingParser, LeavesNoNames) {
+  const auto schemas = std::make_shared<SharedSchemas>(shipped);
+  schemas->add(dd);
+  const unsigned int names = schemas->names()->getStringCount();
+  for (const char* uri : {"urn:a", "urn:b"}) {
+    CXMLParser parser(schemas);
+    EXPECT_THROW(parse(parser, test::dictionaryOf(std::string("<o:x xmlns:o='") + uri + "'/>")),
+                 as::CASParseException);
+  }
+  EXPECT_EQ(schemas->names()->getStringCount(), names);
+}
+
+TEST(SharingParser, KeepsWhatItReadWith) {
+  std::weak_ptr<SharedSchemas> watched;
+  {
+    auto schemas = std::make_shared<SharedSchemas>(shipped);
+    schemas->add(dd);
+    watched = schemas;
+    CXMLParser parser(std::move(schemas));
+    parse(parser, test::payProgram());
+    EXPECT_FALSE(watched.expired());
+  }
+  EXPECT_TRUE(watched.expired());
+}
+
+}  // namespace
