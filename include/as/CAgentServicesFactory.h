@@ -37,11 +37,11 @@ class AS_EXPORT CAgentServicesFactory {
   // that they were read with, which goes with the last of them. The object has to be deleted in
   // time as roots have: see as::IElement.
   //
-  // Shared are the schemas of the schema directory, by documents that name them by their namespaces
-  // or by the bare names of their files, bring no other schema and have no DTD; and only schemas
-  // that refer to no other and of which the parser has nothing to tell. Whatever else there is, a
-  // device or a pipe that the client names as the document, say, is read as by the object above. A
-  // file may be opened more than once in one request for that.
+  // Shared are the schemas of the schema directory, by documents that name them by their
+  // namespaces or by the bare names of their files, bring no other schema and have no DTD; and
+  // only schemas that refer to no other and of which the parser has nothing to tell. Whatever
+  // else there is, a device or a pipe that the client names as the document, say, is read as by
+  // the object above. A request may read its document again from the start for that.
   static IAgentServices* CreateCachingAgentServices();
 
   // A new, empty service definition of a flavour for `program`, to be extended through its

@@ -89,16 +89,16 @@ struct CAgentServices::Source {
     return {id == nullptr ? "" : id, buffer, length};
   }
 
-  // Parses the source with `parser`, which drives `handler` and holds the document afterwards.
-  void parse(CXMLParser& parser, const std::string& schemaDirectory,
-             CElementHandler& handler) const {
+  // Parses the source with `parser`, which drives `handler` and holds the document afterwards. The
+  // file is kept in `opened` for the parser that may have to repeat that.
+  void parse(CXMLParser& parser, const std::string& schemaDirectory, CElementHandler& handler,
+             std::shared_ptr<const LocalFile>& opened) const {
     parser.setSchemaLocation(schemaDirectory.c_str());
     parser.setElementHandler(&handler);
     CXStr name(id);
-    if (isReferred) {
-      parser.parseReferred(static_cast<const XMLCh*>(name));
-    } else if (buffer == nullptr) {
-      parser.parse(static_cast<const XMLCh*>(name));
+    if (buffer == nullptr) {
+      parser.parse(static_cast<const XMLCh*>(name),
+                   isReferred ? LocalFile::Opening::regular : LocalFile::Opening::any, opened);
     } else {
       MemBufInputSource input(buffer, length, static_cast<const XMLCh*>(name));
       parser.parse(&input);
@@ -162,11 +162,12 @@ as::IProgram* CAgentServices::parseProgram(const Source& source) {
 
 template <class Handler, class Take>
 auto CAgentServices::read(const Source& source, const Take& take) {
+  std::shared_ptr<const LocalFile> opened;
   const auto attempt = [&](std::shared_ptr<SharedSchemas> shared) {
     // The handler goes before the parser: what it releases may look at the document.
     auto parser = std::make_unique<CXMLParser>(std::move(shared));
     Handler handler;
-    source.parse(*parser, schemaDirectory_, handler);
+    source.parse(*parser, schemaDirectory_, handler, opened);
     return take(handler, std::move(parser));
   };
   return schemas_ ? schemas_->run(schemaDirectory_, attempt) : attempt(nullptr);

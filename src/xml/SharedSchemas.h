@@ -18,7 +18,7 @@
 // that a document brings ever gets in here.
 //
 // Parsers refer to it as long as they live, and models keep their parsers: it is held by all of
-// them. What is in it never changes; of a file that has changed another object is made.
+// them. A schema in it stays what it is; when a file has changed another object is made.
 class SharedSchemas {
  public:
   // Thrown by a parse that cannot go on with what is shared, and is to be made again.

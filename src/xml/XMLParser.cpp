@@ -101,13 +101,13 @@ CXMLParser::~CXMLParser() {
   const DocumentPointer document(adoptDocument());
 }
 
-void CXMLParser::parse(const XMLCh* systemId) { parseFile(systemId, LocalFile::Opening::any); }
-
-void CXMLParser::parseReferred(const XMLCh* systemId) {
-  parseFile(systemId, LocalFile::Opening::regular);
+void CXMLParser::parse(const XMLCh* systemId) {
+  std::shared_ptr<const LocalFile> opened;
+  parse(systemId, LocalFile::Opening::any, opened);
 }
 
-void CXMLParser::parseFile(const XMLCh* systemId, LocalFile::Opening opening) {
+void CXMLParser::parse(const XMLCh* systemId, LocalFile::Opening opening,
+                       std::shared_ptr<const LocalFile>& opened) {
   if (systemId == nullptr) systemId = u"";
   documentName_ = narrow(systemId);
   const auto refuseDocument = [&](const std::string& reason) {
@@ -129,11 +129,11 @@ void CXMLParser::parseFile(const XMLCh* systemId, LocalFile::Opening opening) {
     run(*place.parsers, false);
     return;
   }
-  const auto file = std::make_shared<const LocalFile>(place.path, opening);
+  if (opened == nullptr) opened = std::make_shared<const LocalFile>(place.path, opening);
   refuseDocument(opening == LocalFile::Opening::any
-                     ? refusals::ofDocument(documentName_, file->kind())
-                     : refusals::ofReferredDocument(documentName_, file->kind()));
-  run(FileSource(file, place.parsers->getSystemId()), file->kind() == LocalFile::Kind::regular);
+                     ? refusals::ofDocument(documentName_, opened->kind())
+                     : refusals::ofReferredDocument(documentName_, opened->kind()));
+  run(FileSource(opened, place.parsers->getSystemId()), opened->kind() == LocalFile::Kind::regular);
 }
 
 void CXMLParser::parse(MemBufInputSource* source) {

@@ -50,8 +50,11 @@ class CXMLParser : public xercesc::XercesDOMParser,
   // the root's namespace: a root in a foreign namespace is also one that no schema declares.
   void parse(const XMLCh* systemId);
   void parse(xercesc::MemBufInputSource* source);
-  // The same for a document that another document names: it must be a regular file.
-  void parseReferred(const XMLCh* systemId);
+  // The same for a document that another document names where that is how it must be opened.
+  // `opened` is null at first; the parse that repeats one is given what that has left there, and
+  // reads the very file that was opened.
+  void parse(const XMLCh* systemId, LocalFile::Opening opening,
+             std::shared_ptr<const LocalFile>& opened);
 
   // From the parser's document side: let the DOM parser do its work, then drive the handler.
   void startElement(const xercesc::XMLElementDecl& declaration, unsigned int uriId,
@@ -87,7 +90,6 @@ class CXMLParser : public xercesc::XercesDOMParser,
   void resetErrors() override;
 
  private:
-  void parseFile(const XMLCh* systemId, LocalFile::Opening opening);
   // Whether the parse shares schemas.
   bool isSharing() const { return isUsingCachedGrammarInParse(); }
   // What `canRepeat` can be read again if need be: only then may the parse share schemas.

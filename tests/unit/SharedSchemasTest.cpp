@@ -163,8 +163,8 @@ TEST(SchemaCache, EndsWithAnAttemptThatSharesNothing) {
   }
 }
 
-void parse(CXMLParser& parser, const std::string& document) {
-  parser.setSchemaLocation(shipped.c_str());
+void parse(CXMLParser& parser, const std::string& document, const std::string& schemas = shipped) {
+  parser.setSchemaLocation(schemas.c_str());
   xercesc::MemBufInputSource source(test::bytesOf(document), document.size(), "d.xml");
   parser.parse(&source);
 }
@@ -180,6 +180,54 @@ TEST(SharingParser, ReadsWithWhatIsThere) {
   parse(parser, test::payProgram());
   EXPECT_NE(parser.getDocument(), nullptr);
   EXPECT_FALSE(schemas->isSpoilt());
+}
+
+TEST(SharingParser, HasWhatItRepeatsReadTheFileThatWasOpened) {
+  const TempDirectory directory;
+  const std::string file = directory.write("d.xml", test::payProgram());
+  CXStr name(file);
+  std::shared_ptr<const LocalFile> opened;
+  CXMLParser sharing(std::make_shared<SharedSchemas>(shipped));
+  sharing.setSchemaLocation(shipped.c_str());
+  EXPECT_THROW(sharing.parse(static_cast<const XMLCh*>(name), LocalFile::Opening::any, opened),
+               NotShared);
+  fs::remove(file);
+  CXMLParser alone;
+  alone.setSchemaLocation(shipped.c_str());
+  alone.parse(static_cast<const XMLCh*>(name), LocalFile::Opening::any, opened);
+  EXPECT_NE(alone.getDocument()->getDocumentElement(), nullptr);
+}
+
+// What the parser makes of a content model it makes when the first document needs it: here more
+// than there may be. The one that has all memory to itself tells.
+TEST(SharingParser, LeavesToOthersWhatTakesTooMuchMemory) {
+  const std::string either = "<xs:choice><xs:element name='a'/><xs:element name='b'/></xs:choice>";
+  std::string choices;
+  std::string content = "<a/>";
+  for (int i = 0; i < 22; i++) {
+    choices += either;
+    content += "<a/>";
+  }
+  const std::string ns = as::namespaces::dd.uri;
+  const TempDirectory directory;
+  directory.write("vorcobol.xsd",
+                  "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='" + ns +
+                      "' elementFormDefault='qualified'><xs:element name='program'>"
+                      "<xs:complexType><xs:sequence><xs:choice minOccurs='0' "
+                      "maxOccurs='unbounded'><xs:element name='a'/><xs:element name='b'/>"
+                      "</xs:choice><xs:element name='a'/>" +
+                      choices +
+                      "</xs:sequence><xs:attribute name='name'/></xs:complexType></xs:element>"
+                      "</xs:schema>");
+  const std::string location = directory.path() + "/";
+  const std::string document = test::dictionary(content);
+  const auto schemas = std::make_shared<SharedSchemas>(location);
+  schemas->add(dd);
+  CXMLParser sharing(schemas);
+  EXPECT_THROW(parse(sharing, document, location), NotShared);
+  EXPECT_TRUE(schemas->isSpoilt());
+  CXMLParser alone;
+  EXPECT_THROW(parse(alone, document, location), as::CASParseException);
 }
 
 // The names of documents are numbered behind those of the schemas, for each parse anew.

@@ -275,8 +275,9 @@ TEST_F(XMLParser, ADocumentThatAnotherNamesIsARegularFile) {
     parser.setSchemaLocation((directory_.path() + "/").c_str());
     CXStr wide(name);
     std::string told;
+    std::shared_ptr<const LocalFile> opened;
     try {
-      parser.parseReferred(wide);
+      parser.parse(static_cast<const XMLCh*>(wide), LocalFile::Opening::regular, opened);
     } catch (const as::CASParseException& failure) {
       told = failure.getErrorText();
     }
