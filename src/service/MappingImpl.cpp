@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <charconv>
 #include <string_view>
+#include <vector>
 
 #include "as/IGroup.h"
+#include "service/JoinedBackwards.h"
 #include "service/ParameterImpl.h"
 #include "service/SSVocabulary.h"
 #include "service/ServiceImpl.h"
@@ -55,11 +57,11 @@ int readSubscripts(std::string_view list, int* subscripts) {
 
 std::string GetNormalizedName(as::IDataItem* item) {
   if (item == nullptr) return {};
-  std::string name = item->getName();
+  std::vector<std::string> names = {item->getName()};
   for (as::IGroup* parent = item->getParent(); parent != nullptr; parent = parent->getParent()) {
-    name.insert(0, parent->getName() + ".");
+    names.push_back(parent->getName() + ".");
   }
-  return name;
+  return joinedBackwards(names);
 }
 
 as::IDataItem* CMappingImpl::getDataItem() {

@@ -5,6 +5,7 @@
 #include "as/IOperation.h"
 #include "cobol/DataItemPath.h"
 #include "service/ByTypeWords.h"
+#include "service/JoinedBackwards.h"
 #include "service/MappingImpl.h"
 #include "service/SSVocabulary.h"
 #include "service/ServiceFactory.h"
@@ -51,7 +52,7 @@ as::IMapping* CParameterImpl::addMapping(as::IDataItem* dataItem) {
 
 std::string CParameterImpl::getQualifiedName() {
   // Joined without a separator: clients use it as a key.
-  std::string name = getName();
+  std::vector<std::string> names = {getName()};
   const DOMNode* node = getElement()->getParentNode();
   const auto isField = [](const DOMNode* candidate) {
     const XMLCh* const localName = candidate->getLocalName();
@@ -59,17 +60,20 @@ std::string CParameterImpl::getQualifiedName() {
   };
   for (; node != nullptr && isField(node); node = node->getParentNode()) {
     if (auto* const field = as::interface_cast<as::IField>(wrapperOf(node))) {
-      name.insert(0, field->getName());
+      names.push_back(field->getName());
     }
   }
   // Compared with its prefix: a prefixed document's names end at the parameter.
-  if (node == nullptr || !XMLString::equals(node->getNodeName(), SS::parameters)) return name;
-  const DOMNode* const parent = node->getParentNode();
-  if (parent == nullptr || !XMLString::equals(parent->getNodeName(), SS::operation)) return name;
-  if (auto* const operation = as::interface_cast<as::IOperation>(wrapperOf(parent))) {
-    name.insert(0, operation->getName());
+  const DOMNode* const parent =
+      node != nullptr && XMLString::equals(node->getNodeName(), SS::parameters)
+          ? node->getParentNode()
+          : nullptr;
+  if (parent != nullptr && XMLString::equals(parent->getNodeName(), SS::operation)) {
+    if (auto* const operation = as::interface_cast<as::IOperation>(wrapperOf(parent))) {
+      names.push_back(operation->getName());
+    }
   }
-  return name;
+  return joinedBackwards(names);
 }
 
 as::IParameter::BY_TYPE CParameterImpl::getByType() {

@@ -1,6 +1,7 @@
 #include "xml/Serialiser.h"
 
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 #include <string_view>
 #include <vector>
@@ -70,9 +71,43 @@ const XMLCh* noReference(XMLCh /*character*/) { return nullptr; }
 class Writer {
  public:
   void write(const DOMNode* node) {
+    Around nothing = {node, std::nullopt};
+    write(node, nothing);
+  }
+
+  void write(std::basic_string_view<XMLCh> text) { text_ += text; }
+
+  // All that has been written, in UTF-8.
+  std::string text() const {
+    constexpr std::size_t room = 16384;
+    constexpr std::size_t bytesACharacter = 3;  // At most, also when two make one character.
+    std::string narrow;
+    narrow.reserve(text_.size() + text_.size() / 8);
+    std::vector<XMLByte> bytes(room);
+    for (std::size_t at = 0; at < text_.size();) {
+      XMLSize_t eaten = 0;
+      const XMLSize_t length = gUTF8Transcoder->transcodeTo(
+          text_.data() + at, std::min(room / bytesACharacter, text_.size() - at), bytes.data(),
+          room, eaten, XMLTranscoder::UnRep_Throw);
+      if (eaten == 0) throw std::runtime_error("half a character");
+      narrow.append(reinterpret_cast<const char*>(bytes.data()), length);
+      at += eaten;
+    }
+    return narrow;
+  }
+
+ private:
+  // The nearest element around that is in a namespace (the root where none is), and the prefix that
+  // elements in none have below it, once one of them has been written.
+  struct Around {
+    const DOMNode* element;
+    std::optional<const XMLCh*> prefix;
+  };
+
+  void write(const DOMNode* node, Around& around) {
     switch (node->getNodeType()) {
       case DOMNode::ELEMENT_NODE:
-        writeElement(static_cast<const DOMElement*>(node));
+        writeElement(static_cast<const DOMElement*>(node), around);
         break;
       case DOMNode::TEXT_NODE:
         writeText<referenceInText>(node->getNodeValue());
@@ -100,32 +135,14 @@ class Writer {
     }
   }
 
-  void write(std::basic_string_view<XMLCh> text) { text_ += text; }
-
-  // All that has been written, in UTF-8.
-  std::string text() const {
-    constexpr std::size_t room = 16384;
-    constexpr std::size_t bytesACharacter = 3;  // At most, also when two make one character.
-    std::string narrow;
-    narrow.reserve(text_.size() + text_.size() / 8);
-    std::vector<XMLByte> bytes(room);
-    for (std::size_t at = 0; at < text_.size();) {
-      XMLSize_t eaten = 0;
-      const XMLSize_t length = gUTF8Transcoder->transcodeTo(
-          text_.data() + at, std::min(room / bytesACharacter, text_.size() - at), bytes.data(),
-          room, eaten, XMLTranscoder::UnRep_Throw);
-      if (eaten == 0) throw std::runtime_error("half a character");
-      narrow.append(reinterpret_cast<const char*>(bytes.data()), length);
-      at += eaten;
-    }
-    return narrow;
-  }
-
- private:
-  void writeElement(const DOMElement* element) {
+  void writeElement(const DOMElement* element, Around& outer) {
+    const bool isInNamespace = element->getNamespaceURI() != nullptr;
+    Around own = {element, std::nullopt};
+    Around& around = isInNamespace ? own : outer;
     text_ += u'<';
     const std::size_t nameAt = text_.size();
-    writeNameOf(element);
+    if (!isInNamespace) writePrefixBelow(around);
+    writeName(element->getNodeName());
     const std::size_t nameLength = text_.size() - nameAt;
     const DOMNamedNodeMap* const attributes = element->getAttributes();
     const XMLSize_t count = attributes->getLength();
@@ -146,28 +163,24 @@ class Writer {
       return;
     }
     text_ += u'>';
-    for (; child != nullptr; child = child->getNextSibling()) write(child);
+    for (; child != nullptr; child = child->getNextSibling()) write(child, around);
     text_ += u"</";
     text_.append(text_, nameAt, nameLength);
     text_ += u'>';
   }
 
-  // Writes the name of `element`: its own, with a prefix of the document's namespace when it is in
-  // none (new elements are; they belong to the document's). That is the root's prefix, unless it
-  // means something else there: then it is that of the nearest element around that has one.
-  void writeNameOf(const DOMElement* element) {
-    if (element->getNamespaceURI() == nullptr) {
-      const DOMNode* at = element;
-      while (at->getNamespaceURI() == nullptr && at->getParentNode() != nullptr) {
-        at = at->getParentNode();
-      }
-      const DOMElement* const root = element->getOwnerDocument()->getDocumentElement();
+  // Elements in no namespace (new ones are; they belong to the document's) are written with a
+  // prefix of the document's: that is the root's prefix, unless it means something else there; then
+  // it is that of the nearest element around that has one.
+  void writePrefixBelow(Around& around) {
+    if (!around.prefix) {
+      const DOMNode* const at = around.element;
+      const DOMElement* const root = at->getOwnerDocument()->getDocumentElement();
       const bool isRoots =
           XMLString::equals(at->lookupNamespaceURI(root->getPrefix()), root->getNamespaceURI());
-      const XMLCh* const prefix = isRoots ? root->getPrefix() : at->getPrefix();
-      if (prefix != nullptr) text_.append(prefix).push_back(u':');
+      around.prefix = isRoots ? root->getPrefix() : at->getPrefix();
     }
-    writeName(element->getNodeName());
+    if (*around.prefix != nullptr) text_.append(*around.prefix).push_back(u':');
   }
 
   void writeName(const XMLCh* name) {
