@@ -436,6 +436,31 @@ TEST_F(MakeTest, OperationsAreAllEntryPointsOrThoseNamed) {
   EXPECT_THAT(operations(), ElementsAre("B"));
 }
 
+TEST_F(MakeTest, ParametersGetTheFirstNamesThatAreLeft) {
+  const std::string items =
+      "<numeric name='A' length='4' digits='4'/><numeric name='A-3' length='4' digits='4'/>";
+  make(programOf(items, {"A", "A", "A-3", "A", "A-3", "A"}));
+  std::vector<std::string> names;
+  for (const nlohmann::json& parameter : made()["operations"][0]["parameters"]) {
+    names.push_back(parameter["name"]);
+  }
+  EXPECT_THAT(names, ElementsAre("A", "A-2", "A-3", "A-4", "A-3-2", "A-5"));
+}
+
+// Groups without names that stand in each other are none to the service.
+TEST_F(MakeTest, MembersOfUnnamedGroupsStandInTheirPlaces) {
+  const auto item = [](const std::string& name) {
+    return "<numeric name='" + name + "' length='4' digits='4'/>";
+  };
+  make(programOf("<group name='G'>" + item("A") + "<group name='FILLER'>" + item("B") +
+                     "<group name='FILLER'>" + item("C") + "</group><group name='FILLER'>" +
+                     item("FILLER") + "</group></group>" + item("D") + "</group>",
+                 {"G"}));
+  std::vector<std::string> names;
+  for (const nlohmann::json& field : firstParameter()["children"]) names.push_back(field["name"]);
+  EXPECT_THAT(names, ElementsAre("A", "B", "C", "D"));
+}
+
 TEST_F(MakeTest, AnUnknownEntryPointIsRefusedWithThoseThereAre) {
   write("s.xml", "old");
   const toolkit::Refusal refusal = refusalOf([this] {

@@ -1,6 +1,7 @@
 #include "toolkit/lint/ProgramFacts.h"
 
 #include <cstddef>
+#include <string_view>
 
 #include "as/IDataItem.h"
 #include "as/IEntryPoint.h"
@@ -28,7 +29,7 @@ std::string ProgramFacts::name() const { return program_.getName(); }
 
 as::IDataItem* ProgramFacts::find(const std::string& mapping) {
   if (!index_) index_.emplace(program_);
-  return index_->find(mapping.substr(0, mapping.find('(')));
+  return index_->find(std::string_view(mapping).substr(0, mapping.find('(')));
 }
 
 as::IDataItem* ProgramFacts::firstOfName(const std::string& name) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <unordered_set>
 #include <utility>
 
 #include "as/IEntryPoint.h"
@@ -41,12 +42,11 @@ void checkEntryPoints(as::IProgram& program, const std::string& dictionary,
 
 std::vector<std::string> unknownEntryPoints(as::IProgram& program,
                                             const std::vector<std::string>& names) {
-  const std::vector<std::string> known = entryPointsOf(program);
+  const std::vector<std::string> all = entryPointsOf(program);
+  const std::unordered_set<std::string> known(all.begin(), all.end());
   std::vector<std::string> unknown;
   std::copy_if(names.begin(), names.end(), std::back_inserter(unknown),
-               [&known](const std::string& name) {
-                 return std::find(known.begin(), known.end(), name) == known.end();
-               });
+               [&known](const std::string& name) { return !known.contains(name); });
   return unknown;
 }
 

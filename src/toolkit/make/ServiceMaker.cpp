@@ -1,10 +1,9 @@
 #include "toolkit/make/ServiceMaker.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <optional>
 #include <unordered_set>
 #include <utility>
+#include <vector>
 
 #include "as/IEntryPoint.h"
 #include "as/ILinkageItem.h"
@@ -43,15 +42,13 @@ class ServiceMaker {
         items_(*made.service->getProgram()) {}
 
   void fill(const std::vector<std::string>& entryPoints) {
+    const std::unordered_set<std::string> wanted(entryPoints.begin(), entryPoints.end());
     Names names;
     std::unordered_set<std::string> done;
     forEachMember<as::IEntryPoint>(
         service_.getProgram()->getEntryPoints(), [&](as::IEntryPoint& entryPoint) {
           const std::string name = entryPoint.getName();
-          const bool isWanted =
-              entryPoints.empty() ||
-              std::find(entryPoints.begin(), entryPoints.end(), name) != entryPoints.end();
-          if (!isWanted) return;
+          if (!wanted.empty() && !wanted.contains(name)) return;
           if (!done.insert(name).second) {
             notes_.note("same-entry-point", name,
                         "the program has another entry point of that name, which cannot be "
@@ -80,12 +77,13 @@ class ServiceMaker {
         return;
       }
       unnamed_ = 0;
-      const std::optional<Plan> plan = planOf(*item, 0);
+      std::vector<Plan> plans;
+      plan(*item, 0, items_.top(), plans, true);
       if (unnamed_ > 0) {
         notes_.note("unnamed-items", place_,
                     count(static_cast<std::size_t>(unnamed_), "item") + " without a name left out");
       }
-      if (!plan) {
+      if (plans.empty()) {
         // Of an elementary item it is told already why.
         if (as::interface_cast<as::IGroup>(item) == nullptr) return;
         notes_.note("empty-parameter", place_, "nothing in it can be mapped: left out");
@@ -94,7 +92,7 @@ class ServiceMaker {
       const bool isReturned = linkage.getByType() == as::ILinkageItem::BY_RETURNING;
       as::IParameter& parameter = *operation.addParameter(
           directionOf(linkage), names.unique(itemName).c_str(), item->getMaxOccurs());
-      complete(parameter, *plan);
+      complete(parameter, plans.front());
       if (isReturned && !hasResult) flavour_.markReturned(parameter);
       hasResult = hasResult || isReturned;
     });
@@ -111,16 +109,34 @@ class ServiceMaker {
     }
   }
 
-  // What becomes of `item`, which stands in so many tables; none when it is left out.
-  std::optional<Plan> planOf(as::IDataItem& item, std::size_t tables) {
+  // Adds what becomes of `item` to the plans of what is around it: nothing when it is left out. It
+  // stands in so many tables, and below the entry `around`, null where no mapping reaches.
+  void plan(as::IDataItem& item, std::size_t tables, const ItemIndex::Entry* around,
+            std::vector<Plan>& plans, bool isRecord = false) {
     if (item.getMaxOccurs() != 0) ++tables;
+    const ItemIndex::Entry* const entry = items_.below(around, item.getName());
     auto* const group = as::interface_cast<as::IGroup>(&item);
-    if (group == nullptr) return planOfElementary(item, tables);
+    if (group == nullptr) {
+      planElementary(item, tables, entry, plans);
+      return;
+    }
     noteCount(item);
-    Plan plan;
-    plan.item = &item;
+    // A group without a name is none to the service, unless it is a table: its members stand in its
+    // place.
+    if (!isRecord && isUnnamed(item) && item.getMaxOccurs() == 0) {
+      planMembers(*group, tables, entry, plans);
+      return;
+    }
+    Plan made;
+    made.item = &item;
+    planMembers(*group, tables, entry, made.members);
+    if (!made.members.empty()) plans.push_back(std::move(made));
+  }
+
+  void planMembers(as::IGroup& group, std::size_t tables, const ItemIndex::Entry* entry,
+                   std::vector<Plan>& plans) {
     bool isThere = false;  // What a redefinition redefines.
-    forEachMember<as::IDataItem>(group->getChildren(), [&](as::IDataItem& member) {
+    forEachMember<as::IDataItem>(group.getChildren(), [&](as::IDataItem& member) {
       if (member.isRenamed()) {
         note("renamed-item", member, "it renames other items, which are there already: left out");
         return;
@@ -130,54 +146,48 @@ class ServiceMaker {
              "it redefines other items, which are there already: left out");
         return;
       }
-      std::optional<Plan> planned = planOf(member, tables);
-      isThere = planned.has_value();
-      if (!planned) return;
-      if (member.isRedefined()) {
+      const std::size_t planned = plans.size();
+      plan(member, tables, entry, plans);
+      isThere = plans.size() > planned;
+      if (isThere && member.isRedefined()) {
         note("redefinition-in-place", member,
              "it redefines an item that cannot be mapped: it stands in its place");
       }
-      // A group without a name is none to the service, unless it is a table.
-      if (isUnnamed(member) && member.getMaxOccurs() == 0) {
-        for (Plan& inner : planned->members) plan.members.push_back(std::move(inner));
-      } else {
-        plan.members.push_back(std::move(*planned));
-      }
     });
-    if (plan.members.empty()) return std::nullopt;
-    return plan;
   }
 
-  std::optional<Plan> planOfElementary(as::IDataItem& item, std::size_t tables) {
+  void planElementary(as::IDataItem& item, std::size_t tables, const ItemIndex::Entry* entry,
+                      std::vector<Plan>& plans) {
     if (isUnnamed(item)) {
       ++unnamed_;
-      return std::nullopt;
+      return;
     }
-    as::IDataItem* const found = items_.find(dottedPath(item));
+    // Without an entry its path is not its own; others may have what it looks like.
+    as::IDataItem* const found = entry != nullptr ? entry->first : items_.find(dottedPath(item));
     if (found == nullptr) {
       note(
           "unreachable-path", item,
           "no mapping can name it, for its path holds a period, a parenthesis or a leading $: left "
           "out");
-      return std::nullopt;
+      return;
     }
     if (found != &item) {
       note("same-path", item,
            "no mapping leads to it, for another item has the same path: left out");
-      return std::nullopt;
+      return;
     }
     if (tables > static_cast<std::size_t>(as::IMapping::MAX_SUBSCRIPTS)) {
       note("too-many-tables", item,
            "it stands in more than " + std::to_string(as::IMapping::MAX_SUBSCRIPTS) +
                " tables: left out");
-      return std::nullopt;
+      return;
     }
     const DataType* const type = flavour_.bestTypeFor(item);
     if (type == nullptr) {
       note("no-fitting-data-type", item,
            "no data type of " + flavour_.name() + " services holds an item that is " +
                kindOf(item) + ": left out");
-      return std::nullopt;
+      return;
     }
     if (item.getDataType() == as::IDataItem::TYPE_NUMERIC_EDITED ||
         item.getDataType() == as::IDataItem::TYPE_ALPHANUMERIC_EDITED) {
@@ -190,10 +200,7 @@ class ServiceMaker {
                quote(type->word));
     }
     noteCount(item);
-    Plan plan;
-    plan.item = &item;
-    plan.type = type;
-    return plan;
+    plans.push_back({&item, type, {}});
   }
 
   void noteCount(as::IDataItem& item) {

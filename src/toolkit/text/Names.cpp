@@ -3,11 +3,14 @@
 namespace as::toolkit {
 
 std::string Names::unique(const std::string& name) {
-  std::string result = name;
-  for (int number = 2; !used_.insert(result).second; ++number) {
-    result = name + "-" + std::to_string(number);
+  const auto [base, isFree] = used_.try_emplace(name, firstNumber);
+  if (isFree) return name;
+  // References stay good when others are added.
+  int& number = base->second;
+  for (;;) {
+    std::string result = name + "-" + std::to_string(number++);
+    if (used_.try_emplace(result, firstNumber).second) return result;
   }
-  return result;
 }
 
 }  // namespace as::toolkit

@@ -3,20 +3,23 @@
 #define TOOLKIT_TEXT_NAMES_H_
 
 #include <string>
-#include <unordered_set>
+#include <unordered_map>
 
 namespace as::toolkit {
 
 class Names {
  public:
   // Has `name` count as given out.
-  void reserve(const std::string& name) { used_.insert(name); }
+  void reserve(const std::string& name) { used_.try_emplace(name, firstNumber); }
 
   // Gives out `name`, or the first of "NAME-2", "NAME-3" and so on that is not given out yet.
   std::string unique(const std::string& name);
 
  private:
-  std::unordered_set<std::string> used_;
+  static constexpr int firstNumber = 2;
+
+  // Each name with the number that it is to be tried with next: those in front of it are given out.
+  std::unordered_map<std::string, int> used_;
 };
 
 }  // namespace as::toolkit

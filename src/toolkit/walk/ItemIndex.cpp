@@ -1,6 +1,6 @@
 #include "toolkit/walk/ItemIndex.h"
 
-#include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "as/IProgram.h"
@@ -18,32 +18,40 @@ bool isUnreachable(const std::string& name, std::size_t depth) {
 }  // namespace
 
 ItemIndex::ItemIndex(as::IProgram& program) {
-  // How much of `path` leads to each of the groups around.
-  std::vector<std::size_t> starts;
-  std::string path;
-  std::size_t unreachable = 0;  // How many of them have names that no path can hold.
+  // The entries on the way to the current item; null from the first unreachable one on.
+  std::vector<const Entry*> way = {&top_};
   walkItems(
       program.getDataItems(),
       [&](as::IDataItem& item, std::size_t depth) {
-        starts.push_back(path.size());
-        const std::string name = item.getName();
-        path += (depth == 0 ? "" : ".") + name;
-        if (isUnreachable(name, depth)) ++unreachable;
-        if (unreachable == 0) items_.emplace(path, &item);
+        const Entry* const around = way.back();
+        std::string name = item.getName();
+        const bool isReachable = around != nullptr && !isUnreachable(name, depth);
+        way.push_back(
+            isReachable
+                ? &entries_.try_emplace(Key{around, std::move(name)}, Entry{&item}).first->second
+                : nullptr);
       },
-      [&](as::IDataItem& item) {
-        path.resize(starts.back());
-        starts.pop_back();
-        if (isUnreachable(item.getName(), starts.size())) --unreachable;
-      });
+      [&](as::IDataItem&) { way.pop_back(); });
 }
 
-as::IDataItem* ItemIndex::find(const std::string& path) const {
+as::IDataItem* ItemIndex::find(std::string_view path) const {
   if (path.empty()) return nullptr;
   // A period at the end separates nothing.
-  const bool isCut = path.back() == '.';
-  const auto found = items_.find(isCut ? path.substr(0, path.size() - 1) : path);
-  return found == items_.end() ? nullptr : found->second;
+  if (path.back() == '.') path.remove_suffix(1);
+  const Entry* at = &top_;
+  while (at != nullptr) {
+    const std::size_t period = path.find('.');
+    at = below(at, path.substr(0, period));
+    if (period == std::string_view::npos) break;
+    path.remove_prefix(period + 1);
+  }
+  return at == nullptr ? nullptr : at->first;
+}
+
+const ItemIndex::Entry* ItemIndex::below(const Entry* around, std::string_view name) const {
+  if (around == nullptr) return nullptr;
+  const auto found = entries_.find(KeyView{around, name});
+  return found == entries_.end() ? nullptr : &found->second;
 }
 
 }  // namespace as::toolkit
