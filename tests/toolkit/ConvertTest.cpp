@@ -217,6 +217,24 @@ TEST_F(ConvertTest, AFieldAttributeOfAFieldsNameIsRenamed) {
   EXPECT_EQ(fields[1]["name"], "a-2");
 }
 
+TEST_F(ConvertTest, FieldsMadeOfAttributesGetTheFirstNamesThatAreLeft) {
+  const std::string attribute = "<fieldAttribute name='a' dataType='short'/>";
+  convert(service(as::namespaces::ws.uri, "ws",
+                  operation("<parameter name='p'>" + attribute + attribute +
+                            "<field name='a-3' dataType='int'/>" + attribute + attribute +
+                            "</parameter><parameter name='q'>" + attribute + attribute +
+                            "</parameter>")),
+          "java");
+  const nlohmann::json parameters = converted()["operations"][0]["parameters"];
+  const auto namesIn = [](const nlohmann::json& parameter) {
+    std::vector<std::string> names;
+    for (const nlohmann::json& field : parameter["children"]) names.push_back(field["name"]);
+    return names;
+  };
+  EXPECT_THAT(namesIn(parameters[0]), ElementsAre("a-2", "a-4", "a-3", "a-5", "a"));
+  EXPECT_THAT(namesIn(parameters[1]), ElementsAre("a-2", "a"));
+}
+
 TEST_F(ConvertTest, TheDictionaryIsNeverTheOutput) {
   write("PAY.xml", test::payProgram());
   write("s.xml", service(as::namespaces::java.uri, "java", "", "dataDictFilename='PAY.xml'"));

@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <map>
 #include <sstream>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "as/IDataItem.h"
@@ -41,7 +43,8 @@ class Conversion {
     if (documents != nullptr) old_ = &documents->additions();
     replaceNamespace(root, old);
     root.set("implementation", to_.flavour().word);
-    for (const XmlElement& element : root.descendants()) {
+    // What an element loses below it is gone when its turn would come.
+    for (XmlElement element = root.next(root); element.isElement(); element = element.next(root)) {
       replaceNamespace(element, old);
       const std::string name = element.localName();
       if (name == "operation") {
@@ -114,8 +117,6 @@ class Conversion {
   }
 
   void convertField(XmlElement field) {
-    // Its header or fault is gone already.
-    if (!field.isAttached()) return;
     dropAttributes(field, old_->fieldAttributes, to_.additions().fieldAttributes);
     if (field.localName() == attribute && !keepsAttributes_) makeField(field);
     if (!field.get("ref").empty()) {
@@ -145,17 +146,39 @@ class Conversion {
     const std::string place = placeOf(field);
     std::string text =
         "it was a field attribute, which " + to_.name() + " services have not: made a field";
-    Names names;
-    for (const XmlElement& sibling : field.parent().children()) {
-      if (!sibling.isSame(field)) names.reserve(sibling.get("name"));
-    }
     const std::string name = field.get("name");
-    const std::string unique = names.unique(name);
+    const std::string unique = uniqueAmongSiblings(field, name);
     if (unique != name) {
       field.set("name", unique);
       text += " and called " + quote(unique) + ", for there is a field of its name";
     }
     notes_.note("attribute-made-field", place, text);
+  }
+
+  // The names of the children of an element.
+  struct Siblings {
+    std::unordered_map<std::string, std::size_t> counts;
+    Names names;
+  };
+
+  // What the field is to be called, beside the others that its parent has.
+  std::string uniqueAmongSiblings(const XmlElement& field, const std::string& name) {
+    const XmlElement parent = field.parent();
+    const auto [found, isNew] = siblings_.try_emplace(parent.id());
+    Siblings& siblings = found->second;
+    if (isNew) {
+      for (const XmlElement& child : parent.children()) {
+        const std::string childName = child.get("name");
+        ++siblings.counts[childName];
+        siblings.names.reserve(childName);
+      }
+    }
+    std::size_t& count = siblings.counts[name];
+    if (count == 1) return name;
+    --count;
+    std::string unique = siblings.names.unique(name);
+    ++siblings.counts[unique];
+    return unique;
   }
 
   // The type that is the nearest where none holds all that the old one could: one that holds the
@@ -245,6 +268,7 @@ class Conversion {
   const ItemIndex* items_;
   Report notes_;
   std::map<std::string, std::size_t> lost_;
+  std::unordered_map<const void*, Siblings> siblings_;  // By the parents that have lost attributes.
 };
 
 }  // namespace

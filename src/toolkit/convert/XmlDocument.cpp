@@ -29,12 +29,6 @@ std::basic_string<XMLCh> wide(const std::string& text) {
 
 }  // namespace
 
-bool XmlElement::isAttached() const {
-  const DOMNode* at = element_;
-  while (at->getParentNode() != nullptr) at = at->getParentNode();
-  return at->getNodeType() == DOMNode::DOCUMENT_NODE;
-}
-
 std::string XmlElement::localName() const {
   const std::string name = narrow(element_->getNodeName());
   return name.substr(name.find(':') + 1);
@@ -66,24 +60,20 @@ std::vector<XmlElement> XmlElement::children() const {
   return all;
 }
 
-std::vector<XmlElement> XmlElement::descendants() const {
-  // A vector in place of recursion: documents nest deeply.
-  std::vector<XmlElement> all;
-  std::vector<DOMElement*> open = {element_->getFirstElementChild()};
-  while (!open.empty()) {
-    DOMElement* const next = open.back();
-    open.pop_back();
-    if (next == nullptr) continue;
-    all.emplace_back(next);
-    open.push_back(next->getNextElementSibling());
-    open.push_back(next->getFirstElementChild());
+XmlElement XmlElement::next(const XmlElement& root) const {
+  if (DOMElement* const child = element_->getFirstElementChild()) return XmlElement(child);
+  for (XmlElement at = *this; !at.isSame(root); at = at.parent()) {
+    if (DOMElement* const sibling = at.element_->getNextElementSibling()) {
+      return XmlElement(sibling);
+    }
   }
-  return all;
+  return XmlElement(nullptr);
 }
 
 bool XmlElement::hasChild(const std::string& localName) const {
-  for (const XmlElement& child : children()) {
-    if (child.localName() == localName) return true;
+  for (DOMElement* child = element_->getFirstElementChild(); child != nullptr;
+       child = child->getNextElementSibling()) {
+    if (XmlElement(child).localName() == localName) return true;
   }
   return false;
 }

@@ -23,8 +23,8 @@ class XmlElement {
   // Whether there is an element at all: parent() of the root has none.
   bool isElement() const { return element_ != nullptr; }
   bool isSame(const XmlElement& other) const { return element_ == other.element_; }
-  // Whether it belongs to the document still.
-  bool isAttached() const;
+  // Tells elements apart.
+  const void* id() const { return element_; }
 
   std::string localName() const;
   std::string prefix() const;
@@ -33,8 +33,8 @@ class XmlElement {
 
   XmlElement parent() const;
   std::vector<XmlElement> children() const;
-  // Everything below, in document order.
-  std::vector<XmlElement> descendants() const;
+  // The element behind it in document order that stands below `root`, as things are now.
+  XmlElement next(const XmlElement& root) const;
   bool hasChild(const std::string& localName) const;
   void detach() const;
 
