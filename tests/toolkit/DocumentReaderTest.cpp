@@ -73,20 +73,65 @@ TEST_F(DocumentReaderTest, AServiceGivenAProgramKeepsWhatItSays) {
   }
 }
 
-TEST_F(DocumentReaderTest, ADictionaryThatCannotBeReadIsTheOneTold) {
+TEST_F(DocumentReaderTest, TheProgramOfAServiceIsReadByItself) {
+  write("d/PAY.xml", test::payProgram());
+  write("OTHER.xml", test::dictionary("<dataItems/>"));
+  for (const std::string& text : {test::javaService("dataDictFilename='../d/PAY.xml'", ""),
+                                  test::webService("dataDictFilename='../d/PAY.xml'", "")}) {
+    const auto service = reader().readServiceText(text, "s/s.xml");
+    write("s/s.xml", text);
+    const std::shared_ptr<as::IProgram> program = reader().programOf(*service, "s/s.xml");
+    EXPECT_GT(program->getDataItems()->getLength(), 0);
+    EXPECT_EQ(service->getProgram(), nullptr);
+    EXPECT_EQ(service->getDDFilename(), "../d/PAY.xml");
+    const auto other = reader().programOf(*service, "s/s.xml", {"OTHER.xml"});
+    EXPECT_EQ(other->getDataItems()->getLength(), 0);
+  }
+}
+
+// With the service that has it, or by itself.
+class ProgramRefusalTest : public DocumentReaderTest, public testing::WithParamInterface<bool> {
+ protected:
+  toolkit::Refusal refusalOfProgram(const std::string& file) const {
+    const auto service = reader().readService(file);
+    return refusalOf([&] {
+      if (GetParam()) {
+        reader().withProgram(*service, file);
+      } else {
+        reader().programOf(*service, file);
+      }
+    });
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Readings, ProgramRefusalTest, testing::Bool());
+
+TEST_P(ProgramRefusalTest, ADictionaryThatCannotBeReadIsTheOneTold) {
   write("s/s.xml", test::javaService("dataDictFilename='../d/PAY.xml'", ""));
-  const toolkit::Refusal missing =
-      refusalOf([this] { reader().readServiceWithProgram("s/s.xml"); });
+  const toolkit::Refusal missing = refusalOfProgram("s/s.xml");
   EXPECT_EQ(textOf(missing), "s/../d/PAY.xml: cannot be read: No such file or directory");
   write("d/PAY.xml", test::payService(""));
-  const toolkit::Refusal wrong = refusalOf([this] { reader().readServiceWithProgram("s/s.xml"); });
+  const toolkit::Refusal wrong = refusalOfProgram("s/s.xml");
   EXPECT_EQ(wrong.file, "s/../d/PAY.xml");
   EXPECT_THAT(wrong.text, StartsWith("not a data dictionary: "));
 }
 
-TEST_F(DocumentReaderTest, AServiceThatNamesNoDictionaryIsTold) {
+TEST_P(ProgramRefusalTest, AnErrorInTheDictionaryIsToldThere) {
+  write("s/s.xml", test::javaService("dataDictFilename='../d/PAY.xml'", ""));
+  write("d/PAY.xml", test::dictionaryOf("\n<pointr/>"));
+  const toolkit::Refusal wrong = refusalOfProgram("s/s.xml");
+  EXPECT_EQ(wrong.file, "s/../d/PAY.xml");
+  EXPECT_EQ(wrong.line, 2);
+}
+
+TEST_P(ProgramRefusalTest, ADeviceIsNoDictionary) {
+  write("s.xml", test::javaService("dataDictFilename='/dev/zero'", ""));
+  EXPECT_EQ(refusalOfProgram("s.xml").file, "/dev/zero");
+}
+
+TEST_P(ProgramRefusalTest, AServiceThatNamesNoDictionaryIsTold) {
   write("s.xml", test::javaService("", ""));
-  const toolkit::Refusal refusal = refusalOf([this] { reader().readServiceWithProgram("s.xml"); });
+  const toolkit::Refusal refusal = refusalOfProgram("s.xml");
   EXPECT_EQ(textOf(refusal), "s.xml: the service names no dictionary");
   EXPECT_THAT(refusal.hint, HasSubstr("dataDictFilename"));
 }

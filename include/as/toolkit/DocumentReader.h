@@ -101,6 +101,11 @@ class AS_EXPORT DocumentReader {
   ServiceDocument withProgram(as::IService& service, const std::string& file,
                               const ProgramChoice& choice = {}) const;
 
+  // That program by itself, for whoever does not need `service` to know it: `service` is not read
+  // again. Never null. Throws RefusedDocument likewise.
+  std::shared_ptr<as::IProgram> programOf(as::IService& service, const std::string& file,
+                                          const ProgramChoice& choice = {}) const;
+
  private:
   std::unique_ptr<as::IAgentServices> services_;
 };

@@ -111,6 +111,31 @@ as::IService* parseText(as::IAgentServices& services, const std::string& text,
                                static_cast<unsigned int>(text.size()), loadProgram);
 }
 
+// The dictionary that `service`, read from `file`, is to have its program from, which can be read.
+std::string dictionaryOf(as::IService& service, const std::string& file,
+                         const ProgramChoice& choice) {
+  const std::string named = service.getDDFilename();
+  if (!choice.dictionary && named.empty()) {
+    throw RefusedDocument({file, 0, 0, "the service names no dictionary",
+                           "write attribute dataDictFilename, or name a dictionary"});
+  }
+  const std::string dictionary = choice.dictionary ? *choice.dictionary : besideFile(file, named);
+  checkReadable(dictionary);
+  return dictionary;
+}
+
+// `service`, which messages call `file`, read once more, with its program. The library reads the
+// dictionary that a document names, counted from the current directory: `service` is told of it.
+std::unique_ptr<as::IService> loaded(as::IAgentServices& services, as::IService& service,
+                                     const std::string& file, const std::string& dictionary) {
+  service.setDDFilename(dictionary.c_str());
+  const std::string text = documentOf(service, file);
+  std::unique_ptr<as::IService> result =
+      rootFrom(dictionary, [&] { return parseText(services, text, file, true); });
+  if (!result) throw refused(dictionary, noDictionary());
+  return result;
+}
+
 }  // namespace
 
 std::string textOf(const Refusal& refusal) {
@@ -173,22 +198,27 @@ ServiceDocument DocumentReader::withProgram(as::IService& service, const std::st
   ServiceDocument result;
   result.programName = service.getAttributeValue("programName");
   result.dictionary = service.getDDFilename();
-  if (!choice.dictionary && result.dictionary.empty()) {
-    throw RefusedDocument({file, 0, 0, "the service names no dictionary",
-                           "write attribute dataDictFilename, or name a dictionary"});
-  }
-  const std::string dictionary =
-      choice.dictionary ? *choice.dictionary : besideFile(file, result.dictionary);
-  checkReadable(dictionary);
-  // The library reads the dictionary that the document names, counted from the current directory. A
-  // copy is told of it: the service keeps what it says, whatever fails.
+  const std::string dictionary = dictionaryOf(service, file, choice);
+  // A copy is told of it: the service keeps what it says, whatever fails.
   const std::unique_ptr<as::IService> copy = readServiceText(documentOf(service, file), file);
-  copy->setDDFilename(dictionary.c_str());
-  const std::string text = documentOf(*copy, file);
-  result.service = rootFrom(dictionary, [&] { return parseText(*services_, text, file, true); });
-  if (!result.service) throw refused(dictionary, noDictionary());
+  result.service = loaded(*services_, *copy, file, dictionary);
   if (!result.dictionary.empty()) result.service->setDDFilename(result.dictionary.c_str());
   return result;
+}
+
+std::shared_ptr<as::IProgram> DocumentReader::programOf(as::IService& service,
+                                                        const std::string& file,
+                                                        const ProgramChoice& choice) const {
+  const std::string dictionary = dictionaryOf(service, file, choice);
+  // Read as what a service names, but for one of the flavour that holds nothing else.
+  const std::string uri = flavourOf(service).documents.uri;
+  const std::unique_ptr<as::IService> bare = readServiceText(
+      "<service xmlns=\"" + uri +
+          "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:schemaLocation=\"" + uri +
+          " " + uri + "\"/>",
+      file);
+  const std::shared_ptr<as::IService> owner = loaded(*services_, *bare, file, dictionary);
+  return {owner, owner->getProgram()};
 }
 
 ServiceDocument DocumentReader::readServiceWithProgram(const std::string& file,

@@ -1,4 +1,7 @@
 // Rules about the entry points that operations are bound to.
+#include <algorithm>
+#include <cstddef>
+
 #include "toolkit/lint/Rules.h"
 #include "toolkit/text/Phrases.h"
 
@@ -18,9 +21,15 @@ void lostEntryPoint(const OperationSubject& subject, const Tell& tell) {
 
 void lostLinkageRecord(const OperationSubject& subject, const Tell& tell) {
   if (subject.interface == nullptr) return;
-  for (const std::string& lost : subject.interface->lost) {
-    tell("entry point " + quote(subject.entryPoint) + " is called with " + quote(lost) +
-             ", which is no record of the dictionary",
+  // Any number of operations may be bound to the entry point: each tells the first names.
+  const std::vector<std::string>& lost = subject.interface->lost;
+  const std::size_t told = std::min(lost.size(), mostTold);
+  for (std::size_t i = 0; i < told; ++i) {
+    const std::size_t others = i + 1 == told ? lost.size() - told : 0;
+    tell("entry point " + quote(subject.entryPoint) + " is called with " + quote(lost[i]) +
+             (others == 0
+                  ? ", which is no record of the dictionary"
+                  : " and " + count(others, "other") + " that are no records of the dictionary"),
          "make the dictionary anew");
   }
 }

@@ -1,5 +1,7 @@
 #include "as/toolkit/Lint.h"
 
+#include "as/IProgram.h"
+#include "as/IService.h"
 #include "toolkit/flavour/FlavourProfile.h"
 #include "toolkit/lint/Rules.h"
 #include "toolkit/lint/ServiceWalk.h"
@@ -30,7 +32,7 @@ const std::vector<LintRule>& lintRules() {
 Findings lint(as::IService& service) {
   Findings findings;
   lookAtService(service, findings);
-  lintMembers(service, findings);
+  lintMembers(service, service.getProgram(), findings);
   return findings;
 }
 
@@ -39,18 +41,18 @@ Findings lintFile(const DocumentReader& reader, const std::string& file,
   const std::unique_ptr<as::IService> service = reader.readService(file);
   Findings findings;
   lookAtService(*service, findings);
-  ServiceDocument complete;
+  std::shared_ptr<as::IProgram> program;
   if (dictionary || !service->getDDFilename().empty()) {
     try {
-      complete = reader.withProgram(*service, file, ProgramChoice{dictionary});
-      look(DictionarySubject{servicePlace(), nullptr, complete.programName,
-                             complete.service->getProgram()->getName()},
+      program = reader.programOf(*service, file, ProgramChoice{dictionary});
+      look(DictionarySubject{servicePlace(), nullptr, service->getAttributeValue("programName"),
+                             program->getName()},
            findings);
     } catch (const RefusedDocument& refused) {
       look(DictionarySubject{servicePlace(), &refused.refusal(), ""}, findings);
     }
   }
-  lintMembers(complete.service ? *complete.service : *service, findings);
+  lintMembers(*service, program.get(), findings);
   return findings;
 }
 

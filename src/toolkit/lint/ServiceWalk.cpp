@@ -40,31 +40,8 @@ struct Tree {
 struct FieldPlace {
   as::IField& field;
   Place place;
-  int occurs;
-  const FieldPlace* tableAround;  // The nearest one around it that is a table; null for none.
-
-  const FieldPlace* nearestTable() const { return occurs > 1 ? this : tableAround; }
+  std::size_t tables;  // How many it stands in, itself included.
 };
-
-FieldPlace placeOf(as::IField& field, Place place, const FieldPlace* around) {
-  return {field, std::move(place), field.getOccurs(),
-          around == nullptr ? nullptr : around->nearestTable()};
-}
-
-// One below `around`.
-FieldPlace placeBelow(as::IField& field, const FieldPlace& around) {
-  return placeOf(field, Place("." + nameOrUnnamed(field.getName()), around.place), &around);
-}
-
-// The occurrences of the tables that the field stands in, itself included, outermost first.
-std::vector<int> tablesAround(const FieldPlace& field) {
-  std::vector<int> tables;
-  for (const FieldPlace* at = field.nearestTable(); at != nullptr; at = at->tableAround) {
-    tables.push_back(at->occurs);
-  }
-  std::reverse(tables.begin(), tables.end());
-  return tables;
-}
 
 // The tables that an item stands in, itself included, outermost first.
 std::vector<as::IDataItem*> tablesAround(as::IDataItem& item) {
@@ -78,9 +55,9 @@ std::vector<as::IDataItem*> tablesAround(as::IDataItem& item) {
 
 class ServiceWalk {
  public:
-  ServiceWalk(as::IService& service, Findings& findings)
+  ServiceWalk(as::IService& service, as::IProgram* program, Findings& findings)
       : service_(service), findings_(findings), profile_(profileOf(service)) {
-    if (as::IProgram* const exposed = service.getProgram()) program_.emplace(*exposed);
+    if (program != nullptr) program_.emplace(*program);
     forEachMember<as::IParameter>(service.getParameterTypeDefs(), [this](as::IParameter& type) {
       const std::size_t number = typeStorage_.addDefinition();
       definitions_.emplace(&type, number);
@@ -169,10 +146,23 @@ class ServiceWalk {
     });
   }
 
+  // The place of a field that has so many tables around it: those of the field before it that it
+  // stands in.
+  FieldPlace placeOf(as::IField& field, Place place, std::size_t tablesAround) {
+    fieldTables_.resize(tablesAround);
+    const int occurs = field.getOccurs();
+    if (occurs > 1) fieldTables_.push_back(occurs);
+    return {field, std::move(place), fieldTables_.size()};
+  }
+
+  FieldPlace placeBelow(as::IField& field, const FieldPlace& around) {
+    return placeOf(field, Place("." + nameOrUnnamed(field.getName()), around.place), around.tables);
+  }
+
   // At a parameter or definition with all its fields.
   void lookAtTree(as::IField& root, const Place& place, const Tree& tree) {
     if (lookAtReference(root, place, tree)) return;
-    std::deque<FieldPlace> way = {placeOf(root, place, nullptr)};
+    std::deque<FieldPlace> way = {placeOf(root, place, 0)};
     lookAtField(way.back(), tree);
     walkFields(
         root.getChildren(),
@@ -225,13 +215,12 @@ class ServiceWalk {
   void lookAtMappings(const FieldPlace& at, const DataType* type, const Tree& tree) {
     as::IList* const mappings = at.field.getMappings();
     if (mappings->getLength() == 0) return;
-    const std::vector<int> tables = tablesAround(at);
     forEachMember<as::IMapping>(mappings, [&](as::IMapping& mapping) {
       std::optional<MappingSubject> subject = subjectOf(mapping, at.place);
       if (!subject) return;
       subject->profile = &profile_;
       subject->type = type;
-      subject->fieldTables = tree.definition ? nullptr : &tables;
+      subject->fieldTables = tree.definition ? nullptr : &fieldTables_;
       look(*subject, findings_);
       as::IDataItem* const item = reachedBy(*subject);
       if (item == nullptr) return;
@@ -322,9 +311,11 @@ class ServiceWalk {
       look(StorageSubject{place, record, *tree.interface, tree.direction}, found);
       return !found.empty();
     };
-    for (as::IDataItem* const record :
-         typeStorage_.wrongOnes(definition, *tree.interface, tree.direction, isWrong)) {
-      lookAtStorage(*record, place, tree.direction, tree.interface);
+    const TypeStorage::WrongOnes wrong =
+        typeStorage_.wrongOnes(definition, *tree.interface, tree.direction, isWrong);
+    for (as::IDataItem* const record : wrong.told) {
+      const bool hasMore = wrong.areMore && record == wrong.told.back();
+      look(StorageSubject{place, *record, *tree.interface, tree.direction, hasMore}, findings_);
     }
   }
 
@@ -337,12 +328,15 @@ class ServiceWalk {
   std::unordered_map<as::IParameter*, std::size_t> definitions_;  // By their numbers.
   std::unordered_map<std::string, std::size_t> lastOfName_;
   TypeStorage typeStorage_;
+  // The occurrences of the tables that the field at hand stands in, itself included, outermost
+  // first.
+  std::vector<int> fieldTables_;
 };
 
 }  // namespace
 
-void lintMembers(as::IService& service, Findings& findings) {
-  ServiceWalk(service, findings).run();
+void lintMembers(as::IService& service, as::IProgram* program, Findings& findings) {
+  ServiceWalk(service, program, findings).run();
 }
 
 }  // namespace as::toolkit

@@ -5,14 +5,15 @@
 #include "as/toolkit/Finding.h"
 
 namespace as {
+class IProgram;
 class IService;
-}
+}  // namespace as
 
 namespace as::toolkit {
 
-// Looks at type definitions and operations, with the program that the service has. Takes time in
-// proportion to service and program.
-void lintMembers(as::IService& service, Findings& findings);
+// Looks at type definitions and operations, with the program of the service; null when it is
+// unknown. Takes time in proportion to service and program.
+void lintMembers(as::IService& service, as::IProgram* program, Findings& findings);
 
 }  // namespace as::toolkit
 

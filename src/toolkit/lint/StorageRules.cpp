@@ -14,30 +14,33 @@ bool isHandedOver(const StorageSubject& subject, int byType) {
   return found != subject.interface.records.end() && found->second == byType;
 }
 
+// What is told of the record itself and of others for which it stands.
+std::string withOthers(const StorageSubject& subject, const std::string& problem) {
+  return subject.hasMore ? problem + " (and there are others)" : problem;
+}
+
 }  // namespace
 
 void unreachableStorage(const StorageSubject& subject, const Tell& tell) {
   if (subject.interface.records.contains(&subject.record)) return;
-  std::string names;
-  for (const std::string& name : subject.interface.names) {
-    names += (names.empty() ? "" : ", ") + name;
-  }
-  tell(subject.record.getName() + " is nothing that entry point " +
-           quote(subject.interface.entryPoint) + " is called with",
-       names.empty() ? "it takes no parameters" : "map to something within " + names);
+  const std::vector<std::string>& names = subject.interface.names;
+  tell(withOthers(subject, subject.record.getName() + " is nothing that entry point " +
+                               quote(subject.interface.entryPoint) + " is called with"),
+       names.empty() ? "it takes no parameters" : "map to something within " + firstOf(names));
 }
 
 void nothingComesBack(const StorageSubject& subject, const Tell& tell) {
   if (subject.direction != as::IParameter::BY_OUT) return;
   if (!isHandedOver(subject, as::ILinkageItem::BY_VALUE)) return;
-  tell(subject.record.getName() + " is handed over by value: nothing comes back",
+  tell(withOthers(subject,
+                  subject.record.getName() + " is handed over by value: nothing comes back"),
        R"(make the parameter "in")");
 }
 
 void nothingGoesIn(const StorageSubject& subject, const Tell& tell) {
   if (subject.direction != as::IParameter::BY_IN) return;
   if (!isHandedOver(subject, as::ILinkageItem::BY_RETURNING)) return;
-  tell(subject.record.getName() + " is only returned: nothing goes in",
+  tell(withOthers(subject, subject.record.getName() + " is only returned: nothing goes in"),
        R"(make the parameter "out")");
 }
 

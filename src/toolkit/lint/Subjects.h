@@ -132,7 +132,8 @@ struct StorageSubject {
   const Place& place;
   as::IDataItem& record;
   const CallInterface& interface;
-  int direction;  // Of the parameter.
+  int direction;         // Of the parameter.
+  bool hasMore = false;  // Whether there are others like it, of which nothing is told.
 };
 
 // The style of a Web service's operation.

@@ -15,6 +15,14 @@ std::string dotted(const std::vector<std::string>& names) {
   return path;
 }
 
+std::string firstOf(const std::vector<std::string>& names) {
+  const std::size_t told = std::min(names.size(), mostTold);
+  std::string text;
+  for (std::size_t i = 0; i < told; ++i) text += (i == 0 ? "" : ", ") + names[i];
+  if (names.size() > told) text += " and " + count(names.size() - told, "other");
+  return text;
+}
+
 bool isNumeral(const std::string& text) {
   return text.find_first_of("0123456789") != std::string::npos &&
          text.find_first_not_of("+-.,0123456789") == std::string::npos;

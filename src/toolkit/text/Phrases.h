@@ -17,6 +17,12 @@ std::string quote(const std::string& text);
 // The names with periods between: RECORD.GROUP.ITEM.
 std::string dotted(const std::vector<std::string>& names);
 
+// So many of the things of one kind are told where they could be any number, over and over again.
+inline constexpr std::size_t mostTold = 20;
+
+// The first names with commas between, and how many others there are: "A, B, C and 7 others".
+std::string firstOf(const std::vector<std::string>& names);
+
 // Whether the text is a number as COBOL programs write it.
 bool isNumeral(const std::string& text);
 
