@@ -170,6 +170,30 @@ TEST_P(NameLookUp, FindsTheEntryPointsThatWalkingFinds) {
   }
 }
 
+// What is looked up is what the service says now, however it was changed in between.
+TEST_P(NameLookUp, EditsAreSeenAtOnce) {
+  as::IProgram& program = *program_;
+  std::vector<as::IDataItem*> items;
+  visitItems(program.getDataItems(), [&items](as::IDataItem& item) { items.push_back(&item); });
+  const std::unique_ptr<as::IService> service(
+      as::CAgentServicesFactory::NewJavaService(program_.release()));
+  std::vector<as::IMapping*> mappings;
+  for (int i = 0; i < 100; i++) {
+    auto* const entryPoint = test::entryPointOf(program, static_cast<int>(chance_.below(6)));
+    as::IOperation* const operation = service->addOperation("o", entryPoint);
+    EXPECT_EQ(operation->getEntryPoint(),
+              walkTo<as::IEntryPoint>(entryPoint->getName(), program.getEntryPoints()));
+    as::IParameter* const parameter = operation->addParameter(as::IParameter::BY_IN, "p", 1);
+    mappings.push_back(parameter->addMapping(items[chance_.below(items.size())]));
+    for (int again = 0; again < 2; again++) {
+      as::IMapping& mapping = *mappings[chance_.below(mappings.size())];
+      EXPECT_EQ(mapping.getDataItem(), walkTo(mapping.getRawMapping(), program));
+      mapping.setDataItem(items[chance_.below(items.size())]);
+      EXPECT_EQ(mapping.getDataItem(), walkTo(mapping.getRawMapping(), program));
+    }
+  }
+}
+
 // A program that shows another's answers as its own while it is taken for the other.
 class Disguised : public Decorator {
  public:
