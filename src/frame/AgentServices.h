@@ -14,7 +14,7 @@ class CAgentServices : public as::IAgentServices {
   // Whether the schemas of the schema directory are compiled for each request, or kept.
   enum class Schemas { compiled, kept };
 
-  explicit CAgentServices(Schemas schemas);
+  explicit CAgentServices(Schemas schemas = Schemas::compiled);
 
   void setSchemaLocation(const char* dir) override;
   as::IProgram* parseCobolDD(const char* file) override;
