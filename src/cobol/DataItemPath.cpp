@@ -13,10 +13,11 @@ using Components = std::vector<CXStr>;
 
 // Follows the components through a program of the library's own.
 as::IDataItem* follow(Components& components, CProgramImpl& program) {
-  const NameIndex& names = program.dataItemsByName();
+  // All at once: nothing fails between two look-ups, so the program prepares for all or for none.
+  const std::vector<const XMLCh*> names(components.begin(), components.end());
   const NameIndex::Entry* at = nullptr;
-  for (CXStr& component : components) {
-    at = names.find(at, component);
+  for (const XMLCh* const name : names) {
+    at = program.dataItems(at, name);
     if (at == nullptr) break;
   }
   return at == nullptr ? nullptr : as::interface_cast<as::IDataItem>(at->first);

@@ -22,5 +22,6 @@ as::IDataItem* CLinkageItemImpl::getDataItem() {
   auto* const program = as::interface_cast<CProgramImpl>(rootOf(getElement()));
   if (program == nullptr) return nullptr;
   // The top level only: what can be handed over at a call are whole records.
-  return as::interface_cast<as::IDataItem>(program->dataItemsByName().first(wide(DD::dataItem)));
+  const NameIndex::Entry* const entry = program->dataItems(nullptr, wide(DD::dataItem));
+  return entry == nullptr ? nullptr : as::interface_cast<as::IDataItem>(entry->first);
 }

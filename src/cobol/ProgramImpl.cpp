@@ -1,54 +1,23 @@
 #include "cobol/ProgramImpl.h"
 
-#include <cstddef>
-#include <vector>
+#include <memory>
 
-#include "as/IDataItem.h"
 #include "as/IEntryPoint.h"
-#include "as/IGroup.h"
 #include "cobol/DDVocabulary.h"
 
 AS_DEFINE_IDENTITY2(CProgramImpl, as::IProgram, CElementImpl)
 
 namespace {
 
-// A list of objects, and the entry of those that it stands in.
-struct Level {
-  CList* members;
-  const NameIndex::Entry* around;
-};
-
-// Adds the members that are Members.
-template <class Member>
-void addLevel(NameIndex& names, const Level& level, std::vector<Level>* below = nullptr) {
-  const int count = level.members->getLength();
-  for (int i = 0; i < count; i++) {
-    CElementImpl* const member = level.members->getElement(i);
-    if (as::interface_cast<Member>(member) == nullptr) continue;
-    const XMLCh* const name = member->wide(DD::name);
-    const NameIndex::Entry* const entry = names.add(level.around, name, member);
-    auto* const group = below == nullptr ? nullptr : as::interface_cast<as::IGroup>(member);
-    if (group != nullptr)
-      below->push_back({as::interface_cast<CList>(group->getChildren()), entry});
-  }
-}
-
-std::unique_ptr<const NameIndex> indexOfItems(CList* topLevel) {
-  auto names = std::make_unique<NameIndex>();
-  std::vector<Level> levels;
-  if (topLevel != nullptr) levels.push_back({topLevel, nullptr});
-  // Level by level, each in the order of the document: that is the order in which objects with the
-  // same way of names follow one another.
-  for (std::size_t at = 0; at < levels.size(); at++) {
-    const Level level = levels[at];
-    addLevel<as::IDataItem>(*names, level, &levels);
-  }
-  return names;
-}
-
 std::unique_ptr<const NameIndex> indexOfEntryPoints(CList* entryPoints) {
   auto names = std::make_unique<NameIndex>();
-  if (entryPoints != nullptr) addLevel<as::IEntryPoint>(*names, {entryPoints, nullptr});
+  const int count = entryPoints == nullptr ? 0 : entryPoints->getLength();
+  for (int i = 0; i < count; i++) {
+    CElementImpl* const member = entryPoints->getElement(i);
+    if (as::interface_cast<as::IEntryPoint>(member) != nullptr) {
+      names->add(nullptr, member->wide(DD::name), member);
+    }
+  }
   return names;
 }
 
@@ -79,9 +48,14 @@ CProgramImpl* CProgramImpl::own(as::IProgram* program) {
   return static_cast<as::IProgram*>(own) == program ? own : nullptr;
 }
 
-const NameIndex& CProgramImpl::dataItemsByName() {
-  if (!dataItemsByName_) dataItemsByName_ = indexOfItems(dataItems_);
-  return *dataItemsByName_;
+const NameIndex::Entry* CProgramImpl::dataItems(const NameIndex::Entry* around, const XMLCh* name) {
+  try {
+    if (!dataItemsByName_) dataItemsByName_ = std::make_unique<DataItemIndex>(dataItems_);
+    return dataItemsByName_->find(around, name);
+  } catch (...) {
+    dataItemsByName_.reset();
+    throw;
+  }
 }
 
 const NameIndex& CProgramImpl::entryPointsByName() {

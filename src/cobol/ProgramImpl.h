@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "as/IProgram.h"
+#include "cobol/DataItemIndex.h"
 #include "cobol/NameIndex.h"
 #include "xml/List.h"
 #include "xml/WrapperPool.h"
@@ -27,10 +28,10 @@ class CProgramImpl : virtual public as::IProgram, virtual public CElementImpl {
   // `program` as one of the library's own; null for one of a client's making and for null.
   static CProgramImpl* own(as::IProgram* program);
 
-  // The program's data items from the top level down through groups, and its entry points, by their
-  // names. Nothing changes a program, so each is made once, when it is first asked for; where
-  // memory runs out on the way, nothing is kept of it.
-  const NameIndex& dataItemsByName();
+  // The entry of the data items of that name below those of `around` (see DataItemIndex), and the
+  // entry points by their names. Nothing changes a program, so what is needed for this is made
+  // once, when it is first asked for; where memory runs out on the way, nothing is kept of it.
+  const NameIndex::Entry* dataItems(const NameIndex::Entry* around, const XMLCh* name);
   const NameIndex& entryPointsByName();
 
   // Hand over what lives as long as the program: the parser that holds its document, and the
@@ -45,7 +46,7 @@ class CProgramImpl : virtual public as::IProgram, virtual public CElementImpl {
   CList* dataItems_ = nullptr;
   CList* entryPoints_ = nullptr;
   // Null until asked for.
-  std::unique_ptr<const NameIndex> dataItemsByName_;
+  std::unique_ptr<DataItemIndex> dataItemsByName_;
   std::unique_ptr<const NameIndex> entryPointsByName_;
   std::unique_ptr<CXMLParser> parser_;  // Outlives the pool: wrappers stand on the document.
   std::unique_ptr<WrapperPool> pool_;
