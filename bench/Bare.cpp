@@ -73,7 +73,8 @@ double secondsToWriteBare(const std::string& text) {
   output->release();
   writer->release();
   // Up to how attributes and blanks in them are written, it is the same text.
-  if (written.size() * 10 < text.size() * 9) throw std::runtime_error("the document was not written");
+  if (written.size() * 10 < text.size() * 9)
+    throw std::runtime_error("the document was not written");
   return seconds;
 }
 
