@@ -440,8 +440,9 @@ TEST_F(MakeTest, ParametersGetTheFirstNamesThatAreLeft) {
   const std::string items =
       "<numeric name='A' length='4' digits='4'/><numeric name='A-3' length='4' digits='4'/>";
   make(programOf(items, {"A", "A", "A-3", "A", "A-3", "A"}));
+  const nlohmann::json operation = made()["operations"][0];
   std::vector<std::string> names;
-  for (const nlohmann::json& parameter : made()["operations"][0]["parameters"]) {
+  for (const nlohmann::json& parameter : operation["parameters"]) {
     names.push_back(parameter["name"]);
   }
   EXPECT_THAT(names, ElementsAre("A", "A-2", "A-3", "A-4", "A-3-2", "A-5"));
@@ -456,8 +457,9 @@ TEST_F(MakeTest, MembersOfUnnamedGroupsStandInTheirPlaces) {
                      "<group name='FILLER'>" + item("C") + "</group><group name='FILLER'>" +
                      item("FILLER") + "</group></group>" + item("D") + "</group>",
                  {"G"}));
+  const nlohmann::json group = firstParameter();
   std::vector<std::string> names;
-  for (const nlohmann::json& field : firstParameter()["children"]) names.push_back(field["name"]);
+  for (const nlohmann::json& field : group["children"]) names.push_back(field["name"]);
   EXPECT_THAT(names, ElementsAre("A", "B", "C", "D"));
 }
 
