@@ -17,6 +17,7 @@
 #include "xml/Place.h"
 #include "xml/Position.h"
 #include "xml/ReadAttribute.h"
+#include "xml/ReadElement.h"
 #include "xml/Refusals.h"
 #include "xml/XStr.h"
 
@@ -220,6 +221,12 @@ void CXMLParser::endElement(const XMLElementDecl& declaration, unsigned int uriI
   XercesDOMParser::endElement(declaration, uriId, isRoot, prefix);
   --depth_;
   if (handler_ != nullptr) handler_->newElement(getCurrentNode());
+}
+
+xercesc::DOMElement* CXMLParser::createElementNS(const XMLCh* namespaceUri, const XMLCh* prefix,
+                                                 const XMLCh* localName,
+                                                 const XMLCh* qualifiedName) {
+  return new (fDocument) ReadElement(fDocument, namespaceUri, prefix, localName, qualifiedName);
 }
 
 xercesc::DOMAttr* CXMLParser::createAttrNS(const XMLCh* namespaceUri, const XMLCh* prefix,

@@ -71,7 +71,9 @@ class CXMLParser : public xercesc::XercesDOMParser,
                   bool isIgnored) override;
   void startAttList(const xercesc::DTDElementDecl& element) override;
 
-  // For every attribute that is read.
+  // For every element and attribute that is read.
+  xercesc::DOMElement* createElementNS(const XMLCh* namespaceUri, const XMLCh* prefix,
+                                       const XMLCh* localName, const XMLCh* qualifiedName) override;
   xercesc::DOMAttr* createAttrNS(const XMLCh* namespaceUri, const XMLCh* prefix,
                                  const XMLCh* localName, const XMLCh* qualifiedName) override;
 
