@@ -47,7 +47,16 @@ bool sameWord(std::string_view one, std::string_view other);
 class TokenSource {
  public:
   virtual ~TokenSource() = default;
-  virtual Token next() = 0;
+
+  // Makes `token` the next one; its strings are reused, so that a long source costs no allocation
+  // for each word.
+  virtual void read(Token& token) = 0;
+
+  Token next() {
+    Token token;
+    read(token);
+    return token;
+  }
 };
 
 }  // namespace as::toolkit

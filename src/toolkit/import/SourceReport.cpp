@@ -1,0 +1,53 @@
+#include "toolkit/import/SourceReport.h"
+
+#include "as/toolkit/Text.h"
+#include "toolkit/import/ImportLimits.h"
+
+namespace as::toolkit {
+
+namespace {
+
+struct Rule {
+  const char* id;
+  Severity severity;
+};
+
+constexpr Rule rules[] = {
+#define AS_SOURCE_RULE(name, id, severity, summary) {id, Severity::severity},
+#include "toolkit/import/SourceRules.def"
+};
+
+}  // namespace
+
+void SourceReport::add(SourceRule rule, const SourcePlace& place, const std::string& problem,
+                       const std::string& advice) {
+  const auto number = static_cast<std::size_t>(rule);
+  counts_[number]++;
+  if (counts_[number] > importLimits::findings) return;
+  findings_.push_back(
+      {rules[number].id, rules[number].severity, map_.textOf(place), problem, advice});
+}
+
+void SourceReport::finish() {
+  for (std::size_t i = 0; i < counts_.size(); i++) {
+    if (counts_[i] <= importLimits::findings) continue;
+    add(SourceRule::more, {},
+        count(counts_[i] - importLimits::findings, "finding") + " more of the rule \"" +
+            rules[i].id + "\"");
+  }
+}
+
+std::string quoted(std::string_view text) {
+  constexpr std::size_t most = 60;
+  std::size_t end = text.size();
+  if (end > most) {
+    // Not in the middle of a character.
+    for (end = most; end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U;) end--;
+  }
+  std::string result = "\"";
+  result += text.substr(0, end);
+  if (end < text.size()) result += "...";
+  return result + '"';
+}
+
+}  // namespace as::toolkit

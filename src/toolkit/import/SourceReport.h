@@ -1,0 +1,49 @@
+// Tells what is found in a source, each finding with its place.
+#ifndef TOOLKIT_IMPORT_SOURCEREPORT_H_
+#define TOOLKIT_IMPORT_SOURCEREPORT_H_
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "as/toolkit/Finding.h"
+#include "toolkit/import/SourceMap.h"
+
+namespace as::toolkit {
+
+// The rules of reading a source; their ids and severities are in SourceRules.def.
+enum class SourceRule {
+#define AS_SOURCE_RULE(name, id, severity, summary) name,
+#include "toolkit/import/SourceRules.def"
+};
+
+// Adds findings to the end of a list, which must outlive it, as must the map.
+class SourceReport {
+ public:
+  SourceReport(Findings& findings, const SourceMap& map) : findings_(findings), map_(map) {}
+
+  // Findings of a rule beyond the limit are counted, not told.
+  void add(SourceRule rule, const SourcePlace& place, const std::string& problem,
+           const std::string& advice = "");
+
+  // To be called once, when all is read: tells how many were not told.
+  void finish();
+
+ private:
+  static constexpr std::size_t rules = 0
+#define AS_SOURCE_RULE(name, id, severity, summary) +1
+#include "toolkit/import/SourceRules.def"
+      ;
+
+  Findings& findings_;
+  const SourceMap& map_;
+  std::array<std::size_t, rules> counts_{};
+};
+
+// `text` from the source as messages show it: in quotes, and its beginning only when it is long.
+std::string quoted(std::string_view text);
+
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_IMPORT_SOURCEREPORT_H_
