@@ -6,6 +6,7 @@
 #define AS_TOOLKIT_TOOLKIT_H_
 
 #include "as/toolkit/Convert.h"
+#include "as/toolkit/Copybooks.h"
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Finding.h"
@@ -14,6 +15,7 @@
 #include "as/toolkit/Make.h"
 #include "as/toolkit/Picture.h"
 #include "as/toolkit/Render.h"
+#include "as/toolkit/SourceFormat.h"
 #include "as/toolkit/Storage.h"
 #include "as/toolkit/Text.h"
 

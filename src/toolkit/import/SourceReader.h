@@ -43,7 +43,8 @@ class SourceReader : public TokenSource {
 
   void read(Token& token) override;
 
-  // Whether DECIMAL-POINT IS COMMA was read; numbers have "." all the same, pictures are as written.
+  // Whether DECIMAL-POINT IS COMMA was read; numbers have "." all the same, pictures are as
+  // written.
   bool decimalPointIsComma() const;
 
  private:

@@ -31,14 +31,14 @@ class SourceReport {
   void finish();
 
  private:
-  static constexpr std::size_t rules = 0
+  static constexpr std::size_t ruleCount = 0
 #define AS_SOURCE_RULE(name, id, severity, summary) +1
 #include "toolkit/import/SourceRules.def"
       ;
 
   Findings& findings_;
   const SourceMap& map_;
-  std::array<std::size_t, rules> counts_{};
+  std::array<std::size_t, ruleCount> counts_{};
 };
 
 // `text` from the source as messages show it: in quotes, and its beginning only when it is long.

@@ -18,12 +18,12 @@ struct SourcePlace {
 };
 
 enum class TokenKind {
-  word,         // Reserved or the user's, also one that starts with a digit: "01", "12AB", "FILLER".
-  number,       // A numeric literal that is no word: "+1", "-30.0", "1.5E3" ("." also where the
-                // source has "," by DECIMAL-POINT IS COMMA).
-  literal,      // In quotes; `prefix` tells of which kind.
-  picture,      // The string behind PICTURE IS.
-  pseudoText,   // Never leaves the preprocessor.
+  word,        // Reserved or the user's, also one that starts with a digit: "01", "12AB", "FILLER".
+  number,      // A numeric literal that is no word: "+1", "-30.0", "1.5E3" ("." also where the
+               // source has "," by DECIMAL-POINT IS COMMA).
+  literal,     // In quotes; `prefix` tells of which kind.
+  picture,     // The string behind PICTURE IS.
+  pseudoText,  // Never leaves the preprocessor.
   punctuation,  // "(", ")", ":", "=", "+", "&" ...; separators "," and ";" are left out.
   period,       // The separator that ends a sentence.
   end,          // Of the source; all that follow are ends, too.

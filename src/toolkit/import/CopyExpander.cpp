@@ -1,0 +1,440 @@
+#include "toolkit/import/CopyExpander.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "as/toolkit/Text.h"
+#include "toolkit/import/Characters.h"
+#include "toolkit/import/FormatRecognition.h"
+
+namespace as::toolkit {
+
+namespace {
+
+// The first word of `text`, without a period at its end.
+std::string_view firstWord(std::string_view text) {
+  const auto end = std::find_if(text.begin(), text.end(),
+                                [](char character) { return !isWordCharacter(character); });
+  return text.substr(0, static_cast<std::size_t>(end - text.begin()));
+}
+
+bool isAny(std::string_view word, std::initializer_list<std::string_view> words) {
+  return std::any_of(words.begin(), words.end(),
+                     [&](std::string_view one) { return sameWord(one, word); });
+}
+
+// Whether a paragraph that is a comment ends in front of that line.
+bool endsCommentEntry(const SourceLine& line) {
+  if (line.areaA) return true;
+  const std::string_view word = firstWord(line.text);
+  const std::string_view rest = trimmed(line.text.substr(word.size()));
+  if (isAny(word, {"PROGRAM-ID", "AUTHOR", "INSTALLATION", "DATE-WRITTEN", "DATE-COMPILED",
+                   "SECURITY", "REMARKS"})) {
+    return rest.substr(0, 1) == ".";
+  }
+  return isAny(word, {"IDENTIFICATION", "ID", "ENVIRONMENT", "DATA", "PROCEDURE"}) &&
+         sameWord(firstWord(rest), "DIVISION");
+}
+
+std::string nameOf(const TextWord& word) {
+  return std::string(word.kind == TextWord::Kind::literal ? partsOf(word).content : word.text);
+}
+
+bool isName(const TextWord& word) {
+  return word.kind == TextWord::Kind::run || word.kind == TextWord::Kind::literal;
+}
+
+}  // namespace
+
+// A file that is being read.
+class CopyExpander::Frame : public TextWordSource {
+ public:
+  Frame(CopyExpander& expander, std::size_t depth, const SourceText& text, SourceFormat format,
+        std::string fileName, std::int32_t file, Replacements replacements)
+      : lines(text, format, file, expander.arena_, expander.report_),
+        scanner(lines, file, expander.directives_, expander.report_),
+        name(std::move(fileName)),
+        expander_(expander),
+        depth_(depth),
+        replacements_(std::move(replacements)) {
+    lines.setDebugging(expander.debugging_);
+    if (!replacements_.empty()) {
+      replacer.emplace(*this, replacements_, expander.arena_, expander.budget_);
+    }
+  }
+
+  // For the replacer: what the file says, copies put in.
+  void read(TextWord& word) override { expander_.readRaw(depth_, word); }
+
+  // A word of the file itself.
+  void readOwn(TextWord& word) {
+    if (pushed_) {
+      word = *pushed_;
+      pushed_.reset();
+    } else {
+      scanner.read(word);
+    }
+  }
+  void pushBack(const TextWord& word) { pushed_ = word; }
+
+  SourceLines lines;
+  WordScanner scanner;
+  std::optional<Replacer> replacer;
+  const std::string name;
+
+ private:
+  CopyExpander& expander_;
+  const std::size_t depth_;
+  const Replacements replacements_;
+  std::optional<TextWord> pushed_;
+};
+
+CopyExpander::CopyExpander(const SourceOptions& options, CopybookProvider* copybooks,
+                           SourceMap& map, TextArena& arena, ImportBudget& budget,
+                           SourceReport& report)
+    : options_(options),
+      map_(map),
+      arena_(arena),
+      budget_(budget),
+      report_(report),
+      directives_(options.definitions, report),
+      library_(copybooks) {}
+
+CopyExpander::~CopyExpander() = default;
+
+void CopyExpander::open(std::string bytes, const std::string& name) {
+  const std::int32_t file = map_.add(name);
+  if (bytes.size() > importLimits::sourceText) {
+    report_.add(SourceRule::limit, {file, 0, 0},
+                "the source is longer than " + std::to_string(importLimits::sourceText) +
+                    " bytes, and is not read");
+    bytes.clear();
+  }
+  text_ = decodeSource(std::move(bytes), options_.encoding, file, report_);
+  const SourceFormat format = options_.format != SourceFormat::recognised
+                                  ? options_.format
+                                  : recognisedFormat(text_.text, SourceFormat::fixed);
+  push(text_, format, name, file, {});
+}
+
+void CopyExpander::push(const SourceText& text, SourceFormat format, const std::string& name,
+                        std::int32_t file, Replacements replacements) {
+  frames_.push_back(std::make_unique<Frame>(*this, frames_.size(), text, format, name, file,
+                                            std::move(replacements)));
+}
+
+void CopyExpander::setDebugging() {
+  debugging_ = true;
+  for (const auto& frame : frames_) frame->lines.setDebugging(true);
+}
+
+void CopyExpander::finish() {
+  directives_.finish();
+  for (const auto& [kind, passed] : passedExec_) {
+    report_.add(SourceRule::execBlock, passed.first,
+                count(passed.count, "statement") + " EXEC " + kind + " " +
+                    (passed.count == 1 ? "is" : "are") + " passed over, this is the first");
+  }
+}
+
+// Calls itself as deep as copybooks nest, of which there is a limit.
+void CopyExpander::readFrame(std::size_t depth, TextWord& word) {
+  Frame& frame = *frames_[depth];
+  if (frame.replacer) {
+    frame.replacer->read(word);
+  } else {
+    readRaw(depth, word);
+  }
+}
+
+void CopyExpander::readRaw(std::size_t depth, TextWord& word) {
+  while (true) {
+    if (frames_.size() > depth + 1) {
+      readFrame(depth + 1, word);
+      if (word.kind != TextWord::Kind::end) return;
+      frames_.resize(depth + 1);
+    }
+    Frame& frame = *frames_[depth];
+    frame.readOwn(word);
+    if (budget_.isExhausted()) word.kind = TextWord::Kind::end;
+    if (word.kind == TextWord::Kind::run) {
+      const Statement statement = statementOf(word);
+      if (statement != Statement::none && takeStatement(frame, statement, word)) continue;
+    }
+    sentenceOpen_ = word.kind != TextWord::Kind::period;
+    return;
+  }
+}
+
+CopyExpander::Statement CopyExpander::statementOf(const TextWord& word) {
+  struct Row {
+    std::string_view word;
+    Statement statement;
+    bool beginsLine;
+  };
+  static constexpr Row rows[] = {
+      {"COPY", Statement::copy, false},
+      {"EXEC", Statement::exec, false},
+      {"EXECUTE", Statement::exec, false},
+      {"EJECT", Statement::eject, true},
+      {"SKIP1", Statement::eject, true},
+      {"SKIP2", Statement::eject, true},
+      {"SKIP3", Statement::eject, true},
+      {"TITLE", Statement::title, true},
+      {"BASIS", Statement::basis, true},
+      {"INSERT", Statement::insert, true},
+      {"DELETE", Statement::insert, true},
+      {"++INCLUDE", Statement::include, true},
+      {"-INC", Statement::include, true},
+      {"ID", Statement::identification, true},
+      {"IDENTIFICATION", Statement::identification, true},
+      {"PROGRAM-ID", Statement::identification, true},
+      {"ENVIRONMENT", Statement::otherDivision, true},
+      {"DATA", Statement::otherDivision, true},
+      {"PROCEDURE", Statement::otherDivision, true},
+      {"AUTHOR", Statement::commentEntry, true},
+      {"INSTALLATION", Statement::commentEntry, true},
+      {"DATE-WRITTEN", Statement::commentEntry, true},
+      {"DATE-COMPILED", Statement::commentEntry, true},
+      {"SECURITY", Statement::commentEntry, true},
+      {"REMARKS", Statement::commentEntry, true},
+  };
+  // Most words begin with no letter that these begin with, or stand within their line.
+  const char first = static_cast<char>(word.text.front() & ~0x20);
+  if (!word.lineStart && first != 'C' && first != 'E') return Statement::none;
+  for (const Row& row : rows) {
+    if (row.word.size() == word.text.size() && (word.lineStart || !row.beginsLine) &&
+        sameWord(row.word, word.text)) {
+      return row.statement;
+    }
+  }
+  return Statement::none;
+}
+
+// Whether the word is done with; otherwise it is a word as any other.
+bool CopyExpander::takeStatement(Frame& frame, Statement statement, const TextWord& word) {
+  const std::string_view rest = frame.scanner.restOfLine();
+  switch (statement) {
+    case Statement::copy:
+      return takeCopy(frame, word);
+    case Statement::exec:
+      return takeExec(frame, word);
+    case Statement::include:
+      takeInclude(frame, word);
+      return true;
+    case Statement::eject:
+      if (!rest.empty() && rest != ".") return false;
+      frame.scanner.skipRestOfLine();
+      return true;
+    case Statement::title:
+      if (rest.empty() || !isQuote(rest.front())) return false;
+      frame.scanner.skipRestOfLine();
+      return true;
+    case Statement::basis:
+    case Statement::insert:
+      if (sentenceOpen_ || (statement == Statement::insert && !basisSeen_)) return false;
+      basisSeen_ = true;
+      report_.add(SourceRule::unsupported, word.place,
+                  std::string(word.text) + " is not supported, and is passed over",
+                  "import the source that it makes");
+      frame.scanner.skipRestOfLine();
+      return true;
+    case Statement::identification:
+      if (sameWord(word.text, "PROGRAM-ID") || sameWord(firstWord(rest), "DIVISION")) {
+        inIdentification_ = true;
+      }
+      return false;
+    case Statement::otherDivision:
+      if (sameWord(firstWord(rest), "DIVISION")) inIdentification_ = false;
+      return false;
+    case Statement::commentEntry:
+      if (inIdentification_) takeCommentEntry(frame);
+      return false;
+    case Statement::none:
+      break;
+  }
+  return false;
+}
+
+void CopyExpander::takeCommentEntry(Frame& frame) {
+  TextWord next;
+  frame.readOwn(next);
+  if (next.kind == TextWord::Kind::period) {
+    frame.scanner.skipRestOfLine();
+    frame.scanner.skipLinesUntil(endsCommentEntry);
+  }
+  frame.pushBack(next);
+}
+
+bool CopyExpander::takeCopy(Frame& frame, const TextWord& word) {
+  const SourcePlace place = word.place;
+  TextWord name;
+  frame.readOwn(name);
+  if (!isName(name)) {
+    if (name.kind != TextWord::Kind::mark) {
+      report_.add(SourceRule::copySyntax, place, "COPY names no copybook");
+    }
+    frame.pushBack(name);
+    return false;
+  }
+  std::string library;
+  TextWord next;
+  frame.readOwn(next);
+  if (next.isRun("OF") || next.isRun("IN")) {
+    frame.readOwn(next);
+    if (isName(next)) {
+      library = nameOf(next);
+      frame.readOwn(next);
+    } else {
+      report_.add(SourceRule::copySyntax, next.place, "COPY names no library behind OF");
+    }
+  }
+  if (next.isRun("SUPPRESS")) {
+    frame.readOwn(next);
+    if (next.isRun("PRINTING")) frame.readOwn(next);
+  }
+  Replacements replacements;
+  if (next.isRun("REPLACING")) {
+    frame.readOwn(next);
+    replacements = readReplacements(frame.scanner, next, place, report_);
+  } else if (next.kind != TextWord::Kind::period) {
+    report_.add(SourceRule::copyPeriod, place, "COPY " + nameOf(name) + " ends without a period",
+                "write a period behind it");
+    frame.pushBack(next);
+  }
+  include(name, library, place, std::move(replacements), false);
+  return true;
+}
+
+// "++INCLUDE NAME" and "-INC NAME", as library systems have them.
+void CopyExpander::takeInclude(Frame& frame, const TextWord& word) {
+  const SourcePlace place = word.place;
+  if (frame.scanner.restOfLine().empty()) {
+    report_.add(SourceRule::copySyntax, place, std::string(word.text) + " names no copybook");
+    return;
+  }
+  TextWord name;
+  frame.readOwn(name);
+  frame.scanner.skipRestOfLine();
+  if (isName(name)) {
+    include(name, "", place, {}, false);
+  } else {
+    report_.add(SourceRule::copySyntax, place, "a name is wanting");
+  }
+}
+
+void CopyExpander::skipPeriod(Frame& frame) {
+  TextWord next;
+  frame.readOwn(next);
+  // Within a sentence the period is that of the sentence.
+  if (next.kind != TextWord::Kind::period || sentenceOpen_) frame.pushBack(next);
+}
+
+bool CopyExpander::takeExec(Frame& frame, const TextWord& word) {
+  const SourcePlace place = word.place;
+  frame.scanner.setLenient(true);
+  TextWord kind;
+  frame.readOwn(kind);
+  TextWord next = kind;
+  std::optional<TextWord> included;
+  std::size_t number = 0;
+  bool isInclude = false;
+  while (next.kind != TextWord::Kind::end && !next.isRun("END-EXEC")) {
+    if (number == 1) isInclude = kind.isRun("SQL") && next.isRun("INCLUDE");
+    if (number == 2 && isInclude && isName(next)) included = next;
+    number++;
+    frame.readOwn(next);
+  }
+  frame.scanner.setLenient(false);
+  if (next.kind == TextWord::Kind::end) {
+    report_.add(SourceRule::unterminatedText, place, "the EXEC statement does not end",
+                "end it with END-EXEC");
+    return true;
+  }
+  skipPeriod(frame);
+  if (included) {
+    include(*included, "", place, {}, true);
+  } else {
+    std::string name = kind.kind == TextWord::Kind::run ? std::string(kind.text.substr(0, 8)) : "";
+    std::transform(name.begin(), name.end(), name.begin(), [](char character) {
+      return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A')
+                                                  : character;
+    });
+    constexpr std::size_t most = 20;
+    if (passedExec_.size() < most || passedExec_.count(name) > 0) {
+      Passed& passed = passedExec_[name];
+      if (passed.count++ == 0) passed.first = place;
+    }
+  }
+  return true;
+}
+
+bool CopyExpander::isOpen(const std::string& name) const {
+  return std::any_of(frames_.begin(), frames_.end(),
+                     [&](const auto& frame) { return frame->name == name; });
+}
+
+std::string CopyExpander::chainTo(const std::string& name) const {
+  std::string chain;
+  bool isWithin = false;
+  for (const auto& frame : frames_) {
+    isWithin = isWithin || frame->name == name;
+    if (isWithin) chain += frame->name + " copies ";
+  }
+  return chain + name;
+}
+
+void CopyExpander::include(const TextWord& name, const std::string& library,
+                           const SourcePlace& place, Replacements replacements, bool isSql) {
+  budget_.addInclusion(place);
+  if (budget_.isExhausted()) return;
+  if (frames_.size() > importLimits::nesting) {
+    report_.add(SourceRule::limit, place,
+                "copybooks nest deeper than " + std::to_string(importLimits::nesting) +
+                    "; this one is not read");
+    return;
+  }
+  const std::string text = nameOf(name);
+  const bool canBeFile = text.size() <= importLimits::copybookName &&
+                         library.size() <= importLimits::copybookName && !text.empty() &&
+                         text.find('\0') == std::string::npos &&
+                         library.find('\0') == std::string::npos;
+  CopybookLibrary::Entry* const entry = canBeFile ? library_.find(text, library) : nullptr;
+  if (entry == nullptr) {
+    if (isSql && isAny(text, {"SQLCA", "SQLDA"})) {
+      report_.add(SourceRule::systemCopybook, place,
+                  text + " is the precompiler's own and is passed over");
+      return;
+    }
+    report_.add(SourceRule::copybookMissing, place,
+                "the copybook " + quoted(text) +
+                    (library.empty() ? "" : " of the library " + quoted(library)) +
+                    " was not found",
+                "name its folder");
+    return;
+  }
+  if (!entry->error.empty()) {
+    report_.add(SourceRule::copybookUnreadable, place,
+                "the copybook " + quoted(text) + " cannot be read: " + entry->error);
+    return;
+  }
+  if (isOpen(entry->name)) {
+    report_.add(SourceRule::copybookCycle, place,
+                "the copybook copies itself: " + chainTo(entry->name));
+    return;
+  }
+  budget_.addText(entry->isDecoded ? entry->text.text.size() : entry->bytes.size(), place);
+  if (budget_.isExhausted()) return;
+  const std::int32_t file = map_.add(entry->name, place);
+  if (!entry->isDecoded) {
+    entry->text = decodeSource(std::exchange(entry->bytes, {}), options_.encoding, file, report_);
+    entry->isDecoded = true;
+  }
+  const SourceFormat format =
+      options_.format != SourceFormat::recognised
+          ? options_.format
+          : recognisedFormat(entry->text.text, frames_.back()->lines.format());
+  push(entry->text, format, entry->name, file, std::move(replacements));
+}
+
+}  // namespace as::toolkit

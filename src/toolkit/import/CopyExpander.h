@@ -1,0 +1,104 @@
+// The words of a source with those of its copybooks in the places where it copies them, and without
+// statements that are not for the reader of entries.
+#ifndef TOOLKIT_IMPORT_COPYEXPANDER_H_
+#define TOOLKIT_IMPORT_COPYEXPANDER_H_
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "toolkit/import/CopybookLibrary.h"
+#include "toolkit/import/Directives.h"
+#include "toolkit/import/ImportBudget.h"
+#include "toolkit/import/Replacement.h"
+#include "toolkit/import/Replacer.h"
+#include "toolkit/import/SourceLines.h"
+#include "toolkit/import/SourceReader.h"
+#include "toolkit/import/TextArena.h"
+#include "toolkit/import/WordScanner.h"
+
+namespace as::toolkit {
+
+// COPY, EXEC SQL INCLUDE, "++INCLUDE" and "-INC" name copybooks. What REPLACING says of a copybook
+// holds for the ones that it copies, too, behind what their own says. Passed over are other EXEC
+// statements, EJECT, SKIP1 to SKIP3, TITLE, BASIS with its INSERT and DELETE, and what stands in
+// paragraphs that are comments, AUTHOR for one.
+class CopyExpander : public TextWordSource {
+ public:
+  // All must outlive it.
+  CopyExpander(const SourceOptions& options, CopybookProvider* copybooks, SourceMap& map,
+               TextArena& arena, ImportBudget& budget, SourceReport& report);
+  ~CopyExpander() override;
+
+  // The source to begin with. Throws std::invalid_argument for an encoding that is not known.
+  void open(std::string bytes, const std::string& name);
+
+  void read(TextWord& word) override { readFrame(0, word); }
+
+  // Lines for debugging are code from here on.
+  void setDebugging();
+
+  // Tells what is to be told when all is read.
+  void finish();
+
+ private:
+  class Frame;
+
+  // What may come in the place of a word; all but `none` are looked at closer.
+  enum class Statement {
+    none,
+    copy,
+    exec,
+    eject,
+    title,
+    basis,
+    insert,
+    include,
+    identification,
+    otherDivision,
+    commentEntry,
+  };
+
+  void readFrame(std::size_t depth, TextWord& word);
+  void readRaw(std::size_t depth, TextWord& word);
+  static Statement statementOf(const TextWord& word);
+  bool takeStatement(Frame& frame, Statement statement, const TextWord& word);
+  bool takeCopy(Frame& frame, const TextWord& word);
+  bool takeExec(Frame& frame, const TextWord& word);
+  void takeInclude(Frame& frame, const TextWord& word);
+  void takeCommentEntry(Frame& frame);
+  void skipPeriod(Frame& frame);
+  void include(const TextWord& name, const std::string& library, const SourcePlace& place,
+               Replacements replacements, bool isSql);
+  void push(const SourceText& text, SourceFormat format, const std::string& name, std::int32_t file,
+            Replacements replacements);
+  bool isOpen(const std::string& name) const;
+  std::string chainTo(const std::string& name) const;
+
+  const SourceOptions& options_;
+  SourceMap& map_;
+  TextArena& arena_;
+  ImportBudget& budget_;
+  SourceReport& report_;
+  Directives directives_;
+  CopybookLibrary library_;
+  SourceText text_;
+  std::vector<std::unique_ptr<Frame>> frames_;
+  bool debugging_ = false;
+  bool inIdentification_ = false;
+  bool basisSeen_ = false;
+  bool sentenceOpen_ = false;  // The last word was none that ends a sentence.
+
+  struct Passed {
+    SourcePlace first;
+    std::size_t count = 0;
+  };
+  std::map<std::string, Passed> passedExec_;
+};
+
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_IMPORT_COPYEXPANDER_H_

@@ -1,0 +1,129 @@
+#include "toolkit/import/FormatRecognition.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "toolkit/import/Characters.h"
+#include "toolkit/import/SourceLines.h"
+#include "toolkit/import/Token.h"
+
+namespace as::toolkit {
+
+namespace {
+
+// What is looked at: enough for any source whose head is a long comment.
+constexpr std::size_t mostLines = 4000;
+constexpr std::size_t columnsLookedAt = 16;
+constexpr std::size_t indicator = 6;
+
+// Words that begin a line and leave room in front of column 7 for more than themselves; longer ones
+// stand in column 7, where they show by themselves.
+constexpr std::array<std::string_view, 40> starters = {
+    "ID",     "DATA",   "FD",       "SD",      "RD",      "COPY",    "MOVE",  "IF",
+    "ELSE",   "EXEC",   "CALL",     "SET",     "ADD",     "GO",      "STOP",  "EXIT",
+    "OPEN",   "READ",   "CLOSE",    "WRITE",   "SORT",    "WHEN",    "END",   "FILE",
+    "USE",    "NEXT",   "PERFORM",  "GOBACK",  "RETURN",  "DISPLAY", "CBL",   "SELECT",
+    "AUTHOR", "ASSIGN", "EVALUATE", "COMPUTE", "REPLACE", "MERGE",   "START", "END-IF"};
+
+// The first columns of a line, tabs expanded, each character as one byte.
+std::string columnsOf(std::string_view line) {
+  std::string columns;
+  for (std::size_t i = 0; i < line.size() && columns.size() < columnsLookedAt; i++) {
+    if (line[i] == '\t') {
+      columns.append(tabWidth - columns.size() % tabWidth, ' ');
+    } else if (!isWithinCharacter(line[i])) {
+      columns += isBlank(line[i]) ? ' ' : line[i];
+    }
+  }
+  return columns;
+}
+
+bool isLevel(std::string_view word) {
+  return word.size() <= 2 && std::all_of(word.begin(), word.end(), isDigit);
+}
+
+bool isStarter(std::string_view word) {
+  return std::any_of(starters.begin(), starters.end(),
+                     [&](std::string_view starter) { return sameWord(starter, word); });
+}
+
+bool isAll(std::string_view text, bool (*is)(char)) {
+  return std::all_of(text.begin(), text.end(), is);
+}
+
+// Above 0: fixed format; below: free.
+int voteOf(std::string_view line) {
+  const std::string columns = columnsOf(line);
+  const std::string_view text = trimmed(columns);
+  if (text.empty()) return 0;
+  const std::size_t start = columns.find_first_not_of(' ');
+  const std::string_view sequence = std::string_view(columns).substr(0, indicator);
+  if (columns.size() <= indicator) {
+    // Sequence numbers of lines that are empty are as long as they can be.
+    if (text.substr(0, 2) == "*>" || isStarter(text)) return -1;
+    return columns.size() == indicator && isAll(sequence, isDigit) ? 1 : 0;
+  }
+  const char mark = columns[indicator];
+  if (start >= indicator) {
+    const bool isComment = mark == '*' && columns.substr(indicator, 2) != "*>";
+    if (isComment || mark == '/') return 2;
+    if (mark == '-') return 1;
+    return start > indicator || mark == '*' || mark == '$' || mark == '>' || mark == 'D' ||
+                   mark == 'd'
+               ? 0
+               : -1;
+  }
+  if (text.substr(0, 2) == "*>") return -2;
+  if (text.substr(0, 2) == ">>" || text.front() == '$') return 0;
+  const bool isIndicator = mark == ' ' || mark == '*' || mark == '/' || mark == '-' ||
+                           mark == 'D' || mark == 'd' || mark == '$';
+  if (!isIndicator) return start == 0 && isAll(sequence, isDigit) ? 0 : -2;
+  if (isAll(sequence, isDigit)) return 2;
+  // "01  NAME", "MOVE A TO B" against "AB1234" and "  0100".
+  const std::string_view behind = std::string_view(columns).substr(start);
+  const std::string_view word = behind.substr(0, behind.find(' '));
+  const bool hasMore = start + word.size() < columns.find_last_not_of(' ');
+  if (isStarter(word) || (isLevel(word) && hasMore && word.size() + start < indicator - 1)) {
+    return -2;
+  }
+  if (mark == '*' || mark == '/') return 1;
+  // A word across the border: "PROGRAM-ID", "WORKING-STORAGE".
+  if (mark == '-' || mark == 'D' || mark == 'd') {
+    return isWordCharacter(columns[indicator - 1]) && columns.size() > indicator + 1 &&
+                   isWordCharacter(columns[indicator + 1])
+               ? -1
+               : 1;
+  }
+  return 0;
+}
+
+bool setsFormat(std::string_view line) {
+  const std::string_view text = trimmed(line);
+  if (text.substr(0, 2) != ">>" && text.find('$') == std::string_view::npos) return false;
+  const std::size_t mark = text.substr(0, 2) == ">>" ? 0 : text.find('$');
+  std::string folded(text.substr(mark, 80));
+  std::transform(folded.begin(), folded.end(), folded.begin(), [](char character) {
+    return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A')
+                                                : character;
+  });
+  return (folded.front() == '>' || isDollarDirective(folded)) &&
+         (folded.find("SOURCE") != std::string::npos);
+}
+
+}  // namespace
+
+SourceFormat recognisedFormat(std::string_view text, SourceFormat otherwise) {
+  int votes = 0;
+  for (std::size_t lines = 0; lines < mostLines && !text.empty(); lines++) {
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    const std::string_view line = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    if (setsFormat(line)) break;
+    votes += voteOf(line);
+  }
+  if (votes == 0) return otherwise;
+  return votes > 0 ? SourceFormat::fixed : SourceFormat::free;
+}
+
+}  // namespace as::toolkit

@@ -1,0 +1,64 @@
+#include "toolkit/import/SourceReader.h"
+
+#include <utility>
+
+#include "toolkit/import/CopyExpander.h"
+#include "toolkit/import/ImportBudget.h"
+#include "toolkit/import/ReplaceStage.h"
+#include "toolkit/import/SourceReport.h"
+#include "toolkit/import/TextArena.h"
+#include "toolkit/import/TokenReader.h"
+
+namespace as::toolkit {
+
+class SourceReader::Impl {
+ public:
+  Impl(std::string bytes, const std::string& name, SourceOptions options,
+       CopybookProvider* copybooks, SourceMap& map, Findings& findings)
+      : options_(std::move(options)),
+        report_(findings, map),
+        budget_(report_),
+        expander_(options_, copybooks, map, arena_, budget_, report_),
+        replaced_(expander_, arena_, budget_, report_),
+        tokens_(replaced_, arena_) {
+    expander_.open(std::move(bytes), name);
+  }
+
+  void read(Token& token) {
+    tokens_.read(token);
+    if (tokens_.hasDebuggingMode() && !debugging_) {
+      debugging_ = true;
+      expander_.setDebugging();
+    }
+    if (token.kind == TokenKind::end && !finished_) {
+      finished_ = true;
+      expander_.finish();
+      report_.finish();
+    }
+  }
+
+  bool decimalPointIsComma() const { return tokens_.decimalPointIsComma(); }
+
+ private:
+  const SourceOptions options_;
+  TextArena arena_;
+  SourceReport report_;
+  ImportBudget budget_;
+  CopyExpander expander_;
+  ReplaceStage replaced_;
+  TokenReader tokens_;
+  bool debugging_ = false;
+  bool finished_ = false;
+};
+
+SourceReader::SourceReader(std::string bytes, const std::string& name, const SourceOptions& options,
+                           CopybookProvider* copybooks, SourceMap& map, Findings& findings)
+    : impl_(std::make_unique<Impl>(std::move(bytes), name, options, copybooks, map, findings)) {}
+
+SourceReader::~SourceReader() = default;
+
+void SourceReader::read(Token& token) { impl_->read(token); }
+
+bool SourceReader::decimalPointIsComma() const { return impl_->decimalPointIsComma(); }
+
+}  // namespace as::toolkit

@@ -1,0 +1,49 @@
+// Makes words, numbers, literals and pictures of text words.
+#ifndef TOOLKIT_IMPORT_TOKENREADER_H_
+#define TOOLKIT_IMPORT_TOKENREADER_H_
+
+#include <string_view>
+
+#include "toolkit/import/GluedWords.h"
+#include "toolkit/import/TextArena.h"
+#include "toolkit/import/TextWord.h"
+#include "toolkit/import/Token.h"
+
+namespace as::toolkit {
+
+class TokenReader : public TokenSource {
+ public:
+  // Both must outlive it.
+  TokenReader(TextWordSource& source, TextArena& arena) : words_(source, arena) {}
+
+  void read(Token& token) override;
+
+  // Whether these were read.
+  bool decimalPointIsComma() const { return decimalPointIsComma_; }
+  bool hasDebuggingMode() const { return hasDebuggingMode_; }
+
+ private:
+  void readLiteral(Token& token) const;
+  void readMark(Token& token);
+  void readPicture(Token& token);
+  bool readPart(Token& token);
+  void readWord(Token& token, std::string_view text);
+  std::size_t numberSize(std::string_view text) const;
+  bool isPicture() const;
+
+  GluedWords words_;
+  TextWord word_;
+  // What is left of a run that is several words.
+  std::string_view rest_;
+  SourcePlace restPlace_;
+  // What the words in front of the next one say of it.
+  enum class Before : std::uint8_t { nothing, picture, decimalPoint, debugging };
+  Before before_ = Before::nothing;
+  int periodsInSourceComputer_ = 0;
+  bool decimalPointIsComma_ = false;
+  bool hasDebuggingMode_ = false;
+};
+
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_IMPORT_TOKENREADER_H_
