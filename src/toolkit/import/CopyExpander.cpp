@@ -36,6 +36,12 @@ bool endsCommentEntry(const SourceLine& line) {
          sameWord(firstWord(rest), "DIVISION");
 }
 
+// Whether a copybook comes with a precompiler, with CICS or with MQ: such are rarely at hand where
+// sources are imported, and programs seldom hand on what is in them.
+bool isOfSystem(std::string_view name) {
+  return isAny(name, {"SQLCA", "SQLDA"}) || isAny(name.substr(0, 3), {"DFH", "CMQ"});
+}
+
 std::string nameOf(const TextWord& word) {
   return std::string(word.kind == TextWord::Kind::literal ? partsOf(word).content : word.text);
 }
@@ -248,22 +254,22 @@ bool CopyExpander::takeStatement(Frame& frame, Statement statement, const TextWo
       if (sameWord(firstWord(rest), "DIVISION")) inIdentification_ = false;
       return false;
     case Statement::commentEntry:
-      if (inIdentification_) takeCommentEntry(frame);
-      return false;
+      return inIdentification_ && takeCommentEntry(frame);
     case Statement::none:
       break;
   }
   return false;
 }
 
-void CopyExpander::takeCommentEntry(Frame& frame) {
+bool CopyExpander::takeCommentEntry(Frame& frame) {
   TextWord next;
   frame.readOwn(next);
-  if (next.kind == TextWord::Kind::period) {
-    frame.scanner.skipRestOfLine();
-    frame.scanner.skipLinesUntil(endsCommentEntry);
+  if (next.kind != TextWord::Kind::period) {
+    frame.pushBack(next);
+    return false;
   }
-  frame.pushBack(next);
+  frame.scanner.skipLinesUntil(endsCommentEntry);
+  return true;
 }
 
 bool CopyExpander::takeCopy(Frame& frame, const TextWord& word) {
@@ -302,7 +308,7 @@ bool CopyExpander::takeCopy(Frame& frame, const TextWord& word) {
                 "write a period behind it");
     frame.pushBack(next);
   }
-  include(name, library, place, std::move(replacements), false);
+  include(name, library, place, std::move(replacements));
   return true;
 }
 
@@ -317,7 +323,7 @@ void CopyExpander::takeInclude(Frame& frame, const TextWord& word) {
   frame.readOwn(name);
   frame.scanner.skipRestOfLine();
   if (isName(name)) {
-    include(name, "", place, {}, false);
+    include(name, "", place, {});
   } else {
     report_.add(SourceRule::copySyntax, place, "a name is wanting");
   }
@@ -353,7 +359,7 @@ bool CopyExpander::takeExec(Frame& frame, const TextWord& word) {
   }
   skipPeriod(frame);
   if (included) {
-    include(*included, "", place, {}, true);
+    include(*included, "", place, {});
   } else {
     std::string name = kind.kind == TextWord::Kind::run ? std::string(kind.text.substr(0, 8)) : "";
     std::transform(name.begin(), name.end(), name.begin(), [](char character) {
@@ -385,7 +391,7 @@ std::string CopyExpander::chainTo(const std::string& name) const {
 }
 
 void CopyExpander::include(const TextWord& name, const std::string& library,
-                           const SourcePlace& place, Replacements replacements, bool isSql) {
+                           const SourcePlace& place, Replacements replacements) {
   budget_.addInclusion(place);
   if (budget_.isExhausted()) return;
   if (frames_.size() > importLimits::nesting) {
@@ -401,9 +407,11 @@ void CopyExpander::include(const TextWord& name, const std::string& library,
                          library.find('\0') == std::string::npos;
   CopybookLibrary::Entry* const entry = canBeFile ? library_.find(text, library) : nullptr;
   if (entry == nullptr) {
-    if (isSql && isAny(text, {"SQLCA", "SQLDA"})) {
-      report_.add(SourceRule::systemCopybook, place,
-                  text + " is the precompiler's own and is passed over");
+    if (isOfSystem(text)) {
+      report_.add(
+          SourceRule::systemCopybook, place,
+          "the copybook " + text + " comes with the system; it was not found and is passed over",
+          "");
       return;
     }
     report_.add(SourceRule::copybookMissing, place,

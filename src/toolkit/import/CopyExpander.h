@@ -69,10 +69,10 @@ class CopyExpander : public TextWordSource {
   bool takeCopy(Frame& frame, const TextWord& word);
   bool takeExec(Frame& frame, const TextWord& word);
   void takeInclude(Frame& frame, const TextWord& word);
-  void takeCommentEntry(Frame& frame);
+  bool takeCommentEntry(Frame& frame);
   void skipPeriod(Frame& frame);
   void include(const TextWord& name, const std::string& library, const SourcePlace& place,
-               Replacements replacements, bool isSql);
+               Replacements replacements);
   void push(const SourceText& text, SourceFormat format, const std::string& name, std::int32_t file,
             Replacements replacements);
   bool isOpen(const std::string& name) const;

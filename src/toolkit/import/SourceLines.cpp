@@ -32,6 +32,12 @@ std::string_view withoutBlanksBehind(std::string_view text) {
   return text.substr(0, size);
 }
 
+// A line with options for a compiler.
+bool isOptionCard(std::string_view text) {
+  return beginsWord(text, "CBL") || beginsWord(text, "PROCESS") ||
+         (text.size() > 1 && text.front() == '@');
+}
+
 bool isAsciiWithoutTabs(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char character) {
     return static_cast<unsigned char>(character) < 0x80 && character != '\t';
@@ -96,8 +102,7 @@ void SourceLines::setText(Laid& laid, std::string_view code, std::int32_t column
 // A directive that begins in front of the code, or a line that was never meant for the compiler.
 bool SourceLines::layOddStart(std::string_view line, Laid& laid) {
   const std::string_view text = withoutBlanksInFront(line);
-  const bool isCard = !codeSeen_ && (beginsWord(text, "CBL") || beginsWord(text, "PROCESS") ||
-                                     (text.size() > 1 && text.front() == '@'));
+  const bool isCard = !codeSeen_ && isOptionCard(text);
   const bool isDirective = isCard || text.substr(0, 2) == ">>" || isDollarDirective(text);
   const bool isInclude = beginsWord(line, "-INC");
   if (!isDirective && !isInclude) return false;
@@ -208,7 +213,10 @@ void SourceLines::layColumns(std::string_view line, Laid& laid) {
     return;
   }
   laid.areaA = laid.column <= lastColumnOfAreaA;
-  if (laid.text.substr(0, 2) == ">>" || isDollarDirective(laid.text)) laid.kind = Kind::directive;
+  if (laid.text.substr(0, 2) == ">>" || isDollarDirective(laid.text) ||
+      (!codeSeen_ && isOptionCard(laid.text))) {
+    laid.kind = Kind::directive;
+  }
 }
 
 void SourceLines::layFree(std::string_view line, Laid& laid) {

@@ -1,0 +1,192 @@
+// Tests of COPY and of the other statements that name copybooks.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "toolkit/import/ImportLimits.h"
+#include "toolkit_unit/ReadSource.h"
+#include "toolkit_unit/ReadingRowTest.h"
+
+namespace {
+
+using as::toolkit::SourceFormat;
+using test::ReadingRow;
+using testing::HasSubstr;
+
+const ReadingRow rows[] = {
+    {"Copy", {"A.\nCOPY B.\nC.\n", {{"B", "D. E."}}}, "A . D . E . C ."},
+    {"CopyWithinAnEntry", {"01 A copy B. C.\n", {{"B", "PIC X"}}}, "01 A PIC <X> C ."},
+    {"TwiceOnALine", {"COPY B. COPY B. C", {{"B", "D"}}}, "D D C"},
+    {"QuotedName", {"COPY \"b.cpy\". COPY 'c d'.", {{"b.cpy", "D"}, {"c d", "E"}}}, "D E"},
+    {"NameWithAPath", {"COPY x/b.cpy. A", {{"x/b.cpy", "D"}}}, "D A"},
+    {"Library", {"COPY B OF L. COPY B IN \"M\".", {{"L/B", "D"}, {"M/B", "E"}}}, "D E"},
+    {"Suppress", {"COPY B SUPPRESS. COPY B SUPPRESS PRINTING. A", {{"B", "D"}}}, "D D A"},
+    {"WithoutAPeriod", {"COPY B\n05 C.", {{"B", "D."}}}, "D . 05 C .", "copy-period main:1:1"},
+    {"WithoutAPeriodAtTheEnd", {"COPY B", {{"B", "D."}}}, "D .", "copy-period main:1:1"},
+    {"Nested", {"A COPY B. C", {{"B", "D COPY E. F"}, {"E", "G"}}}, "A D G F C"},
+    {"Missing", {"A COPY B. C", {}}, "A C", "copybook-not-found main:1:3"},
+    {"MissingInACopybook",
+     {"A COPY B. C", {{"B", "\n COPY D OF E."}}},
+     "A C",
+     "copybook-not-found B:2:2, copied at main:1:3"},
+    {"Unreadable", {"COPY unreadable. A"}, "A", "copybook-unreadable main:1:1"},
+    {"CopiesItself",
+     {"COPY B. A", {{"B", "C COPY B. D"}}},
+     "C D A",
+     "copybook-cycle B:1:3, copied at main:1:1"},
+    {"CopiesItselfByOthers",
+     {"COPY B. A", {{"B", "COPY C."}, {"C", "COPY B."}}},
+     "A",
+     "copybook-cycle C:1:1, copied at B:1:1, copied at main:1:1"},
+    {"NoName", {"COPY. A"}, "COPY . A", "copy-syntax main:1:1"},
+    {"NoLibrary", {"COPY B OF . A", {{"B", "D"}}}, "D A", "copy-syntax main:1:11"},
+    {"EmptyName", {"COPY \"\". A"}, "A", "copybook-not-found main:1:1"},
+    {"NameWithAZeroByte",
+     {std::string("COPY \"B\0\". A", 12), {{"B", "D"}}},
+     "A",
+     "control-character main:1:8\ncopybook-not-found main:1:1"},
+    {"LongName",
+     {"COPY " + std::string(2000, 'B') + ". A", {{std::string(2000, 'B'), "D"}}},
+     "A",
+     "copybook-not-found main:1:1"},
+    {"NoStatement", {"A-COPY COPY-A \"COPY B\" *> COPY B.\n"}, "A-COPY COPY-A \"COPY B\""},
+    {"FormatOfItsOwn",
+     {"       COPY B.\n      * x\n       A\n",
+      {{"B", "01 C.\n*> x\n05 D PIC X.\n"}},
+      SourceFormat::recognised},
+     "01 C . 05 D PIC <X> . A"},
+    {"FixedInFree",
+     {"COPY B.\n*> x\nMOVE A\n", {{"B", "      * x\n000100 C.\n"}}, SourceFormat::recognised},
+     "C . MOVE A"},
+    {"FormatOfTheSourceWhenItHasNone",
+     {">>SOURCE FREE\nCOPY B.\n",
+      {{"B", "        A" + std::string(70, ' ') + "B\n"}},
+      SourceFormat::recognised},
+     "A B"},
+    {"EncodingOfItsOwn",
+     {"\xC3\xA4 COPY B.", {{"B", "\xE4"}}},
+     "\xC3\xA4 \xC3\xA4",
+     "source-encoding B, copied at main:1:3"},
+    {"LiteralThatDoesNotEnd",
+     {"COPY B. A", {{"B", "\"b"}}},
+     "\"b\" A",
+     "unterminated-literal B:1:1, copied at main:1:1"},
+    {"DebuggingModeHoldsInCopybooks",
+     {"SOURCE-COMPUTER. X DEBUGGING MODE.\nCOPY B.", {{"B", ">>D A\n"}}},
+     "SOURCE-COMPUTER . X DEBUGGING MODE . A"},
+    {"PanvaletInclude", {"++INCLUDE B\nA", {{"B", "D"}}}, "D A"},
+    {"PanvaletIncludeOfNothing", {"++INCLUDE\nA"}, "A", "copy-syntax main:1:1"},
+
+    {"Exec", {"A. EXEC SQL SELECT 'x' FROM Y END-EXEC. B."}, "A . B .", "exec-statement main:1:4"},
+    {"ExecWithinASentence",
+     {"IF A EXEC CICS RETURN END-EXEC. B"},
+     "IF A . B",
+     "exec-statement main:1:6"},
+    {"ExecWithoutAPeriod", {"A. EXECUTE SQL X END-EXEC B"}, "A . B", "exec-statement main:1:4"},
+    {"ExecWithAnApostrophe",
+     {"EXEC SQL -- don't\n X END-EXEC. A\n"},
+     "A",
+     "exec-statement main:1:1"},
+    {"ExecsOfAKindAreToldOnce",
+     {"EXEC SQL X END-EXEC. EXEC sql Y END-EXEC. EXEC CICS Z END-EXEC."},
+     "",
+     "exec-statement main:1:43\nexec-statement main:1:1"},
+    {"ExecThatDoesNotEnd", {"A. EXEC SQL X.\nB.\n"}, "A .", "unterminated-text main:1:4"},
+    {"DeclareSection",
+     {"EXEC SQL BEGIN DECLARE SECTION END-EXEC.\n01 A.\nEXEC SQL END DECLARE SECTION END-EXEC.\n"},
+     "01 A .",
+     "exec-statement main:1:1"},
+    {"SqlInclude", {"A. EXEC SQL INCLUDE B END-EXEC. C", {{"B", "D"}}}, "A . D C"},
+    {"SqlIncludeInQuotes", {"EXEC SQL\n INCLUDE 'B'\nEND-EXEC\nC", {{"B", "D"}}}, "D C"},
+    {"SqlIncludeMissing", {"EXEC SQL INCLUDE B END-EXEC."}, "", "copybook-not-found main:1:1"},
+    {"SqlIncludeOfTheSystem", {"EXEC SQL INCLUDE sqlca END-EXEC."}, "", "system-copybook main:1:1"},
+    {"CopybooksOfTheSystem",
+     {"COPY DFHAID. COPY CMQV. COPY DFX."},
+     "",
+     "system-copybook main:1:1\nsystem-copybook main:1:14\ncopybook-not-found main:1:25"},
+    {"CopybooksOfTheSystemThatAreFound", {"COPY DFHAID.", {{"DFHAID", "A"}}}, "A"},
+};
+AS_READING_ROWS(Copies, rows);
+
+TEST(Copy, TellsTheChainOfACopybookThatCopiesItself) {
+  EXPECT_EQ(test::readingOf({"COPY B.", {{"B", "COPY C."}, {"C", "COPY B."}}}).texts,
+            "error: C:1:1, copied at B:1:1, copied at main:1:1: the copybook copies itself: "
+            "B copies C copies B\n");
+}
+
+TEST(Copy, TellsWhatIsMissing) {
+  EXPECT_EQ(
+      test::readingOf({"COPY B OF L."}).texts,
+      "error: main:1:1: the copybook \"B\" of the library \"L\" was not found; name its folder\n");
+  EXPECT_EQ(test::readingOf({"COPY unreadable."}).texts,
+            "error: main:1:1: the copybook \"unreadable\" cannot be read: it is locked\n");
+}
+
+TEST(Copy, PlacesAreThoseOfTheCopybook) {
+  EXPECT_EQ(test::readingOf({"COPY B.\nCOPY B.", {{"B", "\n A"}}}, true).words,
+            "A at B:2:2, copied at main:1:1; A at B:2:2, copied at main:2:1;");
+}
+
+TEST(Copy, AsksOnceForAName) {
+  test::MemoryCopybooks copybooks(std::map<std::string, std::string>{{"B", "A"}});
+  as::toolkit::SourceMap map;
+  as::toolkit::Findings findings;
+  as::toolkit::SourceReader reader("COPY B. COPY B. COPY C. COPY C.", "main", {}, &copybooks, map,
+                                   findings);
+  while (reader.next().kind != as::toolkit::TokenKind::end) {
+  }
+  EXPECT_EQ(copybooks.asked, 2);
+}
+
+TEST(Copy, NeedsNoCopybooks) {
+  as::toolkit::SourceMap map;
+  as::toolkit::Findings findings;
+  as::toolkit::SourceReader reader("COPY B. A", "main", {}, nullptr, map, findings);
+  EXPECT_EQ(reader.next().text, "A");
+  EXPECT_EQ(findings.size(), 1u);
+}
+
+// Copybooks B0 to Bn, each of which copies the next one so many times.
+std::map<std::string, std::string> chain(std::size_t length, std::size_t times) {
+  std::map<std::string, std::string> copybooks;
+  for (std::size_t i = 0; i < length; i++) {
+    std::string text;
+    for (std::size_t k = 0; k < times; k++) text += "COPY B" + std::to_string(i + 1) + ". ";
+    copybooks["B" + std::to_string(i)] = text;
+  }
+  copybooks["B" + std::to_string(length)] = "A ";
+  return copybooks;
+}
+
+TEST(CopyLimits, NestingIsBounded) {
+  const std::size_t most = as::toolkit::importLimits::nesting;
+  EXPECT_EQ(test::readingOf({"COPY B0.", chain(most - 1, 1)}).words, "A");
+  const test::Reading beyond = test::readingOf({"COPY B0. C", chain(most, 1)});
+  EXPECT_EQ(beyond.words, "C");
+  EXPECT_THAT(beyond.texts, HasSubstr("copybooks nest deeper than 100"));
+}
+
+TEST(CopyLimits, InclusionsAreBounded) {
+  const test::Reading reading = test::readingOf({"COPY B0. C", chain(15, 2)});
+  EXPECT_THAT(reading.texts, HasSubstr("the source comes to more than 10000 copybooks"));
+}
+
+TEST(CopyLimits, TextIsBounded) {
+  const std::string megabyte(1048576, ' ');
+  std::map<std::string, std::string> copybooks = chain(7, 2);
+  copybooks["B7"] = megabyte;
+  EXPECT_THAT(test::readingOf({"COPY B0. C", copybooks}).texts,
+              HasSubstr("the source comes to more than 67108864 bytes of copybooks"));
+}
+
+TEST(CopyLimits, FindingsOfARuleAreBounded) {
+  std::string text;
+  for (int i = 0; i < 1010; i++) text += "\"a\n";
+  const test::Reading reading = test::readingOf({text});
+  EXPECT_THAT(
+      reading.texts,
+      testing::EndsWith("note: main: 10 findings more of the rule \"unterminated-literal\"\n"));
+}
+
+}  // namespace

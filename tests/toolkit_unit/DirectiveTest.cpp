@@ -1,0 +1,187 @@
+// Tests of compiler directives: conditions, definitions, formats, options.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "toolkit_unit/ReadSource.h"
+#include "toolkit_unit/ReadingRowTest.h"
+
+namespace {
+
+using as::toolkit::SourceFormat;
+using test::ReadingRow;
+
+// A when the condition is true, B otherwise.
+ReadingRow condition(const char* name, const std::string& text, bool isTrue,
+                     const std::string& findings = "") {
+  return {
+      name,
+      {">>DEFINE FIVE AS 5\n>>DEFINE NAME AS \"ab\"\n>>IF " + text + "\nA\n>>ELSE\nB\n>>END-IF\n"},
+      isTrue ? "A" : "B",
+      findings};
+}
+
+const ReadingRow conditionRows[] = {
+    condition("Defined", "FIVE DEFINED", true),
+    condition("IsDefined", "five IS DEFINED", true),
+    condition("IsSet", "FIVE IS SET", true),
+    condition("NotDefined", "FIVE IS NOT DEFINED", false),
+    condition("UndefinedIsNotDefined", "SIX NOT DEFINED", true),
+    condition("UndefinedIsDefined", "SIX DEFINED", false),
+    condition("Equal", "FIVE = 5", true),
+    condition("EqualTo", "FIVE IS EQUAL TO 5.0", true),
+    condition("NotEqual", "FIVE NOT = 5", false),
+    condition("Unequal", "FIVE <> 6", true),
+    condition("Less", "FIVE < 10", true),
+    condition("LessThan", "FIVE IS LESS THAN 5", false),
+    condition("LessOrEqual", "FIVE LESS THAN OR EQUAL TO 5", true),
+    condition("LessOrEqualByMark", "FIVE <= 4", false),
+    condition("Greater", "FIVE > 4", true),
+    condition("GreaterThan", "FIVE IS GREATER THAN 10", false),
+    condition("GreaterOrEqual", "FIVE GREATER OR EQUAL 6", false),
+    condition("GreaterOrEqualByMark", "FIVE >= +5", true),
+    condition("Text", "NAME = 'ab'", true),
+    condition("OtherText", "NAME EQUAL \"AB\"", false),
+    condition("TextIsGreater", "NAME > \"aa\"", true),
+    condition("NegativeNumbers", "-1 < FIVE", true),
+    condition("And", "FIVE = 5 AND NAME = \"x\"", false),
+    condition("Or", "FIVE = 6 OR NAME = \"ab\"", true),
+    condition("AndBeforeOr", "FIVE = 5 OR FIVE = 5 AND FIVE = 6", true),
+    condition("Parentheses", "(FIVE = 5 OR FIVE = 5) AND FIVE = 6", false),
+    condition("Not", "NOT FIVE = 6", true),
+    condition("NotOfParentheses", "NOT (FIVE = 5 AND FIVE = 6)", true),
+    condition("NotBeforeAnd", "NOT FIVE = 6 AND FIVE = 5", true),
+    condition("Comment", "FIVE = 5 *> x", true),
+    condition("FromOutside", "OUTSIDE = 7", true),
+    condition("Undefined", "SIX = 6", false, "undefined-name main:3:1"),
+    condition("UndefinedIsNot", "SIX NOT = 6", false, "undefined-name main:3:1"),
+    condition("NoComparison", "FIVE", false, "directive-syntax main:3:1"),
+    condition("NoOperand", "FIVE =", false, "directive-syntax main:3:1"),
+    condition("MarkForAnOperand", "= 5", false, "directive-syntax main:3:1"),
+    condition("NoClosingParenthesis", "(FIVE = 5", false, "directive-syntax main:3:1"),
+    condition("NoOpeningParenthesis", "FIVE = 5)", false, "directive-syntax main:3:1"),
+    condition("OrWithoutEqual", "FIVE LESS OR 5", false, "directive-syntax main:3:1"),
+};
+AS_READING_ROWS(Conditions, conditionRows);
+
+const ReadingRow rows[] = {
+    {"Elif",
+     {">>DEFINE A 2\n>>IF A = 1\nX\n>>ELIF A = 2\nY\n>>ELIF A = 2\nZ\n>>ELSE\nW\n>>END-IF\nV"},
+     "Y V"},
+    {"Nested",
+     {">>IF A DEFINED\nX\n>>IF B NOT DEFINED\nY\n>>ELSE\nZ\n>>END-IF\n>>ELIF B = "
+      "1\n>>ELSE\nV\n>>END-IF\n"},
+     "V",
+     "undefined-name main:8:1"},
+    {"NestedInTrue",
+     {">>IF A NOT DEFINED\nX\n>>IF A DEFINED\nY\n>>ELSE\nZ\n>>END-IF\nW\n>>ELSE\nV\n>>END-IF\n"},
+     "X Z W"},
+    {"NothingElseCountsInWhatIsLeftOut",
+     {">>IF A DEFINED\n>>DEFINE B 1\n>>SOURCE FORMAT FIXED\n>>NONSENSE\n\"x\nCOPY "
+      "Y.\n>>END-IF\n>>IF B DEFINED\nZ\n>>END-IF\nV"},
+     "V"},
+    {"ConditionThatDoesNotEnd", {"A\n>>IF B DEFINED\nC\n"}, "A", "directive-syntax main:2:1"},
+    {"ElseWithoutIf",
+     {">>ELSE\nA\n>>END-IF\n>>END-EVALUATE\n>>WHEN 1\nB"},
+     "A B",
+     "directive-syntax main:1:1\ndirective-syntax main:3:1\ndirective-syntax "
+     "main:4:1\ndirective-syntax main:5:1"},
+    {"Evaluate",
+     {">>DEFINE A 2\n>>EVALUATE A\n>>WHEN 1\nX\n>>WHEN 2\nY\n>>WHEN 2\nZ\n>>WHEN "
+      "OTHER\nW\n>>END-EVALUATE\nV"},
+     "Y V"},
+    {"EvaluateOther", {">>EVALUATE 5\n>>WHEN 1\nX\n>>WHEN OTHER\nW\n>>END-EVALUATE\n"}, "W"},
+    {"EvaluateRange",
+     {">>EVALUATE 5\n>>WHEN 1 THRU 4\nX\n>>WHEN 5 THROUGH 7\nW\n>>END-EVALUATE\n"},
+     "W"},
+    {"EvaluateTrue",
+     {">>EVALUATE TRUE\n>>WHEN A DEFINED\nX\n>>WHEN A NOT DEFINED\nW\n>>END-EVALUATE\n"},
+     "W"},
+    {"EvaluateInWhatIsLeftOut",
+     {">>IF A DEFINED\n>>EVALUATE A\n>>WHEN OTHER\nX\n>>END-EVALUATE\n>>END-IF\nV"},
+     "V"},
+    {"EvaluateThatDoesNotEnd", {">>EVALUATE 5\n"}, "", "directive-syntax main:1:1"},
+    {"DefineOff", {">>DEFINE A 1\n>>DEFINE A OFF\n>>IF A DEFINED\nX\n>>END-IF\n"}, ""},
+    {"DefineByAName", {">>DEFINE A 1\n>>DEFINE B AS A\n>>IF B = 1\nX\n>>END-IF\n"}, "X"},
+    {"DefineWithoutAValue", {">>DEFINE A\n>>IF A DEFINED\nX\n>>END-IF\n"}, "X"},
+    {"DefineConstant", {">>DEFINE CONSTANT A 1\n>>IF A = 1\nX\n>>END-IF\n"}, "X"},
+    {"DefineAgain",
+     {">>DEFINE A 1\n>>DEFINE A 1\n>>DEFINE A 2\n>>IF A = 1\nX\n>>END-IF\n"},
+     "X",
+     "directive-syntax main:3:1"},
+    {"DefineOverride", {">>DEFINE A 1\n>>DEFINE A 2 OVERRIDE\n>>IF A = 2\nX\n>>END-IF\n"}, "X"},
+    {"DefineParameter",
+     {">>DEFINE OUTSIDE OFF\n>>DEFINE OUTSIDE AS PARAMETER\n>>DEFINE A PARAMETER\n>>IF OUTSIDE = 7 "
+      "AND A NOT DEFINED\nX\n>>END-IF\n"},
+     "X"},
+    {"DefineOfNothing",
+     {">>DEFINE\n>>DEFINE A 1 + 2\n"},
+     "",
+     "directive-syntax main:1:1\ndirective-syntax main:2:1"},
+    {"DefineTooLong",
+     {">>DEFINE A \"" + std::string(5000, 'x') + "\"\n"},
+     "",
+     "directive-syntax main:1:1"},
+    {"BlankBehindTheMark", {">> IF A DEFINED\nX\n>> END-IF\n"}, ""},
+    {"SourceFormat", {"A\n>>SOURCE FORMAT IS FIXED\n123456 B\n123456 >>SOURCE FREE\nC\n"}, "A B C"},
+    {"SourceFormatInColumn1OfFixed",
+     {">>SOURCE FORMAT IS FREE\nA\n", {}, SourceFormat::fixed},
+     "A"},
+    {"SourceFormatVariable",
+     {">>SOURCE FORMAT IS VARIABLE\n123456 A" + std::string(80, ' ') + "B\n"},
+     "A B"},
+    {"SourceFormatUnknown", {">>SOURCE FORMAT IS ODD\nA"}, "A", "directive-syntax main:1:1"},
+    {"FormatEndsWithTheCopybook", {"COPY B.\nA", {{"B", ">>SOURCE FIXED\n123456 C\n"}}}, "C A"},
+    {"DefinitionsOutliveTheCopybook",
+     {"COPY B.\n>>IF C = 1\nA\n>>END-IF\n", {{"B", ">>DEFINE C 1\n"}}},
+     "A"},
+    {"DollarSetInColumn7", {"      $SET SOURCEFORMAT\"FREE\"\nA\n", {}, SourceFormat::fixed}, "A"},
+    {"DollarSetInParentheses",
+     {"$set ans85 sourceformat(free)\nA\n", {}, SourceFormat::fixed},
+     "A",
+     "compiler-options main:1:1"},
+    {"DollarSetFixed", {"$SET SOURCEFORMAT=FIXED\n123456 A\n"}, "A"},
+    {"DoubleArrowSet", {">>SET SOURCEFORMAT \"FIXED\"\n123456 A\n"}, "A"},
+    {"DollarSetConstant",
+     {"$SET CONSTANT A \"x\" CONSTANT B(2)\n$IF A = \"x\" AND B = 2\nC\n$ELSE\nD\n$END\n"},
+     "C"},
+    {"DollarIfInFixed",
+     {"      $IF A DEFINED\n       B\n      $ELSE\n       C\n      $END-IF\n",
+      {},
+      SourceFormat::fixed},
+     "C"},
+    {"DollarElif", {"$IF A DEFINED\nB\n$ELSE IF A NOT DEFINED\nC\n$END\n"}, "C"},
+    {"DollarOfNoDirective", {"$A B\n"}, "$A B"},
+    {"Cards",
+     {"       CBL LIB,APOST\n000100 PROCESS TEST\n@OPTIONS X\n       A\n       CBL B\n",
+      {},
+      SourceFormat::fixed},
+     "A CBL B",
+     "compiler-options main:1:8\ncompiler-options main:2:8\ncompiler-options main:3:1"},
+    {"CardInColumn1",
+     {"CBL LIB\n       A\n", {}, SourceFormat::fixed},
+     "A",
+     "compiler-options main:1:1"},
+    {"CardsInFree", {"PROCESS LIB\nA\n"}, "A", "compiler-options main:1:1"},
+    {"ListingDirectives", {">>PAGE\n>>LISTING OFF\n>>TURN EC-ALL CHECKING OFF\nA"}, "A"},
+    {"UnknownDirectivesAreToldOnce",
+     {">>ODD 1\n>>odd\n>>ODD 1\n>>EVEN\nA"},
+     "A",
+     "unknown-directive main:1:1\nunknown-directive main:2:1\nunknown-directive main:4:1"},
+    {"EmptyDirective", {">>\nA"}, "A", "unknown-directive main:1:1"},
+};
+AS_READING_ROWS(DirectiveRows, rows);
+
+// No depth is too deep.
+TEST(Directives, ConditionsNestToAnyDepth) {
+  std::string text;
+  for (int i = 0; i < 100000; i++) text += ">>IF NOT (A DEFINED)\n";
+  text += "X\n";
+  for (int i = 0; i < 100000; i++) text += ">>END-IF\n";
+  EXPECT_EQ(test::wordsOf({text}), "X");
+  EXPECT_EQ(test::wordsOf({">>IF " + std::string(200000, '(') + "A NOT DEFINED" +
+                           std::string(200000, ')') + "\nX\n>>END-IF\n"}),
+            "X");
+}
+
+}  // namespace
