@@ -32,7 +32,7 @@ NOW = WORK / 'now'  # ... and the present change.
 LAYERS = [row.split()[:2] for row in (ROOT / 'src/layers.txt').read_text().splitlines()
           if row[:1].isalpha()]
 CHANGED = {'AgentServices': 'libAgentServices.so', 'AgentServicesToolkit': 'libAgentServicesToolkit.so'}
-LINKED_WITH_OBJECTS = ('unit', 'memory')
+LINKED_WITH_OBJECTS = ('unit', 'memory', 'toolkit_unit')
 MEMORY = 4 << 30
 ROUNDS = (0.4, 3, float('inf'))  # Up to so many seconds suites are run together.
 

@@ -9,7 +9,8 @@ import tempfile
 from pathlib import Path
 
 # In the order in which they are asked: those that need no link come first.
-PROGRAMS = ('api', 'toolkit', 'schema', 'cli', 'hostile', 'unit', 'memory', 'toolkit_memory')
+PROGRAMS = ('api', 'toolkit', 'schema', 'cli', 'hostile', 'unit', 'memory', 'toolkit_memory',
+            'toolkit_unit')
 
 
 def suites_of(program: Path) -> list:

@@ -191,6 +191,7 @@ void Directives::setFormat(std::string_view word, SourceLines& lines) {
 }
 
 void Directives::takeSet(std::string_view line, DirectiveText& text, SourceLines& lines) {
+  bool isTold = false;
   while (!text.isAtEnd()) {
     // An option with its value: NAME"VALUE", NAME(VALUE), NAME=VALUE, NAME VALUE.
     const auto skipMarks = [&] {
@@ -207,8 +208,11 @@ void Directives::takeSet(std::string_view line, DirectiveText& text, SourceLines
         definitions_.define(name, *value, true);
       }
     } else {
-      noteOnce(SourceRule::compilerOptions, line,
-               "the compiler options " + quoted(line) + " are passed over");
+      if (!isTold) {
+        noteOnce(SourceRule::compilerOptions, line,
+                 "the compiler options " + quoted(line) + " are passed over");
+      }
+      isTold = true;
       text.take();
     }
     skipMarks();

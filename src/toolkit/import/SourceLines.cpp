@@ -285,8 +285,8 @@ void SourceLines::join(SourceLine& line) {
     const std::size_t comment = quotes.read(std::string_view(joined).substr(first));
     if (comment != std::string_view::npos) joined.resize(first + comment);
     const std::string_view added = withoutBlanksBehind(std::string_view(joined).substr(first));
-    const bool hasDash =
-        !quotes.isOpen() && quotes.closedAt() + 1 == added.size() && added.back() == '-';
+    const bool hasDash = !quotes.isOpen() && !added.empty() && added.back() == '-' &&
+                         quotes.closedAt() + 1 == added.size();
     findAhead();
     if (!hasAhead_ || !(ahead_.kind == Kind::continuation || (hasDash && isCode(ahead_)))) break;
     part = ahead_.whole;

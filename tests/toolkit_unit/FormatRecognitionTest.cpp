@@ -1,0 +1,68 @@
+// Tests of which format sources are taken to be written in.
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+
+#include "toolkit/import/FormatRecognition.h"
+
+namespace {
+
+using as::toolkit::SourceFormat;
+
+struct Row {
+  const char* name;
+  std::string text;
+  SourceFormat format;
+};
+
+void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
+
+constexpr auto fixed = SourceFormat::fixed;
+constexpr auto free = SourceFormat::free;
+constexpr auto unknown = SourceFormat::variable;  // Stands for what is taken otherwise.
+
+const Row rows[] = {
+    {"Nothing", "", unknown},
+    {"BlankLines", "\n   \n            \n", unknown},
+    {"CodeFromColumn8On", "       IDENTIFICATION DIVISION.\n           MOVE A TO B.\n", unknown},
+    {"CommentByIndicator", "       A.\n      * B\n", fixed},
+    {"PageByIndicator", "       A.\n      / B\n", fixed},
+    {"CommentByIndicatorAndTab", "\tA.\n      *\tB\n", fixed},
+    {"FloatingCommentInColumn7", "      *> B\n", unknown},
+    {"SequenceNumbers", "000100 A.\n000200 B.\n", fixed},
+    {"SequenceNumbersOnly", "000100\n", fixed},
+    {"SequenceNumbersWithComments", "000100*A.\n", fixed},
+    {"ChangeMarksWithComments", "CR4711* A.\nCR4711 B\n", fixed},
+    {"ChangeMarks", "CR4711 A.\nABC123 B\n", unknown},
+    {"Continuation", "           A\n      -    B\n", fixed},
+    {"Division", "IDENTIFICATION DIVISION.\n", free},
+    {"ProgramIdWithADashInColumn8", "PROGRAM-ID. A.\n", free},
+    {"DashInColumn7", "ACCEPT-A.\n", free},
+    {"Levels", "01 A.\n   05 B PIC X.\n", free},
+    {"LevelsWithABlankInColumn7", "01   A PIC X.\n  05 B  PIC X.\n", free},
+    {"Verbs", "MOVE A TO B\n", free},
+    {"VerbWithABlankInColumn7", "ADD 1  TO B\n", free},
+    {"IndentedVerbs", "  IF A\n", free},
+    {"CommentInColumn1", "*> A\n", free},
+    {"CommentInColumn3", "  *> A\n", free},
+    {"LongerLinesInFront", "  WORKING-STORAGE SECTION.\n", free},
+    {"IndentedFreeBySix", "      MOVE A TO B\n      ADD 1 TO C\n", free},
+    {"MostLinesTell", "000100 A.\n000200 B.\nIDENTIFICATION DIVISION.\n", fixed},
+    {"FormatDirectiveEndsTheLook", ">>SOURCE FORMAT IS FREE\n      * A\n", unknown},
+    {"DollarDirectiveEndsTheLook", "      $SET SOURCEFORMAT\"FREE\"\n      * A\n", unknown},
+    {"OtherDirectivesDoNot", ">>DEFINE A 1\n$SET ANS85\n      * A\n", fixed},
+    {"DebuggingLine", "      D A\n", unknown},
+    {"UmlautsAreOneColumn", "\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4* A\n", fixed},
+};
+
+class Recognised : public testing::TestWithParam<Row> {};
+
+TEST_P(Recognised, Format) {
+  EXPECT_EQ(as::toolkit::recognisedFormat(GetParam().text, unknown), GetParam().format);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, Recognised, testing::ValuesIn(rows),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
