@@ -98,6 +98,7 @@ const ReadingRow replaceRows[] = {
      "A B"},
     {"OffWithoutAPeriod", {"REPLACE OFF A"}, "A", "copy-period main:1:1"},
     {"LastWithoutOff", {"REPLACE LAST ==A== BY ==B==. A"}, "B", "copy-syntax main:1:14"},
+    {"Literals", {"REPLACE \"A\" BY \"B\". \"A\""}, "\"B\""},
     {"LastOffOfNothing", {"REPLACE LAST OFF. A"}, "A"},
     {"ReachesIntoCopybooks", {"REPLACE ==A== BY ==B==. COPY C.", {{"C", "A"}}}, "B"},
     {"ReachesOutOfCopybooks", {"COPY C. A", {{"C", "REPLACE ==A== BY ==B==."}}}, "B"},

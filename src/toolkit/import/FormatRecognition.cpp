@@ -59,9 +59,10 @@ int voteOf(std::string_view line) {
   if (text.empty()) return 0;
   const std::size_t start = columns.find_first_not_of(' ');
   const std::string_view sequence = std::string_view(columns).substr(0, indicator);
+  const std::string_view word = text.substr(0, text.find(' '));
   if (columns.size() <= indicator) {
     // Sequence numbers of lines that are empty are as long as they can be.
-    if (text.substr(0, 2) == "*>" || isStarter(text)) return -1;
+    if (text.substr(0, 2) == "*>" || isStarter(word)) return -1;
     return columns.size() == indicator && isAll(sequence, isDigit) ? 1 : 0;
   }
   const char mark = columns[indicator];
@@ -81,9 +82,7 @@ int voteOf(std::string_view line) {
   if (!isIndicator) return start == 0 && isAll(sequence, isDigit) ? 0 : -2;
   if (isAll(sequence, isDigit)) return 2;
   // "01  NAME", "MOVE A TO B" against "AB1234" and "  0100".
-  const std::string_view behind = std::string_view(columns).substr(start);
-  const std::string_view word = behind.substr(0, behind.find(' '));
-  const bool hasMore = start + word.size() < columns.find_last_not_of(' ');
+  const bool hasMore = word.size() < text.size();
   if (isStarter(word) || (isLevel(word) && hasMore && word.size() + start < indicator - 1)) {
     return -2;
   }

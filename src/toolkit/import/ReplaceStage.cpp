@@ -15,8 +15,8 @@ void ReplaceStage::Input::read(TextWord& word) {
   TextWord next;
   source_.read(next);
   next_ = next;
-  if (next.isMark("==") || next.isRun("OFF") || next.isRun("ALSO") || next.isRun("LAST") ||
-      next.isRun("LEADING") || next.isRun("TRAILING")) {
+  if (next.isMark("==") || next.kind == TextWord::Kind::literal || next.isRun("OFF") ||
+      next.isRun("ALSO") || next.isRun("LAST") || next.isRun("LEADING") || next.isRun("TRAILING")) {
     word.kind = TextWord::Kind::barrier;
   }
 }
