@@ -74,7 +74,7 @@ TEST_P(Folders, HaveIt) {
   FolderCopybooks folders({path("one"), path("two")}, path("src/main.cbl"));
   const auto found = folders.find(GetParam().copybook, GetParam().library);
   EXPECT_EQ(found ? found->text : "", GetParam().found);
-  if (found) EXPECT_EQ(found->name, path(GetParam().found));
+  EXPECT_EQ(found ? found->name : "", found ? path(GetParam().found) : "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, Folders, testing::ValuesIn(rows),

@@ -27,6 +27,19 @@ const ReadingRow fixedRows[] = {
      {"       A *> B.\n      *> C\n         *> D\n       E\n", {}, fixed},
      "A E"},
     {"CodeEndsInColumn72", {"       A" + std::string(63, ' ') + "BC D\n", {}, fixed}, "A B"},
+    {"WideLinesAreToldOnce",
+     {"      *" + std::string(90, 'x') + "\n       " + std::string(74, 'A') + "\n       " +
+          std::string(74, 'B') + "\n",
+      {},
+      fixed},
+     std::string(65, 'A') + " " + std::string(65, 'B'),
+     "text-behind-margin main:2:73"},
+    {"NamesOfRecordsAreNotTold",
+     {"       " + std::string(73, 'A') + "\n", {}, fixed},
+     std::string(65, 'A')},
+    {"TextApartFromTheCodeIsNotTold",
+     {"       A" + std::string(64, ' ') + std::string(20, 'B') + "\n", {}, fixed},
+     "A"},
     {"DebuggingLinesArePassedOver",
      {"       A\n      D B\n      d C\n       D\n", {}, fixed},
      "A D"},
@@ -104,7 +117,7 @@ const ReadingRow fixedRows[] = {
     {"LinesOfAnyLength",
      {"       A\n" + std::string(1000, '1') + "\n       B\n", {}, fixed},
      "A " + std::string(65, '1') + " B",
-     "unknown-indicator main:2:7"},
+     "text-behind-margin main:2:73\nunknown-indicator main:2:7"},
 };
 AS_READING_ROWS(FixedLines, fixedRows);
 

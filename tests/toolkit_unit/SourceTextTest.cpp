@@ -100,6 +100,7 @@ const Row rows[] = {
      card + "\n       B.\n", "source-encoding main\nsource-records main"},
     {"AsciiRecords", card + padded("       B"), "", card + "\n" + padded("       B") + "\n",
      "source-records main"},
+    {"LineOf160CharactersIsNoRecord", std::string(160, 'A'), "", std::string(160, 'A')},
     {"LongLineIsNoRecord", card + "       B", "", card + "       B"},
     {"Told", "A\xE4", "ISO-8859-1", "A\xC3\xA4"},
     {"ToldUtf8", "A\xC3\xA4", "UTF-8", "A\xC3\xA4"},

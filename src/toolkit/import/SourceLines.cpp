@@ -13,6 +13,7 @@ namespace {
 constexpr std::size_t indicatorColumn = 7;
 constexpr std::size_t firstColumn = 8;
 constexpr std::size_t lastColumn = 72;
+constexpr std::size_t recordLength = 80;
 constexpr std::int32_t lastColumnOfAreaA = 11;
 
 bool beginsWord(std::string_view text, std::string_view word) {
@@ -171,6 +172,7 @@ SourceLines::Cut SourceLines::cut(std::string_view line) {
 void SourceLines::layColumns(std::string_view line, Laid& laid) {
   const Cut parts = cut(line);
   laid.isPlain = parts.isPlain;
+  if (line.size() > recordLength && format_ == SourceFormat::fixed) tellWide(line, laid);
   laid.room = parts.room;
   if (const char first = parts.sequence.empty() ? ' ' : parts.sequence.front();
       first == '>' || first == '$' || first == '@' || first == '-' || first == ' ' ||
@@ -217,6 +219,19 @@ void SourceLines::layColumns(std::string_view line, Laid& laid) {
       (!codeSeen_ && isOptionCard(laid.text))) {
     laid.kind = Kind::directive;
   }
+}
+
+// Records have names of 8 characters behind the margin; what is longer was hardly meant to be left
+// out, least of all when it stands together with what is in front of it.
+void SourceLines::tellWide(std::string_view line, const Laid& laid) {
+  if (wideTold_ || !laid.isPlain || laid.kind == Kind::directive) return;
+  const bool isComment = line[indicatorColumn - 1] == '*' || line[indicatorColumn - 1] == '/';
+  if (isComment || isBlank(line[lastColumn - 1]) || isBlank(line[lastColumn])) return;
+  wideTold_ = true;
+  report_.add(SourceRule::behindMargin,
+              {file_, laid.number, static_cast<std::int32_t>(lastColumn + 1)},
+              "what stands behind column 72 is left out here, and in the lines behind",
+              "name the format of the source if it is not fixed");
 }
 
 void SourceLines::layFree(std::string_view line, Laid& laid) {

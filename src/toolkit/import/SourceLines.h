@@ -86,6 +86,7 @@ class SourceLines {
   bool layNext(Laid& laid);
   void lay(std::string_view line, Laid& laid);
   void layColumns(std::string_view line, Laid& laid);
+  void tellWide(std::string_view line, const Laid& laid);
   void layFree(std::string_view line, Laid& laid);
   bool layOddStart(std::string_view line, Laid& laid);
   Cut cut(std::string_view line);
@@ -102,6 +103,7 @@ class SourceLines {
   SourceReport& report_;
   bool debugging_ = false;
   bool codeSeen_ = false;
+  bool wideTold_ = false;
   std::size_t at_ = 0;
   std::int32_t number_ = 0;
   Laid current_;

@@ -260,11 +260,23 @@ class Decoder {
   }
 
   std::string withLines(std::string text) {
-    const bool isRecords = text.size() >= 2 * recordLength && text.size() % recordLength == 0 &&
-                           text.find_first_of("\r\n") == std::string::npos && isAscii(text);
-    if (!isRecords) return text;
+    if (!isRecords(text)) return text;
     tellRecords();
     return cutIntoRecords(text, '\n');
+  }
+
+  // Whether it is one line that divides into records with an indicator in column 7 of each.
+  static bool isRecords(std::string_view text) {
+    constexpr std::size_t indicator = 6;
+    constexpr std::string_view indicators = " *-/Dd$";
+    if (text.size() < 2 * recordLength || text.size() % recordLength != 0 ||
+        text.find_first_of("\r\n") != std::string_view::npos || !isAscii(text)) {
+      return false;
+    }
+    for (std::size_t i = indicator; i < text.size(); i += recordLength) {
+      if (indicators.find(text[i]) == std::string_view::npos) return false;
+    }
+    return true;
   }
 
   // What is no character becomes the one that stands for such.
