@@ -58,6 +58,26 @@ TEST(Dialects, AreNotFoundByOtherWords) {
   EXPECT_EQ(as::toolkit::findDialect("IBM"), nullptr);
 }
 
+// What import's `--pointer-size` makes of dialects.
+TEST(Dialects, ForOtherAddressesAreThoseOfTheFamily) {
+  const Dialect& ibm = *as::toolkit::findDialect("ibm");
+  const Dialect& ibm64 = *as::toolkit::findDialect("ibm64");
+  EXPECT_STREQ(as::toolkit::withAddresses(ibm, 8).word, ibm64.word);
+  EXPECT_STREQ(as::toolkit::withAddresses(ibm64, 4).word, ibm.word);
+  EXPECT_STREQ(as::toolkit::withAddresses(ibm, 4).word, ibm.word);
+}
+
+TEST(Dialects, ForOtherAddressesAreTheSameButForThem) {
+  const Dialect narrow = as::toolkit::withAddresses(*as::toolkit::findDialect("gnucobol"), 4);
+  EXPECT_STREQ(narrow.word, "gnucobol");
+  for (const Usage usage :
+       {Usage::pointer, Usage::procedurePointer, Usage::functionPointer, Usage::objectReference}) {
+    EXPECT_EQ(as::toolkit::bytesOf(narrow, usage), 4);
+    EXPECT_EQ(as::toolkit::boundaryOf(narrow, usage, 4), 4);
+  }
+  EXPECT_EQ(as::toolkit::bytesOf(narrow, Usage::index), 4);
+}
+
 struct SizeRow {
   Usage usage;
   const char* name;
@@ -230,16 +250,22 @@ TEST_P(UsageWordTest, IsThatUsage) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, UsageWordTest,
-    testing::Values(WordRow{"COMPUTATIONAL", Usage::comp}, WordRow{"BINARY", Usage::comp},
-                    WordRow{"Computational-3", Usage::comp3},
-                    WordRow{"computational-x", Usage::compX},
-                    WordRow{"PACKED-DECIMAL", Usage::comp3}, WordRow{"FLOAT-SHORT", Usage::comp1},
-                    WordRow{"FLOAT-BINARY-32", Usage::comp1}, WordRow{"FLOAT-LONG", Usage::comp2},
-                    WordRow{"FLOAT-BINARY-64", Usage::comp2}, WordRow{"comp-5", Usage::comp5},
-                    WordRow{"PROGRAM-POINTER", Usage::procedurePointer},
-                    WordRow{"object reference", Usage::objectReference}, WordRow{"", std::nullopt},
-                    WordRow{"COMP-7", std::nullopt}, WordRow{"COMPUTATION", std::nullopt},
-                    WordRow{"X-COMP", std::nullopt}));
+    testing::Values(
+        WordRow{"COMPUTATIONAL", Usage::comp}, WordRow{"BINARY", Usage::comp},
+        WordRow{"Computational-3", Usage::comp3}, WordRow{"computational-x", Usage::compX},
+        WordRow{"PACKED-DECIMAL", Usage::comp3}, WordRow{"FLOAT-SHORT", Usage::comp1},
+        WordRow{"FLOAT-BINARY-32", Usage::comp1}, WordRow{"FLOAT-LONG", Usage::comp2},
+        WordRow{"FLOAT-BINARY-64", Usage::comp2}, WordRow{"comp-5", Usage::comp5},
+        WordRow{"PROGRAM-POINTER", Usage::procedurePointer},
+        WordRow{"FLOAT-BINARY-128", Usage::floatExtended}, WordRow{"BINARY-INT", Usage::binaryLong},
+        WordRow{"BINARY-LONG-LONG", Usage::binaryDouble},
+        WordRow{"BINARY-C-LONG", Usage::binaryDouble}, WordRow{"SIGNED-SHORT", Usage::binaryShort},
+        WordRow{"UNSIGNED-SHORT", Usage::binaryShort}, WordRow{"SIGNED-INT", Usage::binaryLong},
+        WordRow{"UNSIGNED-INT", Usage::binaryLong}, WordRow{"SIGNED-LONG", Usage::binaryDouble},
+        WordRow{"UNSIGNED-LONG", Usage::binaryDouble},
+        WordRow{"object reference", Usage::objectReference}, WordRow{"", std::nullopt},
+        WordRow{"COMP-7", std::nullopt}, WordRow{"COMPUTATION", std::nullopt},
+        WordRow{"X-COMP", std::nullopt}));
 
 struct ItemRow {
   const char* item;

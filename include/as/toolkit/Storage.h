@@ -68,6 +68,19 @@ enum class BinarySizes {
   compact,  // As few bytes as hold the digits and, if there is one, the sign.
 };
 
+// Where the slack bytes stand that bring a SYNCHRONIZED item to its boundary when it is the first
+// in its group.
+enum class SlackPlace {
+  insideGroup,   // The group starts with them.
+  beforeGroups,  // In front of it, and of the groups that start with it.
+};
+
+// What a SYNCHRONIZED clause of a group is.
+enum class GroupSync {
+  ofNoEffect,
+  ofRecords,  // At level 01, that of all its items.
+};
+
 // How compilers of a family lay items out. All text is of static duration.
 struct Dialect {
   const char* word;      // Names it: "ibm".
@@ -83,6 +96,8 @@ struct Dialect {
   int nativeBoundary;    // items of usage COMP-X and COMP-N,
   int floatingBoundary;  // floating-point items, and
   int addressBoundary;   // index items, pointers and references to objects.
+  SlackPlace slackPlace;
+  GroupSync groupSync;
 };
 
 // All of them, in the order in which they are documented; words are unique.
@@ -90,6 +105,10 @@ AS_EXPORT const std::vector<Dialect>& dialects();
 
 // The dialect of that word; null when there is none.
 AS_EXPORT const Dialect* findDialect(std::string_view word);
+
+// The dialect for addresses of so many bytes, 4 or 8: its word stays, unless there is another one
+// for such addresses (ibm and ibm64).
+AS_EXPORT Dialect withAddresses(const Dialect& dialect, int bytes);
 
 // The size of one occurrence of an item in bytes; a SIGN clause with SEPARATE makes it longer.
 // Usages that take no picture are of one size whatever `picture` says. Nothing where such an item
