@@ -11,6 +11,7 @@
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Finding.h"
 #include "as/toolkit/Flavours.h"
+#include "as/toolkit/Import.h"
 #include "as/toolkit/Lint.h"
 #include "as/toolkit/Make.h"
 #include "as/toolkit/Picture.h"

@@ -117,10 +117,10 @@ void CopyExpander::open(std::string bytes, const std::string& name) {
     bytes.clear();
   }
   text_ = decodeSource(std::move(bytes), options_.encoding, file, report_);
-  const SourceFormat format = options_.format != SourceFormat::recognised
-                                  ? options_.format
-                                  : recognisedFormat(text_.text, SourceFormat::fixed);
-  push(text_, format, name, file, {});
+  format_ = options_.format != SourceFormat::recognised
+                ? options_.format
+                : recognisedFormat(text_.text, SourceFormat::fixed);
+  push(text_, format_, name, file, {});
 }
 
 void CopyExpander::push(const SourceText& text, SourceFormat format, const std::string& name,

@@ -36,6 +36,9 @@ class CopyExpander : public TextWordSource {
   // The source to begin with. Throws std::invalid_argument for an encoding that is not known.
   void open(std::string bytes, const std::string& name);
 
+  // That of the source, at its beginning.
+  SourceFormat format() const { return format_; }
+
   void read(TextWord& word) override { readFrame(0, word); }
 
   // Lines for debugging are code from here on.
@@ -86,6 +89,7 @@ class CopyExpander : public TextWordSource {
   Directives directives_;
   CopybookLibrary library_;
   SourceText text_;
+  SourceFormat format_ = SourceFormat::fixed;
   std::vector<std::unique_ptr<Frame>> frames_;
   bool debugging_ = false;
   bool inIdentification_ = false;

@@ -37,6 +37,7 @@ class SourceReader::Impl {
     }
   }
 
+  SourceFormat format() const { return expander_.format(); }
   bool decimalPointIsComma() const { return tokens_.decimalPointIsComma(); }
 
  private:
@@ -58,6 +59,8 @@ SourceReader::SourceReader(std::string bytes, const std::string& name, const Sou
 SourceReader::~SourceReader() = default;
 
 void SourceReader::read(Token& token) { impl_->read(token); }
+
+SourceFormat SourceReader::format() const { return impl_->format(); }
 
 bool SourceReader::decimalPointIsComma() const { return impl_->decimalPointIsComma(); }
 

@@ -43,6 +43,9 @@ class SourceReader : public TokenSource {
 
   void read(Token& token) override;
 
+  // The format that the source begins with: the one that was told, or recognised.
+  SourceFormat format() const;
+
   // Whether DECIMAL-POINT IS COMMA was read; numbers have "." all the same, pictures are as
   // written.
   bool decimalPointIsComma() const;

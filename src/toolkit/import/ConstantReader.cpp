@@ -1,0 +1,175 @@
+#include "toolkit/import/ConstantReader.h"
+
+#include <charconv>
+#include <system_error>
+#include <utility>
+
+namespace as::toolkit {
+
+namespace {
+
+bool isOperator(const Word& word) {
+  return word.isMark("+") || word.isMark("-") || word.isMark("*") || word.isMark("/");
+}
+
+int rankOf(char op) { return op == '*' || op == '/' ? 2 : 1; }
+
+// Nothing for what a 64-bit number does not hold.
+std::optional<std::int64_t> apply(char op, std::int64_t left, std::int64_t right) {
+  std::int64_t result = 0;
+  switch (op) {
+    case '+':
+      if (__builtin_add_overflow(left, right, &result)) return std::nullopt;
+      return result;
+    case '-':
+      if (__builtin_sub_overflow(left, right, &result)) return std::nullopt;
+      return result;
+    case '*':
+      if (__builtin_mul_overflow(left, right, &result)) return std::nullopt;
+      return result;
+    default:
+      if (right == 0 || (right == -1 && left == INT64_MIN)) return std::nullopt;
+      return left / right;
+  }
+}
+
+}  // namespace
+
+std::optional<std::int64_t> readInteger(const std::string& text) {
+  const char* begin = text.data();
+  const char* const end = begin + text.size();
+  if (begin != end && *begin == '+') ++begin;
+  std::int64_t number = 0;
+  const auto [stop, error] = std::from_chars(begin, end, number);
+  if (error != std::errc() || stop != end) return std::nullopt;
+  return number;
+}
+
+const ConstantEntry* ConstantReader::find(const std::string& name) const {
+  const Index id = names_.idOf(name);
+  for (const CobolProgram* program = &program_; program != nullptr; program = program->outer) {
+    const auto found = program->constants.find(id);
+    if (found != program->constants.end()) return &found->second;
+  }
+  return nullptr;
+}
+
+std::optional<std::int64_t> ConstantReader::takeInteger() {
+  const Word& word = words_.peek();
+  if (!word.is(TokenKind::word) && !word.is(TokenKind::number)) return std::nullopt;
+  std::optional<std::int64_t> number = readInteger(word.token.text);
+  if (!number && word.is(TokenKind::word)) {
+    if (const ConstantEntry* const constant = find(word.token.text)) number = constant->number;
+  }
+  if (number) words_.skip();
+  return number;
+}
+
+std::vector<NameReference::Name> ConstantReader::takeName() {
+  std::vector<NameReference::Name> names;
+  if (!words_.peek().is(TokenKind::word)) return names;
+  names.push_back(names_.nameOf(words_.take().token.text));
+  while ((words_.peek().is(Keyword::of) || words_.peek().is(Keyword::in)) &&
+         words_.peek(1).is(TokenKind::word)) {
+    words_.skip();
+    names.push_back(names_.nameOf(words_.take().token.text));
+  }
+  return names;
+}
+
+std::optional<std::int64_t> ConstantReader::takeOperand() {
+  if (words_.peek().is(Keyword::length) || words_.peek().is(Keyword::byteLength)) {
+    words_.skip();
+    words_.accept(Keyword::of);
+    NameReference reference;
+    reference.place = words_.peek().token.place;
+    reference.names = takeName();
+    return lengthOf_(reference);
+  }
+  return takeInteger();
+}
+
+// Without recursion, however many parentheses there are.
+std::optional<std::int64_t> ConstantReader::takeSum() {
+  std::vector<std::int64_t> numbers;
+  std::vector<char> operators;
+  const auto applyLast = [&] {
+    if (numbers.size() < 2) return false;
+    const std::int64_t right = numbers.back();
+    numbers.pop_back();
+    const std::optional<std::int64_t> result = apply(operators.back(), numbers.back(), right);
+    operators.pop_back();
+    if (result) numbers.back() = *result;
+    return result.has_value();
+  };
+  const auto applyDownTo = [&](int rank) {
+    while (!operators.empty() && operators.back() != '(' && rankOf(operators.back()) >= rank) {
+      if (!applyLast()) return false;
+    }
+    return true;
+  };
+  for (bool wantsOperand = true;;) {
+    if (wantsOperand) {
+      if (words_.acceptMark("(")) {
+        operators.push_back('(');
+        continue;
+      }
+      const std::optional<std::int64_t> operand = takeOperand();
+      if (!operand) return std::nullopt;
+      numbers.push_back(*operand);
+      wantsOperand = false;
+      continue;
+    }
+    const Word& word = words_.peek();
+    if (isOperator(word)) {
+      const char op = word.token.text.front();
+      if (!applyDownTo(rankOf(op))) return std::nullopt;
+      operators.push_back(op);
+      words_.skip();
+      wantsOperand = true;
+    } else if (word.is(TokenKind::number) && readInteger(word.token.text)) {
+      // "A -1": the sign is the operator.
+      if (!applyDownTo(1)) return std::nullopt;
+      operators.push_back('+');
+      wantsOperand = true;
+    } else if (word.isMark(")") && !operators.empty()) {
+      if (!applyDownTo(1) || operators.empty()) return std::nullopt;
+      operators.pop_back();
+      words_.skip();
+    } else {
+      break;
+    }
+  }
+  if (!applyDownTo(1) || !operators.empty() || numbers.size() != 1) return std::nullopt;
+  return numbers.front();
+}
+
+std::optional<ConstantEntry> ConstantReader::takeValue() {
+  const Word& first = words_.peek();
+  const bool isAlone = words_.peek(1).is(TokenKind::period) || words_.peek(1).is(TokenKind::end);
+  if (first.is(TokenKind::literal)) {
+    ConstantEntry constant{words_.take().token.text, std::nullopt, false};
+    while (words_.acceptMark("&")) {
+      if (!words_.peek().is(TokenKind::literal)) return std::nullopt;
+      constant.text += words_.take().token.text;
+    }
+    return constant;
+  }
+  if (isAlone && first.is(TokenKind::word)) {
+    if (const ConstantEntry* const other = find(first.token.text)) {
+      words_.skip();
+      return *other;
+    }
+    if (first.meaning.role == KeywordRole::figurative) {
+      return ConstantEntry{words_.take().token.text, std::nullopt, false};
+    }
+  }
+  if (isAlone && first.is(TokenKind::number) && !readInteger(first.token.text)) {
+    return ConstantEntry{words_.take().token.text, std::nullopt, true};
+  }
+  const std::optional<std::int64_t> number = takeSum();
+  if (!number) return std::nullopt;
+  return ConstantEntry{std::to_string(*number), number, true};
+}
+
+}  // namespace as::toolkit

@@ -1,0 +1,205 @@
+#include "toolkit/import/DataDivisionReader.h"
+
+#include <cstddef>
+#include <optional>
+#include <utility>
+
+namespace as::toolkit {
+
+namespace {
+
+constexpr int renamesLevel = 66;
+constexpr int noncontiguousLevel = 77;
+constexpr int constantLevel = 78;
+constexpr int conditionLevel = 88;
+
+bool isItemLevel(int level) {
+  return (level >= 1 && level <= 49) || level == renamesLevel || level == noncontiguousLevel;
+}
+
+}  // namespace
+
+DataDivisionReader::DataDivisionReader(WordReader& words, CobolProgram& program, NameTable& names,
+                                       RecordBuilder& records, EntryProblems& problems)
+    : words_(words),
+      program_(program),
+      names_(names),
+      records_(records),
+      problems_(problems),
+      constants_(
+          words, program, names,
+          [&records](const NameReference& reference) { return records.lengthOf(reference); }),
+      clauses_(words, program, names, constants_, problems),
+      conditions_(words, program, constants_, problems) {
+  for (std::size_t i = 0; i < program.files.size(); ++i) files_[program.files[i].nameId] = i;
+}
+
+bool DataDivisionReader::isAtSection() {
+  return words_.peek().is(TokenKind::word) && words_.peek(1).is(Keyword::section);
+}
+
+bool DataDivisionReader::isAtEnd() {
+  const Word& word = words_.peek();
+  if (word.is(TokenKind::end) || word.meaning.role == KeywordRole::unit) return true;
+  if (word.is(Keyword::end)) return words_.peek(1).is(TokenKind::word);
+  const bool isDivision = word.is(Keyword::procedure) || word.is(Keyword::identification) ||
+                          word.is(Keyword::id) || word.is(Keyword::environment);
+  return isDivision && words_.peek(1).is(Keyword::division);
+}
+
+void DataDivisionReader::read(const std::string& recordName) {
+  std::string wanted = recordName;
+  while (!isAtEnd()) {
+    const Word& word = words_.peek();
+    if (word.is(TokenKind::period)) {
+      words_.skip();
+    } else if (word.is(Keyword::data) && words_.peek(1).is(Keyword::division)) {
+      words_.skipSentence();
+    } else if (isAtSection()) {
+      readSection();
+    } else if (word.is(Keyword::fd) || word.is(Keyword::sd)) {
+      readFile();
+    } else if (levelOf(word) >= 0) {
+      readEntry(wanted);
+      wanted.clear();
+    } else {
+      problems_.tell(EntryRule::unknownText, word.token.place,
+                     word.token.text + " begins no section and no entry");
+      words_.skipSentence();
+    }
+  }
+  records_.closeRecord();
+}
+
+void DataDivisionReader::readSection() {
+  const Word section = words_.take();
+  words_.skip();
+  if (words_.peek().is(TokenKind::period)) words_.skip();
+  switch (section.meaning.keyword) {
+    case Keyword::file:
+      return records_.enter(DataSection::file);
+    case Keyword::workingStorage:
+      return records_.enter(DataSection::workingStorage);
+    case Keyword::localStorage:
+      return records_.enter(DataSection::localStorage);
+    case Keyword::linkage:
+      return records_.enter(DataSection::linkage);
+    case Keyword::screen:
+    case Keyword::report:
+    case Keyword::communication:
+      problems_.tell(EntryRule::passedSection, section.token.place,
+                     "the " + section.token.text + " SECTION is passed over");
+      break;
+    default:
+      problems_.tell(EntryRule::unknownText, section.token.place,
+                     section.token.text + " SECTION is no section of a data division");
+  }
+  records_.closeRecord();
+  skipSection();
+}
+
+void DataDivisionReader::skipSection() {
+  while (!isAtEnd() && !isAtSection()) words_.skip();
+}
+
+// What FD and SD entries say besides the name stands in no dictionary.
+void DataDivisionReader::readFile() {
+  records_.enter(DataSection::file);
+  words_.skip();
+  const Word name = words_.take();
+  if (!name.is(TokenKind::word)) {
+    problems_.tell(EntryRule::unknownText, name.token.place, "FD is followed by no name");
+  }
+  // A record whose level number stands behind a missing period would be lost.
+  while (!words_.peek().is(TokenKind::period) && !isAtEnd() && !isAtSection()) words_.skip();
+  if (words_.peek().is(TokenKind::period)) words_.skip();
+  const Index id = names_.idOf(name.token.text);
+  const auto known = files_.find(id);
+  std::size_t at = known == files_.end() ? program_.files.size() : known->second;
+  if (known == files_.end()) {
+    FileEntry file;
+    file.name = name.token.text;
+    file.nameId = id;
+    program_.files.push_back(std::move(file));
+    files_[id] = at;
+    if (!program_.isCopybook) {
+      problems_.tell(EntryRule::noSelect, name.token.place,
+                     name.token.text + " has no SELECT entry");
+    }
+  }
+  FileEntry& file = program_.files[at];
+  if (!file.isDescribed) program_.describedFiles.push_back(static_cast<Index>(at));
+  file.isDescribed = true;
+  records_.enterFile(&file);
+}
+
+bool DataDivisionReader::isConstant() {
+  if (!words_.peek().is(Keyword::constant)) return false;
+  const Word& next = words_.peek(1);
+  return next.is(Keyword::as) || next.is(Keyword::from) || next.is(Keyword::isWord) ||
+         next.is(Keyword::global);
+}
+
+void DataDivisionReader::readEntry(const std::string& recordName) {
+  const Word number = words_.take();
+  const int level = levelOf(number);
+  DataEntry entry;
+  entry.place = number.token.place;
+  entry.level = level;
+  if (level == conditionLevel) {
+    conditions_.read(records_.conditionHolder());
+    return;
+  }
+  if (level != constantLevel && !isItemLevel(level)) {
+    problems_.tell(EntryRule::unknownLevel, entry.place, number.token.text + " is no level");
+    words_.skipSentence();
+    return;
+  }
+  clauses_.readName(entry);
+  if (level == constantLevel || isConstant()) {
+    readConstant(entry, level == constantLevel);
+    return;
+  }
+  entry.isRenaming = level == renamesLevel;
+  if (!recordName.empty() && level > 1 && level < renamesLevel) {
+    DataEntry record;
+    record.name = recordName;
+    record.nameId = names_.idOf(recordName);
+    record.place = entry.place;
+    record.level = 1;
+    problems_.tell(
+        EntryRule::copybook, entry.place,
+        "the first level is " + number.token.text + ": " + recordName + " is put above it");
+    records_.add(std::move(record));
+  }
+  clauses_.readClauses(entry);
+  if (entry.isRenaming && entry.reference == none && !entry.isDamaged) {
+    problems_.tell(EntryRule::badClause, entry.place, entry.name + " renames nothing");
+  }
+  records_.add(std::move(entry));
+}
+
+void DataDivisionReader::readConstant(const DataEntry& entry, bool isLevel78) {
+  if (!isLevel78) words_.skip();
+  while (words_.accept(Keyword::isWord) || words_.accept(Keyword::global)) {
+  }
+  const bool isFrom = words_.accept(Keyword::from);
+  if (isLevel78) {
+    if (!words_.accept(Keyword::value)) words_.accept(Keyword::values);
+    words_.accept(Keyword::isWord);
+  } else if (!isFrom) {
+    words_.accept(Keyword::as);
+  }
+  const SourcePlace place = words_.peek().token.place;
+  const std::optional<ConstantEntry> value = isFrom ? std::nullopt : constants_.takeValue();
+  const bool isWhole = words_.peek().is(TokenKind::period) || clauses_.isAtNextEntry();
+  if (entry.nameId != none && value && isWhole) {
+    program_.constants[entry.nameId] = *value;
+    clauses_.endEntry(entry);
+    return;
+  }
+  problems_.tell(EntryRule::badConstant, place, "the value of " + entry.name + " is not known");
+  words_.skipSentence();
+}
+
+}  // namespace as::toolkit

@@ -1,0 +1,102 @@
+// Imports from file to file.
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cerrno>
+#include <cstddef>
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <system_error>
+
+#include "as/toolkit/DocumentReader.h"
+#include "as/toolkit/Files.h"
+#include "as/toolkit/Import.h"
+
+namespace as::toolkit {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void refuse(const std::string& file, const std::error_code& reason) {
+  throw RefusedDocument({file, 0, 0, "it cannot be read: " + reason.message(), ""});
+}
+
+std::string contentOf(const std::string& file) {
+  std::error_code failure;
+  if (fs::is_directory(file, failure)) {
+    refuse(file, std::make_error_code(std::errc::is_a_directory));
+  }
+  errno = 0;
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) refuse(file, {errno, std::generic_category()});
+  std::string content;
+  std::array<char, 65536> part{};
+  while (stream.read(part.data(), part.size()) || stream.gcount() > 0) {
+    content.append(part.data(), static_cast<std::size_t>(stream.gcount()));
+  }
+  if (stream.bad()) refuse(file, {errno, std::generic_category()});
+  return content;
+}
+
+// As a part of the name of a file.
+std::string fileNameOf(const std::string& program) {
+  std::string name = program;
+  for (char& c : name) {
+    const auto code = static_cast<unsigned char>(c);
+    if (code < 0x80 && std::isalnum(code) == 0 && c != '-' && c != '_') c = '-';
+  }
+  return name;
+}
+
+bool isSource(const fs::path& file) {
+  std::string extension = file.extension().string();
+  std::transform(extension.begin(), extension.end(), extension.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  constexpr std::array<const char*, 4> known = {".cbl", ".cob", ".cobol", ".pco"};
+  return std::find(known.begin(), known.end(), extension) != known.end();
+}
+
+}  // namespace
+
+ImportedFile importCobolFile(const std::string& file, const std::string& output,
+                             const std::vector<std::string>& folders,
+                             const ImportOptions& options) {
+  FolderCopybooks copybooks(folders, file);
+  ImportedFile result;
+  result.imported = importCobol(contentOf(file), file, &copybooks, options);
+  const fs::path first = output;
+  std::set<std::string> taken;
+  for (std::size_t i = 0; i < result.imported.programs.size(); ++i) {
+    const ImportedProgram& program = result.imported.programs[i];
+    std::string name = first.stem().string();
+    if (i > 0) name += "-" + fileNameOf(program.name);
+    const std::string base = name;
+    for (int number = 2; !taken.insert(name).second; ++number) {
+      name = base + "-" + std::to_string(number);
+    }
+    if (program.isRefused()) continue;
+    const std::string target =
+        i == 0 ? output : (first.parent_path() / (name + first.extension().string())).string();
+    replaceFile(target, program.dictionary);
+    result.written.push_back(target);
+  }
+  return result;
+}
+
+std::vector<std::string> cobolSourcesIn(const std::string& folder) {
+  std::vector<std::string> sources;
+  std::error_code failure;
+  fs::recursive_directory_iterator next(folder, failure);
+  for (; !failure && next != fs::recursive_directory_iterator(); next.increment(failure)) {
+    if (isSource(next->path()) && next->is_regular_file()) {
+      sources.push_back(next->path().lexically_relative(folder).string());
+    }
+  }
+  if (failure) refuse(folder, failure);
+  std::sort(sources.begin(), sources.end());
+  return sources;
+}
+
+}  // namespace as::toolkit

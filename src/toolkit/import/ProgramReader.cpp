@@ -1,0 +1,211 @@
+#include "toolkit/import/ProgramReader.h"
+
+#include <cstddef>
+#include <unordered_map>
+#include <utility>
+
+#include "toolkit/import/ClauseReader.h"
+#include "toolkit/import/DataDivisionReader.h"
+#include "toolkit/import/EnvironmentReader.h"
+#include "toolkit/import/ProcedureReader.h"
+
+namespace as::toolkit {
+
+namespace {
+
+// What begins something that is no program, and what its end is called.
+struct OtherUnit {
+  Keyword begin;
+  Keyword end;
+  const char* what;
+};
+
+constexpr OtherUnit otherUnits[] = {
+    {Keyword::functionId, Keyword::function, "function"},
+    {Keyword::classId, Keyword::classWord, "class"},
+    {Keyword::interfaceId, Keyword::interface, "interface"},
+    {Keyword::methodId, Keyword::method, "method"},
+    {Keyword::enumId, Keyword::name, "enumeration"},
+    {Keyword::delegateId, Keyword::name, "delegate"},
+    {Keyword::valuetypeId, Keyword::name, "value type"},
+    {Keyword::operatorId, Keyword::name, "operator"},
+};
+
+constexpr std::size_t mostNested = 50;
+
+const OtherUnit* otherUnit(const Word& word) {
+  if (word.meaning.keyword == Keyword::name) return nullptr;
+  for (const OtherUnit& unit : otherUnits) {
+    if (word.is(unit.begin)) return &unit;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+std::vector<std::unique_ptr<CobolProgram>> ProgramReader::read() {
+  while (words_.peek().is(TokenKind::period)) words_.skip();
+  if (form_ == Form::copybook || isCopybook()) {
+    readCopybook();
+  } else {
+    readDivisions();
+  }
+  while (!open_.empty()) readEnd();
+  if (programs_.empty() && problems_.errors() == 0) {
+    problems_.tell(EntryRule::noProgram, words_.peek().token.place,
+                   "the source holds neither a program nor data description entries");
+  }
+  return std::move(programs_);
+}
+
+// What begins with entries is a copybook.
+bool ProgramReader::isCopybook() {
+  const Word& word = words_.peek();
+  const Word& next = words_.peek(1);
+  if (levelOf(word) >= 0 || word.is(Keyword::fd) || word.is(Keyword::sd) ||
+      word.is(Keyword::select)) {
+    return true;
+  }
+  return next.is(Keyword::section) ||
+         (next.is(Keyword::division) && (word.is(Keyword::data) || word.is(Keyword::environment)));
+}
+
+CobolProgram& ProgramReader::begin(std::string name, const SourcePlace& place) {
+  auto program = std::make_unique<CobolProgram>();
+  program->name = std::move(name);
+  program->place = place;
+  // Names are looked for in what contains a program; nobody nests programs deeper than by
+  // forgetting to end them.
+  program->outer = open_.empty() || open_.size() > mostNested ? nullptr : open_.back();
+  if (program->outer != nullptr) {
+    // What SPECIAL-NAMES says counts for contained programs, too.
+    program->currencies = program->outer->currencies;
+    program->isDecimalPointComma = program->outer->isDecimalPointComma;
+    program->conventions = program->outer->conventions;
+  }
+  programs_.push_back(std::move(program));
+  return *programs_.back();
+}
+
+void ProgramReader::readCopybook() {
+  if (words_.atEnd()) return;
+  const SourcePlace place = words_.peek().token.place;
+  CobolProgram& program = begin(stem_, place);
+  program.isCopybook = true;
+  problems_.tell(EntryRule::copybook, place,
+                 "there is no PROGRAM-ID: the entries become the dictionary of a program " + stem_);
+  open_.push_back(&program);
+  readBody(program, "", problems_.errors());
+}
+
+// Everything of a source: programs begin with PROGRAM-ID and end with END PROGRAM, or with the
+// source.
+void ProgramReader::readDivisions() {
+  while (!words_.atEnd()) {
+    const Word& word = words_.peek();
+    if (word.is(Keyword::programId)) {
+      readProgramId();
+    } else if (const OtherUnit* const unit = otherUnit(word)) {
+      passOver(unit->what);
+    } else if (word.is(Keyword::end) && words_.peek(1).is(Keyword::program)) {
+      words_.skipSentence();
+      readEnd();
+    } else {
+      words_.skip();
+    }
+  }
+}
+
+void ProgramReader::readEnd() {
+  if (!open_.empty()) open_.pop_back();
+}
+
+// What stands inside other units ends with the END of the outermost one, or with the source.
+void ProgramReader::passOver(const char* what) {
+  problems_.tell(EntryRule::passedProgram, words_.peek().token.place,
+                 std::string("a ") + what + " is passed over");
+  std::vector<Keyword> ends;
+  while (!words_.atEnd()) {
+    const OtherUnit* const unit = otherUnit(words_.peek());
+    if (unit != nullptr) ends.push_back(unit->end);
+    if (words_.peek().is(Keyword::programId) && !words_.peek(1).is(TokenKind::literal)) return;
+    if (words_.peek().is(Keyword::end) && !ends.empty() && words_.peek(1).is(TokenKind::word) &&
+        words_.peek(1).is(ends.back()) && ends.back() != Keyword::name) {
+      ends.pop_back();
+      words_.skipSentence();
+      if (ends.empty()) return;
+      continue;
+    }
+    words_.skip();
+  }
+}
+
+// PROGRAM-ID. NAME [AS "NAME"] [IS COMMON INITIAL RECURSIVE PROGRAM].
+void ProgramReader::readProgramId() {
+  const SourcePlace place = words_.peek().token.place;
+  words_.skip();
+  if (words_.peek().is(TokenKind::period)) words_.skip();
+  std::string name;
+  if (words_.peek().is(TokenKind::word) || words_.peek().is(TokenKind::literal)) {
+    name = words_.take().token.text;
+  }
+  std::string entryName = name;
+  if (words_.accept(Keyword::as) && words_.peek().is(TokenKind::literal)) {
+    entryName = words_.take().token.text;
+  }
+  bool isPrototype = false;
+  while (!words_.peek().is(TokenKind::period) && !words_.atEnd() &&
+         !words_.peek(1).is(Keyword::division)) {
+    isPrototype = words_.peek().is(Keyword::prototype) || isPrototype;
+    words_.skip();
+  }
+  const std::size_t errors = problems_.errors();
+  if (name.empty() || entryName.empty()) {
+    problems_.tell(EntryRule::noName, place, "PROGRAM-ID names nothing");
+    name = entryName = "UNNAMED";
+  }
+  CobolProgram& program = begin(std::move(name), place);
+  open_.push_back(&program);
+  readBody(program, entryName, errors);
+}
+
+// Everything of a program up to the next PROGRAM-ID or END PROGRAM.
+void ProgramReader::readBody(CobolProgram& program, const std::string& entryName,
+                             std::size_t errors) {
+  EnvironmentReader(words_, program, names_).read();
+  RecordBuilder records(dialect_, program, problems_);
+  DataDivisionReader(words_, program, names_, records, problems_)
+      .read(program.isCopybook ? stem_ : std::string());
+  if (words_.peek().is(Keyword::procedure)) {
+    ProcedureReader procedure(words_, program, names_, problems_);
+    procedure.readHeader(entryName.empty() ? program.name : entryName);
+    procedure.readStatements();
+  }
+  records.finish();
+  findParameters(program, records);
+  program.isRefused = problems_.errors() > errors;
+}
+
+void ProgramReader::findParameters(CobolProgram& program, RecordBuilder& records) {
+  std::unordered_map<Index, Index> byName;
+  for (const Index record : program.records) {
+    const DataEntry& entry = program.entries[static_cast<std::size_t>(record)];
+    if (entry.nameId != none) byName.emplace(entry.nameId, record);
+  }
+  for (EntryPointEntry& entryPoint : program.entryPoints) {
+    for (ParameterEntry& parameter : entryPoint.parameters) {
+      const auto found = byName.find(parameter.name.id);
+      if (found != byName.end()) {
+        parameter.item = found->second;
+        continue;
+      }
+      const Index member = records.find({parameter.name}).entry;
+      problems_.tell(member == none ? EntryRule::lostParameter : EntryRule::partOfParameter,
+                     parameter.place,
+                     parameter.name.text + (member == none ? " is no item of the program"
+                                                           : " is no item of level 01 or 77"));
+    }
+  }
+}
+
+}  // namespace as::toolkit

@@ -1,0 +1,92 @@
+// Builds the records of a program out of its entries: nests them by their levels, puts types in,
+// and finds their places when a record is complete.
+#ifndef TOOLKIT_IMPORT_RECORDBUILDER_H_
+#define TOOLKIT_IMPORT_RECORDBUILDER_H_
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "as/toolkit/Storage.h"
+#include "toolkit/import/EntryFinder.h"
+#include "toolkit/import/EntryProblems.h"
+#include "toolkit/import/ProgramEntries.h"
+
+namespace as::toolkit {
+
+class RecordBuilder {
+ public:
+  RecordBuilder(const Dialect& dialect, CobolProgram& program, EntryProblems& problems)
+      : dialect_(dialect), program_(program), problems_(problems), finder_(program) {}
+
+  // The sections that follow.
+  void enter(DataSection section);
+  // The file whose records follow; null behind the file section.
+  void enterFile(FileEntry* file);
+
+  // Adds an entry of level 01 to 49 or 77, or a RENAMES entry. False when it stands in no record.
+  bool add(DataEntry entry);
+
+  // The entry that a condition belongs to: the last one; null when there is none.
+  DataEntry* conditionHolder();
+
+  // Ends the record that is open.
+  void closeRecord();
+
+  // Finds the items that tables depend on, when all records are there.
+  void finish();
+
+  // The size of an item, of a record that is complete or still open.
+  std::optional<std::int64_t> lengthOf(const NameReference& reference);
+
+  // The item of that name in a complete record; none when there is none.
+  EntryFinder::Found find(const std::vector<NameReference::Name>& names);
+
+ private:
+  struct Open {
+    int level;
+    Index entry;
+  };
+
+  DataEntry& at(Index entry) { return program_.entries[static_cast<std::size_t>(entry)]; }
+  Index size() const { return static_cast<Index>(program_.entries.size()); }
+
+  void nest(DataEntry& entry);
+  void putTypeIn(Index target);
+  void copyMembers(const CobolProgram& from, Index source, Index target);
+  DataEntry brought(const CobolProgram& from, Index source);
+  static void takeDescription(const DataEntry& type, DataEntry& entry);
+  Index sourceOf(const NameReference& reference, const CobolProgram** from);
+  void link();
+  void findOriginals(EntryProblems& problems);
+  void placeRecord(EntryProblems& problems);
+  void findRenamed();
+  void keepRecord();
+  void findDepending(DataEntry& entry);
+
+  const Dialect& dialect_;
+  CobolProgram& program_;
+  EntryProblems& problems_;
+  EntryFinder finder_;
+
+  DataSection section_ = DataSection::workingStorage;
+  FileEntry* file_ = nullptr;
+
+  Index record_ = none;
+  Index last_ = none;  // The last entry that was added, before those of its type.
+  std::vector<Open> open_;
+  std::vector<DataEntry> renamings_;
+  bool isRenamingLast_ = false;
+  bool hasRedefinitions_ = false;
+  bool isOverfull_ = false;
+  // Records that may be redefined.
+  std::map<std::pair<DataSection, Index>, Index> recordsByName_;
+  Index lastOriginal_ = none;  // The last record that is no redefinition.
+  std::int64_t relaidEntries_ = 0;
+};
+
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_IMPORT_RECORDBUILDER_H_

@@ -1,0 +1,46 @@
+// Finds the places of the items of a record.
+#ifndef TOOLKIT_IMPORT_RECORDLAYOUT_H_
+#define TOOLKIT_IMPORT_RECORDLAYOUT_H_
+
+#include <cstdint>
+
+#include "as/toolkit/Storage.h"
+#include "toolkit/import/EntryProblems.h"
+#include "toolkit/import/ProgramEntries.h"
+
+namespace as::toolkit {
+
+class RecordLayout {
+ public:
+  RecordLayout(const Dialect& dialect, CobolProgram& program, EntryProblems& problems)
+      : dialect_(dialect), program_(program), problems_(problems) {}
+
+  // Gives the items of the record their offsets, groups their lengths, and both their slack bytes.
+  // REQUIRES: elementary items have their lengths and boundaries, redefinitions their originals.
+  // False, after an error was told, when the record is too large.
+  bool place(Index record);
+
+ private:
+  bool placeItem(Index item, std::int64_t at);
+  bool placeMembers(Index group);
+  Index leadingItem(Index item) const;
+  void tellSlackPlace(const DataEntry& item, const DataEntry& group, const char* where);
+  void lookAtRedefinition(const DataEntry& item);
+  DataEntry& at(Index entry) { return program_.entries[static_cast<std::size_t>(entry)]; }
+  const DataEntry& at(Index entry) const {
+    return program_.entries[static_cast<std::size_t>(entry)];
+  }
+
+  const Dialect& dialect_;
+  CobolProgram& program_;
+  EntryProblems& problems_;
+};
+
+// The bytes that all occurrences of an item take.
+inline std::int64_t extentOf(const DataEntry& item) {
+  return std::int64_t{item.length} * (item.maxOccurs > 1 ? item.maxOccurs : 1);
+}
+
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_IMPORT_RECORDLAYOUT_H_
