@@ -1,0 +1,327 @@
+// Tests of what clauses make of an item in an imported dictionary: one behaviour a row.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "as/toolkit/Import.h"
+#include "support/Imports.h"
+#include "support/Toolkit.h"
+
+namespace {
+
+using test::dictionaryOf;
+using test::importOf;
+using test::ImportRow;
+using test::programOf;
+
+// An entry "01 A CLAUSES." and the element that stands for it.
+class ImportItemTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportItemTest, IsTheElementOfTheRow) {
+  const std::string source = programOf(std::string("01 A ") + GetParam().source + ".");
+  const std::string dictionary = dictionaryOf(importOf(source));
+  EXPECT_THAT(test::partsOf(dictionary, "<[a-zA-Z]+ name=\"A\"[^>]*[^/>]"),
+              testing::ElementsAre(GetParam().expected));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pictures, ImportItemTest,
+    testing::Values(
+        ImportRow{"PIC X(5)", "<alphanumeric name='A' picture='X(5)' offset='0' length='5'"},
+        ImportRow{"PICTURE IS A(3)", "<alphanumeric name='A' picture='A(3)' offset='0' length='3'"},
+        ImportRow{"PIC XXBXX", "<alphanumeric name='A' picture='XXBXX' offset='0' length='5'"},
+        ImportRow{"PIC X(5) JUSTIFIED RIGHT",
+                  "<alphanumeric name='A' picture='X(5)' justified='right' offset='0' length='5'"},
+        ImportRow{"JUST PIC X",
+                  "<alphanumeric name='A' picture='X' justified='right' offset='0' length='1'"},
+        ImportRow{"pic x(5)", "<alphanumeric name='A' picture='x(5)' offset='0' length='5'"},
+        ImportRow{"PIC N(5) USAGE NATIONAL",
+                  "<national name='A' picture='N(5)' usage='unicode' offset='0' length='10'"},
+        ImportRow{"PIC N(5)",
+                  "<national name='A' picture='N(5)' usage='unicode' offset='0' length='10'"},
+        ImportRow{"PIC N(5) DISPLAY",
+                  "<national name='A' picture='N(5)' usage='display' offset='0' length='10'"},
+        ImportRow{"PIC G(5) DISPLAY-1",
+                  "<national name='A' picture='G(5)' usage='display' offset='0' length='10'"},
+        ImportRow{"PIC 9(5) NATIONAL",
+                  "<national name='A' picture='9(5)' usage='unicode' offset='0' length='10'"},
+        ImportRow{"PIC ZZ9.99CR",
+                  "<numericEdited name='A' picture='ZZ9.99CR' digits='5' alignment='2' offset='0' "
+                  "length='8'"},
+        ImportRow{"PIC Z(5) BLANK WHEN ZERO",
+                  "<numericEdited name='A' picture='Z(5)' digits='5' alignment='0' "
+                  "blankWhenZero='true' offset='0' length='5'"},
+        ImportRow{"PIC +9(3).9(4)E+99",
+                  "<numeric name='A' picture='+9(3).9(4)E+99' usage='externalFloat' sign='true' "
+                  "digits='7' alignment='4' offset='0' length='13'"},
+        ImportRow{"PIC 1(8)", "<alphanumeric name='A' picture='1(8)' offset='0' length='8'"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Usages, ImportItemTest,
+    testing::Values(ImportRow{"PIC 9(4)",
+                              "<numeric name='A' picture='9(4)' usage='display' sign='false' "
+                              "digits='4' alignment='0' offset='0' length='4'"},
+                    ImportRow{"PIC S9(5)V99 COMP-3",
+                              "<numeric name='A' picture='S9(5)V99' usage='comp-3' sign='true' "
+                              "digits='7' alignment='2' offset='0' length='4'"},
+                    ImportRow{"PACKED-DECIMAL PIC S9(5)V99",
+                              "<numeric name='A' picture='S9(5)V99' usage='comp-3' sign='true' "
+                              "digits='7' alignment='2' offset='0' length='4'"},
+                    ImportRow{"PIC 9(4) PACKED-DECIMAL WITH NO SIGN",
+                              "<numeric name='A' picture='9(4)' usage='comp-6' sign='false' "
+                              "digits='4' alignment='0' offset='0' length='2'"},
+                    ImportRow{"PIC 9(4) USAGE IS COMPUTATIONAL",
+                              "<numeric name='A' picture='9(4)' usage='comp' sign='false' "
+                              "digits='4' alignment='0' offset='0' length='2'"},
+                    ImportRow{"PIC 9(4) BINARY",
+                              "<numeric name='A' picture='9(4)' usage='comp' sign='false' "
+                              "digits='4' alignment='0' offset='0' length='2'"},
+                    ImportRow{"PIC 9(5) COMP-4",
+                              "<numeric name='A' picture='9(5)' usage='comp-4' sign='false' "
+                              "digits='5' alignment='0' offset='0' length='4'"},
+                    ImportRow{"PIC S9(10) COMPUTATIONAL-5",
+                              "<numeric name='A' picture='S9(10)' usage='comp-5' sign='true' "
+                              "digits='10' alignment='0' offset='0' length='8'"},
+                    ImportRow{"PIC X(2) COMP-X",
+                              "<numeric name='A' picture='X(2)' usage='comp-x' sign='false' "
+                              "digits='5' alignment='0' offset='0' length='2'"},
+                    ImportRow{"PIC 9(7) COMP-X",
+                              "<numeric name='A' picture='9(7)' usage='comp-x' sign='false' "
+                              "digits='7' alignment='0' offset='0' length='3'"},
+                    ImportRow{"PIC 9(4) COMP-6",
+                              "<numeric name='A' picture='9(4)' usage='comp-6' sign='false' "
+                              "digits='4' alignment='0' offset='0' length='2'"},
+                    ImportRow{"COMP-1",
+                              "<numeric name='A' usage='comp-1' sign='true' offset='0' length='4'"},
+                    ImportRow{"USAGE COMP-2",
+                              "<numeric name='A' usage='comp-2' sign='true' offset='0' length='8'"},
+                    ImportRow{"FLOAT-LONG",
+                              "<numeric name='A' usage='comp-2' sign='true' offset='0' length='8'"},
+                    ImportRow{"BINARY-LONG",
+                              "<numeric name='A' usage='comp-5' sign='true' digits='10' "
+                              "alignment='0' offset='0' length='4'"},
+                    ImportRow{"BINARY-CHAR UNSIGNED",
+                              "<numeric name='A' usage='comp-5' sign='false' digits='3' "
+                              "alignment='0' offset='0' length='1'"},
+                    ImportRow{"UNSIGNED-INT",
+                              "<numeric name='A' usage='comp-5' sign='false' digits='10' "
+                              "alignment='0' offset='0' length='4'"},
+                    ImportRow{"INDEX", "<index name='A' offset='0' length='4'"},
+                    ImportRow{"POINTER", "<pointer name='A' offset='0' length='4'"},
+                    ImportRow{"USAGE PROCEDURE-POINTER", "<pointer name='A' offset='0' length='8'"},
+                    ImportRow{"FUNCTION-POINTER", "<pointer name='A' offset='0' length='4'"},
+                    ImportRow{"OBJECT REFERENCE", "<cobolObject name='A' offset='0' length='4'"},
+                    ImportRow{"USAGE IS OBJECT REFERENCE FACTORY OF ANY-CLASS ONLY",
+                              "<cobolObject name='A' offset='0' length='4'"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Signs, ImportItemTest,
+    testing::Values(ImportRow{"PIC S9(4)",
+                              "<numeric name='A' picture='S9(4)' usage='display' sign='true' "
+                              "digits='4' alignment='0' offset='0' length='4'"},
+                    ImportRow{"PIC S9(4) SIGN LEADING",
+                              "<numeric name='A' picture='S9(4)' usage='display' sign='li' "
+                              "digits='4' alignment='0' offset='0' length='4'"},
+                    ImportRow{"PIC S9(4) SIGN IS LEADING SEPARATE CHARACTER",
+                              "<numeric name='A' picture='S9(4)' usage='display' sign='ls' "
+                              "digits='4' alignment='0' offset='0' length='5'"},
+                    ImportRow{"PIC S9(4) TRAILING",
+                              "<numeric name='A' picture='S9(4)' usage='display' sign='ti' "
+                              "digits='4' alignment='0' offset='0' length='4'"},
+                    ImportRow{"TRAILING SEPARATE PIC S9(4)",
+                              "<numeric name='A' picture='S9(4)' usage='display' sign='ts' "
+                              "digits='4' alignment='0' offset='0' length='5'"},
+                    ImportRow{"PIC 9(4) SIGN LEADING SEPARATE",
+                              "<numeric name='A' picture='9(4)' usage='display' sign='false' "
+                              "digits='4' alignment='0' offset='0' length='4'"}));
+
+// VALUE clauses and others that dictionaries do not hold.
+INSTANTIATE_TEST_SUITE_P(
+    PassedOver, ImportItemTest,
+    testing::Values(ImportRow{"VALUE 'USAGE COMP' PIC X(5)",
+                              "<alphanumeric name='A' picture='X(5)' offset='0' length='5'"},
+                    ImportRow{"PIC 9(4) VALUE ZERO COMP",
+                              "<numeric name='A' picture='9(4)' usage='comp' sign='false' "
+                              "digits='4' alignment='0' offset='0' length='2'"},
+                    ImportRow{"PIC S9(4) VALUE IS -1",
+                              "<numeric name='A' picture='S9(4)' usage='display' sign='true' "
+                              "digits='4' alignment='0' offset='0' length='4'"},
+                    ImportRow{"PIC X(4) VALUE ALL '*' & 'A'",
+                              "<alphanumeric name='A' picture='X(4)' offset='0' length='4'"},
+                    ImportRow{"PIC 99 VALUE 77",
+                              "<numeric name='A' picture='99' usage='display' sign='false' "
+                              "digits='2' alignment='0' offset='0' length='2'"},
+                    ImportRow{"IS EXTERNAL AS 'X' PIC X",
+                              "<alphanumeric name='A' picture='X' offset='0' length='1'"},
+                    ImportRow{"GLOBAL PIC X VOLATILE THREAD-LOCAL",
+                              "<alphanumeric name='A' picture='X' offset='0' length='1'"},
+                    ImportRow{"PIC X ANY LENGTH",
+                              "<alphanumeric name='A' picture='X' offset='0' length='1'"},
+                    ImportRow{"PIC X(9) DYNAMIC LENGTH LIMIT IS 40",
+                              "<alphanumeric name='A' picture='X(9)' offset='0' length='9'"},
+                    ImportRow{"PIC X(6) DATE FORMAT YYXXXX",
+                              "<alphanumeric name='A' picture='X(6)' offset='0' length='6'"},
+                    ImportRow{"CONSTANT RECORD PIC X",
+                              "<alphanumeric name='A' picture='X' offset='0' length='1'"}));
+
+// Names that are words of clauses,
+// too.
+class ImportNameTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportNameTest, IsThatOfTheRow) {
+  const std::string dictionary =
+      dictionaryOf(importOf(programOf(std::string("01 R. 05 ") + GetParam().source + ".")));
+  EXPECT_THAT(test::partsOf(dictionary,
+                            "name=\"[^\"]*\" "
+                            "(picture|offset|usage)"),
+              testing::Contains(testing::HasSubstr(GetParam().expected)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ImportNameTest,
+                         testing::Values(ImportRow{"FILLER PIC X", "name='FILLER' picture"},
+                                         ImportRow{"filler PIC X", "name='FILLER' picture"},
+                                         ImportRow{"PIC X", "name='FILLER' picture"},
+                                         ImportRow{"COMP-1", "name='FILLER' usage"},
+                                         ImportRow{"TYPE PIC X", "name='TYPE' picture"},
+                                         ImportRow{"DATE PIC X", "name='DATE' picture"},
+                                         ImportRow{"BASED USAGE COMP-1", "name='BASED' usage"},
+                                         ImportRow{"LINE PIC X", "name='LINE' picture"},
+                                         ImportRow{"Straße PIC X", "name='Straße' picture"},
+                                         ImportRow{"8-BYTES PIC X", "name='8-BYTES' picture"}));
+
+// Condition names and their values.
+class ImportConditionTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportConditionTest, HasTheElementsOfTheRow) {
+  const std::string dictionary = dictionaryOf(importOf(programOf(std::string("78 K VALUE 7. "
+                                                                             "01 ") +
+                                                                 GetParam().source + ".")));
+  std::string elements;
+  for (const std::string& element : test::partsOf(dictionary,
+                                                  "<[a-zA-Z]+(Condition|"
+                                                  "Constant|Range)"
+                                                  "[^>]*>")) {
+    elements += element;
+  }
+  EXPECT_EQ(elements, GetParam().expected);
+}
+#define TEXTS(values) "<alphanumericCondition name='C'>" values
+#define NUMBERS(values) "<numericCondition name='C'>" values
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ImportConditionTest,
+    testing::Values(
+        ImportRow{"A PIC X. 88 C VALUE "
+                  "'B'",
+                  TEXTS("<alphanumericConstant value='B'/>")},
+        ImportRow{"A PIC X. 88 C VALUES "
+                  "ARE 'B' 'C', \"D\"",
+                  TEXTS("<alphanumericConstant value='B'/><alphanumericConstant "
+                        "value='C'/><alphanumericConstant value='D'/>")},
+        ImportRow{"A PIC X. 88 C 'B' "
+                  "THRU 'D'",
+                  TEXTS("<alphanumericRange from='B' to='D'/>")},
+        ImportRow{"A PIC X. 88 C VALUE "
+                  "'B' THROUGH 'D' 'F'",
+                  TEXTS("<alphanumericRange from='B' to='D'/><alphanumericConstant value='F'/>")},
+        ImportRow{
+            "A PIC X. 88 C VALUE "
+            "SPACES LOW-VALUE",
+            TEXTS(
+                "<alphanumericConstant value='SPACES'/><alphanumericConstant value='LOW-VALUE'/>")},
+        ImportRow{"A PIC X. 88 C VALUE "
+                  "ALL 'ab'",
+                  TEXTS("<alphanumericConstant value='ALL 'ab''/>")},
+        ImportRow{"A PIC X. 88 C VALUE "
+                  "X'C1'",
+                  TEXTS("<alphanumericConstant value='X'C1''/>")},
+        ImportRow{"A PIC N. 88 C VALUE "
+                  "N'ä'",
+                  TEXTS("<alphanumericConstant value='ä'/>")},
+        ImportRow{"A PIC X. 88 C VALUE "
+                  "'<&\"'",
+                  TEXTS("<alphanumericConstant value='&lt;&amp;&quot;'/>")},
+        ImportRow{"A PIC X. 88 C VALUE "
+                  "'B' & 'C'",
+                  TEXTS("<alphanumericConstant value='BC'/>")},
+        ImportRow{"A PIC X. 88 C VALUE "
+                  "''",
+                  TEXTS("<alphanumericConstant value=''/>")},
+        ImportRow{"A PIC X. 88 C VALUE "
+                  "'Y' WHEN SET TO FALSE "
+                  "IS 'N'",
+                  TEXTS("<alphanumericConstant value='Y'/>")},
+        ImportRow{"A PIC X. 88 C VALUE "
+                  "'Y' FALSE 'N'",
+                  TEXTS("<alphanumericConstant value='Y'/>")},
+        ImportRow{"A PIC S9V9. 88 C "
+                  "VALUE -1.5 THRU +2 3",
+                  NUMBERS("<numericRange from='-1.5' to='+2'/><numericConstant value='3'/>")},
+        ImportRow{"A PIC 9. 88 C VALUE "
+                  "ZERO K",
+                  NUMBERS("<numericConstant value='ZERO'/><numericConstant value='7'/>")},
+        ImportRow{"A INDEX. 88 C VALUE 1", NUMBERS("<numericConstant value='1'/>")},
+        ImportRow{"A. 88 C VALUE 'B'. 05 "
+                  "B PIC X",
+                  TEXTS("<alphanumericConstant value='B'/>")},
+        ImportRow{"A. 05 B PIC X. 66 R "
+                  "RENAMES B. 88 C VALUE "
+                  "'B'",
+                  TEXTS("<alphanumericConstant value='B'/>")}));
+
+// Files, with what SELECT says of
+// them.
+class ImportFileTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportFileTest, IsTheElementOfTheRow) {
+  const std::string source = std::string(
+                                 "PROGRAM-ID. T. "
+                                 "ENVIRONMENT DIVISION. "
+                                 "INPUT-OUTPUT ") +
+                             "SECTION. FILE-CONTROL. "
+                             "SELECT " +
+                             GetParam().source +
+                             ". DATA DIVISION. FILE "
+                             "SECTION. FD F. 01 R PIC X. "
+                             "01 S PIC 99.";
+  const std::string dictionary = dictionaryOf(importOf(source));
+  EXPECT_THAT(test::partsOf(dictionary, "<fd[^>]*"), testing::ElementsAre(GetParam().expected));
+  EXPECT_EQ(test::placesOf(dictionary), "R 0+1, S 0+2");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ImportFileTest,
+    testing::Values(ImportRow{"F ASSIGN X", "<fd name='F'"},
+                    ImportRow{"OPTIONAL F ASSIGN X "
+                              "SEQUENTIAL",
+                              "<fd name='F' organization='sequential'"},
+                    ImportRow{"F ASSIGN X "
+                              "ORGANIZATION IS "
+                              "RECORD SEQUENTIAL",
+                              "<fd name='F' organization='sequential'"},
+                    ImportRow{"F ASSIGN X "
+                              "ORGANIZATION INDEXED "
+                              "ACCESS MODE IS "
+                              "DYNAMIC RECORD KEY IS "
+                              "K",
+                              "<fd name='F' accessMode='dynamic' organization='indexed'"},
+                    ImportRow{"F ASSIGN X RELATIVE "
+                              "KEY IS K ORGANIZATION "
+                              "IS RELATIVE ACCESS "
+                              "RANDOM",
+                              "<fd name='F' accessMode='random' organization='relative'"},
+                    ImportRow{"F ASSIGN X RELATIVE "
+                              "ACCESS MODE "
+                              "SEQUENTIAL",
+                              "<fd name='F' accessMode='sequential' organization='relative'"},
+                    ImportRow{"F ASSIGN X LINE "
+                              "SEQUENTIAL",
+                              "<fd name='F' organization='lineSequential'"},
+                    ImportRow{"F ASSIGN X "
+                              "ORGANIZATION LINE "
+                              "SEQUENTIAL FILE "
+                              "STATUS IS S",
+                              "<fd name='F' organization='lineSequential'"}));
+
+}  // namespace

@@ -1,0 +1,206 @@
+// Tests of what import tells of sources, and where: one rule a row.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <ostream>
+#include <set>
+#include <string>
+
+#include "as/toolkit/Import.h"
+#include "support/Imports.h"
+
+namespace {
+
+using as::toolkit::Severity;
+using test::findingsOf;
+using test::freeFormat;
+using test::importOf;
+using test::ImportRow;
+using test::kHeadLines;
+using test::programOf;
+
+// Entries, and "LINE:COLUMN RULE" of what is told.
+class ImportProblemTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportProblemTest, IsToldAtItsPlace) {
+  const auto imported = importOf(programOf(GetParam().source));
+  EXPECT_EQ(findingsOf(imported, kHeadLines), GetParam().expected) << test::problemsOf(imported);
+  ASSERT_EQ(imported.programs.size(), 1U);
+  EXPECT_EQ(imported.programs.front().isRefused(), countOf(imported.findings, Severity::error) > 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Entries, ImportProblemTest,
+    testing::Values(ImportRow{"01 A PIC X.\nNONSENSE B.\n01 C PIC X.", "2:1 unknown-text"},
+                    ImportRow{"01 A PIC X.\n50 B PIC X.", "2:1 unknown-level"},
+                    ImportRow{"05 A PIC X.", "1:1 no-record"},
+                    ImportRow{"01 R.\n10 A PIC X.\n05 B PIC X.", "3:1 odd-level"},
+                    ImportRow{"01 A PIC X.\n05 B PIC X.", "1:1 members-of-item"},
+                    ImportRow{"01 A PIC X\n01 B PIC X.", "2:1 no-period"},
+                    ImportRow{"01 A PIC X VALUE 'A'\n01 B PIC X.", "2:1 no-period"},
+                    ImportRow{"01 A PIC X COLOUR RED.\n01 B PIC X.", "1:12 unknown-clause"},
+                    ImportRow{"01 A PIC X.\n01 B COLOUR 1.\n01 C COLOUR 2.",
+                              "2:6 unknown-clause, 3:6 unknown-clause"},
+                    ImportRow{"01 A USAGE FANCY.", "1:6 bad-clause"},
+                    ImportRow{"01 A PIC X PIC X.", "1:16 bad-clause"},
+                    ImportRow{"01 A PIC 9 COMP COMP.", "1:17 bad-clause, 1:1 dialect-decides"},
+                    ImportRow{"01 A PIC S9 SIGN MIDDLE.", "1:13 bad-clause"},
+                    ImportRow{"01 A PIC 9 BLANK WHEN ONE.", "1:12 bad-clause"},
+                    ImportRow{"01 A BASED POINTER.",
+                              "1:12 passed-over-clause, 1:1 dialect-decides"},
+                    ImportRow{"01 A PIC 9(9) COMP SYNC.", ""},
+                    ImportRow{"01 A PIC S9(18) COMP SYNC.", "1:1 dialect-decides"},
+                    ImportRow{"01 A PIC X ANY LENGTH.", "1:12 length-unknown"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Items, ImportProblemTest,
+    testing::Values(ImportRow{"01 A.", "1:1 no-picture"}, ImportRow{"01 A COMP.", "1:1 no-picture"},
+                    ImportRow{"01 A PIC Q.", "1:10 bad-picture"},
+                    ImportRow{"01 A PIC X(0).", "1:10 bad-picture"},
+                    ImportRow{"01 A PIC X(NOWHERE).", "1:10 bad-picture"},
+                    ImportRow{"01 A PIC X COMP-1.", "1:1 needless-picture"},
+                    ImportRow{"01 A PIC X COMP-3.", "1:1 bad-usage"},
+                    ImportRow{"01 A PIC 9(19) COMP.", "1:1 bad-usage"},
+                    ImportRow{"01 R COMP-3. 05 A PIC X.", "1:14 bad-usage"},
+                    ImportRow{"01 A PIC 9(39) COMP-3.", "1:1 many-digits"},
+                    ImportRow{"01 A PIC 9 SIGN LEADING.", "1:1 useless-sign"},
+                    ImportRow{"01 A PIC N.", "1:1 national-by-default"},
+                    ImportRow{"01 A FLOAT-DECIMAL-16.", "1:1 other-kind"},
+                    ImportRow{"01 R. 05 G SYNC. 10 A PIC X.", "1:7 group-sync"},
+                    ImportRow{"01 A PIC 1(8) BIT.", "1:1 bit-storage, 1:1 other-kind"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Tables, ImportProblemTest,
+    testing::Values(
+        ImportRow{"01 R. 05 A PIC X OCCURS 0.", "1:25 bad-occurs"},
+        ImportRow{"01 R. 05 A PIC X OCCURS -1.", "1:25 bad-occurs"},
+        ImportRow{"01 R. 05 A PIC X OCCURS 5 TO 3 DEPENDING ON B. 05 B PIC 9.", "1:25 bad-occurs"},
+        ImportRow{"01 R. 05 A PIC X OCCURS NOWHERE.", "1:25 bad-occurs"},
+        ImportRow{"01 R. 05 A PIC X OCCURS 9999999999.", "1:25 bad-occurs"},
+        ImportRow{"01 R. 05 A PIC X OCCURS 3 OCCURS 3.", "1:27 bad-clause"},
+        ImportRow{"01 R. 05 A PIC X OCCURS 1 TO 5.", "1:18 no-depending"},
+        ImportRow{"01 A PIC X OCCURS 5.", "1:12 table-on-top"},
+        ImportRow{"01 R. 05 A PIC X OCCURS 1 TO 5 DEPENDING ON N.", "1:45 lost-depending"},
+        ImportRow{
+            "01 Q. 05 N PIC 9. 01 P. 05 N PIC 9. 01 R.\n05 A PIC X OCCURS 1 TO 5 DEPENDING ON N.",
+            "2:39 unclear-depending"},
+        ImportRow{"01 R. 05 A PIC X OCCURS 2000000000. 05 B PIC X OCCURS 2000000000.",
+                  "1:37 too-large"},
+        ImportRow{"01 R. 05 A PIC X(2) OCCURS 2000000000.", "1:7 too-large"},
+        ImportRow{"01 R. 05 G OCCURS 60000. 10 A PIC X(60000).", "1:7 too-large"},
+        ImportRow{"01 A PIC X(99999999999).", "1:10 bad-picture"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Places, ImportProblemTest,
+    testing::Values(
+        ImportRow{"01 R. 05 A PIC X. 05 B REDEFINES C PIC X.", "1:34 lost-redefined"},
+        ImportRow{"01 R. 05 A PIC X. 05 PIC X. 05 B REDEFINES A PIC X.", "1:44 far-redefined"},
+        ImportRow{"01 R. 05 A PIC X. 05 B REDEFINES A PIC XX.", "1:19 larger-redefinition"},
+        ImportRow{"01 A PIC X. 01 B REDEFINES A PIC XX.", ""},
+        ImportRow{"01 R. 05 Z PIC X. 05 A PIC X(4). 05 B REDEFINES A COMP-1 SYNC.",
+                  "1:34 off-boundary"},
+        ImportRow{"01 R. 05 A PIC X. 05 G. 10 B COMP-1 SYNC.", "1:25 slack-place"},
+        ImportRow{"01 R. 05 A PIC X. 66 B RENAMES C.", "1:32 lost-renamed"},
+        ImportRow{"01 R. 05 A PIC X. 05 B PIC X. 66 C RENAMES B THRU A.", "1:44 lost-renamed"},
+        ImportRow{"01 R. 05 A PIC X. 66 C.", "1:19 bad-clause"},
+        ImportRow{"01 A TYPE T.", "1:11 lost-type"}, ImportRow{"01 A LIKE B.", "1:11 lost-type"},
+        ImportRow{"01 T TYPEDEF. 05 A TYPE T.", "1:25 lost-type"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, ImportProblemTest,
+    testing::Values(ImportRow{"78 K VALUE 1 / 0.", "1:12 bad-constant"},
+                    ImportRow{"78 K VALUE NEXT.", "1:12 bad-constant"},
+                    ImportRow{"78 K VALUE 9223372036854775807 + 1.", "1:12 bad-constant"},
+                    ImportRow{"78 K VALUE ((((1).", "1:12 bad-constant"},
+                    ImportRow{"01 A PIC X. 88 C.", "1:16 no-value"},
+                    ImportRow{"01 A PIC X. 88 C VALUE NOWHERE.", "1:24 no-value, 1:16 no-value"},
+                    ImportRow{"88 C VALUE 1.", "1:4 no-item"},
+                    ImportRow{"01 A PIC X. 88 C VALUE X'00' X'01'.", "1:24 coded-literal"}));
+
+// Whole sources.
+class ImportSourceProblemTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportSourceProblemTest, IsToldAtItsPlace) {
+  const auto imported = importOf(GetParam().source);
+  EXPECT_EQ(findingsOf(imported), GetParam().expected) << test::problemsOf(imported);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ImportSourceProblemTest,
+    testing::Values(
+        ImportRow{"", "0:0 no-program"}, ImportRow{"DISPLAY 'HELLO'.", "1:16 no-program"},
+        ImportRow{"PROGRAM-ID. .", "1:1 no-program-name"}, ImportRow{"01 A PIC X.", "1:1 copybook"},
+        ImportRow{"PROGRAM-ID. T.\nCLASS-ID. C.\nMETHOD-ID. M.\nEND METHOD M.\nEND CLASS C.",
+                  "2:1 passed-over-program"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION.\nREPORT SECTION.\nRD R.\n01 L TYPE DETAIL.",
+                  "2:1 passed-over-section"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION. FILE SECTION. FD F.\n01 A PIC X.",
+                  "1:48 no-select"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION. FILE SECTION.\n01 A PIC X.", "2:1 no-record"},
+        ImportRow{"PROGRAM-ID. T. PROCEDURE DIVISION USING\nA.", "2:1 lost-parameter"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION. LINKAGE SECTION.\n01 R. 05 A PIC X.\n"
+                  "PROCEDURE DIVISION USING A.",
+                  "3:26 parameter-within"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION. LINKAGE SECTION.\n01 A PIC X.\n"
+                  "PROCEDURE DIVISION USING BY CONTENT OPTIONAL A.",
+                  "3:29 content-parameter, 3:37 optional-parameter"},
+        ImportRow{"PROGRAM-ID. T. PROCEDURE DIVISION.\nENTRY FAST 'E'.", "2:7 lost-convention"}));
+
+// What a note says counts everywhere: it is told once a source.
+TEST(ImportNotes, AreToldOnceASource) {
+  EXPECT_EQ(findingsOf(importOf(programOf("01 A PIC N.\n01 B PIC N.")), kHeadLines),
+            "1:1 national-by-default");
+}
+
+TEST(ImportProblems, AreToldWithTheCopiesTheyStandIn) {
+  test::ListedCopybooks copybooks(
+      test::ListedCopybooks::Texts{{"OUTER", "COPY INNER."}, {"INNER", "01 A PIC Q."}});
+  const auto imported =
+      as::toolkit::importCobol(programOf("COPY OUTER."), "T.cbl", &copybooks, freeFormat());
+  ASSERT_EQ(imported.findings.size(), 1U);
+  EXPECT_EQ(textOf(imported.findings.front()),
+            "INNER.cpy:1:10: error: Q is no PICTURE that can be read\n"
+            "OUTER.cpy:1:1: note: copied here\n"
+            "T.cbl:5:1: note: copied here");
+}
+
+// Those of the words and those of the entries are told one behind the other.
+TEST(ImportProblems, OfWordsRefuseTheirProgramAlone) {
+  const auto imported = importOf(
+      "PROGRAM-ID. A. DATA DIVISION. WORKING-STORAGE SECTION.\nCOPY NOWHERE.\n01 R PIC X.\n"
+      "PROCEDURE DIVISION. GOBACK. END PROGRAM A.\nPROGRAM-ID. B.");
+  EXPECT_EQ(findingsOf(imported), "2:1 copybook-not-found") << test::problemsOf(imported);
+  ASSERT_EQ(imported.programs.size(), 2U);
+  EXPECT_TRUE(imported.programs[0].isRefused());
+  EXPECT_FALSE(imported.programs[1].isRefused());
+}
+
+TEST(ImportProblems, OfContainedProgramsRefuseThemAlone) {
+  const auto imported = importOf(
+      "PROGRAM-ID. A. PROCEDURE DIVISION. GOBACK. PROGRAM-ID. B. DATA DIVISION. "
+      "WORKING-STORAGE SECTION. 01 R PIC Q. END PROGRAM B. END PROGRAM A.");
+  ASSERT_EQ(imported.programs.size(), 2U);
+  EXPECT_FALSE(imported.programs[0].isRefused());
+  EXPECT_TRUE(imported.programs[1].isRefused());
+}
+
+TEST(ImportRules, HaveUniqueIds) {
+  std::set<std::string> ids;
+  for (const as::toolkit::ImportRule& rule : as::toolkit::importRules()) {
+    EXPECT_TRUE(ids.insert(rule.id).second) << rule.id;
+    EXPECT_STRNE(rule.summary, "");
+  }
+}
+
+TEST(ImportOptions, DialectsMustBeKnown) {
+  EXPECT_THROW(importOf("01 A PIC X.", freeFormat("vax")), std::invalid_argument);
+}
+
+TEST(ImportOptions, PointersHaveFourOrEightBytes) {
+  auto options = freeFormat();
+  options.pointerSize = 5;
+  EXPECT_THROW(importOf("01 A PIC X.", options), std::invalid_argument);
+}
+
+}  // namespace

@@ -1,0 +1,294 @@
+// Tests of the programs of a source, their entry points, and whole dictionaries.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "as/toolkit/Import.h"
+#include "support/Imports.h"
+#include "support/Toolkit.h"
+
+namespace {
+
+using as::toolkit::Imported;
+using as::toolkit::ImportedProgram;
+using test::dictionaryOf;
+using test::freeFormat;
+using test::importOf;
+using test::ImportRow;
+
+// "NAME[CONVENTION](ITEM HOW, ...)" of each entry point.
+std::string entryPointsOf(const std::string& dictionary) {
+  static const std::regex element(
+      "<entryPoint name=\"([^\"]*)\"(?: callConvention=\"([^\"]*)\")?|"
+      "<parameter dataItem=\"([^\"]*)\" byType=\"([^\"]*)\"");
+  std::string text;
+  for (std::sregex_iterator at(dictionary.begin(), dictionary.end(), element), end; at != end;
+       ++at) {
+    if ((*at)[1].matched) {
+      text += (text.empty() ? "" : "; ") + (*at)[1].str();
+      if ((*at)[2].matched) text += "[" + (*at)[2].str() + "]";
+    } else {
+      text += " " + (*at)[3].str() + "/" + (*at)[4].str();
+    }
+  }
+  return text;
+}
+
+// What stands behind the linkage section with A, B, C and D.
+class ImportEntryPointTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportEntryPointTest, AreThoseOfTheRow) {
+  const std::string source =
+      std::string(
+          "IDENTIFICATION DIVISION. PROGRAM-ID. T. ENVIRONMENT DIVISION. "
+          "CONFIGURATION SECTION. SPECIAL-NAMES. CALL-CONVENTION 8 IS FAST. "
+          "DATA DIVISION. LINKAGE SECTION. 01 A PIC X. 01 B PIC X. 77 C PIC X. 01 D PIC X. "
+          "PROCEDURE DIVISION") +
+      GetParam().source;
+  EXPECT_EQ(entryPointsOf(dictionaryOf(importOf(source))), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Headers, ImportEntryPointTest,
+    testing::Values(
+        ImportRow{".", "T"}, ImportRow{" USING A B C.", "T A/reference B/reference C/reference"},
+        ImportRow{" USING a, b.", "T A/reference B/reference"},
+        ImportRow{" USING BY VALUE A B BY REFERENCE C.", "T A/value B/value C/reference"},
+        ImportRow{" USING VALUE A REFERENCE B.", "T A/value B/reference"},
+        ImportRow{" USING BY REFERENCE OPTIONAL A B.", "T A/reference B/reference"},
+        ImportRow{" USING BY VALUE UNSIGNED SIZE IS 4 A SIZE AUTO B.", "T A/value B/value"},
+        ImportRow{" USING A RETURNING B.", "T A/reference B/returning"},
+        ImportRow{" GIVING B.", "T B/returning"}, ImportRow{" CHAINING A.", "T A/reference"},
+        ImportRow{" FAST USING A.", "T[8] A/reference"},
+        ImportRow{" USING A RAISING EX.", "T A/reference"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Statements, ImportEntryPointTest,
+    testing::Values(
+        ImportRow{". P. ENTRY 'E' USING A. GOBACK.", "T; E A/reference"},
+        ImportRow{". P. ENTRY \"E\" USING BY VALUE A RETURNING B.", "T; E A/value B/returning"},
+        ImportRow{". P. ENTRY 'E'. ENTRY 'F'.", "T; E; F"},
+        ImportRow{". P. ENTRY FAST 'E' USING A.", "T; E[8] A/reference"},
+        ImportRow{". P. IF A = B ENTRY 'E' USING A DISPLAY B END-IF.", "T; E A/reference"},
+        ImportRow{". P. ENTRY 'E' USING A MOVE B TO C.", "T; E A/reference"},
+        ImportRow{". P. SET X TO ENTRY 'E'.", "T"}, ImportRow{". P. DISPLAY 'ENTRY \"E\"'.", "T"},
+        ImportRow{". P. PERFORM ENTRY-POINT.", "T"}, ImportRow{".\n*> ENTRY 'E'.\nP. GOBACK.", "T"},
+        ImportRow{". P. ENTRY FOR GO TO 'E'.", "T"},
+        ImportRow{". DECLARATIVES. S SECTION. USE AFTER ERROR PROCEDURE ON F. END DECLARATIVES. "
+                  "P. ENTRY 'E'.",
+                  "T; E"},
+        ImportRow{". P. EXEC SQL SELECT 'ENTRY' END-EXEC. ENTRY 'E'.", "T; E"}));
+
+// Sources, and "NAME" of each program with its places.
+class ImportProgramsTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportProgramsTest, AreThoseOfTheRow) {
+  const Imported imported = importOf(GetParam().source);
+  std::string text;
+  for (const ImportedProgram& program : imported.programs) {
+    text += (text.empty() ? "" : "; ") + program.name + ": " + test::placesOf(program.dictionary);
+  }
+  EXPECT_EQ(text, GetParam().expected) << test::problemsOf(imported);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ImportProgramsTest,
+    testing::Values(
+        ImportRow{"ID DIVISION. PROGRAM-ID. A. DATA DIVISION. WORKING-STORAGE SECTION. 01 X PIC X.",
+                  "A: X 0+1"},
+        ImportRow{
+            "PROGRAM-ID. A IS INITIAL PROGRAM. DATA DIVISION. LOCAL-STORAGE SECTION. 01 X PIC X.",
+            "A: X 0+1"},
+        ImportRow{"PROGRAM-ID. A. PROCEDURE DIVISION. GOBACK. END PROGRAM A. "
+                  "IDENTIFICATION DIVISION. PROGRAM-ID. B. DATA DIVISION. WORKING-STORAGE SECTION. "
+                  "01 X PIC X. END PROGRAM B.",
+                  "A: ; B: X 0+1"},
+        ImportRow{
+            "PROGRAM-ID. A. DATA DIVISION. WORKING-STORAGE SECTION. 78 N VALUE 3. 01 X PIC X. "
+            "PROCEDURE DIVISION. GOBACK. IDENTIFICATION DIVISION. PROGRAM-ID. B. "
+            "DATA DIVISION. WORKING-STORAGE SECTION. 01 Y PIC X(N). PROCEDURE DIVISION. "
+            "GOBACK. END PROGRAM B. END PROGRAM A.",
+            "A: X 0+1; B: Y 0+3"},
+        ImportRow{
+            "PROGRAM-ID. A. DATA DIVISION. WORKING-STORAGE SECTION. 01 T TYPEDEF. 05 X PIC X. "
+            "88 Y VALUE 'Y'. PROCEDURE DIVISION. GOBACK. PROGRAM-ID. B. DATA DIVISION. "
+            "WORKING-STORAGE SECTION. 01 R TYPE T. END PROGRAM B. END PROGRAM A.",
+            "A: ; B: R 0+1, X 0+1"},
+        ImportRow{"FUNCTION-ID. F. DATA DIVISION. WORKING-STORAGE SECTION. 01 X PIC X. "
+                  "PROCEDURE DIVISION. GOBACK. END FUNCTION F. PROGRAM-ID. A.",
+                  "A: "},
+        ImportRow{"01 X PIC X. 01 Y PIC XX.", "T: X 0+1, Y 0+2"},
+        ImportRow{"05 X PIC X. 05 Y PIC XX.", "T: T 0+3, X 0+1, Y 1+2"},
+        ImportRow{"10 X PIC X. 05 Y PIC XX. 01 Z PIC X.", "T: T 0+3, X 0+1, Y 1+2, Z 0+1"},
+        ImportRow{"FD F. 01 X PIC X.", "T: X 0+1"},
+        ImportRow{"LINKAGE SECTION. 01 X PIC X.", "T: X 0+1"}));
+
+TEST(ImportPrograms, AreNamedByLiteralsToo) {
+  const Imported imported = importOf("PROGRAM-ID. \"a b\" AS \"c&d\". PROCEDURE DIVISION.");
+  ASSERT_EQ(imported.programs.size(), 1U);
+  EXPECT_EQ(imported.programs.front().name, "a b");
+  EXPECT_EQ(entryPointsOf(imported.programs.front().dictionary), "c&amp;d");
+}
+
+TEST(ImportPrograms, HaveCopybooksWhereTold) {
+  auto options = freeFormat();
+  options.isCopybook = true;
+  const Imported imported =
+      as::toolkit::importCobol("01 A PIC X.", "lib/my.rec.cpy", nullptr, options);
+  ASSERT_EQ(imported.programs.size(), 1U);
+  EXPECT_EQ(imported.programs.front().name, "my-rec");
+  EXPECT_EQ(imported.programs.front().items, 1U);
+}
+
+TEST(ImportPrograms, HavePicturesOfTheirDecimalPointAndCurrency) {
+  const std::string source =
+      "PROGRAM-ID. T. ENVIRONMENT DIVISION. CONFIGURATION SECTION. SPECIAL-NAMES. "
+      "DECIMAL-POINT IS COMMA CURRENCY SIGN IS 'EUR' WITH PICTURE SYMBOL 'E'. "
+      "DATA DIVISION. WORKING-STORAGE SECTION. 01 A PIC EEE.EE9,99. 01 B PIC 9(4). "
+      "88 C VALUE 1,5.";
+  const std::string dictionary = dictionaryOf(importOf(source));
+  EXPECT_EQ(test::placesOf(dictionary), "A 0+12, B 0+4");
+  EXPECT_THAT(dictionary, testing::HasSubstr("digits=\"7\" alignment=\"2\""));
+  EXPECT_THAT(dictionary, testing::HasSubstr("<numericConstant value=\"1.5\"/>"));
+}
+
+TEST(ImportPrograms, TellTheLinesOfTheFilesThatTheirEntriesStandIn) {
+  test::ListedCopybooks copybooks(test::ListedCopybooks::Texts{{"C", "\n\n05 A PIC X."}});
+  const Imported imported = as::toolkit::importCobol(test::programOf("01 R.\nCOPY C.\n05 B PIC X."),
+                                                     "T.cbl", &copybooks, freeFormat());
+  EXPECT_THAT(
+      dictionaryOf(imported),
+      testing::AllOf(
+          testing::HasSubstr("name=\"R\" offset=\"0\" length=\"2\" line=\"5\""),
+          testing::HasSubstr("name=\"A\" picture=\"X\" offset=\"0\" length=\"1\" line=\"3\""),
+          testing::HasSubstr("name=\"B\" picture=\"X\" offset=\"1\" length=\"1\" line=\"7\"")));
+}
+
+TEST(ImportPrograms, HaveTheOptionsForProperties) {
+  EXPECT_THAT(
+      test::partsOf(dictionaryOf(importOf("PROGRAM-ID. T.", freeFormat("natural"))),
+                    "name=\"[^\"]*\" value=\"[^\"]*\""),
+      testing::ElementsAre("name='source' value='T.cbl'", "name='sourceFormat' value='free'",
+                           "name='dialect' value='natural'", "name='platform' value='64-bit'",
+                           "name='binarySizes' value='2-4-8'",
+                           "name='syncBoundary' value='size of the item, 8 at most'",
+                           "name='pointerSize' value='8'"));
+}
+
+// The dictionaries of the examples were written for this dialect.
+class ImportExampleTest : public test::ToolkitTest,
+                          public testing::WithParamInterface<const char*> {
+ protected:
+  static std::string contentOf(const std::string& file) {
+    const std::ifstream stream(file);
+    std::ostringstream content;
+    content << stream.rdbuf();
+    return content.str();
+  }
+
+  // What the model says of a dictionary but for its properties.
+  static nlohmann::json answersOf(nlohmann::json model) {
+    model.erase("properties");
+    return model;
+  }
+};
+
+TEST_P(ImportExampleTest, SaysWhatItsDictionarySays) {
+  const std::string base = std::string(AS_EXAMPLES_DIR "/") + GetParam();
+  as::toolkit::ImportOptions options;
+  options.dialect = "natural";
+  const Imported imported =
+      as::toolkit::importCobol(contentOf(base + ".cbl"), base + ".cbl", nullptr, options);
+  for (const as::toolkit::ImportFinding& finding : imported.findings) {
+    EXPECT_THAT(finding.rule, testing::AnyOf("dialect-decides", "slack-place")) << textOf(finding);
+  }
+  write("imported.xml", dictionaryOf(imported));
+  EXPECT_EQ(answersOf(jsonOfFile("imported.xml")), answersOf(jsonOfFile(base + ".xml")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Programs, ImportExampleTest,
+                         testing::Values("DEPINT01", "MOTPREM", "WHSLOTS", "PAYSLIP"));
+
+// Whatever the source, what comes out is a dictionary.
+class ImportValidityTest : public test::ToolkitTest,
+                           public testing::WithParamInterface<const char*> {};
+
+TEST_P(ImportValidityTest, IsADictionary) {
+  write("T.xml", dictionaryOf(importOf(GetParam())));
+  EXPECT_NE(reader().readDictionary("T.xml"), nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ImportValidityTest,
+    testing::Values(
+        "PROGRAM-ID. T.", "PROGRAM-ID. '<&>'.",
+        "01 A PIC X. 88 B VALUE '\x01\x1B' '\xEF\xBF\xBF' '\t'.",
+        "01 T TYPEDEF. 05 A PIC 9. 05 B PIC X OCCURS 1 TO 3 DEPENDING ON A. 66 C RENAMES A.\n"
+        "01 R TYPE T. 88 D VALUE 'A' THRU 'B' 'C'. 05 E PIC ZZ9 BLANK ZERO. 05 F INDEX. "
+        "05 G OBJECT REFERENCE. 05 H POINTER. 05 I PIC N. 05 J PIC S9 SIGN LEADING SEPARATE. "
+        "05 K REDEFINES J PIC X. 05 L COMP-1 SYNC. 66 M RENAMES E THRU F.",
+        "FD F. 01 A PIC X. FD G. SD H. 01 B PIC X. LINKAGE SECTION. 01 C PIC X JUST."));
+
+// How the places of items came about.
+class ImportExplanationTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportExplanationTest, IsThatOfTheRow) {
+  const Imported imported =
+      importOf(test::programOf("01 R USAGE COMP.\n05 A PIC X(3) DISPLAY.\n05 G OCCURS 1 TO 3\n"
+                               "DEPENDING ON N.\n10 B PIC S9(7)V99 SYNC.\n10 C PIC X DISPLAY.\n"
+                               "05 D REDEFINES A.\n10 E PIC S9(3) DISPLAY LEADING SEPARATE.\n"
+                               "66 F RENAMES A THRU G.\n77 N PIC 9.\n01 Q.\n05 A PIC X."));
+  ASSERT_EQ(imported.programs.size(), 1U);
+  std::string text;
+  for (const auto& item : explainItem(imported.programs.front(), GetParam().source)) {
+    text += textOf(item) + "\n";
+  }
+  EXPECT_EQ(text, GetParam().expected) << test::problemsOf(imported);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ImportExplanationTest,
+    testing::Values(
+        ImportRow{"R.A",
+                  "R.A: bytes 0 to 2\n"
+                  "  T.cbl:6: PICTURE X(3): 3 characters\n"
+                  "  T.cbl:6: USAGE DISPLAY\n"
+                  "  T.cbl:6: 3 bytes as DISPLAY in dialect ibm\n"
+                  "  T.cbl:5: first in R, which starts at offset 0\n"
+                  "  T.cbl:6: offset 0\n"},
+        ImportRow{"b",
+                  "R.G.B: bytes 4 to 7\n"
+                  "  T.cbl:9: PICTURE S9(7)V99: 9 digits, 2 behind the point, signed\n"
+                  "  T.cbl:5: USAGE COMP of the group R\n"
+                  "  T.cbl:9: 4 bytes as COMP in dialect ibm\n"
+                  "  T.cbl:7: first in G, which starts at offset 4\n"
+                  "  T.cbl:9: SYNCHRONIZED: stands on a multiple of 4 without slack\n"
+                  "  T.cbl:9: offset 4\n"},
+        ImportRow{"G",
+                  "R.G: bytes 4 to 11\n"
+                  "  T.cbl:7: a group: its members take 5 bytes\n"
+                  "  T.cbl:7: 3 bytes of slack behind the last member bring each occurrence to "
+                  "a multiple of 4\n"
+                  "  T.cbl:6: follows A, which ends at offset 3\n"
+                  "  T.cbl:7: 1 byte of slack before it bring it to a multiple of 4\n"
+                  "  T.cbl:7: offset 4\n"
+                  "  T.cbl:7: occurs 1 to 3 times: 24 bytes, depending on N\n"},
+        ImportRow{"E",
+                  "R.D.E: bytes 0 to 3\n"
+                  "  T.cbl:12: PICTURE S9(3): 3 digits, signed\n"
+                  "  T.cbl:12: USAGE DISPLAY\n"
+                  "  T.cbl:12: SIGN SEPARATE: a character of its own\n"
+                  "  T.cbl:12: 4 bytes as DISPLAY in dialect ibm\n"
+                  "  T.cbl:11: first in D, which starts at offset 0\n"
+                  "  T.cbl:12: offset 0\n"},
+        ImportRow{"R.F",
+                  "R.F: bytes 0 to 27\n"
+                  "  T.cbl:6: starts where A starts, at offset 0\n"
+                  "  T.cbl:7: ends where G ends: 28 bytes\n"},
+        ImportRow{"NOWHERE", ""}));
+
+}  // namespace
