@@ -30,6 +30,16 @@ void Arguments::option(const char* name, std::optional<std::string>& value, cons
   app_.add_option(name, value, help)->type_name(type);
 }
 
+void Arguments::option(const char* name, std::string& value, const std::vector<std::string>& words,
+                       const char* help) {
+  app_.add_option(name, value, help)->check(CLI::IsMember(words));
+}
+
+void Arguments::option(const char* name, std::size_t& value, const char* help) {
+  constexpr std::size_t most = 1000;
+  app_.add_option(name, value, help)->check(CLI::Range(std::size_t{1}, most));
+}
+
 void Arguments::list(const char* name, std::vector<std::string>& values, const char* type,
                      const char* help) {
   app_.add_option(name, values, help)->delimiter(',')->allow_extra_args(false)->type_name(type);

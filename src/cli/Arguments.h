@@ -3,6 +3,7 @@
 #ifndef CLI_ARGUMENTS_H_
 #define CLI_ARGUMENTS_H_
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -33,6 +34,11 @@ class Arguments {
   void option(const char* name, std::string& value, const char* help);
   void option(const char* name, std::optional<std::string>& value, const char* type,
               const char* help);
+  // The same with a value that is one of `words`.
+  void option(const char* name, std::string& value, const std::vector<std::string>& words,
+              const char* help);
+  // "--name NUMBER", from 1 on.
+  void option(const char* name, std::size_t& value, const char* help);
   // "--name A,B".
   void list(const char* name, std::vector<std::string>& values, const char* type, const char* help);
   void flag(const char* name, bool& value, const char* help);

@@ -51,6 +51,7 @@ std::unique_ptr<Command> validateCommand();
 std::unique_ptr<Command> lintCommand();
 std::unique_ptr<Command> newCommand();
 std::unique_ptr<Command> convertCommand();
+std::unique_ptr<Command> importCommand();
 
 // Runs `work` with a reader for the schema directory in use, and tells what was refused. Returns
 // the exit code.

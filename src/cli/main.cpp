@@ -17,7 +17,7 @@ namespace {
 
 // The commands, in the order in which help lists them.
 constexpr std::unique_ptr<Command> (*commands[])() = {
-    showCommand, validateCommand, lintCommand, newCommand, convertCommand,
+    showCommand, validateCommand, lintCommand, newCommand, convertCommand, importCommand,
 };
 
 int run(int argc, char** argv) {

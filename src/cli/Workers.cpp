@@ -1,0 +1,124 @@
+#include "cli/Workers.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <exception>
+#include <memory>
+#include <system_error>
+#include <vector>
+
+namespace cli {
+
+namespace {
+
+bool writeAll(int file, const char* data, std::size_t size) {
+  while (size > 0) {
+    const ssize_t written = ::write(file, data, size);
+    if (written < 0 && errno == EINTR) continue;
+    if (written <= 0) return false;
+    data += written;
+    size -= static_cast<std::size_t>(written);
+  }
+  return true;
+}
+
+bool readAll(int file, char* data, std::size_t size) {
+  while (size > 0) {
+    const ssize_t got = ::read(file, data, size);
+    if (got < 0 && errno == EINTR) continue;
+    if (got <= 0) return false;
+    data += got;
+    size -= static_cast<std::size_t>(got);
+  }
+  return true;
+}
+
+struct Header {
+  std::uint64_t isFine;
+  std::uint64_t messages;
+  std::uint64_t results;
+};
+
+bool send(int file, const WorkOutcome& outcome) {
+  const Header header = {outcome.isFine ? 1U : 0U, outcome.messages.size(), outcome.results.size()};
+  return writeAll(file, reinterpret_cast<const char*>(&header), sizeof header) &&
+         writeAll(file, outcome.messages.data(), outcome.messages.size()) &&
+         writeAll(file, outcome.results.data(), outcome.results.size());
+}
+
+bool receive(int file, WorkOutcome& outcome) {
+  Header header = {};
+  if (!readAll(file, reinterpret_cast<char*>(&header), sizeof header)) return false;
+  outcome.isFine = header.isFine != 0;
+  outcome.messages.resize(header.messages);
+  outcome.results.resize(header.results);
+  return readAll(file, outcome.messages.data(), outcome.messages.size()) &&
+         readAll(file, outcome.results.data(), outcome.results.size());
+}
+
+// A process that does every `step`-th piece from `first` on.
+class Worker {
+ public:
+  Worker(std::size_t first, std::size_t step, std::size_t count,
+         const std::function<WorkOutcome(std::size_t)>& work) {
+    std::array<int, 2> ends{};
+    if (::pipe(ends.data()) != 0) throw std::system_error(errno, std::generic_category());
+    process_ = ::fork();
+    if (process_ < 0) throw std::system_error(errno, std::generic_category());
+    if (process_ == 0) {
+      ::close(ends[0]);
+      bool isHeard = true;
+      try {
+        for (std::size_t i = first; i < count && isHeard; i += step) {
+          isHeard = send(ends[1], work(i));
+        }
+      } catch (const std::exception&) {
+        // The piece counts as not done.
+      }
+      ::_exit(0);
+    }
+    ::close(ends[1]);
+    file_ = ends[0];
+  }
+  ~Worker() {
+    ::close(file_);
+    while (::waitpid(process_, nullptr, 0) < 0 && errno == EINTR) {
+    }
+  }
+  Worker(const Worker&) = delete;
+  Worker& operator=(const Worker&) = delete;
+
+  WorkOutcome next() {
+    WorkOutcome outcome;
+    if (!receive(file_, outcome)) outcome = {};
+    return outcome;
+  }
+
+ private:
+  int file_ = -1;
+  pid_t process_ = -1;
+};
+
+}  // namespace
+
+void workThrough(std::size_t count, std::size_t processes,
+                 const std::function<WorkOutcome(std::size_t)>& work,
+                 const std::function<void(std::size_t, const WorkOutcome&)>& done) {
+  processes = std::min(processes, count);
+  if (processes <= 1) {
+    for (std::size_t i = 0; i < count; ++i) done(i, work(i));
+    return;
+  }
+  std::vector<std::unique_ptr<Worker>> workers;
+  for (std::size_t i = 0; i < processes; ++i) {
+    workers.push_back(std::make_unique<Worker>(i, processes, count, work));
+  }
+  for (std::size_t i = 0; i < count; ++i) done(i, workers[i % processes]->next());
+}
+
+}  // namespace cli

@@ -1,0 +1,194 @@
+// agentservices import: makes data dictionaries from COBOL sources.
+#include "as/toolkit/Import.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+#include <system_error>
+
+#include "as/toolkit/Files.h"
+#include "as/toolkit/Storage.h"
+#include "as/toolkit/Text.h"
+#include "cli/Command.h"
+#include "cli/Messages.h"
+#include "cli/Workers.h"
+
+namespace cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Beyond so many sources a terminal is told how far the work is.
+constexpr std::size_t fewSources = 10;
+
+class Import : public Command {
+ public:
+  Import() : Command("import", "Make data dictionaries from COBOL sources") {}
+
+  void declare(Arguments& arguments) override {
+    arguments.required("FILE", files_,
+                       "The sources: files, and folders with files *.cbl, *.cob ...");
+    arguments.requiredOption("-o,--output", output_,
+                             "The dictionary of one FILE; the folder of those of several");
+    arguments.list("-I,--include", folders_, "DIR,...",
+                   "Folders to look for copybooks in, before the source's own");
+    arguments.option("--format", format_, {"auto", "fixed", "free", "variable"},
+                     "How the lines are laid out; auto unless told");
+    arguments.option("--dialect", options_.dialect, dialectWords(),
+                     "The compiler whose sizes and boundaries count; ibm unless told");
+    arguments.option("--pointer-size", pointerSize_, {"4", "8"},
+                     "The bytes of a POINTER; the dialect's unless told");
+    arguments.option("--encoding", options_.encoding,
+                     "The code page of the sources; told from their text unless given");
+    arguments.flag("--copybook", options_.isCopybook,
+                   "Read the sources as copybooks, each a program of its own name");
+    arguments.option("--explain", explained_, "ITEM",
+                     "Print how size and place of an item came about");
+    arguments.option("--jobs", jobs_, "Work in so many processes; 1 unless told");
+  }
+
+  int run(const std::optional<std::string>&) override {
+    if (const int wrong = findTasks(); wrong != exitFine) return wrong;
+    options_.format = formatOf(format_);
+    options_.pointerSize = pointerSize_.empty() ? 0 : pointerSize_ == "4" ? 4 : 8;
+    bool isFine = true;
+    workThrough(
+        tasks_.size(), jobs_, [this](std::size_t task) { return import(tasks_[task]); },
+        [&](std::size_t task, const WorkOutcome& outcome) {
+          isFine = isFine && outcome.isFine;
+          tell(task, outcome);
+        });
+    return isFine ? exitFine : exitRefused;
+  }
+
+ private:
+  struct Task {
+    std::string source;
+    std::string output;
+  };
+
+  static std::vector<std::string> dialectWords() {
+    std::vector<std::string> words;
+    for (const toolkit::Dialect& dialect : toolkit::dialects()) words.emplace_back(dialect.word);
+    return words;
+  }
+
+  static toolkit::SourceFormat formatOf(const std::string& word) {
+    if (word == "fixed") return toolkit::SourceFormat::fixed;
+    if (word == "free") return toolkit::SourceFormat::free;
+    if (word == "variable") return toolkit::SourceFormat::variable;
+    return toolkit::SourceFormat::recognised;
+  }
+
+  // One FILE that is no folder goes to the file OUT; everything else to the folder OUT.
+  int findTasks() {
+    std::error_code failure;
+    if (files_.size() == 1 && !fs::is_directory(files_.front(), failure)) {
+      tasks_.push_back({files_.front(), output_});
+      return exitFine;
+    }
+    isFolder_ = true;
+    try {
+      for (const std::string& file : files_) {
+        if (!fs::is_directory(file, failure)) {
+          addTask(fs::path(file).parent_path(), fs::path(file).filename());
+          continue;
+        }
+        for (const std::string& source : toolkit::cobolSourcesIn(file)) addTask(file, source);
+      }
+    } catch (const toolkit::RefusedDocument& refused) {
+      printRefusal(refused.refusal());
+      return exitRefused;
+    }
+    if (tasks_.empty()) {
+      printError("there are no sources *.cbl, *.cob, *.cobol or *.pco");
+      return exitRefused;
+    }
+    return exitFine;
+  }
+
+  void addTask(const fs::path& folder, const fs::path& source) {
+    fs::path target = fs::path(output_) / source;
+    target.replace_extension(".xml");
+    tasks_.push_back({(folder / source).string(), target.string()});
+  }
+
+  WorkOutcome import(const Task& task) const {
+    WorkOutcome outcome;
+    try {
+      std::error_code failure;
+      const fs::path folder = fs::path(task.output).parent_path();
+      if (isFolder_) fs::create_directories(folder, failure);
+      const toolkit::ImportedFile file =
+          toolkit::importCobolFile(task.source, task.output, folders_, options_);
+      outcome.isFine = countOf(file.imported.findings, toolkit::Severity::error) == 0;
+      for (const toolkit::ImportFinding& finding : file.imported.findings) {
+        outcome.messages += lines(textOf(finding));
+      }
+      if (explained_) explain(file.imported, outcome);
+    } catch (const toolkit::RefusedDocument& refused) {
+      outcome.messages = toolkit::printable(refused.what()) + "\n";
+    } catch (const toolkit::FileError& failure) {
+      outcome.messages = toolkit::printable(failure.what()) + "\n";
+    }
+    return outcome;
+  }
+
+  void explain(const toolkit::Imported& imported, WorkOutcome& outcome) const {
+    for (const toolkit::ImportedProgram& program : imported.programs) {
+      for (const toolkit::ItemExplanation& item : explainItem(program, *explained_)) {
+        outcome.results += lines(textOf(item));
+      }
+    }
+    if (!outcome.results.empty()) return;
+    outcome.messages += "there is no item " + toolkit::printable(*explained_) + "\n";
+    outcome.isFine = false;
+  }
+
+  // Lines stay lines; other control characters are shown.
+  static std::string lines(const std::string& text) {
+    std::string result;
+    for (std::size_t from = 0; from <= text.size();) {
+      const std::size_t to = std::min(text.find('\n', from), text.size());
+      result += toolkit::printable(text.substr(from, to - from)) + "\n";
+      from = to + 1;
+    }
+    return result;
+  }
+
+  void tell(std::size_t task, const WorkOutcome& outcome) const {
+    const bool isWatched = tasks_.size() > fewSources && ::isatty(STDERR_FILENO) != 0;
+    // The line that tells the progress is written over.
+    if (isWatched) std::cerr << "\r\x1B[K";
+    std::cerr << outcome.messages;
+    std::cout << outcome.results;
+    if (!outcome.isFine && outcome.messages.empty()) {
+      std::cerr << toolkit::printable(tasks_[task].source)
+                << ": error: the import came to no end\n";
+    }
+    if (isWatched) {
+      std::cerr << task + 1 << " of " << tasks_.size() << (task + 1 == tasks_.size() ? "\n" : "");
+      std::cerr.flush();
+    }
+  }
+
+  std::vector<std::string> files_;
+  std::string output_;
+  std::vector<std::string> folders_;
+  std::string format_ = "auto";
+  std::string pointerSize_;
+  std::optional<std::string> explained_;
+  std::size_t jobs_ = 1;
+  toolkit::ImportOptions options_;
+  std::vector<Task> tasks_;
+  bool isFolder_ = false;  // Whether the output is one.
+};
+
+}  // namespace
+
+std::unique_ptr<Command> importCommand() { return std::make_unique<Import>(); }
+
+}  // namespace cli

@@ -1,0 +1,117 @@
+// Tests of the tool's command `import` as a process: what it takes, writes, says and answers.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "support/Requests.h"
+#include "support/Tool.h"
+
+namespace {
+
+using test::contentOf;
+using testing::HasSubstr;
+
+std::string program(const std::string& name, const std::string& entries) {
+  return "       PROGRAM-ID. " + name +
+         ".\n       DATA DIVISION.\n       WORKING-STORAGE SECTION.\n       " + entries + "\n";
+}
+
+class ToolImportTest : public test::ToolTest {
+ protected:
+  void makeFolder(const std::string& name) const {
+    std::filesystem::create_directory(pathOf(name));
+  }
+  bool exists(const std::string& name) const { return std::filesystem::exists(pathOf(name)); }
+};
+
+TEST_F(ToolImportTest, WritesTheDictionaryOfASource) {
+  write("a.cbl", program("A", "01 R PIC X."));
+  const test::ToolOutcome outcome = run({"import", "a.cbl", "-o", "a.xml"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_EQ(outcome.err + outcome.out, "");
+  EXPECT_EQ(run({"validate", "a.xml"}).exitCode, 0);
+}
+
+TEST_F(ToolImportTest, TellsFindingsOnStandardError) {
+  write("a.cbl", program("A", "01 R PIC Q."));
+  const test::ToolOutcome outcome = run({"import", "a.cbl", "-o", "a.xml"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err, "a.cbl:4:17: error: Q is no PICTURE that can be read\n");
+  EXPECT_FALSE(exists("a.xml"));
+}
+
+TEST_F(ToolImportTest, LooksForCopybooksInTheFoldersTold) {
+  makeFolder("copies");
+  write("copies/REC.cpy", "       01 R PIC X(9).\n");
+  write("a.cbl", program("A", "COPY REC."));
+  EXPECT_EQ(run({"import", "-I", "copies", "a.cbl", "-o", "a.xml"}).exitCode, 0);
+  EXPECT_THAT(contentOf(pathOf("a.xml")), HasSubstr("picture=\"X(9)\""));
+  EXPECT_EQ(run({"import", "a.cbl", "-o", "b.xml"}).exitCode, 1);
+}
+
+TEST_F(ToolImportTest, OptionsReachTheLibrary) {
+  write("a.cbl", "01 R. 05 A PIC 9 COMP. 05 P POINTER.\n");
+  ASSERT_EQ(run({"import", "--format", "free", "--dialect", "gnucobol", "--pointer-size", "4",
+                 "--copybook", "a.cbl", "-o", "a.xml"})
+                .exitCode,
+            0);
+  EXPECT_THAT(contentOf(pathOf("a.xml")), HasSubstr("name=\"R\" offset=\"0\" length=\"5\""));
+}
+
+TEST_F(ToolImportTest, ExplainsItemsOnStandardOutput) {
+  write("a.cbl", program("A", "01 R PIC X."));
+  EXPECT_THAT(run({"import", "a.cbl", "-o", "a.xml", "--explain", "R"}).out,
+              HasSubstr("R: bytes 0 to 0\n  a.cbl:4: PICTURE X: 1 character\n"));
+}
+
+TEST_F(ToolImportTest, HasNothingToExplainOfWhatIsNotThere) {
+  write("a.cbl", program("A", "01 R PIC X."));
+  const test::ToolOutcome outcome = run({"import", "a.cbl", "-o", "a.xml", "--explain", "S"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err, "there is no item S\n");
+}
+
+TEST_F(ToolImportTest, WritesTheProgramsOfASourceToFilesOfTheirOwn) {
+  write("a.cbl", program("A", "01 R PIC X.") + "       END PROGRAM A.\n" +
+                     program("B", "01 R PIC X.") + "       END PROGRAM B.\n");
+  EXPECT_EQ(run({"import", "a.cbl", "-o", "x.xml"}).exitCode, 0);
+  EXPECT_THAT(contentOf(pathOf("x.xml")), HasSubstr("name=\"A\""));
+  EXPECT_THAT(contentOf(pathOf("x-B.xml")), HasSubstr("name=\"B\""));
+}
+
+// What is refused keeps nothing else from being written, whatever the number of processes.
+TEST_F(ToolImportTest, WritesTheSourcesOfFolders) {
+  for (const char* const jobs : {"1", "3"}) {
+    const std::string out = std::string("out") + jobs;
+    makeFolder(std::string("in") + jobs);
+    makeFolder(std::string("in") + jobs + "/sub");
+    const std::string in = std::string("in") + jobs;
+    write(in + "/a.cbl", program("A", "01 R PIC X."));
+    write(in + "/b.COB", program("B", "01 R PIC Q."));
+    write(in + "/sub/c.cobol", program("C", "01 R PIC X."));
+    write(in + "/notes.txt", "nothing");
+    const test::ToolOutcome outcome = run({"import", in, "-o", out, "--jobs", jobs});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.err, in + "/b.COB:4:17: error: Q is no PICTURE that can be read\n");
+    EXPECT_TRUE(exists(out + "/a.xml"));
+    EXPECT_FALSE(exists(out + "/b.xml"));
+    EXPECT_TRUE(exists(out + "/sub/c.xml"));
+    EXPECT_FALSE(exists(out + "/notes.xml"));
+  }
+}
+
+TEST_F(ToolImportTest, RefusesWhatItCannotRead) {
+  const test::ToolOutcome outcome = run({"import", "none.cbl", "-o", "a.xml"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("none.cbl: it cannot be read"));
+}
+
+TEST_F(ToolImportTest, RefusesWrongUsage) {
+  EXPECT_EQ(run({"import", "a.cbl"}).exitCode, 2);
+  EXPECT_EQ(run({"import", "a.cbl", "-o", "a.xml", "--dialect", "vax"}).exitCode, 2);
+  EXPECT_EQ(run({"import", "a.cbl", "-o", "a.xml", "--jobs", "0"}).exitCode, 2);
+}
+
+}  // namespace
