@@ -254,6 +254,7 @@ INSTANTIATE_TEST_SUITE_P(
         WordRow{"COMPUTATIONAL", Usage::comp}, WordRow{"BINARY", Usage::comp},
         WordRow{"Computational-3", Usage::comp3}, WordRow{"computational-x", Usage::compX},
         WordRow{"PACKED-DECIMAL", Usage::comp3}, WordRow{"FLOAT-SHORT", Usage::comp1},
+        WordRow{"FLOAT", Usage::comp1}, WordRow{"DOUBLE", Usage::comp2},
         WordRow{"FLOAT-BINARY-32", Usage::comp1}, WordRow{"FLOAT-LONG", Usage::comp2},
         WordRow{"FLOAT-BINARY-64", Usage::comp2}, WordRow{"comp-5", Usage::comp5},
         WordRow{"PROGRAM-POINTER", Usage::procedurePointer},
