@@ -52,6 +52,9 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"PIC Z(5) BLANK WHEN ZERO",
                   "<numericEdited name='A' picture='Z(5)' digits='5' alignment='0' "
                   "blankWhenZero='true' offset='0' length='5'"},
+        ImportRow{"PIC 9(5)V99 BLANK WHEN ZERO",
+                  "<numericEdited name='A' picture='9(5)V99' digits='7' alignment='2' "
+                  "blankWhenZero='true' offset='0' length='7'"},
         ImportRow{"PIC +9(3).9(4)E+99",
                   "<numeric name='A' picture='+9(3).9(4)E+99' usage='externalFloat' sign='true' "
                   "digits='7' alignment='4' offset='0' length='13'"},

@@ -206,6 +206,9 @@ ItemElement ItemKinds::elementOf(const DataEntry& entry, const Picture* picture)
     case Category::dbcs:
       return ItemElement::national;
     case Category::numeric:
+      // Such numbers are edited ones.
+      if (entry.isBlankWhenZero && entry.usage == Usage::display) return ItemElement::numericEdited;
+      [[fallthrough]];
     case Category::externalFloat:
       if (entry.usage != Usage::national) return ItemElement::numeric;
       return nearest("a number in national characters", ItemElement::national);
