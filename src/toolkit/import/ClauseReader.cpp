@@ -258,6 +258,10 @@ bool ClauseReader::readUsage(DataEntry& entry) {
   const SourcePlace place = words_.peek().token.place;
   if (words_.accept(Keyword::usage)) words_.accept(Keyword::isWord);
   if (entry.ownUsage) return bad(entry, place, "USAGE stands there twice");
+  const Word& next = words_.peek();
+  if (next.is(TokenKind::word) && next.is(Keyword::name) && !next.meaning.usage) {
+    return readReference(entry, NameReference::Kind::type);
+  }
   const Word word = words_.take();
   std::optional<Usage> usage = word.meaning.usage;
   if (word.is(Keyword::object)) {

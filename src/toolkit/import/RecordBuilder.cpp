@@ -183,8 +183,19 @@ void RecordBuilder::putTypeIn(Index target) {
     if (type.ownSign == SignClause::absent) type.ownSign = above.ownSign;
     group = above.parent;
   }
+  // What the groups of the entry say of usage counts for none that is described elsewhere.
+  if (!type.ownUsage && !at(target).ownUsage && isInGroupWithUsage(target)) {
+    type.ownUsage = Usage::display;
+  }
   takeDescription(type, at(target));
   copyMembers(*from, source, target);
+}
+
+bool RecordBuilder::isInGroupWithUsage(Index entry) {
+  for (Index group = at(entry).parent; group != none; group = at(group).parent) {
+    if (at(group).ownUsage) return true;
+  }
+  return false;
 }
 
 // A copy of an entry as one of this program, without a place in its tree.

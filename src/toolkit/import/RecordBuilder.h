@@ -55,6 +55,7 @@ class RecordBuilder {
 
   void nest(DataEntry& entry);
   void putTypeIn(Index target);
+  bool isInGroupWithUsage(Index entry);
   void copyMembers(const CobolProgram& from, Index source, Index target);
   DataEntry brought(const CobolProgram& from, Index source);
   static void takeDescription(const DataEntry& type, DataEntry& entry);
