@@ -1,0 +1,113 @@
+"""What the compiler is known to do in its own way, each with its reason and as narrowly as it is known.
+
+A difference that no row explains is a failure.
+"""
+
+from typing import Callable, List, NamedTuple, Optional
+
+from comparison import Difference, Pair
+from entries import Item
+
+
+class Known(NamedTuple):
+    reason: str
+    explains: Callable[[Difference, List[Pair]], bool]
+
+
+def picture_category(item: Item) -> str:
+    entry = item.entry
+    while entry.like is not None:
+        entry = entry.like
+    return entry.picture.category if entry.picture is not None else ''
+
+
+def ends_in_slack(pairs: List[Pair]) -> List[int]:
+    """The numbers of the tables whose occurrences end in slack bytes."""
+    found = []
+    for number, (item, placed, _) in enumerate(pairs):
+        if placed.element != 'group' or item.occurs is None or item.occurs.most < 2:
+            continue
+        end = max((one.number('offset') + one.number('length') * max(1, one.number('maxOccurs'))
+                   for member, one, _ in pairs if member.parent is item), default=0)
+        if end < placed.number('offset') + placed.number('length'):
+            found.append(number)
+    return found
+
+
+def is_behind_slack(difference: Difference, pairs: List[Pair]) -> bool:
+    """Whether an item stands in, around or behind such a table of its record."""
+    if difference.what not in ('offset', 'length'):
+        return False
+    at = next(number for number, pair in enumerate(pairs) if pair.item is difference.item)
+    for number in ends_in_slack(pairs):
+        table = pairs[number].item
+        if table.record() is not difference.item.record():
+            continue
+        above = table
+        while above is not None and above is not difference.item:
+            above = above.parent
+        if above is not None or number <= at:
+            return True
+    return False
+
+
+def is_sliding(difference: Difference, pairs: List[Pair]) -> bool:
+    """Whether an item stands around or behind a table of no fixed size that something follows."""
+    if difference.what not in ('offset', 'length') or difference.item is None:
+        return False
+    of_record = [pair.item for pair in pairs if pair.item.record() is difference.item.record()
+                 and pair.item.entry.kind == 'item']
+    for number, table in enumerate(of_record):
+        if table.occurs is None or table.occurs.depending is None:
+            continue
+        inside = [item for item in of_record if table in above(item)]
+        is_followed = of_record[number + len(inside):] != [] and of_record[-1] not in inside
+        if is_followed and (difference.item in above(table) or
+                            (difference.item not in inside and difference.item in of_record[number:])):
+            return True
+    return False
+
+
+def above(item: Item) -> List[Item]:
+    """An item and the groups that it is in."""
+    return [item] + (above(item.parent) if item.parent is not None else [])
+
+
+KNOWN = [
+    Known('counts what stands behind a table of no fixed size without slack bytes, and redefinitions '
+          'in front of it, too', is_sliding),
+    Known('counts one digit less where the floating currency symbol is another one than "$"',
+          lambda difference, _: difference.what == 'digits' and
+          picture_category(difference.item) == 'edited' and difference.ours == difference.theirs + 1),
+    Known('puts the slack bytes behind the last item of a table\'s occurrence in front of it, or leaves '
+          'them out when a group comes last', is_behind_slack),
+    Known('counts as many digits for a binary item without a PICTURE as are never lost, '
+          'dictionaries those of the largest value',
+          lambda difference, _: difference.what == 'digits' and
+          picture_category(difference.item) == '' and
+          (difference.ours, difference.theirs) in ((3, 2), (5, 4), (10, 9), (19, 18), (20, 18))),
+    Known('counts the digits of X COMP-X in its own way, dictionaries those of the largest value',
+          lambda difference, _: difference.what == 'digits' and
+          picture_category(difference.item) == 'alphanumeric'),
+    Known('takes PICTURE 1 of USAGE DISPLAY for a number, dictionaries for text',
+          lambda difference, _: difference.what == 'category' and
+          picture_category(difference.item) == 'boolean' and
+          (difference.ours, difference.theirs) in (('text', 'display'), ('text', 'bits'))),
+    Known('takes a number with BLANK WHEN ZERO for an edited one, unless it has condition names',
+          lambda difference, _: difference.what == 'category' and
+          (difference.ours, difference.theirs) == ('edited', 'display') and
+          difference.item.entry.blank and difference.item.entry.conditions != []),
+    Known('knows decimal floating point, which dictionaries have no kind for',
+          lambda difference, _: difference.what == 'category' and
+          (difference.ours, difference.theirs) == ('text', 'decimal float')),
+    Known('forgets that an item is an address when it is one by the USAGE of its group',
+          lambda difference, _: difference.what == 'category' and
+          (difference.ours, difference.theirs) == ('address', 'binary') and
+          not difference.item.entry.usage),
+]
+
+
+def known(difference: Difference, pairs: List[Pair]) -> Optional[Known]:
+    if difference.item is None:
+        return None
+    return next((row for row in KNOWN if row.explains(difference, pairs)), None)
