@@ -42,7 +42,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ImportRow{"01 A PIC X COLOUR RED.\n01 B PIC X.", "1:12 unknown-clause"},
                     ImportRow{"01 A PIC X.\n01 B COLOUR 1.\n01 C COLOUR 2.",
                               "2:6 unknown-clause, 3:6 unknown-clause"},
-                    ImportRow{"01 A USAGE FANCY.", "1:6 bad-clause"},
+                    ImportRow{"01 A USAGE FANCY.", "1:12 lost-type"},
                     ImportRow{"01 A PIC X PIC X.", "1:16 bad-clause"},
                     ImportRow{"01 A PIC 9 COMP COMP.", "1:17 bad-clause, 1:1 dialect-decides"},
                     ImportRow{"01 A PIC S9 SIGN MIDDLE.", "1:13 bad-clause"},
