@@ -9,11 +9,11 @@ import tempfile
 import time
 from collections import Counter
 from pathlib import Path
-from typing import Dict, FrozenSet, List, NamedTuple, Optional, Tuple
+from typing import Dict, FrozenSet, List, NamedTuple, Tuple
 
 from compiler import Compiler, Told
 from comparison import Difference, differences_of, pairs_of
-from differences import KNOWN, known
+from differences import known
 from entries import Program, items_of
 from generator import has_variable, program_of
 from importer import Importer
