@@ -100,7 +100,7 @@ class Writer {
   // The nearest element around that is in a namespace (the root where none is), and the prefix that
   // elements in none have below it, once one of them has been written.
   struct Around {
-    const DOMNode* element;
+    const DOMNode* element = nullptr;
     std::optional<const XMLCh*> prefix;
   };
 
