@@ -2,15 +2,14 @@
 #ifndef SERVICE_JOINEDBACKWARDS_H_
 #define SERVICE_JOINEDBACKWARDS_H_
 
+#include <numeric>
 #include <string>
 #include <vector>
 
 // The texts one behind the other, the last one first: to insert each in front of a text moves all
 // that is there, once for every level of a document that nests deeply.
 inline std::string joinedBackwards(const std::vector<std::string>& texts) {
-  std::string joined;
-  for (auto text = texts.rbegin(); text != texts.rend(); ++text) joined += *text;
-  return joined;
+  return std::accumulate(texts.rbegin(), texts.rend(), std::string());
 }
 
 #endif  // SERVICE_JOINEDBACKWARDS_H_
