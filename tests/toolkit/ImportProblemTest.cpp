@@ -82,6 +82,7 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"01 R. 05 A PIC X OCCURS 1 TO 5.", "1:18 no-depending"},
         ImportRow{"01 A PIC X OCCURS 5.", "1:12 table-on-top"},
         ImportRow{"01 R. 05 A PIC X OCCURS 1 TO 5 DEPENDING ON N.", "1:45 lost-depending"},
+        ImportRow{"01 R. 05 A PIC X OCCURS 1 TO 5 DEPENDING ON EIBCALEN.", "1:45 system-depending"},
         ImportRow{
             "01 Q. 05 N PIC 9. 01 P. 05 N PIC 9. 01 R.\n05 A PIC X OCCURS 1 TO 5 DEPENDING ON N.",
             "2:39 unclear-depending"},

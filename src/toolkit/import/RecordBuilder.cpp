@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "toolkit/import/ItemKinds.h"
@@ -434,6 +435,12 @@ void RecordBuilder::finish() {
   }
 }
 
+// Programs for CICS get the items of its interface block (EIBCALEN, the length of what they are
+// given, before all) without any entry for them.
+bool RecordBuilder::isOfCics(const NameReference& reference) {
+  return sameWord(std::string_view(reference.names.front().text).substr(0, 3), "EIB");
+}
+
 void RecordBuilder::findDepending(DataEntry& entry) {
   const NameReference& reference = program_.references[static_cast<std::size_t>(entry.depending)];
   Index record = static_cast<Index>(&entry - program_.entries.data());
@@ -442,6 +449,12 @@ void RecordBuilder::findDepending(DataEntry& entry) {
   // That of the same record is meant, and before all others the only one of the program.
   EntryFinder::Found found = finder_.find(reference.names, {record, at(record).end});
   if (found.entry == none) found = find(reference.names);
+  if (found.entry == none && isOfCics(reference)) {
+    problems_.tell(EntryRule::systemDepending, reference.place,
+                   textOf(reference.names) + ", which " + entry.name +
+                       " depends on, is an item that CICS brings: the dictionary does not name it");
+    return;
+  }
   if (found.entry == none) {
     problems_.tell(EntryRule::lostDepending, reference.place,
                    textOf(reference.names) + ", which " + entry.name +

@@ -65,6 +65,7 @@ class RecordBuilder {
   void placeRecord(EntryProblems& problems);
   void findRenamed();
   void keepRecord();
+  static bool isOfCics(const NameReference& reference);
   void findDepending(DataEntry& entry);
 
   const Dialect& dialect_;
