@@ -93,7 +93,7 @@ class Worker {
   Worker(const Worker&) = delete;
   Worker& operator=(const Worker&) = delete;
 
-  WorkOutcome next() {
+  WorkOutcome next() const {
     WorkOutcome outcome;
     if (!receive(file_, outcome)) outcome = {};
     return outcome;

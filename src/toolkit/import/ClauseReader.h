@@ -54,7 +54,7 @@ class ClauseReader {
   bool bad(DataEntry& entry, const SourcePlace& place, const std::string& text);
   bool isClause(const Word& word) const;
 
-  Index pictureOf(const std::string& text, const SourcePlace& place);
+  Index pictureOf(const std::string& written, const SourcePlace& place);
   std::string withConstants(const std::string& picture) const;
 
   WordReader& words_;

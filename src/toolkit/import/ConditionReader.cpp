@@ -40,8 +40,9 @@ void ConditionReader::read(DataEntry* item) {
   } else if (item->firstCondition + item->conditionCount != next) {
     // Those of its type stand elsewhere.
     for (Index i = 0; i < item->conditionCount; ++i) {
-      program_.conditions.push_back(
-          ConditionEntry(program_.conditions[static_cast<std::size_t>(item->firstCondition + i)]));
+      const Index from = item->firstCondition + i;
+      ConditionEntry copy = program_.conditions[static_cast<std::size_t>(from)];
+      program_.conditions.push_back(std::move(copy));
     }
     item->firstCondition = next;
   }

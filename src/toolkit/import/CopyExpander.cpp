@@ -329,7 +329,7 @@ void CopyExpander::takeInclude(Frame& frame, const TextWord& word) {
   }
 }
 
-void CopyExpander::skipPeriod(Frame& frame) {
+void CopyExpander::skipPeriod(Frame& frame) const {
   TextWord next;
   frame.readOwn(next);
   // Within a sentence the period is that of the sentence.
@@ -367,7 +367,7 @@ bool CopyExpander::takeExec(Frame& frame, const TextWord& word) {
                                                   : character;
     });
     constexpr std::size_t most = 20;
-    if (passedExec_.size() < most || passedExec_.count(name) > 0) {
+    if (passedExec_.size() < most || passedExec_.contains(name)) {
       Passed& passed = passedExec_[name];
       if (passed.count++ == 0) passed.first = place;
     }

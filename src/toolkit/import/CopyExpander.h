@@ -73,7 +73,7 @@ class CopyExpander : public TextWordSource {
   bool takeExec(Frame& frame, const TextWord& word);
   void takeInclude(Frame& frame, const TextWord& word);
   bool takeCommentEntry(Frame& frame);
-  void skipPeriod(Frame& frame);
+  void skipPeriod(Frame& frame) const;
   void include(const TextWord& name, const std::string& library, const SourcePlace& place,
                Replacements replacements);
   void push(const SourceText& text, SourceFormat format, const std::string& name, std::int32_t file,

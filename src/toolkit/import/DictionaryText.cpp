@@ -1,5 +1,6 @@
 #include "toolkit/import/DictionaryText.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "as/Namespaces.h"
@@ -160,7 +161,7 @@ class Writer {
                 item.place);
     }
     if (item.element == ItemElement::numeric) writeNumber(item, picture);
-    if (item.element == ItemElement::numericEdited) {
+    if (item.element == ItemElement::numericEdited && picture != nullptr) {
       xml_.attribute("digits", picture->digits);
       xml_.attribute("alignment", picture->scale);
       xml_.flag("blankWhenZero", item.isBlankWhenZero);
@@ -278,9 +279,10 @@ std::string pathOf(const CobolProgram& program, Index entry) {
     next = item.parent;
   }
   std::string path;
-  for (auto name = names.rbegin(); name != names.rend(); ++name) {
+  std::reverse(names.begin(), names.end());
+  for (const std::string* const name : names) {
     if (!path.empty()) path += '.';
-    path += **name;
+    path += *name;
   }
   return path;
 }

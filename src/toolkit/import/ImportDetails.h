@@ -15,7 +15,7 @@ namespace as::toolkit {
 // All of a source, which its programs share.
 struct ImportedSource {
   SourceMap map;
-  Dialect dialect;
+  Dialect dialect{};
   std::vector<std::unique_ptr<CobolProgram>> programs;
 };
 

@@ -15,7 +15,7 @@ class ItemKinds {
       : dialect_(dialect), program_(program), problems_(problems) {}
 
   // Fills in what follows from the clauses of an entry. REQUIRES: its group was looked at.
-  void lookAt(Index entry);
+  void lookAt(Index index);
 
  private:
   void handDown(Index index, DataEntry& entry);

@@ -443,7 +443,7 @@ bool RecordBuilder::isOfCics(const NameReference& reference) {
 
 void RecordBuilder::findDepending(DataEntry& entry) {
   const NameReference& reference = program_.references[static_cast<std::size_t>(entry.depending)];
-  Index record = static_cast<Index>(&entry - program_.entries.data());
+  auto record = static_cast<Index>(&entry - program_.entries.data());
   while (at(record).parent != none) record = at(record).parent;
   if (at(record).isTypedef) return;
   // That of the same record is meant, and before all others the only one of the program.

@@ -21,8 +21,8 @@ class RecordLayout {
   bool place(Index record);
 
  private:
-  bool placeItem(Index item, std::int64_t at);
-  bool placeMembers(Index group);
+  bool placeItem(Index index, std::int64_t start);
+  bool placeMembers(Index index);
   Index leadingItem(Index item) const;
   void tellSlackPlace(const DataEntry& item, const DataEntry& group, const char* where);
   void lookAtRedefinition(const DataEntry& item);

@@ -1,5 +1,6 @@
 #include "toolkit/import/ReplaceStage.h"
 
+#include <iterator>
 #include <utility>
 
 namespace as::toolkit {
@@ -76,9 +77,8 @@ void ReplaceStage::takeStatement(const SourcePlace& place) {
 
 void ReplaceStage::add(Replacements replacements) {
   counts_.push_back(replacements.size());
-  for (auto one = replacements.rbegin(); one != replacements.rend(); ++one) {
-    replacements_.push_front(std::move(*one));
-  }
+  replacements_.insert(replacements_.begin(), std::make_move_iterator(replacements.begin()),
+                       std::make_move_iterator(replacements.end()));
 }
 
 void ReplaceStage::takeBack() {

@@ -53,10 +53,10 @@ std::string_view trimmed(std::string_view text) {
 
 bool isDollarDirective(std::string_view text) {
   if (text.empty() || text.front() != '$') return false;
-  const std::string_view word = withoutBlanksInFront(text.substr(1));
+  const std::string_view rest = withoutBlanksInFront(text.substr(1));
   for (const std::string_view known : {"SET", "IF", "ELSE", "ELIF", "ELSE-IF", "END", "END-IF",
                                        "DISPLAY", "REGION", "END-REGION"}) {
-    if (beginsWord(word, known)) return true;
+    if (beginsWord(rest, known)) return true;
   }
   return false;
 }
@@ -120,14 +120,12 @@ SourceLines::Cut SourceLines::cut(std::string_view line) {
   result.column = static_cast<std::int32_t>(firstColumn);
   result.isPlain = isPlain_ || isAsciiWithoutTabs(line.substr(0, margin));
   std::size_t afterSequence = indicatorColumn - 1;
-  std::size_t afterMargin = margin;
   std::string expanded;
   if (!result.isPlain) {
     // Up to the right margin, or to the first column of the code, tabs become blanks.
     const std::size_t expandTo = margin == std::string_view::npos ? indicatorColumn : margin;
     std::size_t column = 0;
     afterSequence = line.size();
-    afterMargin = std::string_view::npos;
     std::size_t i = 0;
     const auto noteColumn = [&] {
       if (column == indicatorColumn - 1) afterSequence = expanded.size();
@@ -154,7 +152,7 @@ SourceLines::Cut SourceLines::cut(std::string_view line) {
     if (column < indicatorColumn) afterSequence = std::min(afterSequence, expanded.size());
     line = arena_.keep(expanded);
   } else {
-    line = line.substr(0, afterMargin);
+    line = line.substr(0, margin);
     result.room = margin == std::string_view::npos ? 0 : margin - line.size();
   }
   result.sequence = line.substr(0, afterSequence);

@@ -28,7 +28,7 @@ class SourceMap {
 
  private:
   struct Inclusion {
-    std::size_t name;
+    std::size_t name = 0;
     SourcePlace from;
   };
 

@@ -114,7 +114,7 @@ class CodePage {
   explicit CodePage(const std::string& name) {
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-cstyle-cast,performance-no-int-to-ptr): its own way
     const auto none = (iconv_t)-1;
-    const iconv_t converter = iconv_open("UTF-8", name.c_str());
+    iconv_t converter = iconv_open("UTF-8", name.c_str());
     if (converter == none) {
       throw std::invalid_argument("the encoding " + quoted(name) + " is not known");
     }
