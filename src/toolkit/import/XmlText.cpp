@@ -37,7 +37,7 @@ bool isPlain(char c) {
 
 }  // namespace
 
-XmlText::XmlText() : text_("<?xml version=\"1.0\" encoding=\"UTF-8\"?>") {}
+XmlText::XmlText() : text_(R"(<?xml version="1.0" encoding="UTF-8"?>)") {}
 
 void XmlText::indent() {
   text_ += '\n';
