@@ -56,9 +56,8 @@ std::vector<std::string> partsOf(std::string_view text) {
 }
 
 toolkit::ImportOptions optionsOf(unsigned bits) {
-  static constexpr toolkit::SourceFormat formats[] = {toolkit::SourceFormat::recognised,
-                                                      toolkit::SourceFormat::fixed,
-                                                      toolkit::SourceFormat::free};
+  static constexpr toolkit::SourceFormat formats[] = {
+      toolkit::SourceFormat::recognised, toolkit::SourceFormat::fixed, toolkit::SourceFormat::free};
   static constexpr int pointerSizes[] = {0, 4, 8};
   const auto take = [&bits](std::size_t count) {
     const std::size_t choice = bits % count;
