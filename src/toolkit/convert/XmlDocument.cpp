@@ -9,7 +9,6 @@
 
 using xercesc::DOMElement;
 using xercesc::DOMLSSerializer;
-using xercesc::DOMNode;
 using xercesc::TranscodeFromStr;
 using xercesc::TranscodeToStr;
 

@@ -119,7 +119,7 @@ std::string dictionaryOf(as::IService& service, const std::string& file,
     throw RefusedDocument({file, 0, 0, "the service names no dictionary",
                            "write attribute dataDictFilename, or name a dictionary"});
   }
-  const std::string dictionary = choice.dictionary ? *choice.dictionary : besideFile(file, named);
+  std::string dictionary = choice.dictionary ? *choice.dictionary : besideFile(file, named);
   checkReadable(dictionary);
   return dictionary;
 }
@@ -213,9 +213,9 @@ std::shared_ptr<as::IProgram> DocumentReader::programOf(as::IService& service,
   // Read as what a service names, but for one of the flavour that holds nothing else.
   const std::string uri = flavourOf(service).documents.uri;
   const std::unique_ptr<as::IService> bare = readServiceText(
-      "<service xmlns=\"" + uri +
-          "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xsi:schemaLocation=\"" + uri +
-          " " + uri + "\"/>",
+      R"(<service xmlns=")" + uri +
+          R"(" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance" xsi:schemaLocation=")" + uri +
+          " " + uri + R"("/>)",
       file);
   const std::shared_ptr<as::IService> owner = loaded(*services_, *bare, file, dictionary);
   return {owner, owner->getProgram()};

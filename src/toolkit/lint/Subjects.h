@@ -132,7 +132,7 @@ struct StorageSubject {
   const Place& place;
   as::IDataItem& record;
   const CallInterface& interface;
-  int direction;         // Of the parameter.
+  int direction = 0;     // Of the parameter.
   bool hasMore = false;  // Whether there are others like it, of which nothing is told.
 };
 
