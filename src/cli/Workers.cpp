@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdint>
 #include <exception>
 #include <memory>
 #include <system_error>
@@ -39,9 +38,9 @@ bool readAll(int file, char* data, std::size_t size) {
 }
 
 struct Header {
-  std::uint64_t isFine;
-  std::uint64_t messages;
-  std::uint64_t results;
+  std::size_t isFine;
+  std::size_t messages;
+  std::size_t results;
 };
 
 bool send(int file, const WorkOutcome& outcome) {

@@ -32,7 +32,7 @@ bool NameTable::isName(Index id, std::string_view name) const {
 Index NameTable::idOf(std::string_view name) {
   const std::uint64_t hash = hashOf(name);
   const std::size_t mask = slots_.size() - 1;
-  std::size_t at = hash & mask;
+  std::size_t at = static_cast<std::size_t>(hash) & mask;
   while (slots_[at].id != none) {
     if (slots_[at].hash == hash && isName(slots_[at].id, name)) return slots_[at].id;
     at = (at + 1) & mask;
@@ -51,7 +51,7 @@ void NameTable::grow() {
   const std::size_t mask = slots_.size() - 1;
   for (const Slot& slot : old) {
     if (slot.id == none) continue;
-    std::size_t at = slot.hash & mask;
+    std::size_t at = static_cast<std::size_t>(slot.hash) & mask;
     while (slots_[at].id != none) at = (at + 1) & mask;
     slots_[at] = slot;
   }
