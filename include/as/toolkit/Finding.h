@@ -31,12 +31,16 @@ struct Finding {
   std::string problem;
   // What to do about it; empty for notes, of which nothing follows.
   std::string advice;
+  // Where that is in the document's text: line and column counted from 1, columns in characters (a
+  // tab is one); 0 when it is not known.
+  int line = 0;
+  int column = 0;
 };
 
 // In the order in which they were found, which is that of the document.
 using Findings = std::vector<Finding>;
 
-// "error: PLACE: PROBLEM; ADVICE"; without ADVICE and the "; " when there is none.
+// "error: PLACE: PROBLEM; ADVICE"; what is empty is left out with its separator.
 AS_EXPORT std::string textOf(const Finding& finding);
 
 // How many of them are of that severity.

@@ -10,15 +10,9 @@
 #include "as/toolkit/Copybooks.h"
 #include "as/toolkit/Finding.h"
 #include "as/toolkit/SourceFormat.h"
+#include "as/toolkit/SourceLocation.h"
 
 namespace as::toolkit {
-
-// A place in a source or copybook, counted from 1; 0 when there is none to tell.
-struct SourceLocation {
-  std::string file;  // As the caller, or the copybook's provider, names it.
-  int line = 0;
-  int column = 0;
-};
 
 // What was found in a source. A value; all text is UTF-8 and may hold whatever the source holds.
 struct ImportFinding {

@@ -10,6 +10,7 @@
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Finding.h"
+#include "as/toolkit/FindingsWriter.h"
 #include "as/toolkit/Flavours.h"
 #include "as/toolkit/Import.h"
 #include "as/toolkit/Lint.h"
@@ -17,6 +18,7 @@
 #include "as/toolkit/Picture.h"
 #include "as/toolkit/Render.h"
 #include "as/toolkit/SourceFormat.h"
+#include "as/toolkit/SourceLocation.h"
 #include "as/toolkit/Storage.h"
 #include "as/toolkit/Text.h"
 

@@ -17,7 +17,8 @@ const char* wordOf(Severity severity) {
 
 std::string textOf(const Finding& finding) {
   std::string text = wordOf(finding.severity);
-  text.append(": ").append(finding.place).append(": ").append(finding.problem);
+  if (!finding.place.empty()) text.append(": ").append(finding.place);
+  text.append(": ").append(finding.problem);
   if (!finding.advice.empty()) text.append("; ").append(finding.advice);
   return text;
 }
