@@ -49,11 +49,13 @@ void Arguments::flag(const char* name, bool& value, const char* help) {
   app_.add_flag(name, value, help);
 }
 
-void Arguments::insteadOf(const char* other, const char* name, bool& value, const char* help) {
-  CLI::Option* const replaced = app_.get_option(other);
+void Arguments::insteadOf(std::initializer_list<const char*> others, const char* name, bool& value,
+                          const char* help) {
+  std::vector<CLI::Option*> replaced;
+  for (const char* const other : others) replaced.push_back(app_.get_option(other));
   const auto given = [replaced, &value] {
     value = true;
-    replaced->required(false);
+    for (CLI::Option* const option : replaced) option->required(false);
   };
   app_.add_flag_callback(name, given, help);
 }

@@ -4,6 +4,7 @@
 #define CLI_ARGUMENTS_H_
 
 #include <cstddef>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <vector>
@@ -42,8 +43,9 @@ class Arguments {
   // "--name A,B".
   void list(const char* name, std::vector<std::string>& values, const char* type, const char* help);
   void flag(const char* name, bool& value, const char* help);
-  // A flag that stands in place of the name `other`, which was declared in front of it.
-  void insteadOf(const char* other, const char* name, bool& value, const char* help);
+  // A flag that stands in place of the names `others`, which were declared in front of it.
+  void insteadOf(std::initializer_list<const char*> others, const char* name, bool& value,
+                 const char* help);
 
  private:
   CLI::App& app_;

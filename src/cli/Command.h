@@ -52,6 +52,7 @@ std::unique_ptr<Command> lintCommand();
 std::unique_ptr<Command> newCommand();
 std::unique_ptr<Command> convertCommand();
 std::unique_ptr<Command> importCommand();
+std::unique_ptr<Command> diffCommand();
 
 // Runs `work` with a reader for the schema directory in use, and tells what was refused. Returns
 // the exit code.

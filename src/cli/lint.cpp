@@ -38,7 +38,7 @@ class Lint : public Command {
         "--dictionary", dictionary_, "FILE",
         "The data dictionary of the program, in place of the one that the service names");
     arguments.insteadOf(
-        "SERVICE", "--rules", rules_,
+        {"SERVICE"}, "--rules", rules_,
         "Print what is looked for, with the names of the rules, and look at nothing");
   }
 

@@ -17,7 +17,8 @@ namespace {
 
 // The commands, in the order in which help lists them.
 constexpr std::unique_ptr<Command> (*commands[])() = {
-    showCommand, validateCommand, lintCommand, newCommand, convertCommand, importCommand,
+    showCommand,    validateCommand, lintCommand, newCommand,
+    convertCommand, importCommand,   diffCommand,
 };
 
 int run(int argc, char** argv) {

@@ -7,6 +7,7 @@
 
 #include "as/toolkit/Convert.h"
 #include "as/toolkit/Copybooks.h"
+#include "as/toolkit/Diff.h"
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Finding.h"

@@ -1,0 +1,213 @@
+#include "toolkit/diff/DictionaryDiff.h"
+
+#include <algorithm>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+#include "toolkit/diff/Sequence.h"
+#include "toolkit/diff/ServiceImpact.h"
+
+namespace as::toolkit {
+
+namespace {
+
+std::string orNone(const std::string& text) { return text.empty() ? "none" : text; }
+
+std::vector<const SectionFacts*> filesOf(const DictionaryFacts& facts) {
+  std::vector<const SectionFacts*> files;
+  for (const SectionFacts& section : facts.sections()) {
+    if (section.kind == SectionFacts::Kind::file) files.push_back(&section);
+  }
+  return files;
+}
+
+}  // namespace
+
+void compareProperties(ChangeList& changes,
+                       const std::vector<std::pair<std::string, std::string>>& before,
+                       const std::vector<std::pair<std::string, std::string>>& after) {
+  std::unordered_map<std::string_view, const std::string*> values;
+  for (const auto& [name, value] : after) values.emplace(name, &value);
+  std::unordered_set<std::string_view> known;
+  for (const auto& [name, value] : before) {
+    if (!known.insert(name).second) continue;
+    const std::string place = "property " + name;
+    const auto found = values.find(name);
+    if (found == values.end()) {
+      changes.add("property-removed", {place, ""}, value, "");
+    } else {
+      changes.addIfDifferent("property-changed", {place, place}, value, *found->second);
+    }
+  }
+  for (const auto& [name, value] : after) {
+    if (known.insert(name).second) {
+      changes.add("property-added", {"", "property " + name}, "", value);
+    }
+  }
+}
+
+DictionaryDiff::DictionaryDiff(const DictionaryFacts& before, const DictionaryFacts& after)
+    : before_(before),
+      after_(after),
+      match_(before, after),
+      items_(before, after, match_, changes_) {
+  changes_.addIfDifferent("program-renamed", {before.name(), after.name()}, before.name(),
+                          after.name());
+  compareProperties(changes_, before.properties(), after.properties());
+  compareFiles();
+  items_.compare();
+  compareEntryPoints();
+}
+
+void DictionaryDiff::compareService(as::IService& service, const std::string& file) {
+  ServiceImpact(before_, after_, match_, items_, entryChanges_, changes_).compare(service, file);
+}
+
+void DictionaryDiff::compareFiles() {
+  std::unordered_map<std::string_view, const SectionFacts*> news;
+  for (const SectionFacts* const file : filesOf(after_)) news.emplace(file->file, file);
+  std::unordered_set<const SectionFacts*> taken;
+  std::vector<const SectionFacts*> left;
+  for (const SectionFacts* const file : filesOf(before_)) {
+    const auto found = news.find(file->file);
+    if (found != news.end() && taken.insert(found->second).second) {
+      compareFile(*file, *found->second);
+    } else {
+      left.push_back(file);
+    }
+  }
+  for (const SectionFacts* const file : left) {
+    // One that has the first record of another is that file.
+    const ItemNumber partner = file->records.empty() ? noItem : match_.newOf(file->records.front());
+    const SectionFacts* renamed = nullptr;
+    for (const SectionFacts* const candidate : filesOf(after_)) {
+      if (partner == noItem || candidate->records.empty() || taken.count(candidate) > 0) continue;
+      if (candidate->records.front() == partner) renamed = candidate;
+    }
+    if (renamed == nullptr) {
+      changes_.add("file-removed", {file->title(), ""});
+      continue;
+    }
+    taken.insert(renamed);
+    changes_.add("file-renamed", {file->title(), renamed->title()}, file->file, renamed->file);
+    compareFile(*file, *renamed);
+  }
+  for (const SectionFacts* const file : filesOf(after_)) {
+    if (taken.count(file) == 0) changes_.add("file-added", {"", file->title()});
+  }
+}
+
+void DictionaryDiff::compareFile(const SectionFacts& before, const SectionFacts& after) {
+  const ChangeList::Place place = {before.title(), after.title()};
+  changes_.addIfDifferent("file-organization-changed", place, orNone(before.organization),
+                          orNone(after.organization));
+  changes_.addIfDifferent("file-access-changed", place, orNone(before.access),
+                          orNone(after.access));
+}
+
+bool DictionaryDiff::isSameItem(const EntryParameterFacts& before,
+                                const EntryParameterFacts& after) const {
+  if (before.number == noItem || after.number == noItem) return before.item == after.item;
+  return match_.newOf(before.number) == after.number;
+}
+
+bool DictionaryDiff::haveSameParameters(const EntryPointFacts& before,
+                                        const EntryPointFacts& after) const {
+  return std::equal(before.parameters.begin(), before.parameters.end(), after.parameters.begin(),
+                    after.parameters.end(),
+                    [this](const EntryParameterFacts& left, const EntryParameterFacts& right) {
+                      return isSameItem(left, right) && left.passing == right.passing;
+                    });
+}
+
+void DictionaryDiff::compareEntryPoints() {
+  std::unordered_map<std::string_view, const EntryPointFacts*> news;
+  for (const EntryPointFacts& entry : after_.entryPoints()) news.emplace(entry.name, &entry);
+  std::unordered_set<std::string_view> olds;
+  for (const EntryPointFacts& entry : before_.entryPoints()) olds.insert(entry.name);
+  std::unordered_set<const EntryPointFacts*> taken;
+  for (const EntryPointFacts& entry : before_.entryPoints()) {
+    const std::string place = "entry point " + entry.name;
+    const auto found = news.find(entry.name);
+    if (found != news.end()) {
+      if (taken.insert(found->second).second) compareEntryPoint(entry, *found->second);
+      continue;
+    }
+    const EntryPointFacts* renamed = nullptr;
+    for (const EntryPointFacts& candidate : after_.entryPoints()) {
+      const bool isFree = taken.count(&candidate) == 0 && olds.count(candidate.name) == 0;
+      if (renamed == nullptr && isFree && entry.convention == candidate.convention &&
+          haveSameParameters(entry, candidate)) {
+        renamed = &candidate;
+      }
+    }
+    std::vector<ChangeNumber>& told = entryChanges_[entry.name];
+    if (renamed == nullptr) {
+      told.push_back(changes_.add("entry-point-removed", {place, ""}));
+      continue;
+    }
+    taken.insert(renamed);
+    told.push_back(changes_.add("entry-point-renamed", {place, "entry point " + renamed->name},
+                                entry.name, renamed->name));
+  }
+  for (const EntryPointFacts& entry : after_.entryPoints()) {
+    if (taken.insert(&entry).second && olds.count(entry.name) == 0) {
+      changes_.add("entry-point-added", {"", "entry point " + entry.name});
+    }
+  }
+}
+
+void DictionaryDiff::compareEntryPoint(const EntryPointFacts& before,
+                                       const EntryPointFacts& after) {
+  const ChangeList::Place place = {"entry point " + before.name, "entry point " + after.name};
+  std::vector<ChangeNumber>& told = entryChanges_[before.name];
+  const auto note = [&](ChangeNumber change) {
+    if (change != noChange) told.push_back(change);
+  };
+  note(changes_.addIfDifferent("call-convention-changed", place, std::to_string(before.convention),
+                               std::to_string(after.convention)));
+  std::vector<std::size_t> partners(before.parameters.size(), noPartner);
+  std::vector<bool> taken(after.parameters.size(), false);
+  for (std::size_t i = 0; i < before.parameters.size(); ++i) {
+    for (std::size_t j = 0; j < after.parameters.size(); ++j) {
+      if (taken[j] || !isSameItem(before.parameters[i], after.parameters[j])) continue;
+      partners[i] = j;
+      taken[j] = true;
+      break;
+    }
+  }
+  for (std::size_t i = 0; i < before.parameters.size(); ++i) {
+    const EntryParameterFacts& old = before.parameters[i];
+    const ChangeList::Place at = {
+        place.before + " " + old.item,
+        partners[i] == noPartner ? "" : place.after + " " + after.parameters[partners[i]].item};
+    if (partners[i] == noPartner) {
+      note(changes_.add("entry-parameter-removed", at, old.passing, ""));
+      continue;
+    }
+    note(changes_.addIfDifferent("entry-parameter-passing-changed", at, old.passing,
+                                 after.parameters[partners[i]].passing));
+  }
+  for (std::size_t j = 0; j < after.parameters.size(); ++j) {
+    if (taken[j]) continue;
+    note(changes_.add("entry-parameter-added", {"", place.after + " " + after.parameters[j].item},
+                      "", after.parameters[j].passing));
+  }
+  const std::vector<bool> keeps = keepingOrder(partners);
+  bool isReordered = false;
+  for (std::size_t i = 0; i < partners.size(); ++i) {
+    isReordered = isReordered || (partners[i] != noPartner && !keeps[i]);
+  }
+  if (!isReordered) return;
+  const auto namesOf = [](const EntryPointFacts& entry) {
+    std::string names;
+    for (const EntryParameterFacts& parameter : entry.parameters) {
+      names += (names.empty() ? "" : ", ") + parameter.item;
+    }
+    return names;
+  };
+  note(changes_.add("entry-parameters-reordered", place, namesOf(before), namesOf(after)));
+}
+
+}  // namespace as::toolkit

@@ -1,0 +1,412 @@
+#include "toolkit/diff/ItemComparison.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <utility>
+
+#include "toolkit/diff/ItemTraits.h"
+#include "toolkit/diff/Sequence.h"
+#include "toolkit/text/Phrases.h"
+
+namespace as::toolkit {
+
+namespace {
+
+// Which items callers see: those of files and of the linkage section, and all of a program that
+// nobody can call, a copybook.
+std::vector<bool> seenItems(const DictionaryFacts& facts) {
+  std::vector<bool> seen(facts.items().size(), facts.entryPoints().empty());
+  for (const SectionFacts& section : facts.sections()) {
+    if (section.kind == SectionFacts::Kind::workingStorage) continue;
+    for (const ItemNumber record : section.records) seen[record] = true;
+  }
+  for (ItemNumber i = 0; i < seen.size(); ++i) {
+    if (facts[i].parent != noItem) seen[i] = seen[facts[i].parent];
+  }
+  return seen;
+}
+
+std::string numberOf(int number) { return number < 0 ? "unknown" : std::to_string(number); }
+
+std::string valuesOf(const ConditionFacts& condition) {
+  constexpr std::size_t longest = 200;
+  std::string text;
+  for (const std::string& value : condition.values) {
+    if (text.size() > longest) return text + ", ...";
+    text += (text.empty() ? "" : ", ") + value;
+  }
+  return text;
+}
+
+// What happened to the values; null for nothing.
+const char* valuesKind(const std::vector<std::string>& before,
+                       const std::vector<std::string>& after) {
+  std::vector<std::string> olds = before;
+  std::vector<std::string> news = after;
+  std::sort(olds.begin(), olds.end());
+  std::sort(news.begin(), news.end());
+  if (olds == news) return nullptr;
+  if (std::includes(news.begin(), news.end(), olds.begin(), olds.end())) {
+    return "condition-values-added";
+  }
+  return std::includes(olds.begin(), olds.end(), news.begin(), news.end())
+             ? "condition-values-removed"
+             : "condition-values-changed";
+}
+
+}  // namespace
+
+ItemComparison::ItemComparison(const DictionaryFacts& before, const DictionaryFacts& after,
+                               const ItemMatch& match, ChangeList& changes)
+    : before_(before),
+      after_(after),
+      match_(match),
+      changes_(changes),
+      changesOf_(before.items().size()),
+      hasMoved_(before.items().size(), false),
+      oldSeen_(seenItems(before)),
+      newSeen_(seenItems(after)),
+      placeCause_(after.items().size(), noChange) {}
+
+void ItemComparison::compare() {
+  // Records that changed their section are told with the section that they stand in now.
+  std::unordered_map<ItemNumber, std::string> titles;
+  for (const SectionFacts& section : before_.sections()) {
+    for (const ItemNumber record : section.records) titles.emplace(record, section.title());
+  }
+  Items olds;
+  Items news;
+  for (const SectionFacts& section : before_.sections()) {
+    olds.insert(olds.end(), section.records.begin(), section.records.end());
+  }
+  for (const SectionFacts& section : after_.sections()) {
+    news.insert(news.end(), section.records.begin(), section.records.end());
+  }
+  for (const SectionFacts& section : after_.sections()) {
+    for (const ItemNumber record : section.records) {
+      const ItemNumber old = match_.oldOf(record);
+      if (old == noItem || titles[old] == section.title()) continue;
+      // That a file was renamed is told of the file.
+      const bool areFiles =
+          section.kind == SectionFacts::Kind::file && titles[old].rfind("fd ", 0) == 0;
+      if (!areFiles) tell("record-moved", old, record, titles[old], section.title());
+    }
+  }
+  Flow flow;
+  compareLists(olds, news, flow, true);
+}
+
+void ItemComparison::compareLists(const Items& old, const Items& added, Flow& flow,
+                                  bool areRecords) {
+  std::unordered_map<ItemNumber, std::size_t> places;
+  for (std::size_t i = 0; i < added.size(); ++i) places.emplace(added[i], i);
+  std::vector<std::size_t> partners;
+  partners.reserve(old.size());
+  for (const ItemNumber number : old) {
+    const auto place = places.find(match_.newOf(number));
+    partners.push_back(place == places.end() ? noPartner : place->second);
+  }
+  const std::vector<bool> keeps = keepingOrder(partners);
+  // Where records stand among each other is of no account: each has an address of its own.
+  std::unordered_map<ItemNumber, ChangeNumber> reordered;
+  const auto reorder = [&](ItemNumber number) {
+    if (areRecords) return noChange;
+    const auto [at, isNew] = reordered.emplace(number, noChange);
+    if (isNew) {
+      const ItemNumber partner = match_.newOf(number);
+      at->second = tell("item-reordered", number, partner, numberOf(before_[number].offset),
+                        numberOf(after_[partner].offset));
+      lastCause_ = at->second;
+    }
+    return at->second;
+  };
+  std::size_t next = 0;
+  for (std::size_t i = 0; i <= old.size(); ++i) {
+    if (i < old.size() && !keeps[i]) {
+      if (match_.newOf(old[i]) == noItem) {
+        passOld(old[i], flow, tellRemoved(old[i]));
+      } else if (partners[i] == noPartner) {
+        // It went to another group, and is told there.
+        if (!areRecords) flow.delta -= before_[old[i]].extent();
+      } else {
+        passOld(old[i], flow, reorder(old[i]));
+      }
+      continue;
+    }
+    const std::size_t end = i == old.size() ? added.size() : partners[i];
+    for (; next < end; ++next) {
+      const ItemNumber number = added[next];
+      const ItemNumber partner = match_.oldOf(number);
+      if (partner == noItem) {
+        const ChangeNumber change = tellAdded(number);
+        placeCause_[number] = change;
+        if (after_[number].extent() > 0) {
+          flow.delta += after_[number].extent();
+          flow.cause = change;
+          lastCause_ = change;
+        }
+        compareWrapped(number, change);
+        continue;
+      }
+      const bool isSibling =
+          !areRecords && !old.empty() && before_[partner].parent == before_[old.front()].parent;
+      ChangeNumber cause = noChange;
+      if (isSibling) {
+        cause = reorder(partner);
+      } else if (!areRecords) {
+        cause =
+            tell("item-regrouped", partner, number, before_.pathOf(partner), after_.pathOf(number));
+      }
+      compareItem(partner, number, flow, cause, areRecords);
+      if (!areRecords) {
+        flow.delta += after_[number].extent();
+        if (after_[number].extent() > 0) flow.cause = cause;
+      }
+    }
+    if (i == old.size()) break;
+    compareItem(old[i], added[next], flow, noChange, areRecords);
+    ++next;
+  }
+}
+
+// What a new group was put around; what is new in it goes without saying.
+void ItemComparison::compareWrapped(ItemNumber group, ChangeNumber change) {
+  for (const ItemNumber child : after_[group].children) {
+    const ItemNumber partner = match_.oldOf(child);
+    if (partner == noItem) {
+      compareWrapped(child, change);
+      continue;
+    }
+    const ChangeNumber cause =
+        tell("item-regrouped", partner, child, before_.pathOf(partner), after_.pathOf(child));
+    Flow inside;
+    inside.cause = change;
+    compareItem(partner, child, inside, cause, false);
+  }
+}
+
+void ItemComparison::passOld(ItemNumber old, Flow& flow, ChangeNumber cause) {
+  if (before_[old].extent() == 0) return;
+  flow.delta -= before_[old].extent();
+  flow.cause = cause;
+  lastCause_ = cause;
+}
+
+void ItemComparison::compareItem(ItemNumber old, ItemNumber added, Flow& flow,
+                                 ChangeNumber reordered, bool isRecord) {
+  const ItemFacts& before = before_[old];
+  const ItemFacts& after = after_[added];
+  if (isRecord) {
+    flow = {};
+    lastCause_ = noChange;
+  }
+  if (before.name != after.name) tell("item-renamed", old, added, before.name, after.name);
+  ChangeNumber sizeCause = noChange;
+  ChangeNumber own = reordered;
+  for (const TraitChange& trait : traitChanges(before, after)) {
+    const ChangeNumber change = tell(trait.kind, old, added, trait.oldValue, trait.newValue);
+    if (trait.changesSize && sizeCause == noChange) sizeCause = change;
+    if (own == noChange) own = change;
+  }
+  ChangeNumber tableCause = noChange;
+  compareTable(old, added, tableCause);
+  compareRedefinition(old, added, tableCause);
+  if (own == noChange) own = tableCause;
+  compareConditions(old, added);
+
+  const Flow entry = flow;
+  comparePlace(old, added, flow, own);
+  const Flow start = flow;
+  Flow inside = flow;
+  const ChangeNumber outerCause = std::exchange(lastCause_, noChange);
+  if (!before.children.empty() || !after.children.empty()) {
+    compareLists(before.children, after.children, inside, false);
+  }
+  if (before.length != after.length) {
+    if (sizeCause == noChange) sizeCause = lastCause_;
+    sizeCause = compareSize(old, added, sizeCause);
+  }
+  if (lastCause_ == noChange) lastCause_ = outerCause;
+  const long long growth = after.extent() - before.extent();
+  if (reordered != noChange) {
+    // The list counts it where it stands now.
+    flow = entry;
+    return;
+  }
+  flow = start;
+  flow.delta += growth;
+  if (growth != 0) {
+    const ChangeNumber cause = tableCause != noChange ? tableCause : sizeCause;
+    if (cause != noChange) {
+      flow.cause = cause;
+      lastCause_ = cause;
+    }
+  }
+}
+
+void ItemComparison::compareTable(ItemNumber old, ItemNumber added, ChangeNumber& sizeCause) {
+  const ItemFacts& before = before_[old];
+  const ItemFacts& after = after_[added];
+  const auto note = [&](const char* kind, std::string oldValue, std::string newValue) {
+    const ChangeNumber change = tell(kind, old, added, std::move(oldValue), std::move(newValue));
+    if (sizeCause == noChange) sizeCause = change;
+  };
+  if (before.isTable() != after.isTable()) {
+    note(after.isTable() ? "table-made" : "table-unmade", std::to_string(before.maxOccurs),
+         std::to_string(after.maxOccurs));
+    return;
+  }
+  if (before.maxOccurs != after.maxOccurs) {
+    note(before.maxOccurs < after.maxOccurs ? "table-longer" : "table-shorter",
+         std::to_string(before.maxOccurs), std::to_string(after.maxOccurs));
+  }
+  const std::string oldCounter = counterOf(before_, old);
+  const std::string newCounter = counterOf(after_, added);
+  const bool isSameCounter = before.odoItem != noItem && after.odoItem != noItem
+                                 ? match_.newOf(before.odoItem) == after.odoItem
+                                 : oldCounter == newCounter;
+  if (!isSameCounter) note("table-depending-changed", oldCounter, newCounter);
+  // A fixed table says the one number twice.
+  const bool areFixed = before.minOccurs == before.maxOccurs && after.minOccurs == after.maxOccurs;
+  if (before.minOccurs != after.minOccurs && !areFixed && isSameCounter) {
+    tell("table-minimum-changed", old, added, std::to_string(before.minOccurs),
+         std::to_string(after.minOccurs));
+  }
+}
+
+void ItemComparison::compareRedefinition(ItemNumber old, ItemNumber added,
+                                         ChangeNumber& sizeCause) {
+  const ItemFacts& before = before_[old];
+  const ItemFacts& after = after_[added];
+  if (before.redefined == noItem && after.redefined == noItem &&
+      before.redefines == after.redefines) {
+    return;
+  }
+  const bool isSame =
+      before.redefined != noItem && after.redefined != noItem &&
+      (match_.newOf(before.redefined) == after.redefined ||
+       match_.newOf(before.redefined) == noItem || match_.oldOf(after.redefined) == noItem);
+  if (isSame) return;
+  const auto nameOf = [](const DictionaryFacts& facts, ItemNumber number) {
+    return number == noItem ? std::string("none") : facts[number].name;
+  };
+  const ChangeNumber change =
+      tell("redefinition-changed", old, added, nameOf(before_, before.redefined),
+           nameOf(after_, after.redefined));
+  if (sizeCause == noChange) sizeCause = change;
+}
+
+void ItemComparison::compareConditions(ItemNumber old, ItemNumber added) {
+  const std::vector<ConditionFacts>& olds = before_[old].conditions;
+  const std::vector<ConditionFacts>& news = after_[added].conditions;
+  if (olds.empty() && news.empty()) return;
+  std::unordered_map<std::string_view, const ConditionFacts*> known;
+  for (const ConditionFacts& condition : news) known.emplace(condition.name, &condition);
+  std::unordered_map<std::string_view, const ConditionFacts*> gone;
+  for (const ConditionFacts& condition : olds) gone.emplace(condition.name, &condition);
+  const std::string oldPath = before_.pathOf(old) + ".";
+  const std::string newPath = after_.pathOf(added) + ".";
+  const bool mayBreak = isSeen(old, added);
+  // The old ones by their values: one of the same values is a renamed one.
+  std::unordered_map<std::string, std::vector<const ConditionFacts*>> byValues;
+  for (auto at = news.rbegin(); at != news.rend(); ++at) {
+    if (gone.count(at->name) == 0) byValues[valuesOf(*at)].push_back(&*at);
+  }
+  std::unordered_map<std::string_view, bool> isTold;
+  for (const ConditionFacts& condition : olds) {
+    const auto found = known.find(condition.name);
+    if (found != known.end()) {
+      if (const char* const kind = valuesKind(condition.values, found->second->values)) {
+        changes_.add(kind, {oldPath + condition.name, newPath + condition.name},
+                     valuesOf(condition), valuesOf(*found->second), mayBreak);
+      }
+      continue;
+    }
+    std::vector<const ConditionFacts*>& alike = byValues[valuesOf(condition)];
+    if (alike.empty()) {
+      changes_.add("condition-removed", {oldPath + condition.name, ""}, valuesOf(condition), "",
+                   mayBreak);
+      continue;
+    }
+    isTold[alike.back()->name] = true;
+    changes_.add("condition-renamed", {oldPath + condition.name, newPath + alike.back()->name},
+                 condition.name, alike.back()->name, mayBreak);
+    alike.pop_back();
+  }
+  for (const ConditionFacts& condition : news) {
+    if (gone.count(condition.name) > 0 || isTold.count(condition.name) > 0) continue;
+    changes_.add("condition-added", {"", newPath + condition.name}, "", valuesOf(condition),
+                 mayBreak);
+  }
+}
+
+void ItemComparison::comparePlace(ItemNumber old, ItemNumber added, Flow& flow, ChangeNumber own) {
+  const ItemFacts& before = before_[old];
+  const ItemFacts& after = after_[added];
+  placeCause_[added] = flow.cause;
+  if (before.offset < 0 || after.offset < 0) return;
+  const long long actual = static_cast<long long>(after.offset) - before.offset;
+  ChangeNumber cause = flow.cause;
+  if (after.redefined != noItem && placeCause_[after.redefined] != noChange) {
+    cause = placeCause_[after.redefined];
+  }
+  if (after.renames) cause = lastCause_;
+  if (own != noChange && (cause == noChange || actual != flow.delta)) {
+    // What it is itself made it stand elsewhere: on a boundary, over other bytes.
+    if (!after.redefines && !after.renames) cause = own;
+    if (cause == noChange) cause = own;
+  }
+  if (actual == 0) {
+    if (!after.redefines && !after.renames) flow = {};
+    placeCause_[added] = noChange;
+    return;
+  }
+  hasMoved_[old] = true;
+  const ChangeNumber moved = tell("item-moved", old, added, std::to_string(before.offset),
+                                  std::to_string(after.offset), cause);
+  if (cause == noChange) cause = moved;
+  placeCause_[added] = cause;
+  if (!after.redefines && !after.renames) flow = {actual, cause};
+}
+
+ChangeNumber ItemComparison::compareSize(ItemNumber old, ItemNumber added, ChangeNumber cause) {
+  const ItemFacts& before = before_[old];
+  const ItemFacts& after = after_[added];
+  if (before.length < 0 || after.length < 0) return cause;
+  const ChangeNumber change = tell("size-changed", old, added, std::to_string(before.length),
+                                   std::to_string(after.length), cause);
+  if (cause != noChange) return cause;
+  lastCause_ = change;
+  return change;
+}
+
+ChangeNumber ItemComparison::tell(const char* kind, ItemNumber old, ItemNumber added,
+                                  std::string oldValue, std::string newValue, ChangeNumber cause) {
+  const bool isUnnamed = before_[old].isUnnamed();
+  const ChangeNumber change =
+      changes_.add(kind, {before_.pathOf(old), after_.pathOf(added)}, std::move(oldValue),
+                   std::move(newValue), isSeen(old, added) && !isUnnamed, cause);
+  if (std::string_view(kind) != "item-moved") changesOf_[old].push_back(change);
+  return change;
+}
+
+ChangeNumber ItemComparison::tellRemoved(ItemNumber old) {
+  return changes_.add("item-removed", {before_.pathOf(old), ""}, describe(before_[old]), "",
+                      oldSeen_[old] && !before_[old].isUnnamed());
+}
+
+ChangeNumber ItemComparison::tellAdded(ItemNumber added) {
+  return changes_.add("item-added", {"", after_.pathOf(added)}, "", describe(after_[added]));
+}
+
+bool ItemComparison::isSeen(ItemNumber old, ItemNumber added) const {
+  return oldSeen_[old] || newSeen_[added];
+}
+
+std::string ItemComparison::counterOf(const DictionaryFacts& facts, ItemNumber number) const {
+  const ItemFacts& item = facts[number];
+  if (item.odoItem != noItem) return facts.pathOf(item.odoItem);
+  return item.odo.empty() ? "none" : item.odo;
+}
+
+}  // namespace as::toolkit

@@ -1,0 +1,72 @@
+// Compares the data items of two dictionaries, record by record, and tells what is the reason for
+// what.
+#ifndef TOOLKIT_DIFF_ITEMCOMPARISON_H_
+#define TOOLKIT_DIFF_ITEMCOMPARISON_H_
+
+#include <string>
+#include <vector>
+
+#include "toolkit/diff/ChangeList.h"
+#include "toolkit/diff/ItemMatch.h"
+#include "toolkit/facts/DictionaryFacts.h"
+
+namespace as::toolkit {
+
+class ItemComparison {
+ public:
+  ItemComparison(const DictionaryFacts& before, const DictionaryFacts& after,
+                 const ItemMatch& match, ChangeList& changes);
+
+  // The records of all sections.
+  void compare();
+
+  // What was told of an old item, moves and what it is part of left aside.
+  const std::vector<ChangeNumber>& changesOf(ItemNumber old) const { return changesOf_[old]; }
+  bool hasMoved(ItemNumber old) const { return hasMoved_[old]; }
+
+ private:
+  using Items = std::vector<ItemNumber>;
+
+  // How far what comes next has moved as things stand, and because of what.
+  struct Flow {
+    long long delta = 0;
+    ChangeNumber cause = noChange;
+  };
+
+  void compareLists(const Items& old, const Items& added, Flow& flow, bool areRecords);
+  void compareItem(ItemNumber old, ItemNumber added, Flow& flow, ChangeNumber reordered,
+                   bool isRecord);
+  void compareWrapped(ItemNumber group, ChangeNumber change);
+  void passOld(ItemNumber old, Flow& flow, ChangeNumber cause);
+  void compareTable(ItemNumber old, ItemNumber added, ChangeNumber& sizeCause);
+  void compareRedefinition(ItemNumber old, ItemNumber added, ChangeNumber& sizeCause);
+  void compareConditions(ItemNumber old, ItemNumber added);
+  void comparePlace(ItemNumber old, ItemNumber added, Flow& flow, ChangeNumber own);
+  // Answers the reason that the new size has: `cause` if there is one.
+  ChangeNumber compareSize(ItemNumber old, ItemNumber added, ChangeNumber cause);
+
+  ChangeNumber tell(const char* kind, ItemNumber old, ItemNumber added, std::string oldValue = "",
+                    std::string newValue = "", ChangeNumber cause = noChange);
+  ChangeNumber tellRemoved(ItemNumber old);
+  ChangeNumber tellAdded(ItemNumber added);
+  bool isSeen(ItemNumber old, ItemNumber added) const;
+  std::string counterOf(const DictionaryFacts& facts, ItemNumber number) const;
+
+  const DictionaryFacts& before_;
+  const DictionaryFacts& after_;
+  const ItemMatch& match_;
+  ChangeList& changes_;
+  std::vector<std::vector<ChangeNumber>> changesOf_;
+  std::vector<bool> hasMoved_;
+  // Of each item, whether callers see it: by the record that it stands in.
+  std::vector<bool> oldSeen_;
+  std::vector<bool> newSeen_;
+  // Why each new item stands where it does; redefinitions follow it.
+  std::vector<ChangeNumber> placeCause_;
+  // The last change of the record at hand that made something larger or smaller.
+  ChangeNumber lastCause_ = noChange;
+};
+
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_DIFF_ITEMCOMPARISON_H_

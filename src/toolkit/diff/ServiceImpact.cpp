@@ -1,0 +1,151 @@
+#include "toolkit/diff/ServiceImpact.h"
+
+#include <utility>
+
+#include "as/IHiddenParameter.h"
+#include "as/IOperation.h"
+#include "as/IParameter.h"
+#include "toolkit/flavour/FlavourProfile.h"
+#include "toolkit/text/Phrases.h"
+#include "toolkit/walk/FieldWalk.h"
+
+namespace as::toolkit {
+
+namespace {
+
+bool isOfTables(const std::string& kind) { return kind.rfind("table-", 0) == 0; }
+
+}  // namespace
+
+ServiceImpact::ServiceImpact(const DictionaryFacts& before, const DictionaryFacts& after,
+                             const ItemMatch& match, const ItemComparison& items,
+                             const EntryChanges& entryChanges, ChangeList& changes)
+    : before_(before),
+      after_(after),
+      match_(match),
+      items_(items),
+      entryChanges_(entryChanges),
+      changes_(changes) {
+  std::vector<bool> isOfFile(before.items().size(), false);
+  for (const SectionFacts& section : before.sections()) {
+    if (section.kind != SectionFacts::Kind::file) continue;
+    for (const ItemNumber record : section.records) isOfFile[record] = true;
+  }
+  for (ItemNumber i = 0; i < before.items().size(); ++i) {
+    const ItemNumber parent = before[i].parent;
+    if (parent != noItem) isOfFile[i] = isOfFile[parent];
+    if (!isOfFile[i]) index_[parent].emplace(before[i].name, i);
+  }
+}
+
+void ServiceImpact::compare(as::IService& service, const std::string& file) {
+  file_ = file;
+  const FlavourProfile& flavour = profileOf(service);
+  forEachMember<as::IParameter>(service.getParameterTypeDefs(), [&](as::IParameter& definition) {
+    const std::string place = "type " + definition.getName();
+    forEachMember<as::IMapping>(definition.getMappings(),
+                                [&](as::IMapping& mapping) { compareMapping(mapping, place); });
+    compareFields(definition.getChildren(), place);
+  });
+  forEachMember<as::IOperation>(service.getOperations(), [&](as::IOperation& operation) {
+    const std::string place = operation.getName();
+    const std::string entry = operation.getAttributeValue("entryPoint");
+    const auto found = entryChanges_.find(entry);
+    if (found != entryChanges_.end() && !found->second.empty()) {
+      const ChangeNumber first = found->second.front();
+      const std::string& kind = changes_.all()[first].kind;
+      const bool isGone = kind == "entry-point-removed" || kind == "entry-point-renamed";
+      tell(isGone ? "entry-point-lost" : "entry-point-changed", place, entry,
+           isGone ? changes_.all()[first].newValue : entry, true, first);
+    }
+    forEachMember<as::IHiddenParameter>(
+        operation.getHiddenParameters(),
+        [&](as::IHiddenParameter& hidden) { compareMapping(hidden, place + " (hidden)"); });
+    compareFields(operation.getParameters(), place);
+    for (const Message& message : flavour.messagesOf(operation)) {
+      compareFields(message.parameters, place + " " + message.kind);
+    }
+  });
+}
+
+void ServiceImpact::compareFields(as::IList* fields, const std::string& place) {
+  std::vector<std::string> names;
+  walkFields(
+      fields,
+      [&](as::IField& field, std::size_t /*depth*/) {
+        names.push_back(field.getName());
+        if (!referenceOf(field).empty()) return;
+        forEachMember<as::IMapping>(field.getMappings(), [&](as::IMapping& mapping) {
+          compareMapping(mapping, place + "." + dotted(names));
+        });
+      },
+      [&](as::IField&) { names.pop_back(); });
+}
+
+void ServiceImpact::compareMapping(as::IMapping& mapping, const std::string& place) {
+  if (mapping.getType() != as::IMapping::MAP_DATA_ITEM) return;
+  std::string path = mapping.getRawMapping();
+  path = path.substr(0, path.find('('));
+  const ItemNumber old = find(path);
+  if (old == noItem) return;
+  const ItemNumber added = match_.newOf(old);
+  if (added == noItem) {
+    tell("mapping-lost", place, path, "", true, noChange);
+    return;
+  }
+  const std::string newPath = after_.pathOf(added);
+  if (newPath != before_.pathOf(old)) tell("mapping-renamed", place, path, newPath, true, noChange);
+  bool isTold = false;
+  const auto compare = [&](ItemNumber at, bool isAround) {
+    for (const ChangeNumber number : items_.changesOf(at)) {
+      const Change change = changes_.all()[number];
+      if (isAround && !isOfTables(change.kind)) continue;
+      if (change.kind.rfind("item-", 0) == 0 || change.cause) continue;
+      const ChangeKind& kind = *findChangeKind(change.kind);
+      if (!kind.breaks) continue;
+      tell("mapping-changed", place,
+           change.oldPlace + ": " + kind.text + " from " + change.oldValue, change.newValue, true,
+           number);
+      isTold = true;
+    }
+  };
+  compare(old, false);
+  for (ItemNumber at = before_[old].parent; at != noItem; at = before_[at].parent) {
+    compare(at, true);
+  }
+  // What a group has become is told by what is in it.
+  const bool isResized = before_[old].length != after_[added].length;
+  if (!isTold && isResized) {
+    tell("mapping-changed", place,
+         path + ": size changed from " + std::to_string(before_[old].length),
+         std::to_string(after_[added].length), true, noChange);
+    isTold = true;
+  }
+  if (!isTold && items_.hasMoved(old)) {
+    tell("mapping-moved", place, std::to_string(before_[old].offset),
+         std::to_string(after_[added].offset), false, noChange);
+  }
+}
+
+ItemNumber ServiceImpact::find(std::string_view path) const {
+  ItemNumber at = noItem;
+  while (true) {
+    const std::size_t period = path.find('.');
+    const auto names = index_.find(at);
+    if (names == index_.end()) return noItem;
+    const auto found = names->second.find(path.substr(0, period));
+    if (found == names->second.end()) return noItem;
+    at = found->second;
+    if (period == std::string_view::npos) return at;
+    path.remove_prefix(period + 1);
+  }
+}
+
+void ServiceImpact::tell(const char* kind, const std::string& place, std::string oldValue,
+                         std::string newValue, bool breaks, ChangeNumber cause) {
+  const ChangeNumber change =
+      changes_.add(kind, {place, place}, std::move(oldValue), std::move(newValue), breaks, cause);
+  changes_.all()[change].service = file_;
+}
+
+}  // namespace as::toolkit

@@ -1,0 +1,48 @@
+// What becomes of a service when the dictionary of its program changes.
+#ifndef TOOLKIT_DIFF_SERVICEIMPACT_H_
+#define TOOLKIT_DIFF_SERVICEIMPACT_H_
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "as/IMapping.h"
+#include "as/IService.h"
+#include "toolkit/diff/ChangeList.h"
+#include "toolkit/diff/ItemComparison.h"
+#include "toolkit/diff/ItemMatch.h"
+#include "toolkit/facts/DictionaryFacts.h"
+
+namespace as::toolkit {
+
+class ServiceImpact {
+ public:
+  using EntryChanges = std::unordered_map<std::string, std::vector<ChangeNumber>>;
+
+  ServiceImpact(const DictionaryFacts& before, const DictionaryFacts& after, const ItemMatch& match,
+                const ItemComparison& items, const EntryChanges& entryChanges, ChangeList& changes);
+
+  void compare(as::IService& service, const std::string& file);
+
+ private:
+  void compareMapping(as::IMapping& mapping, const std::string& place);
+  void compareFields(as::IList* fields, const std::string& place);
+  ItemNumber find(std::string_view path) const;
+  void tell(const char* kind, const std::string& place, std::string oldValue, std::string newValue,
+            bool breaks, ChangeNumber cause);
+
+  const DictionaryFacts& before_;
+  const DictionaryFacts& after_;
+  const ItemMatch& match_;
+  const ItemComparison& items_;
+  const EntryChanges& entryChanges_;
+  ChangeList& changes_;
+  // What a mapping finds: of the items of one name in one group, the first.
+  std::unordered_map<ItemNumber, std::unordered_map<std::string_view, ItemNumber>> index_;
+  std::string file_;
+};
+
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_DIFF_SERVICEIMPACT_H_
