@@ -42,8 +42,10 @@ std::string checked(const std::string& named) {
 
 std::string findSchemaDirectory(const std::optional<std::string>& named) {
   if (named) return checked(*named);
-  const fs::path installed = (directoryOfThisTool() / AS_SCHEMA_DIR_FROM_BIN).lexically_normal();
-  for (const fs::path& directory : {installed, fs::path(AS_SOURCE_SCHEMA_DIR)}) {
+  const fs::path here = directoryOfThisTool();
+  const fs::path installed = (here / AS_SCHEMA_DIR_FROM_BIN).lexically_normal();
+  const fs::path built = (here / AS_SCHEMA_DIR_FROM_BUILD).lexically_normal();
+  for (const fs::path& directory : {installed, built}) {
     if (holdsSchemas(directory)) return directory.string();
   }
   throw SchemaDirectoryMissing("the schema directory is missing: there is no " +

@@ -31,4 +31,43 @@ foreach(file IN LISTS package)
   endif()
 endforeach()
 # Without --schemas: the tool finds the schemas that were installed with it.
-run(${WORK}/prefix/bin/agentservices validate ${EXAMPLES}/MOTPREM.xml)
+file(READ ${WORK}/build/tool tool)
+run(${tool} validate ${EXAMPLES}/MOTPREM.xml)
+
+# The same client by pkg-config.
+set(ENV{PKG_CONFIG_PATH} ${WORK}/prefix/${LIBDIR}/pkgconfig)
+run(pkg-config --cflags --libs agentservices agentservices-toolkit)
+separate_arguments(flags UNIX_COMMAND "${output}")
+if(FLAGS)
+  list(APPEND flags -fsanitize=${FLAGS})
+endif()
+run(${COMPILER} -std=c++17 ${SOURCE}/install/toolkit.cpp -o ${WORK}/by-pkg-config ${flags}
+    -Wl,-rpath,${WORK}/prefix/${LIBDIR})
+run(pkg-config --variable=schemadir agentservices)
+string(STRIP "${output}" schemas)
+run(${WORK}/by-pkg-config ${schemas} ${EXAMPLES} ${WORK}/toolkit)
+
+# Without the tool: what is there is found, and what is not is not.
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/some --component Runtime)
+foreach(component Toolkit Development Schemas)
+  run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/some --component ${component})
+endforeach()
+if(EXISTS ${WORK}/some/bin)
+  message(FATAL_ERROR "the tool came with something else")
+endif()
+foreach(components "" "COMPONENTS Toolkit" "COMPONENTS Tool" "COMPONENTS Spoon")
+  file(WRITE ${WORK}/asks/CMakeLists.txt "cmake_minimum_required(VERSION 3.25)\nproject(Asks NONE)\n"
+       "set(CMAKE_SIZEOF_VOID_P ${POINTER})\nset(CMAKE_LIBRARY_ARCHITECTURE ${ARCHITECTURE})\n"
+       "find_package(AgentServices 1.0 ${components})\n"
+       "message(STATUS \"found: \${AgentServices_FOUND}\")\n")
+  run(${CMAKE_COMMAND} -G ${GENERATOR} -S ${WORK}/asks -B ${WORK}/asks/build
+      -DCMAKE_PREFIX_PATH=${WORK}/some)
+  if(components MATCHES "Tool$|Spoon")
+    set(expected 0)
+  else()
+    set(expected 1)
+  endif()
+  if(NOT output MATCHES "found: ${expected}")
+    message(FATAL_ERROR "find_package(AgentServices ${components}): ${output}")
+  endif()
+endforeach()

@@ -1,0 +1,51 @@
+# What is installed, in parts (`cmake --install DIR --component NAME`):
+#
+#   Runtime        libAgentServices.so.N, for programs that use the model
+#   Toolkit        libAgentServicesToolkit.so.N
+#   Schemas        the schemas of the documents, which all others read at run time
+#   Tool           the command agentservices
+#   Development    headers, the names that linkers look for, CMake's and pkg-config's descriptions
+#   Documentation  the guide and the reference, where ./run docs has built them
+include(CMakePackageConfigHelpers)
+
+set(AS_CMAKE_INSTALL_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/AgentServices)
+
+# What is not installed where the system looks for libraries finds them by itself.
+if(NOT AS_PACKAGE)
+  set_target_properties(AgentServicesToolkit PROPERTIES INSTALL_RPATH "$ORIGIN")
+  file(RELATIVE_PATH libraries /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${CMAKE_INSTALL_LIBDIR})
+  set_target_properties(agentservices-tool PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
+endif()
+
+install(TARGETS AgentServices EXPORT AgentServicesTargets
+        LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development)
+install(TARGETS AgentServicesToolkit EXPORT AgentServicesToolkitTargets
+        LIBRARY COMPONENT Toolkit NAMELINK_COMPONENT Development)
+install(TARGETS agentservices-tool EXPORT AgentServicesToolTargets RUNTIME COMPONENT Tool)
+install(DIRECTORY schema/ DESTINATION ${AS_SCHEMA_INSTALL_DIR} COMPONENT Schemas
+        FILES_MATCHING PATTERN "*.xsd")
+install(DIRECTORY include/as DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development)
+
+# For find_package(AgentServices [COMPONENTS Toolkit Tool]). The tool's part comes with the tool:
+# whoever develops need not have it.
+foreach(part "" Toolkit)
+  install(EXPORT AgentServices${part}Targets NAMESPACE AgentServices::
+          DESTINATION ${AS_CMAKE_INSTALL_DIR} COMPONENT Development)
+endforeach()
+install(EXPORT AgentServicesToolTargets NAMESPACE AgentServices::
+        DESTINATION ${AS_CMAKE_INSTALL_DIR} COMPONENT Tool)
+configure_package_config_file(cmake/AgentServicesConfig.cmake.in AgentServicesConfig.cmake
+    INSTALL_DESTINATION ${AS_CMAKE_INSTALL_DIR} PATH_VARS AS_SCHEMA_INSTALL_DIR)
+write_basic_package_version_file(AgentServicesConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/AgentServicesConfig.cmake
+              ${CMAKE_CURRENT_BINARY_DIR}/AgentServicesConfigVersion.cmake
+        DESTINATION ${AS_CMAKE_INSTALL_DIR} COMPONENT Development)
+
+# For pkg-config. Like CMake's files they go by where they are, so that a prefix can be moved.
+file(RELATIVE_PATH prefix_from_pkgconfig /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+cmake_path(SET prefix_from_pkgconfig NORMALIZE ${prefix_from_pkgconfig}.)
+foreach(name agentservices agentservices-toolkit)
+  configure_file(cmake/${name}.pc.in ${name}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc
+          DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
+endforeach()
