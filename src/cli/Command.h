@@ -46,13 +46,9 @@ class Command {
 };
 
 // The commands, each in a file of its own.
-std::unique_ptr<Command> showCommand();
-std::unique_ptr<Command> validateCommand();
-std::unique_ptr<Command> lintCommand();
-std::unique_ptr<Command> newCommand();
-std::unique_ptr<Command> convertCommand();
-std::unique_ptr<Command> importCommand();
-std::unique_ptr<Command> diffCommand();
+#define AS_COMMAND(name) std::unique_ptr<Command> name##Command();
+#include "cli/Commands.def"
+#undef AS_COMMAND
 
 // Runs `work` with a reader for the schema directory in use, and tells what was refused. Returns
 // the exit code.

@@ -17,8 +17,9 @@ namespace {
 
 // The commands, in the order in which help lists them.
 constexpr std::unique_ptr<Command> (*commands[])() = {
-    showCommand,    validateCommand, lintCommand, newCommand,
-    convertCommand, importCommand,   diffCommand,
+#define AS_COMMAND(name) name##Command,
+#include "cli/Commands.def"
+#undef AS_COMMAND
 };
 
 int run(int argc, char** argv) {
