@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "as/Export.h"
 #include "as/IService.h"
@@ -24,6 +25,16 @@ class AS_EXPORT FileError : public std::runtime_error {
 // and links stay links. A name that leads to something other than a file, a device for one, is
 // written to as it is. Throws FileError.
 AS_EXPORT void replaceFile(const std::string& file, const std::string& content);
+
+struct FileContent {
+  std::string file;
+  std::string content;
+};
+
+// The same for several files: all of them get what they are to hold or, when one of them cannot,
+// none does. Those that hold it already are left alone, with their times. Returns the names of the
+// others. Throws FileError.
+AS_EXPORT std::vector<std::string> replaceFiles(const std::vector<FileContent>& files);
 
 // Writes the document of `service` so. Throws RefusedDocument when XML cannot hold it (elements
 // nest too deep, a name holds control characters), and FileError.

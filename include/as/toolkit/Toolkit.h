@@ -13,6 +13,7 @@
 #include "as/toolkit/Finding.h"
 #include "as/toolkit/FindingsWriter.h"
 #include "as/toolkit/Flavours.h"
+#include "as/toolkit/Generate.h"
 #include "as/toolkit/Import.h"
 #include "as/toolkit/Lint.h"
 #include "as/toolkit/Make.h"

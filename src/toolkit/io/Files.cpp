@@ -6,7 +6,9 @@
 
 #include <cerrno>
 #include <cstddef>
+#include <deque>
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <system_error>
 
@@ -116,6 +118,92 @@ void writeThrough(const std::string& file, const std::string& content) {
   }
 }
 
+// A file on its way to hold something else, which is on the disk already.
+class Replacement {
+ public:
+  // Throws FileError.
+  Replacement(const std::string& file, const std::string& content)
+      : file_(file), unchanged_(file + " cannot be written and is as it was"), target_(file) {
+    mode_t mode = 0;
+    struct stat old = {};
+    if (::stat(file.c_str(), &old) == 0) {
+      isThere_ = true;
+      if (S_ISDIR(old.st_mode)) fail(unchanged_, EISDIR);
+      if (!S_ISREG(old.st_mode)) {
+        device_ = content;
+        return;
+      }
+      // A file that must not be written is not to be replaced either.
+      if (::access(file.c_str(), W_OK) != 0) fail(unchanged_, errno);
+      std::error_code failure;
+      target_ = fs::canonical(file, failure).string();  // Links stay links.
+      if (failure) fail(unchanged_, failure.value());
+      mode = old.st_mode & 07777;
+    } else if (errno == ENOENT) {
+      mode = modeOfNewFiles();
+      // A link that leads to nothing yet stays one, too.
+      target_ = endOfLinks(file);
+    } else {
+      fail(file + " cannot be written", errno);
+    }
+    new_.emplace(target_);
+    if (!new_->isOpen() || !new_->fill(content, mode)) failAsIs(errno);
+  }
+
+  // Puts the new content in place. Throws FileError.
+  void finish() {
+    if (device_) return writeThrough(file_, *device_);
+    if (!new_->takePlaceOf(target_)) failAsIs(errno);
+    isDone_ = true;
+  }
+
+  // Has undo() find what the file holds, where files may have two names.
+  void keepOld() {
+    if (device_ || !isThere_) return;
+    old_ = target_ + ".agentservices-old";
+    static_cast<void>(::unlink(old_.c_str()));
+    if (::link(target_.c_str(), old_.c_str()) != 0) old_.clear();
+  }
+
+  // Best efforts: what fails here leaves what is new.
+  void undo() {
+    if (isDone_ && !isThere_) static_cast<void>(::unlink(target_.c_str()));
+    if (isDone_ && !old_.empty()) static_cast<void>(::rename(old_.c_str(), target_.c_str()));
+    dropOld();
+  }
+
+  void dropOld() {
+    if (!old_.empty()) static_cast<void>(::unlink(old_.c_str()));
+    old_.clear();
+  }
+
+ private:
+  [[noreturn]] void failAsIs(int reason) const {
+    fail(isThere_ ? unchanged_ : file_ + " cannot be written", reason);
+  }
+
+  std::string file_;
+  std::string unchanged_;
+  std::string target_;
+  bool isThere_ = false;
+  bool isDone_ = false;
+  std::optional<std::string> device_;  // What goes to something other than a file.
+  std::optional<TemporaryFile> new_;
+  std::string old_;  // Another name of the file that was there; empty for none.
+};
+
+// Whether the file is one and holds that.
+bool holds(const std::string& file, const std::string& content) {
+  std::error_code failure;
+  if (!fs::is_regular_file(file, failure) || fs::file_size(file, failure) != content.size()) {
+    return false;
+  }
+  std::ifstream in(file, std::ios::binary);
+  std::string held(content.size(), '\0');
+  in.read(held.data(), static_cast<std::streamsize>(held.size()));
+  return in.good() && held == content;
+}
+
 }  // namespace
 
 FileError::FileError(const FileError& other) = default;
@@ -123,31 +211,27 @@ FileError& FileError::operator=(const FileError& other) = default;
 FileError::~FileError() = default;
 
 void replaceFile(const std::string& file, const std::string& content) {
-  const std::string unchanged = file + " cannot be written and is as it was";
-  struct stat old = {};
-  std::string target = file;
-  mode_t mode = 0;
-  if (::stat(file.c_str(), &old) == 0) {
-    if (S_ISDIR(old.st_mode)) fail(unchanged, EISDIR);
-    if (!S_ISREG(old.st_mode)) return writeThrough(file, content);
-    // A file that must not be written is not to be replaced either.
-    if (::access(file.c_str(), W_OK) != 0) fail(unchanged, errno);
-    std::error_code failure;
-    target = fs::canonical(file, failure).string();  // Links stay links.
-    if (failure) fail(unchanged, failure.value());
-    mode = old.st_mode & 07777;
-  } else if (errno == ENOENT) {
-    mode = modeOfNewFiles();
-    // A link that leads to nothing yet stays one, too.
-    target = endOfLinks(file);
-  } else {
-    fail(file + " cannot be written", errno);
+  Replacement(file, content).finish();
+}
+
+std::vector<std::string> replaceFiles(const std::vector<FileContent>& files) {
+  std::vector<std::string> written;
+  std::deque<Replacement> replacements;
+  for (const FileContent& file : files) {
+    if (holds(file.file, file.content)) continue;
+    replacements.emplace_back(file.file, file.content);
+    written.push_back(file.file);
   }
-  TemporaryFile temporary(target);
-  if (!temporary.isOpen() || !temporary.fill(content, mode) || !temporary.takePlaceOf(target)) {
-    const int reason = errno;
-    fail(old.st_nlink > 0 ? unchanged : file + " cannot be written", reason);
+  // Hardly anything fails now: the new files are on the disk, in the folders of the old ones.
+  for (Replacement& replacement : replacements) replacement.keepOld();
+  try {
+    for (Replacement& replacement : replacements) replacement.finish();
+  } catch (const FileError&) {
+    for (Replacement& replacement : replacements) replacement.undo();
+    throw;
   }
+  for (Replacement& replacement : replacements) replacement.dropOld();
+  return written;
 }
 
 void writeService(as::IService& service, const std::string& file) {

@@ -3,6 +3,7 @@
 #include "as/IProgram.h"
 #include "as/IService.h"
 #include "toolkit/flavour/FlavourProfile.h"
+#include "toolkit/lint/LintedService.h"
 #include "toolkit/lint/Rules.h"
 #include "toolkit/lint/ServiceWalk.h"
 
@@ -29,31 +30,37 @@ const std::vector<LintRule>& lintRules() {
   return all;
 }
 
-Findings lint(as::IService& service) {
+Findings lint(as::IService& service) { return lintWith(service, service.getProgram()); }
+
+Findings lintWith(as::IService& service, as::IProgram* program) {
   Findings findings;
   lookAtService(service, findings);
-  lintMembers(service, service.getProgram(), findings);
+  lintMembers(service, program, findings);
   return findings;
+}
+
+LintedService lintRead(const DocumentReader& reader, as::IService& service, const std::string& file,
+                       const std::optional<std::string>& dictionary) {
+  LintedService linted;
+  lookAtService(service, linted.findings);
+  if (dictionary || !service.getDDFilename().empty()) {
+    try {
+      linted.program = reader.programOf(service, file, ProgramChoice{dictionary});
+      look(DictionarySubject{servicePlace(), nullptr, service.getAttributeValue("programName"),
+                             linted.program->getName()},
+           linted.findings);
+    } catch (const RefusedDocument& refused) {
+      look(DictionarySubject{servicePlace(), &refused.refusal(), ""}, linted.findings);
+    }
+  }
+  lintMembers(service, linted.program.get(), linted.findings);
+  return linted;
 }
 
 Findings lintFile(const DocumentReader& reader, const std::string& file,
                   const std::optional<std::string>& dictionary) {
   const std::unique_ptr<as::IService> service = reader.readService(file);
-  Findings findings;
-  lookAtService(*service, findings);
-  std::shared_ptr<as::IProgram> program;
-  if (dictionary || !service->getDDFilename().empty()) {
-    try {
-      program = reader.programOf(*service, file, ProgramChoice{dictionary});
-      look(DictionarySubject{servicePlace(), nullptr, service->getAttributeValue("programName"),
-                             program->getName()},
-           findings);
-    } catch (const RefusedDocument& refused) {
-      look(DictionarySubject{servicePlace(), &refused.refusal(), ""}, findings);
-    }
-  }
-  lintMembers(*service, program.get(), findings);
-  return findings;
+  return lintRead(reader, *service, file, dictionary).findings;
 }
 
 }  // namespace as::toolkit

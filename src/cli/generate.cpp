@@ -1,0 +1,138 @@
+// agentservices generate: makes what callers of a service need.
+#include "as/toolkit/Generate.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <fstream>
+#include <iomanip>
+#include <iostream>
+#include <iterator>
+
+#include "as/toolkit/Files.h"
+#include "as/toolkit/Text.h"
+#include "cli/Command.h"
+#include "cli/Messages.h"
+
+namespace cli {
+
+namespace {
+
+// KIND  SUMMARY, and below it the flavours and the options.
+void printKinds() {
+  int width = 0;
+  for (const toolkit::GeneratorKind& kind : toolkit::generatorKinds()) {
+    width = std::max(width, static_cast<int>(std::strlen(kind.word)));
+  }
+  const std::string margin(static_cast<std::size_t>(width) + 2, ' ');
+  for (const toolkit::GeneratorKind& kind : toolkit::generatorKinds()) {
+    std::cout << std::left << std::setw(width) << kind.word << "  " << kind.summary << "\n"
+              << margin << "of services:";
+    for (const char* const flavour : kind.flavours) std::cout << ' ' << flavour;
+    std::cout << (kind.takesDictionaries ? "; of dictionaries\n" : "\n");
+    for (const toolkit::GeneratorOption& option : kind.options) {
+      std::cout << margin << "--set " << option.name << "="
+                << (*option.values == '\0' ? "TEXT" : option.values) << ": " << option.summary
+                << "\n";
+    }
+  }
+}
+
+class Generate : public Command {
+ public:
+  Generate() : Command("generate", "Make schemas and interfaces for callers of a service") {}
+
+  void declare(Arguments& arguments) override {
+    arguments.required("KIND", kind_, "What to make; --kinds lists the kinds");
+    arguments.required("SERVICE", file_, "The service; for some kinds also a data dictionary");
+    arguments.requiredOption("-o,--output", output_,
+                             "The file to write, or the folder; files that hold the same already "
+                             "are left alone");
+    arguments.option(
+        "--dictionary", dictionary_, "FILE",
+        "The data dictionary of the program, in place of the one that the service names");
+    arguments.option("--record", record_, "RECORD",
+                     "Of a dictionary: the record to make something of; all unless told");
+    arguments.option("--names", names_, "FILE",
+                     "Names to use in place of those that are made: KEY = NAME, one a line");
+    arguments.list("--set", values_, "OPTION=VALUE,...", "Options of the kind");
+    arguments.insteadOf({"KIND", "SERVICE", "--output"}, "--kinds", kinds_,
+                        "Print the kinds with their options, and make nothing");
+  }
+
+  int run(const std::optional<std::string>& schemas) override {
+    if (kinds_) {
+      printKinds();
+      return exitFine;
+    }
+    const toolkit::GeneratorKind* const kind = toolkit::findGeneratorKind(kind_);
+    if (kind == nullptr) return wrong("there is no kind '" + kind_ + "'; --kinds lists the kinds");
+    for (const std::string& value : values_) {
+      const std::size_t sign = value.find('=');
+      if (sign == std::string::npos) return wrong("--set takes OPTION=VALUE, not '" + value + "'");
+      options_.values[value.substr(0, sign)] = value.substr(sign + 1);
+    }
+    const std::string problem = toolkit::wrongOption(*kind, options_);
+    if (!problem.empty()) return wrong(problem);
+    if (record_) options_.record = *record_;
+    return withReader(schemas, [&](const toolkit::DocumentReader& reader) {
+      if (names_ && !readNames()) return exitRefused;
+      return make(reader, *kind);
+    });
+  }
+
+ private:
+  static int wrong(const std::string& text) {
+    printError(toolkit::printable(text));
+    return exitUsage;
+  }
+
+  bool readNames() {
+    std::ifstream in(*names_, std::ios::binary);
+    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    if (!in.good() && !in.eof()) {
+      printRefusal({*names_, 0, 0, "the file cannot be read", ""});
+      return false;
+    }
+    options_.names = toolkit::readChosenNames(text, *names_);
+    return true;
+  }
+
+  int make(const toolkit::DocumentReader& reader, const toolkit::GeneratorKind& kind) const {
+    try {
+      const toolkit::GeneratedOutput made =
+          toolkit::generateFiles(reader, kind, file_, output_, options_, dictionary_);
+      printFindings(file_, made.findings);
+      if (countOf(made.findings, toolkit::Severity::error) > 0) {
+        std::cout << toolkit::printable(file_) << ": nothing is made of it\n";
+        return exitRefused;
+      }
+      for (const std::string& file : made.files) {
+        const bool isWritten =
+            std::find(made.written.begin(), made.written.end(), file) != made.written.end();
+        std::cout << toolkit::printable(file) << ": " << (isWritten ? "written" : "as it was")
+                  << "\n";
+      }
+      return exitFine;
+    } catch (const toolkit::FileError& failure) {
+      printError(toolkit::printable(failure.what()));
+      return exitRefused;
+    }
+  }
+
+  std::string kind_;
+  std::string file_;
+  std::string output_;
+  std::optional<std::string> dictionary_;
+  std::optional<std::string> record_;
+  std::optional<std::string> names_;
+  std::vector<std::string> values_;
+  bool kinds_ = false;
+  toolkit::GenerateOptions options_;
+};
+
+}  // namespace
+
+std::unique_ptr<Command> generateCommand() { return std::make_unique<Generate>(); }
+
+}  // namespace cli

@@ -1,0 +1,197 @@
+#include "toolkit/generate/ItemFacts.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <optional>
+#include <utility>
+
+#include "as/ICondition.h"
+#include "as/IConditionValue.h"
+#include "as/IDataItem.h"
+#include "as/IGroup.h"
+#include "as/INumeric.h"
+#include "as/INumericEdited.h"
+#include "as/toolkit/Picture.h"
+#include "as/toolkit/Storage.h"
+#include "toolkit/text/Words.h"
+#include "toolkit/walk/TreeWalk.h"
+
+namespace as::toolkit::gen {
+
+namespace {
+
+using Kind = Item::Kind;
+
+// What a picture says whose program's currency symbol and decimal point are unknown.
+std::optional<Picture> readAnyPicture(const std::string& text) {
+  PictureRules rules;
+  rules.currencySymbol = "";
+  const std::optional<Picture> picture = readPicture(text, rules);
+  if (picture) return picture;
+  rules.isDecimalPointComma = true;
+  return readPicture(text, rules);
+}
+
+Kind kindOfItem(as::IDataItem& item) {
+  if (isObject(item)) return Kind::object;
+  switch (item.getDataType()) {
+    case as::IDataItem::TYPE_GROUP:
+      return Kind::group;
+    case as::IDataItem::TYPE_NUMERIC:
+      return Kind::number;
+    case as::IDataItem::TYPE_NUMERIC_EDITED:
+      return Kind::numberEdited;
+    case as::IDataItem::TYPE_ALPHANUMERIC_EDITED:
+      return Kind::textEdited;
+    case as::IDataItem::TYPE_NATIONAL:
+      return Kind::national;
+    case as::IDataItem::TYPE_POINTER:
+      return Kind::pointer;
+    case as::IDataItem::TYPE_INDEX:
+      return Kind::index;
+    case as::IDataItem::TYPE_OBJECT:
+      return Kind::object;
+    default:
+      return Kind::text;
+  }
+}
+
+// Documents may hold any number.
+int limited(int number) {
+  constexpr int most = 1'000'000'000;
+  return std::clamp(number, -most, most);
+}
+
+void readNumber(as::INumeric& number, const std::optional<Picture>& picture, Item& facts) {
+  const Usage usage = usageOf(number).value_or(Usage::display);
+  facts.digits = limited(number.getDigits());
+  facts.scale = limited(number.getAlignment());
+  facts.isSigned = number.getSign() != as::INumeric::SIGN_NONE;
+  if (isFloating(usage)) {
+    facts.floatingDigits =
+        digitsIn(usage == Usage::externalFloat ? Usage::comp2 : usage, facts.bytes);
+    facts.digits = 0;
+    facts.scale = 0;
+    facts.isSigned = true;
+    return;
+  }
+  const int scaling = picture ? picture->scaling : 0;
+  const int most = limited(digitsIn(usage, facts.bytes)) + scaling;
+  if (isOfAllBits(usage)) {
+    facts.digits = most;
+    if (scaling == 0 && facts.scale == 0) facts.bits = limited(bitsOf(facts.bytes));
+  } else if (facts.digits == 0 && facts.bytes > 0) {
+    facts.digits = most;
+  }
+}
+
+void readEdited(as::INumericEdited& edited, as::IDataItem& item,
+                const std::optional<Picture>& picture, Item& facts) {
+  facts.digits = limited(edited.getDigits());
+  facts.isSigned = picture && picture->isSigned;
+  // No accessor tells it. An absent one reads as 0.
+  facts.scale = limited(
+      static_cast<int>(std::strtol(item.getAttributeValue("alignment").c_str(), nullptr, 10)));
+  facts.characters = facts.bytes;
+}
+
+Capacity capacityOf(const Item& facts) {
+  Capacity capacity;
+  switch (facts.kind) {
+    case Kind::number:
+      if (facts.floatingDigits > 0) {
+        capacity.kind = Capacity::Kind::floating;
+        capacity.digits = facts.floatingDigits;
+      } else if (facts.bits > 0) {
+        capacity = {Capacity::Kind::integer, digitsOf(facts.bits) - 1, facts.bits, facts.isSigned};
+      } else {
+        const int digits = facts.scale < 0 ? facts.digits - facts.scale : facts.digits;
+        capacity = {Capacity::Kind::decimal, digits, 0, facts.isSigned, std::max(facts.scale, 0)};
+      }
+      return capacity;
+    case Kind::pointer:
+    case Kind::index:
+      capacity = {Capacity::Kind::integer, 0, limited(bitsOf(facts.bytes)), false};
+      return capacity;
+    case Kind::group:
+      capacity.kind = Capacity::Kind::group;
+      return capacity;
+    case Kind::object:
+      return capacity;
+    default:
+      capacity.kind = Capacity::Kind::text;
+      return capacity;
+  }
+}
+
+std::vector<Condition> conditionsOf(as::IDataItem& item) {
+  std::vector<Condition> conditions;
+  forEachMember<as::ICondition>(item.getConditions(), [&](as::ICondition& condition) {
+    Condition read{condition.getName(), {}};
+    forEachMember<as::IConditionValue>(&condition, [&](as::IConditionValue& value) {
+      const bool isRange = value.getType() == as::IConditionValue::TYPE_RANGE;
+      read.values.push_back({isRange ? value.getFrom() : value.getConstant(),
+                             isRange ? value.getTo() : std::string(), isRange});
+    });
+    conditions.push_back(std::move(read));
+  });
+  return conditions;
+}
+
+Item::Table readTable(as::IDataItem& item) {
+  Item::Table table{item.getMaxOccurs(), item.getMaxOccurs(), ""};
+  if (!item.hasODO()) return table;
+  as::IDataItem* const counter = item.getODO();
+  table.least = item.getMinOccurs();
+  table.dependingOn = counter == nullptr ? item.getAttributeValue("odo") : dottedPath(*counter);
+  return table;
+}
+
+Item read(as::IDataItem& item) {
+  Item facts;
+  facts.kind = kindOfItem(item);
+  facts.name = item.getName();
+  facts.path = dottedPath(item);
+  facts.picture = item.getPicture();
+  facts.bytes = limited(item.getLength());
+  const std::optional<Usage> usage = usageOf(item);
+  if (usage && *usage != Usage::display) facts.usage = wordOf(*usage);
+  const std::optional<Picture> picture = readAnyPicture(facts.picture);
+  if (auto* const number = as::interface_cast<as::INumeric>(&item)) {
+    readNumber(*number, picture, facts);
+  } else if (auto* const edited = as::interface_cast<as::INumericEdited>(&item)) {
+    readEdited(*edited, item, picture, facts);
+  } else if (facts.kind == Kind::text || facts.kind == Kind::textEdited ||
+             facts.kind == Kind::national) {
+    facts.characters = picture ? picture->characters : facts.bytes;
+  }
+  facts.capacity = capacityOf(facts);
+  facts.conditions = conditionsOf(item);
+  return facts;
+}
+
+}  // namespace
+
+std::size_t ItemFacts::numberOf(as::IDataItem& item) {
+  const auto [found, isNew] = known_.emplace(&item, items_.size());
+  if (isNew) {
+    Item facts = read(item);
+    facts.tables = tablesAround(item);
+    items_.push_back(std::move(facts));
+  }
+  return found->second;
+}
+
+std::vector<Item::Table> ItemFacts::tablesAround(as::IDataItem& item) {
+  std::vector<Item::Table> tables;
+  for (as::IDataItem* at = &item; at != nullptr; at = at->getParent()) {
+    if (at->getMaxOccurs() == 0) continue;
+    const auto [found, isNew] = tables_.try_emplace(at);
+    if (isNew) found->second = readTable(*at);
+    tables.push_back(found->second);
+  }
+  std::reverse(tables.begin(), tables.end());
+  return tables;
+}
+
+}  // namespace as::toolkit::gen

@@ -1,0 +1,38 @@
+// Text made line by line, indented as deep as it nests.
+#ifndef TOOLKIT_GENERATE_TEXTWRITER_H_
+#define TOOLKIT_GENERATE_TEXTWRITER_H_
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace as::toolkit::gen {
+
+class TextWriter {
+ public:
+  explicit TextWriter(std::size_t step = 2) : step_(step) {}
+
+  // A line of text that has no line ends of its own; an empty one is not indented.
+  void line(std::string_view text = {});
+  // The same, and what follows stands a step deeper.
+  void open(std::string_view text);
+  // What follows stands a step higher, the line itself, too.
+  void close(std::string_view text);
+  void indent() { ++depth_; }
+  void outdent() { --depth_; }
+
+  std::string take() { return std::move(text_); }
+
+ private:
+  // Deeper ones are indented no further: output is to grow with what it holds.
+  static constexpr std::size_t deepest = 40;
+
+  std::size_t step_;
+  std::size_t depth_ = 0;
+  std::string text_;
+};
+
+}  // namespace as::toolkit::gen
+
+#endif  // TOOLKIT_GENERATE_TEXTWRITER_H_

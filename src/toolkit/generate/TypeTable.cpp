@@ -1,0 +1,55 @@
+#include "toolkit/generate/TypeTable.h"
+
+#include <algorithm>
+
+namespace as::toolkit::gen {
+
+namespace {
+
+using Kind = Capacity::Kind;
+
+std::string wordsOf(const TypeRow& row) {
+  const Capacity& capacity = row.capacity;
+  const std::string digits = std::to_string(capacity.digits);
+  switch (capacity.kind) {
+    case Kind::integer:
+      return "integers of " + std::to_string(capacity.bits) + " bits, " +
+             (capacity.isSigned ? "signed" : "unsigned");
+    case Kind::floating:
+      return "floating-point numbers of " + digits + " digits";
+    case Kind::decimal:
+      return (capacity.digits == 0 ? std::string("decimal numbers")
+                                   : "decimal numbers of " + digits + " digits") +
+             (capacity.places == 0 ? ", integers only" : "");
+    case Kind::text:
+      return "text";
+    case Kind::bytes:
+      return "bytes";
+    case Kind::group:
+      return "groups";
+    default:
+      return std::string("data type ") + row.word;
+  }
+}
+
+}  // namespace
+
+const TypeRow* rowFor(const TypeTable& table, const Field& field) {
+  const auto found = std::find_if(table.begin(), table.end(), [&field](const TypeRow& row) {
+    if (field.capacity.kind == Kind::open) {
+      return row.capacity.kind == Kind::open && field.dataType == row.word;
+    }
+    return row.capacity.kind != Kind::open && contains(row.capacity, field.capacity);
+  });
+  return found == table.end() ? nullptr : &*found;
+}
+
+bool holds(const TypeRow& row, const Item& item) { return contains(row.capacity, item.capacity); }
+
+std::string textOf(const TypeTable& table) {
+  std::string text;
+  for (const TypeRow& row : table) text += std::string(row.type) + ": " + wordsOf(row) + "\n";
+  return text;
+}
+
+}  // namespace as::toolkit::gen

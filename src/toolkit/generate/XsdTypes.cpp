@@ -1,0 +1,76 @@
+#include "toolkit/generate/XsdTypes.h"
+
+namespace as::toolkit::gen {
+
+namespace {
+
+using Kind = Capacity::Kind;
+
+}  // namespace
+
+const TypeTable& xsdTypes() {
+  static const TypeTable table = {
+      {"xs:byte", {Kind::integer, 2, 8}},
+      {"xs:unsignedByte", {Kind::integer, 2, 8, false}},
+      {"xs:short", {Kind::integer, 4, 16}},
+      {"xs:unsignedShort", {Kind::integer, 4, 16, false}},
+      {"xs:int", {Kind::integer, 9, 32}},
+      {"xs:unsignedInt", {Kind::integer, 9, 32, false}},
+      {"xs:long", {Kind::integer, 18, 64}},
+      {"xs:unsignedLong", {Kind::integer, 19, 64, false}},
+      {"xs:integer", {Kind::decimal, 0, 0, true, 0}},
+      {"xs:decimal", {Kind::decimal}},
+      {"xs:float", {Kind::floating, 6}},
+      {"xs:double", {Kind::floating, 15}},
+      {"xs:string", {Kind::text}},
+      {"xs:base64Binary", {Kind::bytes}},
+      {"xs:dateTime", {Kind::open}, "date"},
+      {"xs:anyType", {Kind::open}, "object"},
+      {"xs:anyType", {Kind::open}, "XML"},
+  };
+  return table;
+}
+
+const NameRule& xmlNames() {
+  static const NameRule rule = {"XML", isXmlNameStart, isXmlNameCharacter};
+  return rule;
+}
+
+std::string xmlText(std::string_view text) {
+  std::string result;
+  result.reserve(text.size());
+  for (const char byte : text) {
+    switch (byte) {
+      case '&':
+        result += "&amp;";
+        break;
+      case '<':
+        result += "&lt;";
+        break;
+      case '>':
+        result += "&gt;";
+        break;
+      case '"':
+        result += "&quot;";
+        break;
+      case '\t':
+        result += "&#9;";
+        break;
+      case '\n':
+        result += "&#10;";
+        break;
+      case '\r':
+        result += "&#13;";
+        break;
+      default:
+        if (static_cast<unsigned char>(byte) < 0x20) {
+          result += "\xEF\xBF\xBD";
+        } else {
+          result += byte;
+        }
+    }
+  }
+  return result;
+}
+
+}  // namespace as::toolkit::gen

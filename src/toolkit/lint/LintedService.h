@@ -1,0 +1,30 @@
+// A service that was looked at, with what it was looked at with.
+#ifndef TOOLKIT_LINT_LINTEDSERVICE_H_
+#define TOOLKIT_LINT_LINTEDSERVICE_H_
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "as/IProgram.h"
+#include "as/IService.h"
+#include "as/toolkit/DocumentReader.h"
+#include "as/toolkit/Finding.h"
+
+namespace as::toolkit {
+
+struct LintedService {
+  std::shared_ptr<as::IProgram> program;  // Null when none is named, and when it is refused.
+  Findings findings;
+};
+
+// What lintFile() does of a service that was read from `file` already.
+LintedService lintRead(const DocumentReader& reader, as::IService& service, const std::string& file,
+                       const std::optional<std::string>& dictionary);
+
+// What lint() does with that program, null for none, in place of the service's own.
+Findings lintWith(as::IService& service, as::IProgram* program);
+
+}  // namespace as::toolkit
+
+#endif  // TOOLKIT_LINT_LINTEDSERVICE_H_
