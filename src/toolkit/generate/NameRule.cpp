@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <map>
+#include <unordered_map>
 #include <utility>
 
 #include "toolkit/generate/ServiceModel.h"
@@ -251,7 +252,16 @@ std::vector<std::string> NameGiver::namesIn(const std::vector<NameWish>& wishes)
                              "choose another one"});
         continue;
       }
-      names[index] += "_" + digitsOfText(wishes[index].name);
+      const bool isSameWord = wishes[index].name == wishes[claimants.front().index].name;
+      names[index] += "_" + digitsOfText(isSameWord ? wishes[index].place : wishes[index].name);
+    }
+  }
+  // Wishes that are the same word for word still collide: they are told apart by their order.
+  std::unordered_map<std::string, int> given;
+  for (std::string& name : names) {
+    const std::string base = name;
+    while (!given.try_emplace(keyOf(rule_, name), 1).second) {
+      name = base + "_" + std::to_string(++given[keyOf(rule_, base)]);
     }
   }
   for (std::size_t i = 0; i < wishes.size(); ++i) {

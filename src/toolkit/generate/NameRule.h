@@ -11,7 +11,7 @@
 // 5. Of names in one scope that are the same then, or differ in case only where the language or its
 //    files do not tell cases apart, one keeps it: one that needed no change before one that did, of
 //    these the first in the order of characters. The others get "_" and eight digits made of the
-//    name as it was.
+//    name as it was. Where even these are the same, they are counted.
 //
 // So a name depends on itself and on names that it collides with, and on nothing else.
 #ifndef TOOLKIT_GENERATE_NAMERULE_H_

@@ -22,6 +22,7 @@ class TextWriter {
   void indent() { ++depth_; }
   void outdent() { --depth_; }
 
+  const std::string& text() const { return text_; }
   std::string take() { return std::move(text_); }
 
  private:

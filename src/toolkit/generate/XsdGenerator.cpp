@@ -1,71 +1,72 @@
-// xsd: an XML Schema of the data of a service, or of a dictionary's records.
+// xsd: XML Schemas of the data of a service, of one of its operations, or of a dictionary's
+// records.
 #include "toolkit/generate/Generator.h"
-#include "toolkit/generate/TextWriter.h"
-#include "toolkit/generate/XsdTypes.h"
+#include "toolkit/generate/MessagePlan.h"
+#include "toolkit/generate/SchemaSet.h"
 
 namespace as::toolkit::gen {
 
 namespace {
 
-class SchemaText {
- public:
-  explicit SchemaText(const Job& job) : job_(job), names_(job.namesBy(xmlNames())) {}
-
-  std::string text() {
-    const ServiceModel& model = job_.model;
-    typeNames_ = names_.namesIn(typeWishes(model));
-    const std::string uri = xmlText("urn:agentservices:" + model.program);
-    out_.line(R"(<?xml version="1.0" encoding="UTF-8"?>)");
-    out_.line("<!-- " + job_.banner() + " -->");
-    out_.open(R"(<xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema" xmlns:tns=")" + uri +
-              R"(" targetNamespace=")" + uri + R"(" elementFormDefault="qualified">)");
-    for (std::size_t i = 0; i < model.types.size(); ++i) {
-      const Type& type = model.types[i];
-      if (type.isDeclared && type.self.structure != i) continue;
-      out_.open("<xs:complexType name=\"" + xmlText(typeNames_[i]) + "\">");
-      writeMembers(type.fields, model.placeOf(type));
-      out_.close("</xs:complexType>");
+void addOperation(const ServiceModel& model, const Operation& operation, SchemaSet& schemas) {
+  schemas.addWrapper(operation.inputNamespace, requestWish(model, operation),
+                     requestMembers(model, operation));
+  schemas.addWrapper(operation.outputNamespace, answerWish(model, operation),
+                     answerMembers(model, operation));
+  for (const Message& message : operation.messages) {
+    const SchemaSet::Members members = membersOf(model, operation, message);
+    const std::string& uri =
+        message.namespaceUri.empty() ? schemas.targetNamespace() : message.namespaceUri;
+    if (message.kind == "fault") {
+      schemas.addWrapper(uri, faultWish(model, operation, message), members);
+      continue;
     }
-    out_.close("</xs:schema>");
-    return out_.take();
-  }
-
- private:
-  void writeMembers(const std::vector<Field>& fields, const std::string& place) {
-    std::vector<NameWish> wishes;
-    for (const Field& field : fields) wishes.push_back({field.name, place + "." + field.name});
-    const std::vector<std::string> names = names_.namesIn(wishes);
-    out_.open("<xs:sequence>");
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-      const Field& field = fields[i];
-      const TypeRow* const row = rowFor(xsdTypes(), field);
-      const std::string type = field.structure != none ? "tns:" + typeNames_[field.structure]
-                               : row == nullptr        ? "xs:string"
-                                                       : row->type;
-      const std::string occurs = field.isTable()
-                                     ? " minOccurs=\"" + std::to_string(field.least) +
-                                           "\" maxOccurs=\"" + std::to_string(field.occurs) + "\""
-                                     : "";
-      out_.line("<xs:element name=\"" + xmlText(names[i]) + "\" type=\"" + xmlText(type) + "\"" +
-                occurs + "/>");
+    for (const Field& parameter : message.parameters) {
+      schemas.addElement(uri, parameter, members.place + "." + parameter.name);
     }
-    out_.close("</xs:sequence>");
   }
-
-  const Job& job_;
-  NameGiver names_;
-  TextWriter out_;
-  std::vector<std::string> typeNames_;
-};
+}
 
 class XsdGenerator : public Generator {
  public:
   XsdGenerator()
-      : Generator({"xsd", "an XML Schema of the data", {"ws", "com", "dotnet", "java"}, true, {}}) {
-  }
+      : Generator({"xsd",
+                   "XML Schemas of the data",
+                   {"ws", "com", "dotnet", "java"},
+                   true,
+                   {{"operation", "", "the operation whose messages are wanted; all unless told"},
+                    {"conditions", "documented|enumerations",
+                     "values of conditions (level 88) as the only ones, or in words"},
+                    {"namespace", "",
+                     "the namespace of what has none; urn:agentservices:PROGRAM unless told"}}}) {}
 
   void generate(const Job& job) const override {
-    job.add(job.fileStem() + ".xsd", SchemaText(job).text());
+    const ServiceModel& model = job.model;
+    SchemaSet schemas(job);
+    const std::string wanted = job.option("operation");
+    bool isFound = wanted.empty();
+    for (const Operation& operation : model.operations) {
+      if (!wanted.empty() && operation.name != wanted) continue;
+      isFound = true;
+      addOperation(model, operation, schemas);
+    }
+    if (!isFound) {
+      job.refuse("no-operation", "service", "there is no operation '" + wanted + "'",
+                 "name another one");
+    }
+    if (wanted.empty()) schemas.addDeclaredTypes();
+    if (model.flavour == nullptr) {
+      for (const Type& record : model.types) {
+        if (record.isDeclared) {
+          schemas.addElement(schemas.targetNamespace(), record.self, model.placeOf(record));
+        }
+      }
+    }
+    schemas.complete();
+    for (const SchemaSet::Schema& schema : schemas.schemas(true)) {
+      job.add(schema.file, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!-- " + job.banner() +
+                               " -->\n" + schema.text);
+    }
   }
 };
 

@@ -1,0 +1,598 @@
+#include "toolkit/generate/SchemaSet.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "toolkit/generate/Facets.h"
+#include "toolkit/generate/XsdTypes.h"
+
+namespace as::toolkit::gen {
+
+namespace {
+
+constexpr std::string_view anyType = "xs:anyType";
+
+std::string attribute(std::string_view name, std::string_view value) {
+  return " " + std::string(name) + "=\"" + xmlText(value) + "\"";
+}
+
+std::string occurrences(const Field& field) {
+  std::string text;
+  const int most = std::max(field.occurs, 1);
+  if (field.least != 1) text += attribute("minOccurs", std::to_string(field.least));
+  if (most != 1) text += attribute("maxOccurs", std::to_string(most));
+  return text;
+}
+
+Form said(Form own, Form around) { return own == Form::unsaid ? around : own; }
+
+// What a namespace may hold stays; blanks and what is no text of a URI are written as %20.
+std::string uriText(std::string_view text) {
+  static constexpr std::string_view fine = "-._~:/?#[]@!$&'()*+,;=%";
+  static constexpr char digits[] = "0123456789ABCDEF";
+  std::string result;
+  for (const char byte : text) {
+    const auto code = static_cast<unsigned char>(byte);
+    if (isAsciiLetter(code) || isDigit(code) || fine.find(byte) != std::string_view::npos) {
+      result += byte;
+    } else {
+      result.append({'%', digits[code >> 4U], digits[code & 0xFU]});
+    }
+  }
+  return result;
+}
+
+}  // namespace
+
+SchemaSet::SchemaSet(const Job& job)
+    : job_(job),
+      names_(job.namesBy(xmlNames())),
+      target_(job.option("namespace")),
+      withConditions_(job.isChosen("conditions", "enumerations")) {
+  if (target_.empty()) {
+    const std::string& program = job.model.program;
+    target_ = uriText("urn:agentservices:" + (program.empty() ? job.model.name : program));
+  }
+  prefixes_[target_] = "tns";
+  partOf(target_);
+  readTypes();
+}
+
+// Structures without a name of their own have namespace and forms of what they stand in.
+void SchemaSet::readTypes() {
+  const ServiceModel& model = job_.model;
+  types_.resize(model.types.size());
+  for (std::size_t i = 0; i < types_.size(); ++i) {
+    const Type& type = model.types[i];
+    if (!type.isDeclared) continue;
+    TypeFacts& facts = types_[i];
+    facts.value = &type.self;
+    facts.uri = type.self.namespaceUri.empty() ? target_ : type.self.namespaceUri;
+    facts.elementForm = type.self.elementForm;
+    facts.attributeForm = type.self.attributeForm;
+  }
+  for (const Operation& operation : model.operations) {
+    for (const Field& parameter : operation.parameters) {
+      inherit(parameter, target_, Form::unsaid, Form::unsaid);
+    }
+    for (const Message& message : operation.messages) {
+      const std::string& uri = message.namespaceUri.empty() ? target_ : message.namespaceUri;
+      for (const Field& parameter : message.parameters) {
+        inherit(parameter, uri, Form::unsaid, Form::unsaid);
+      }
+    }
+  }
+  for (std::size_t i = 0; i < types_.size(); ++i) {
+    for (const Field& field : model.types[i].fields) {
+      inherit(field, types_[i].uri, types_[i].elementForm, types_[i].attributeForm);
+    }
+  }
+}
+
+void SchemaSet::inherit(const Field& field, const std::string& uri, Form elementForm,
+                        Form attributeForm) {
+  if (field.structure == none || field.reference != none) return;
+  TypeFacts& facts = types_[field.structure];
+  facts.value = &field;
+  facts.uri = field.namespaceUri.empty() ? uri : field.namespaceUri;
+  facts.elementForm = said(field.elementForm, elementForm);
+  facts.attributeForm = said(field.attributeForm, attributeForm);
+}
+
+SchemaSet::Around SchemaSet::aroundOf(std::size_t type) const {
+  const TypeFacts& facts = types_[type];
+  return {facts.uri, facts.elementForm, facts.attributeForm};
+}
+
+bool SchemaSet::isReference(const Field& field, const Around& around) const {
+  return !around.isPlain && !field.namespaceUri.empty() && field.namespaceUri != around.uri &&
+         said(field.elementForm, around.elementForm) != Form::unqualified;
+}
+
+void SchemaSet::use(const Field& field) {
+  for (const std::size_t type : {field.reference, field.structure}) {
+    if (type == none || types_[type].isUsed) continue;
+    types_[type].isUsed = true;
+    waiting_.push_back(type);
+  }
+}
+
+void SchemaSet::useFrom(const Field& field, const Around& around, const std::string& place) {
+  if (isReference(field, around)) {
+    addElement(field.namespaceUri, field, place + "." + field.name);
+  } else {
+    use(field);
+  }
+}
+
+void SchemaSet::useWaiting() {
+  while (!waiting_.empty()) {
+    const std::size_t number = waiting_.back();
+    waiting_.pop_back();
+    const Type& type = job_.model.types[number];
+    if (type.isDeclared && type.self.structure != number) {
+      use(type.self);
+      continue;
+    }
+    const std::string place = type.fields.empty() ? "" : job_.model.placeOf(type);
+    for (const Field& field : type.fields) useFrom(field, aroundOf(number), place);
+    for (const Field& field : type.attributes) use(field);
+  }
+}
+
+void SchemaSet::addDeclaredTypes() {
+  for (std::size_t i = 0; i < types_.size(); ++i) {
+    if (!job_.model.types[i].isDeclared || types_[i].isUsed) continue;
+    types_[i].isUsed = true;
+    waiting_.push_back(i);
+  }
+}
+
+std::vector<const Field*> SchemaSet::Members::chosen() const {
+  std::vector<const Field*> fields;
+  for (const Field& field : all) {
+    if ((goIn && goesIn(field.direction)) || (comeOut && comesOut(field.direction))) {
+      fields.push_back(&field);
+    }
+  }
+  return fields;
+}
+
+SchemaSet::Handle SchemaSet::addWrapper(const std::string& uri, const NameWish& name,
+                                        const Members& members) {
+  const std::string& own = uri.empty() ? target_ : uri;
+  for (const Field* const member : members.chosen()) {
+    useFrom(*member, {own, Form::unsaid, Form::unsaid, members.isPlain}, members.place);
+  }
+  elements_.push_back({own, name, nullptr, members});
+  return elements_.size() - 1;
+}
+
+SchemaSet::Handle SchemaSet::addElement(const std::string& uri, const Field& field,
+                                        const std::string& place) {
+  const Handle known = findElement(uri, field);
+  if (known != none) return known;
+  use(field);
+  elements_.push_back({uri, {field.name, place}, &field});
+  elementsByName_[uri + "\n" + field.name].push_back(elements_.size() - 1);
+  return elements_.size() - 1;
+}
+
+SchemaSet::Handle SchemaSet::findElement(const std::string& uri, const Field& field) const {
+  const auto found = elementsByName_.find(uri + "\n" + field.name);
+  if (found == elementsByName_.end()) return none;
+  for (const Handle handle : found->second) {
+    if (isSameShape(*elements_[handle].field, field)) return handle;
+  }
+  return none;
+}
+
+bool SchemaSet::isSameShape(const Field& left, const Field& right) const {
+  if (left.reference != right.reference) return false;
+  if (left.reference != none || &left == &right) return true;
+  if (left.dataType != right.dataType || left.elementForm != right.elementForm ||
+      left.attributeForm != right.attributeForm) {
+    return false;
+  }
+  const Item* const leftItem = job_.model.itemOf(left);
+  const Item* const rightItem = job_.model.itemOf(right);
+  if ((leftItem == nullptr) != (rightItem == nullptr)) return false;
+  if (leftItem != nullptr && !leftItem->isLike(*rightItem)) return false;
+  if (left.structure == right.structure) return true;
+  if (left.structure == none || right.structure == none) return false;
+  const auto areSame = [this](const std::vector<Field>& some, const std::vector<Field>& others) {
+    return std::equal(some.begin(), some.end(), others.begin(), others.end(),
+                      [this](const Field& one, const Field& other) {
+                        return one.name == other.name && one.occurs == other.occurs &&
+                               one.least == other.least && isSameShape(one, other);
+                      });
+  };
+  const Type& leftType = job_.model.types[left.structure];
+  const Type& rightType = job_.model.types[right.structure];
+  return areSame(leftType.fields, rightType.fields) &&
+         areSame(leftType.attributes, rightType.attributes);
+}
+
+SchemaSet::Handle SchemaSet::addType(const Field& field, const NameWish& name) {
+  use(field);
+  namedTypes_.push_back({name, &field});
+  return namedTypes_.size() - 1;
+}
+
+SchemaSet::Handle SchemaSet::addGroup(const NameWish& name, const Members& members) {
+  for (const Field* const member : members.chosen()) {
+    useFrom(*member, {target_, Form::unsaid, Form::unsaid, members.isPlain}, members.place);
+  }
+  namedTypes_.push_back({name, nullptr, members});
+  return namedTypes_.size() - 1;
+}
+
+void SchemaSet::complete() {
+  useWaiting();
+  giveNames();
+  for (std::size_t i = 0; i < types_.size(); ++i) {
+    if (types_[i].isUsed) writeType(i);
+  }
+  for (const NamedType& type : namedTypes_) writeNamedType(type);
+  for (const Element& element : elements_) writeElement(element);
+}
+
+// Types of all namespaces share one scope: so a name tells a type.
+void SchemaSet::giveNames() {
+  std::vector<NameWish> wishes = typeWishes(job_.model);
+  for (const NamedType& type : namedTypes_) wishes.push_back(type.wish);
+  // What only the value of a structure needs stands behind them.
+  for (std::size_t i = 0; i < types_.size(); ++i) {
+    wishes.push_back({wishes[i].name + ".value", wishes[i].place + " value", true});
+  }
+  const std::vector<std::string> names = names_.namesIn(wishes);
+  const std::size_t values = types_.size() + namedTypes_.size();
+  for (std::size_t i = 0; i < types_.size(); ++i) {
+    types_[i].name = names[i];
+    types_[i].valueName = names[values + i];
+  }
+  for (std::size_t i = 0; i < namedTypes_.size(); ++i) {
+    namedTypes_[i].name = names[types_.size() + i];
+  }
+  giveElementNames();
+}
+
+void SchemaSet::giveElementNames() {
+  std::map<std::string, std::vector<Handle>> scopes;
+  for (Handle i = 0; i < elements_.size(); ++i) scopes[elements_[i].uri].push_back(i);
+  for (const auto& [uri, handles] : scopes) {
+    std::vector<NameWish> wishes;
+    for (const Handle handle : handles) wishes.push_back(elements_[handle].wish);
+    const std::vector<std::string> names = names_.namesIn(wishes);
+    for (std::size_t i = 0; i < handles.size(); ++i) elements_[handles[i]].name = names[i];
+  }
+}
+
+std::vector<std::string> SchemaSet::namesOf(const std::vector<const Field*>& fields,
+                                            const std::string& place) {
+  std::vector<NameWish> wishes;
+  for (const Field* const field : fields) {
+    wishes.push_back({field->name, place + "." + field->name});
+  }
+  return names_.namesIn(wishes);
+}
+
+std::string SchemaSet::elementName(Handle element) const {
+  const auto prefix = prefixes_.find(elements_[element].uri);
+  return prefix->second + ":" + elements_[element].name;
+}
+
+std::string SchemaSet::typeName(Handle type) const {
+  const Field* const field = namedTypes_[type].field;
+  if (field == nullptr || !isNamed(*field)) return "tns:" + namedTypes_[type].name;
+  const std::size_t own = field->reference != none ? field->reference : field->structure;
+  if (own == none) return builtIn(*field);
+  return prefixes_.at(types_[own].uri) + ":" + types_[own].name;
+}
+
+std::vector<std::string> SchemaSet::memberNames(const Members& members) {
+  // A field has one name, whichever way it goes.
+  std::vector<const Field*> all;
+  for (const Field& field : members.all) all.push_back(&field);
+  const std::vector<std::string> names = namesOf(all, members.place);
+  std::vector<std::string> chosen;
+  for (const Field* const field : members.chosen()) {
+    chosen.push_back(names[static_cast<std::size_t>(field - members.all.data())]);
+  }
+  return chosen;
+}
+
+bool SchemaSet::isNamed(const Field& field) const {
+  if (field.isTable()) return false;
+  if (field.reference != none || field.structure != none) return true;
+  return builtIn(field) != anyType && !hasFacets(field);
+}
+
+std::string SchemaSet::prefixOf(const std::string& uri) {
+  const auto [found, isNew] = prefixes_.try_emplace(uri);
+  if (isNew) found->second = "ns" + std::to_string(prefixes_.size() - 1);
+  return found->second;
+}
+
+SchemaSet::Part& SchemaSet::partOf(const std::string& uri) {
+  prefixOf(uri);
+  const auto [found, isNew] = parts_.try_emplace(uri);
+  if (isNew) found->second.text.indent();
+  return found->second;
+}
+
+std::string SchemaSet::qualified(Part& part, const std::string& uri, const std::string& name) {
+  part.imports[uri] = true;
+  return prefixOf(uri) + ":" + name;
+}
+
+std::string SchemaSet::builtIn(const Field& field) const {
+  const TypeRow* const row = rowFor(xsdTypes(), field);
+  return row == nullptr ? std::string(anyType) : row->type;
+}
+
+void SchemaSet::writeType(std::size_t number) {
+  const Type& type = job_.model.types[number];
+  const TypeFacts& facts = types_[number];
+  Part& part = partOf(facts.uri);
+  if (type.isDeclared && type.self.structure != number) {
+    writeSimpleType(part, type.self, facts.name);
+    return;
+  }
+  const Around around = aroundOf(number);
+  const bool isValue = type.fields.empty() && facts.value != nullptr &&
+                       !facts.value->dataType.empty() && builtIn(*facts.value) != anyType;
+  part.text.open("<xs:complexType" + attribute("name", facts.name) + ">");
+  if (isValue) {
+    part.text.open("<xs:simpleContent>");
+    part.text.open("<xs:extension" +
+                   attribute("base", hasFacets(*facts.value)
+                                         ? qualified(part, facts.uri, facts.valueName)
+                                         : builtIn(*facts.value)) +
+                   ">");
+    writeAttributes(part, type, around);
+    part.text.close("</xs:extension>");
+    part.text.close("</xs:simpleContent>");
+    part.text.close("</xs:complexType>");
+    if (!hasFacets(*facts.value)) return;
+    Field value = *facts.value;
+    value.structure = none;
+    value.reference = none;
+    writeSimpleType(part, value, facts.valueName);
+    return;
+  }
+  std::vector<const Field*> fields;
+  for (const Field& field : type.fields) fields.push_back(&field);
+  writeMembers(part, fields, namesOf(fields, job_.model.placeOf(type)), around);
+  writeAttributes(part, type, around);
+  part.text.close("</xs:complexType>");
+}
+
+void SchemaSet::writeElement(const Element& element) {
+  Part& part = partOf(element.uri);
+  if (element.field != nullptr) {
+    writeTyped(part, "element", attribute("name", element.name), *element.field);
+    return;
+  }
+  part.text.open("<xs:element" + attribute("name", element.name) + ">");
+  part.text.open("<xs:complexType>");
+  writeMembers(part, element.members->chosen(), memberNames(*element.members),
+               {element.uri, Form::unsaid, Form::unsaid, element.members->isPlain});
+  part.text.close("</xs:complexType>");
+  part.text.close("</xs:element>");
+}
+
+void SchemaSet::writeNamedType(const NamedType& type) {
+  if (type.field != nullptr && isNamed(*type.field)) return;
+  Part& part = partOf(target_);
+  const bool isTable = type.field != nullptr && type.field->isTable();
+  if (type.field != nullptr && !isTable) {
+    writeSimpleType(part, *type.field, type.name);
+    return;
+  }
+  part.text.open("<xs:complexType" + attribute("name", type.name) + ">");
+  if (isTable) {
+    part.text.open("<xs:sequence>");
+    writeMember(part, *type.field, "item", {target_, Form::unsaid, Form::unsaid, true});
+    part.text.close("</xs:sequence>");
+  } else {
+    writeMembers(part, type.members->chosen(), memberNames(*type.members),
+                 {target_, Form::unsaid, Form::unsaid, type.members->isPlain});
+  }
+  part.text.close("</xs:complexType>");
+}
+
+void SchemaSet::writeMembers(Part& part, const std::vector<const Field*>& fields,
+                             const std::vector<std::string>& names, const Around& around) {
+  if (fields.empty()) {
+    part.text.line("<xs:sequence/>");
+    return;
+  }
+  part.text.open("<xs:sequence>");
+  for (std::size_t i = 0; i < fields.size(); ++i) writeMember(part, *fields[i], names[i], around);
+  part.text.close("</xs:sequence>");
+}
+
+void SchemaSet::writeMember(Part& part, const Field& field, const std::string& name,
+                            const Around& around) {
+  if (isReference(field, around)) {
+    const Handle handle = findElement(field.namespaceUri, field);
+    const std::string& uri = elements_[handle].uri;
+    part.text.line("<xs:element" + attribute("ref", qualified(part, uri, elements_[handle].name)) +
+                   occurrences(field) + "/>");
+    return;
+  }
+  const bool isUnqualified =
+      around.isPlain || said(field.elementForm, around.elementForm) == Form::unqualified;
+  writeTyped(part, "element",
+             attribute("name", name) + (isUnqualified ? R"( form="unqualified")" : "") +
+                 occurrences(field),
+             field);
+}
+
+void SchemaSet::writeAttributes(Part& part, const Type& type, const Around& around) {
+  if (type.attributes.empty()) return;
+  std::vector<const Field*> fields;
+  for (const Field& field : type.attributes) fields.push_back(&field);
+  const std::string place = job_.model.placeOf(type);
+  const std::vector<std::string> names = namesOf(fields, place);
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    const Field& field = *fields[i];
+    if (field.isTable()) {
+      job_.warn("repeated-attribute", place + "." + field.name,
+                "an attribute has one value: that it occurs " + std::to_string(field.occurs) +
+                    " times is not said",
+                "make it a field");
+    }
+    const bool isQualified = around.attributeForm == Form::qualified;
+    writeTyped(part, "attribute",
+               attribute("name", names[i]) + (isQualified ? R"( form="qualified")" : "") +
+                   R"( use="required")",
+               field, true);
+  }
+}
+
+bool SchemaSet::hasFacets(const Field& field) const {
+  const std::string base = builtIn(field);
+  if (base == anyType) return false;
+  const Facets facets = facetsOf(job_.model, field, withConditions_);
+  return facets.totalDigits > 0 || !facets.most.empty() || facets.longest >= 0 ||
+         !facets.pattern.empty() || !facets.values.empty();
+}
+
+void SchemaSet::writeTyped(Part& part, const std::string& tag, const std::string& attributes,
+                           const Field& field, bool isAttribute) {
+  const std::string start = "<xs:" + tag + attributes;
+  const std::vector<std::string> lines = linesAbout(job_.model, field);
+  std::string type;
+  const std::size_t own = field.reference != none ? field.reference : field.structure;
+  if (own != none) {
+    type = qualified(part, types_[own].uri, types_[own].name);
+  } else if (builtIn(field) == anyType) {
+    if (isAttribute) type = "xs:string";
+  } else if (!hasFacets(field)) {
+    type = builtIn(field);
+  }
+  const std::string typed = type.empty() ? start : start + attribute("type", type);
+  if (!type.empty() && lines.empty()) {
+    part.text.line(typed + "/>");
+    return;
+  }
+  part.text.open(typed + ">");
+  writeDocumentation(part, field);
+  if (type.empty() && builtIn(field) == anyType) {
+    writeAny(part, "");
+  } else if (type.empty()) {
+    writeSimpleType(part, field, "");
+  }
+  part.text.close("</xs:" + tag + ">");
+}
+
+// Whatever XML there may be.
+void SchemaSet::writeAny(Part& part, const std::string& attributes) {
+  part.text.open("<xs:complexType" + attributes + R"( mixed="true">)");
+  part.text.open("<xs:sequence>");
+  part.text.line(R"(<xs:any minOccurs="0" maxOccurs="unbounded" processContents="lax"/>)");
+  part.text.close("</xs:sequence>");
+  part.text.close("</xs:complexType>");
+}
+
+// A restriction of a built-in type or, for what has no restriction, of one that is declared.
+void SchemaSet::writeSimpleType(Part& part, const Field& field, const std::string& name) {
+  const std::string named = name.empty() ? "" : attribute("name", name);
+  const std::size_t declared = field.reference != none ? field.reference : field.structure;
+  if (declared != none) {
+    // Of a structure, or of what another name stands for.
+    const TypeFacts& facts = types_[declared];
+    const std::string base = qualified(part, facts.uri, facts.name);
+    if (field.structure == none) {
+      part.text.open("<xs:simpleType" + named + ">");
+      part.text.line("<xs:restriction" + attribute("base", base) + "/>");
+      part.text.close("</xs:simpleType>");
+      return;
+    }
+    part.text.open("<xs:complexType" + named + ">");
+    part.text.open("<xs:complexContent>");
+    part.text.line("<xs:extension" + attribute("base", base) + "/>");
+    part.text.close("</xs:complexContent>");
+    part.text.close("</xs:complexType>");
+    return;
+  }
+  const std::string base = builtIn(field);
+  if (base == anyType) {
+    writeAny(part, named);
+    return;
+  }
+  const Facets facets = facetsOf(job_.model, field, withConditions_);
+  part.text.open("<xs:simpleType" + named + ">");
+  if (!name.empty()) writeDocumentation(part, field);
+  if (!hasFacets(field)) {
+    part.text.line("<xs:restriction" + attribute("base", base) + "/>");
+    part.text.close("</xs:simpleType>");
+    return;
+  }
+  part.text.open("<xs:restriction" + attribute("base", base) + ">");
+  const auto facet = [&part](const char* word, std::string_view value) {
+    part.text.line("<xs:" + std::string(word) + attribute("value", value) + "/>");
+  };
+  for (const std::string& value : facets.values) facet("enumeration", value);
+  if (!facets.pattern.empty()) facet("pattern", facets.pattern);
+  if (facets.longest >= 0) facet("maxLength", std::to_string(facets.longest));
+  if (facets.totalDigits > 0) facet("totalDigits", std::to_string(facets.totalDigits));
+  if (facets.fractionDigits > 0) facet("fractionDigits", std::to_string(facets.fractionDigits));
+  if (!facets.least.empty()) facet("minInclusive", facets.least);
+  if (!facets.most.empty()) facet("maxInclusive", facets.most);
+  part.text.close("</xs:restriction>");
+  part.text.close("</xs:simpleType>");
+}
+
+void SchemaSet::writeDocumentation(Part& part, const Field& field) {
+  const std::vector<std::string> lines = linesAbout(job_.model, field);
+  if (lines.empty()) return;
+  part.text.open("<xs:annotation>");
+  for (const std::string& line : lines) {
+    part.text.line("<xs:documentation>" + xmlText(line) + "</xs:documentation>");
+  }
+  part.text.close("</xs:annotation>");
+}
+
+std::string SchemaSet::fileOf(const std::string& uri) const {
+  if (uri == target_) return job_.fileStem() + ".xsd";
+  constexpr std::size_t longest = 80;
+  std::string name;
+  for (const char byte : uri) {
+    const auto code = static_cast<unsigned char>(byte);
+    name += isAsciiLetter(code) || isDigit(code) ? byte : '-';
+  }
+  if (name.size() > longest) name.resize(longest);
+  // Two that differ in other characters alone are two.
+  return job_.fileStem() + "-" + name + "-" + digitsOfText(uri) + ".xsd";
+}
+
+std::vector<SchemaSet::Schema> SchemaSet::schemas(bool areFiles) const {
+  std::vector<Schema> schemas;
+  for (const auto& [uri, part] : parts_) {
+    TextWriter text;
+    std::string start = R"(<xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema")";
+    for (const auto& [imported, isUsed] : part.imports) {
+      start += attribute("xmlns:" + prefixes_.at(imported), imported);
+    }
+    if (!part.imports.contains(uri)) start += attribute("xmlns:" + prefixes_.at(uri), uri);
+    text.open(start + attribute("targetNamespace", uri) +
+              R"( elementFormDefault="qualified" attributeFormDefault="unqualified">)");
+    for (const auto& [imported, isUsed] : part.imports) {
+      if (imported == uri) continue;
+      text.line("<xs:import" + attribute("namespace", imported) +
+                (areFiles ? attribute("schemaLocation", fileOf(imported)) : "") + "/>");
+    }
+    Schema schema{uri, fileOf(uri), text.take() + part.text.text() + "</xs:schema>\n"};
+    if (uri == target_) {
+      schemas.insert(schemas.begin(), std::move(schema));
+    } else {
+      schemas.push_back(std::move(schema));
+    }
+  }
+  return schemas;
+}
+
+}  // namespace as::toolkit::gen

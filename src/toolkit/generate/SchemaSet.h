@@ -1,0 +1,165 @@
+// XML Schemas for the data of a service: a schema for each namespace, made in two steps. First all
+// elements and types are asked for, then they get their names and are written.
+#ifndef TOOLKIT_GENERATE_SCHEMASET_H_
+#define TOOLKIT_GENERATE_SCHEMASET_H_
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "toolkit/generate/Generator.h"
+#include "toolkit/generate/TextWriter.h"
+
+namespace as::toolkit::gen {
+
+class SchemaSet {
+ public:
+  // An element or type that was asked for.
+  using Handle = std::size_t;
+
+  // Options "namespace" and "conditions" of the job's kind count.
+  explicit SchemaSet(const Job& job);
+  SchemaSet(const SchemaSet&) = delete;
+  SchemaSet& operator=(const SchemaSet&) = delete;
+
+  // The namespace of what has none of its own.
+  const std::string& targetNamespace() const { return target_; }
+
+  // Some of the parameters of an operation or a message, which must outlive the set. `isPlain`:
+  // their names are written without a namespace, whatever they say.
+  struct Members {
+    const std::vector<Field>& all;
+    std::string place;  // Where they stand, as findings tell it.
+    bool goIn = true;   // Those that go in, or those that come out.
+    bool comeOut = true;
+    bool isPlain = false;
+
+    std::vector<const Field*> chosen() const;
+  };
+
+  // An element with these fields in it. In no namespace the target counts.
+  Handle addWrapper(const std::string& uri, const NameWish& name, const Members& members);
+  // An element for a field by itself. One of the same name and shape is the same.
+  Handle addElement(const std::string& uri, const Field& field, const std::string& place);
+  // A type that has a name, for a field by itself with all its occurrences.
+  Handle addType(const Field& field, const NameWish& name);
+  // A named type with these fields in it, as wrappers have them.
+  Handle addGroup(const NameWish& name, const Members& members);
+  // All declared types, whether they are used or not.
+  void addDeclaredTypes();
+
+  // Gives names and writes. To be called once, before what follows.
+  void complete();
+
+  // "ns1:quote"
+  std::string elementName(Handle element) const;
+  std::string typeName(Handle type) const;
+  // The names of those members, one for each of chosen().
+  std::vector<std::string> memberNames(const Members& members);
+  // What gives out names, for those of other things in the same document.
+  NameGiver& names() { return names_; }
+
+  struct Schema {
+    std::string uri;
+    std::string file;  // Its name, by itself.
+    std::string text;  // Without the XML declaration.
+  };
+  // The target's first. With `areFiles` imports say in which files the others are.
+  std::vector<Schema> schemas(bool areFiles) const;
+
+  // The prefix of a namespace, made when it is new; and all of them.
+  std::string prefixOf(const std::string& uri);
+  const std::map<std::string, std::string>& prefixes() const { return prefixes_; }
+
+ private:
+  struct Element {
+    std::string uri;
+    NameWish wish;
+    const Field* field = nullptr;  // Null for a wrapper.
+    std::optional<Members> members{};
+    std::string name{};
+  };
+  struct NamedType {
+    NameWish wish;
+    const Field* field = nullptr;  // Null for a group.
+    std::optional<Members> members{};
+    std::string name{};
+  };
+  // What is known of one of the model's types.
+  struct TypeFacts {
+    std::string uri;
+    Form elementForm = Form::unsaid;
+    Form attributeForm = Form::unsaid;
+    const Field* value = nullptr;  // The field that has it.
+    bool isUsed = false;
+    std::string name;
+    std::string valueName;  // For the type of its value.
+  };
+  struct Part {
+    TextWriter text;
+    std::map<std::string, bool> imports;
+  };
+  // Where a field stands.
+  struct Around {
+    std::string uri;
+    Form elementForm = Form::unsaid;
+    Form attributeForm = Form::unsaid;
+    bool isPlain = false;
+  };
+
+  void readTypes();
+  void inherit(const Field& field, const std::string& uri, Form elementForm, Form attributeForm);
+  void use(const Field& field);
+  void useFrom(const Field& field, const Around& around, const std::string& place);
+  void useWaiting();
+  bool isReference(const Field& field, const Around& around) const;
+  Handle findElement(const std::string& uri, const Field& field) const;
+  bool isSameShape(const Field& left, const Field& right) const;
+  Around aroundOf(std::size_t type) const;
+
+  void giveNames();
+  void giveElementNames();
+  std::vector<std::string> namesOf(const std::vector<const Field*>& fields,
+                                   const std::string& place);
+  void writeType(std::size_t type);
+  void writeElement(const Element& element);
+  void writeNamedType(const NamedType& type);
+  // Whether there is a type of that name without making one.
+  bool isNamed(const Field& field) const;
+  void writeMembers(Part& part, const std::vector<const Field*>& fields,
+                    const std::vector<std::string>& names, const Around& around);
+  void writeAttributes(Part& part, const Type& type, const Around& around);
+  void writeMember(Part& part, const Field& field, const std::string& name, const Around& around);
+  // An element, attribute or other declaration of the field's type.
+  void writeTyped(Part& part, const std::string& tag, const std::string& attributes,
+                  const Field& field, bool isAttribute = false);
+  void writeSimpleType(Part& part, const Field& field, const std::string& name);
+  void writeAny(Part& part, const std::string& attributes);
+  void writeDocumentation(Part& part, const Field& field);
+  bool hasFacets(const Field& field) const;
+  std::string builtIn(const Field& field) const;
+  // "tns:Claim", and the part's schema imports the namespace.
+  std::string qualified(Part& part, const std::string& uri, const std::string& name);
+  Part& partOf(const std::string& uri);
+  std::string fileOf(const std::string& uri) const;
+
+  const Job& job_;
+  NameGiver names_;
+  std::string target_;
+  bool withConditions_;
+  std::vector<TypeFacts> types_;
+  std::vector<std::size_t> waiting_;
+  std::vector<Element> elements_;
+  std::unordered_map<std::string, std::vector<Handle>> elementsByName_;
+  std::vector<NamedType> namedTypes_;
+  std::map<std::string, Part> parts_;
+  std::map<std::string, std::string> prefixes_;
+};
+
+}  // namespace as::toolkit::gen
+
+#endif  // TOOLKIT_GENERATE_SCHEMASET_H_
