@@ -452,10 +452,20 @@ void SchemaSet::writeAttributes(Part& part, const Type& type, const Around& arou
   }
 }
 
+// What the built-in type does not say by itself.
+Facets SchemaSet::facetsIn(const Field& field) const {
+  Facets facets = facetsOf(job_.model, field, withConditions_);
+  if (job_.model.itemOf(field) == nullptr && field.capacity.kind == Capacity::Kind::integer) {
+    facets.least.clear();
+    facets.most.clear();
+  }
+  return facets;
+}
+
 bool SchemaSet::hasFacets(const Field& field) const {
   const std::string base = builtIn(field);
   if (base == anyType) return false;
-  const Facets facets = facetsOf(job_.model, field, withConditions_);
+  const Facets facets = facetsIn(field);
   return facets.totalDigits > 0 || !facets.most.empty() || facets.longest >= 0 ||
          !facets.pattern.empty() || !facets.values.empty();
 }
@@ -523,7 +533,7 @@ void SchemaSet::writeSimpleType(Part& part, const Field& field, const std::strin
     writeAny(part, named);
     return;
   }
-  const Facets facets = facetsOf(job_.model, field, withConditions_);
+  const Facets facets = facetsIn(field);
   part.text.open("<xs:simpleType" + named + ">");
   if (!name.empty()) writeDocumentation(part, field);
   if (!hasFacets(field)) {
@@ -572,6 +582,7 @@ std::string SchemaSet::fileOf(const std::string& uri) const {
 std::vector<SchemaSet::Schema> SchemaSet::schemas(bool areFiles) const {
   std::vector<Schema> schemas;
   for (const auto& [uri, part] : parts_) {
+    if (!areFiles && part.text.text().empty()) continue;
     TextWriter text;
     std::string start = R"(<xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema")";
     for (const auto& [imported, isUsed] : part.imports) {
@@ -580,7 +591,11 @@ std::vector<SchemaSet::Schema> SchemaSet::schemas(bool areFiles) const {
     if (!part.imports.contains(uri)) start += attribute("xmlns:" + prefixes_.at(uri), uri);
     text.open(start + attribute("targetNamespace", uri) +
               R"( elementFormDefault="qualified" attributeFormDefault="unqualified">)");
-    for (const auto& [imported, isUsed] : part.imports) {
+    std::map<std::string, bool> imports = part.imports;
+    if (areFiles && uri == target_) {
+      for (const auto& [other, otherPart] : parts_) imports[other] = true;
+    }
+    for (const auto& [imported, isUsed] : imports) {
       if (imported == uri) continue;
       text.line("<xs:import" + attribute("namespace", imported) +
                 (areFiles ? attribute("schemaLocation", fileOf(imported)) : "") + "/>");

@@ -11,6 +11,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "toolkit/generate/Facets.h"
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/TextWriter.h"
 
@@ -68,7 +69,8 @@ class SchemaSet {
     std::string file;  // Its name, by itself.
     std::string text;  // Without the XML declaration.
   };
-  // The target's first. With `areFiles` imports say in which files the others are.
+  // The target's first. With `areFiles` imports say in which files the others are, and the target's
+  // imports all of them; else one that holds nothing is left out.
   std::vector<Schema> schemas(bool areFiles) const;
 
   // The prefix of a namespace, made when it is new; and all of them.
@@ -140,6 +142,7 @@ class SchemaSet {
   void writeSimpleType(Part& part, const Field& field, const std::string& name);
   void writeAny(Part& part, const std::string& attributes);
   void writeDocumentation(Part& part, const Field& field);
+  Facets facetsIn(const Field& field) const;
   bool hasFacets(const Field& field) const;
   std::string builtIn(const Field& field) const;
   // "tns:Claim", and the part's schema imports the namespace.

@@ -122,7 +122,7 @@ class Wsdl {
   SchemaSet::Handle typeOf(const Operation& operation, const Field& field) {
     const auto known = types_.find(&field);
     if (known != types_.end()) return known->second;
-    const NameWish wish{operation.name + "." + field.name,
+    const NameWish wish{operation.name + "." + field.name + (field.isTable() ? ".list" : ""),
                         model_.placeOf(operation) + "." + field.name + " type", true};
     return types_[&field] = schemas_.addType(field, wish);
   }
