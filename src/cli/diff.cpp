@@ -77,7 +77,7 @@ class DiffCommand : public Command {
     for (const std::string& file : ruleFiles_) {
       std::ifstream in(file, std::ios::binary);
       const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-      if (!in.good() && !in.eof()) {
+      if (!in.is_open()) {
         printError("the rules in '" + file + "' cannot be read");
         return false;
       }

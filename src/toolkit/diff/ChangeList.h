@@ -51,7 +51,8 @@ class ChangeList {
   std::vector<Change> take() {
     for (std::size_t i = changes_.size(); i-- > 0;) {
       const Change& change = changes_[i];
-      if (change.breaks && change.cause && change.service.empty()) changes_[*change.cause].breaks = true;
+      if (change.breaks && change.cause && change.service.empty())
+        changes_[*change.cause].breaks = true;
     }
     return std::move(changes_);
   }

@@ -52,8 +52,8 @@ DictionaryDiff::DictionaryDiff(const DictionaryFacts& before, const DictionaryFa
       after_(after),
       match_(before, after),
       items_(before, after, match_, changes_) {
-  changes_.addIfDifferent("program-renamed", {before.name(), after.name()}, before.name(),
-                          after.name());
+  programRenamed_ = changes_.addIfDifferent("program-renamed", {before.name(), after.name()},
+                                            before.name(), after.name());
   compareProperties(changes_, before.properties(), after.properties());
   compareFiles();
   items_.compare();
@@ -148,8 +148,10 @@ void DictionaryDiff::compareEntryPoints() {
       continue;
     }
     taken.insert(renamed);
+    const bool isProgram = entry.name == before_.name() && renamed->name == after_.name();
     told.push_back(changes_.add("entry-point-renamed", {place, "entry point " + renamed->name},
-                                entry.name, renamed->name));
+                                entry.name, renamed->name, true,
+                                isProgram ? programRenamed_ : noChange));
   }
   for (const EntryPointFacts& entry : after_.entryPoints()) {
     if (taken.insert(&entry).second && olds.count(entry.name) == 0) {

@@ -42,6 +42,7 @@ class DictionaryDiff {
   ItemMatch match_;
   ChangeList changes_;
   ItemComparison items_;
+  ChangeNumber programRenamed_ = noChange;
   // The changes of each entry point of the old program, by its name.
   std::unordered_map<std::string, std::vector<ChangeNumber>> entryChanges_;
 };

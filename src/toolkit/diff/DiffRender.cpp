@@ -70,6 +70,7 @@ class DiffPrinter {
 
   void print() {
     for (const Change& change : diff_.changes) {
+      if (isMovedMapping(change)) ++movedMappings_[change.service];
       if (!isFollower(change)) continue;
       Followers& followers = followers_[*change.cause];
       if (change.kind == "item-moved") {
@@ -85,14 +86,29 @@ class DiffPrinter {
       if (change.service != service) {
         service = change.service;
         out_ << "\n" << printable(service) << "\n";
+        printMovedMappings(service);
       }
+      if (isMovedMapping(change)) continue;
       print(change, i);
     }
     printSummary();
   }
 
  private:
-  static bool isFollower(const Change& change) { return change.cause && change.service.empty(); }
+  // Whether it is summed up with its cause.
+  static bool isFollower(const Change& change) {
+    return change.cause && change.service.empty() &&
+           (change.kind == "item-moved" || change.kind == "size-changed");
+  }
+
+  static bool isMovedMapping(const Change& change) { return change.kind == "mapping-moved"; }
+
+  void printMovedMappings(const std::string& service) {
+    const std::size_t moved = movedMappings_[service];
+    if (moved == 0) return;
+    out_ << "          " << count(moved, "mapped item")
+         << " moved; they are found by their names  [mapping-moved]\n";
+  }
 
   void print(const Change& change, std::size_t number) {
     out_ << (!change.breaks     ? "          "
@@ -108,11 +124,11 @@ class DiffPrinter {
     std::size_t breaking = 0;
     std::size_t allowed = 0;
     for (const Change& change : diff_.changes) {
-      if (isFollower(change)) continue;
+      if (isFollower(change) || isMovedMapping(change)) continue;
       ++own;
       if (change.breaks) ++(change.isAllowed ? allowed : breaking);
     }
-    if (own == 0) {
+    if (diff_.changes.empty()) {
       out_ << "no changes\n";
       return;
     }
@@ -128,6 +144,7 @@ class DiffPrinter {
   std::ostream& out_;
   const Diff& diff_;
   std::map<std::size_t, Followers> followers_;
+  std::map<std::string, std::size_t> movedMappings_;  // Of each service.
 };
 
 // Whether the old value of a change of this kind is a name that its place tells already.

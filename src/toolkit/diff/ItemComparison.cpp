@@ -126,8 +126,7 @@ void ItemComparison::compareLists(const Items& old, const Items& added, Flow& fl
       if (match_.newOf(old[i]) == noItem) {
         passOld(old[i], flow, tellRemoved(old[i]));
       } else if (partners[i] == noPartner) {
-        // It went to another group, and is told there.
-        if (!areRecords) flow.delta -= before_[old[i]].extent();
+        if (!areRecords) passOld(old[i], flow, regroup(old[i]));
       } else {
         passOld(old[i], flow, reorder(old[i]));
       }
@@ -154,19 +153,29 @@ void ItemComparison::compareLists(const Items& old, const Items& added, Flow& fl
       if (isSibling) {
         cause = reorder(partner);
       } else if (!areRecords) {
-        cause =
-            tell("item-regrouped", partner, number, before_.pathOf(partner), after_.pathOf(number));
+        cause = regroup(partner);
       }
       compareItem(partner, number, flow, cause, areRecords);
       if (!areRecords) {
         flow.delta += after_[number].extent();
-        if (after_[number].extent() > 0) flow.cause = cause;
+        if (after_[number].extent() > 0) flow.cause = lastCause_ = cause;
       }
     }
     if (i == old.size()) break;
     compareItem(old[i], added[next], flow, noChange, areRecords);
     ++next;
   }
+}
+
+// That an item stands in another group: told once, when it is missed in the old one or found in the
+// new one.
+ChangeNumber ItemComparison::regroup(ItemNumber old) {
+  const auto [at, isNew] = regrouped_.emplace(old, noChange);
+  if (isNew) {
+    const ItemNumber added = match_.newOf(old);
+    at->second = tell("item-regrouped", old, added, before_.pathOf(old), after_.pathOf(added));
+  }
+  return at->second;
 }
 
 // What a new group was put around; what is new in it goes without saying.
@@ -177,8 +186,7 @@ void ItemComparison::compareWrapped(ItemNumber group, ChangeNumber change) {
       compareWrapped(child, change);
       continue;
     }
-    const ChangeNumber cause =
-        tell("item-regrouped", partner, child, before_.pathOf(partner), after_.pathOf(child));
+    const ChangeNumber cause = regroup(partner);
     Flow inside;
     inside.cause = change;
     compareItem(partner, child, inside, cause, false);
@@ -366,7 +374,9 @@ void ItemComparison::comparePlace(ItemNumber old, ItemNumber added, Flow& flow, 
                                   std::to_string(after.offset), cause);
   if (cause == noChange) cause = moved;
   placeCause_[added] = cause;
-  if (!after.redefines && !after.renames) flow = {actual, cause};
+  if (after.redefines || after.renames) return;
+  flow = {actual, cause};
+  lastCause_ = cause;
 }
 
 ChangeNumber ItemComparison::compareSize(ItemNumber old, ItemNumber added, ChangeNumber cause) {

@@ -4,6 +4,7 @@
 #define TOOLKIT_DIFF_ITEMCOMPARISON_H_
 
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "toolkit/diff/ChangeList.h"
@@ -36,6 +37,7 @@ class ItemComparison {
   void compareLists(const Items& old, const Items& added, Flow& flow, bool areRecords);
   void compareItem(ItemNumber old, ItemNumber added, Flow& flow, ChangeNumber reordered,
                    bool isRecord);
+  ChangeNumber regroup(ItemNumber old);
   void compareWrapped(ItemNumber group, ChangeNumber change);
   void passOld(ItemNumber old, Flow& flow, ChangeNumber cause);
   void compareTable(ItemNumber old, ItemNumber added, ChangeNumber& sizeCause);
@@ -63,6 +65,7 @@ class ItemComparison {
   std::vector<bool> newSeen_;
   // Why each new item stands where it does; redefinitions follow it.
   std::vector<ChangeNumber> placeCause_;
+  std::unordered_map<ItemNumber, ChangeNumber> regrouped_;
   // The last change of the record at hand that made something larger or smaller.
   ChangeNumber lastCause_ = noChange;
 };

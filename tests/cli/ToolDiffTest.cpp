@@ -1,0 +1,82 @@
+// Tests of the tool's diff command: its options, streams and exit codes. What is told of documents
+// is tested with the toolkit.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/Documents.h"
+#include "support/Tool.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+class ToolDiffTest : public test::ToolTest {
+ protected:
+  void SetUp() override {
+    write("old.xml", test::dictionaryOf(item("9(4)", "4")));
+    write("new.xml", test::dictionaryOf(item("9(6)", "6")));
+  }
+
+  static std::string item(const std::string& picture, const std::string& digits) {
+    return "<numeric name='N' picture='" + picture + "' digits='" + digits +
+           "' usage='comp' offset='0' length='4'/>";
+  }
+};
+
+TEST_F(ToolDiffTest, WhatBreaksCallersIsAnError) {
+  const test::ToolOutcome outcome = run({"diff", "old.xml", "new.xml"});
+  EXPECT_EQ(outcome.out,
+            "BREAKS    N: PICTURE widened from 9(4) to 9(6)  [picture-widened]\n"
+            "\n1 change, 1 of them breaking callers\n");
+  EXPECT_THAT(outcome.err, IsEmpty());
+  EXPECT_EQ(outcome.exitCode, 1);
+}
+
+TEST_F(ToolDiffTest, EqualDocumentsAreFine) {
+  const test::ToolOutcome outcome = run({"diff", "old.xml", "old.xml"});
+  EXPECT_EQ(outcome.out, "no changes\n");
+  EXPECT_EQ(outcome.exitCode, 0);
+}
+
+TEST_F(ToolDiffTest, WhatIsAllowedIsFine) {
+  EXPECT_EQ(run({"diff", "old.xml", "new.xml", "--allow", "picture-widened:N"}).exitCode, 0);
+  EXPECT_EQ(run({"diff", "old.xml", "new.xml", "--allow", "picture-widened:M"}).exitCode, 1);
+  write("allowed.txt", "# Agreed upon.\npicture-widened\n");
+  EXPECT_EQ(run({"diff", "old.xml", "new.xml", "--allow-file", "allowed.txt"}).exitCode, 0);
+}
+
+TEST_F(ToolDiffTest, AnUnknownKindIsWrongUsage) {
+  const test::ToolOutcome outcome = run({"diff", "old.xml", "new.xml", "--allow", "no-such"});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_THAT(outcome.err, HasSubstr("there is no kind of change 'no-such'"));
+}
+
+TEST_F(ToolDiffTest, MissingRulesAreWrongUsage) {
+  const test::ToolOutcome outcome = run({"diff", "old.xml", "new.xml", "--allow-file", "none"});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_THAT(outcome.err, HasSubstr("'none' cannot be read"));
+}
+
+TEST_F(ToolDiffTest, ARefusedDocumentIsNoAnswer) {
+  const test::ToolOutcome outcome = run({"diff", "old.xml", "none.xml"});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_THAT(outcome.err, StartsWith("none.xml: error: cannot be read"));
+}
+
+TEST_F(ToolDiffTest, PrintsJson) {
+  const test::ToolOutcome outcome = run({"diff", "old.xml", "new.xml", "--format", "json"});
+  EXPECT_THAT(outcome.out, StartsWith("{\n  \"of\": \"dictionaries\",\n  \"breaks\": true,"));
+  EXPECT_EQ(outcome.exitCode, 1);
+}
+
+TEST_F(ToolDiffTest, ListsTheKindsOfChanges) {
+  const test::ToolOutcome outcome = run({"diff", "--kinds"});
+  EXPECT_THAT(outcome.out, HasSubstr("picture-widened\n  breaks callers: PICTURE widened; "));
+  EXPECT_EQ(outcome.exitCode, 0);
+}
+
+}  // namespace

@@ -1,0 +1,195 @@
+// Tests of the comparison of documents beside the kinds of changes: equal documents, services, what
+// is allowed, what is printed, how long it takes.
+#include <algorithm>
+
+#include "support/Documents.h"
+#include "support/Toolkit.h"
+
+namespace {
+
+namespace toolkit = as::toolkit;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+std::string example(const std::string& name) {
+  return (std::filesystem::path(AS_EXAMPLES_DIR) / name).string();
+}
+
+class DiffTest : public test::ToolkitTest {
+ protected:
+  // The dictionary of a program with such entries in its linkage section, in a file.
+  std::string dictionary(const std::string& name, const std::string& entries) const {
+    toolkit::ImportOptions options;
+    options.format = toolkit::SourceFormat::free;
+    const toolkit::Imported imported = toolkit::importCobol(
+        "IDENTIFICATION DIVISION.\nPROGRAM-ID. T.\nDATA DIVISION.\nLINKAGE SECTION.\n" + entries +
+            "\nPROCEDURE DIVISION USING R.\n",
+        "T.cbl", nullptr, options);
+    EXPECT_FALSE(imported.programs.front().isRefused());
+    write(name, imported.programs.front().dictionary);
+    return name;
+  }
+
+  toolkit::Diff diffOf(const std::string& before, const std::string& after) const {
+    return toolkit::diffFiles(reader(), dictionary("old.xml", before),
+                              dictionary("new.xml", after));
+  }
+
+  static std::vector<std::string> kindsOf(const toolkit::Diff& diff) {
+    std::vector<std::string> kinds;
+    for (const toolkit::Change& change : diff.changes) kinds.push_back(change.kind);
+    return kinds;
+  }
+
+  static std::string textOf(const toolkit::Diff& diff) {
+    std::ostringstream out;
+    toolkit::renderText(out, diff);
+    return out.str();
+  }
+
+  static nlohmann::json jsonOfDiff(const toolkit::Diff& diff) {
+    std::ostringstream out;
+    toolkit::renderJson(out, diff);
+    return nlohmann::json::parse(out.str());
+  }
+};
+
+TEST(DiffKindsTest, IdsAreUniqueAndMirrorsMirrorEachOther) {
+  for (const toolkit::ChangeKind& kind : toolkit::changeKinds()) {
+    EXPECT_EQ(toolkit::findChangeKind(kind.id), &kind) << kind.id;
+    const toolkit::ChangeKind* const mirror = toolkit::findChangeKind(kind.mirror);
+    ASSERT_NE(mirror, nullptr) << kind.id;
+    EXPECT_STREQ(mirror->mirror, kind.id);
+  }
+  EXPECT_EQ(toolkit::findChangeKind("no-such-kind"), nullptr);
+}
+
+TEST_F(DiffTest, EqualDocumentsHaveNoChanges) {
+  for (const char* const name :
+       {"DEPINT01", "MOTPREM", "PAYSLIP", "WHSLOTS", "MOTPREM-java", "MOTPREM-ws", "MOTPREM-com",
+        "MOTPREM-dotnet", "PAYSLIP-ws", "WHSLOTS-ws"}) {
+    const std::string file = example(std::string(name) + ".xml");
+    const toolkit::Diff diff = toolkit::diffFiles(reader(), file, file);
+    EXPECT_THAT(kindsOf(diff), IsEmpty()) << name;
+    EXPECT_EQ(textOf(diff), "no changes\n");
+    EXPECT_FALSE(toolkit::breaksCallers(diff));
+  }
+}
+
+TEST_F(DiffTest, ModelsAreComparedLikeFiles) {
+  const auto before =
+      reader().readDictionary(dictionary("old.xml", "01 R. 05 A PIC X(4). 05 B PIC 9(4)."));
+  const auto after =
+      reader().readDictionary(dictionary("new.xml", "01 R. 05 A PIC X(4). 05 B PIC 9(6)."));
+  EXPECT_THAT(kindsOf(toolkit::diff(*before, *after)),
+              ElementsAre("picture-widened", "size-changed", "size-changed"));
+}
+
+TEST_F(DiffTest, WorkingStorageBreaksNobody) {
+  const std::string program =
+      "IDENTIFICATION DIVISION.\nPROGRAM-ID. T.\nDATA DIVISION.\nWORKING-STORAGE SECTION.\n"
+      "01 W. 05 A PIC X(";
+  const auto dictionaryOf = [&](const std::string& size, const std::string& end) {
+    toolkit::ImportOptions options;
+    options.format = toolkit::SourceFormat::free;
+    return toolkit::importCobol(program + size + "). 05 B PIC X." + end, "T.cbl", nullptr, options)
+        .programs.front()
+        .dictionary;
+  };
+  write("old.xml", dictionaryOf("4", "\nPROCEDURE DIVISION.\n"));
+  write("new.xml", dictionaryOf("5", "\nPROCEDURE DIVISION.\n"));
+  EXPECT_FALSE(toolkit::breaksCallers(toolkit::diffFiles(reader(), "old.xml", "new.xml")));
+}
+
+TEST_F(DiffTest, CausesAreToldOnceAndTheRestFollows) {
+  const toolkit::Diff diff = diffOf("01 R. 05 A PIC 9(4). 05 B PIC X. 05 C PIC X.",
+                                    "01 R. 05 A PIC 9(6). 05 B PIC X. 05 C PIC X.");
+  EXPECT_EQ(textOf(diff),
+            "BREAKS    R.A: PICTURE widened from 9(4) to 9(6)  [picture-widened]\n"
+            "            2 items behind it move by 2 bytes; 2 items become 2 bytes longer\n"
+            "\n"
+            "1 change, 1 of them breaking callers; 4 others follow\n");
+}
+
+TEST_F(DiffTest, ServicesLearnWhatBecomesOfTheirMappings) {
+  write("new.xml", test::contentOf(example("MOTPREM.xml")));
+  std::string text = test::contentOf("new.xml");
+  const auto replace = [&](const std::string& search, const std::string& replacement) {
+    text.replace(text.find(search), search.size(), replacement);
+  };
+  replace("name=\"LK-REQ-SUFFIX\"", "name=\"LK-REQ-END\"");
+  replace("name=\"MOTPDISC\"", "name=\"MOTPDIS2\"");
+  replace("<numeric name=\"LK-TAX-AMOUNT\" picture=\"S9(09)\" usage=\"comp-5\"",
+          "<numeric name=\"LK-TAX-AMOUNT\" picture=\"S9(09)\" usage=\"comp\"");
+  write("new.xml", text);
+  const toolkit::Diff diff = toolkit::diffFiles(reader(), example("MOTPREM.xml"), "new.xml",
+                                                {example("MOTPREM-java.xml")});
+  std::vector<std::string> told;
+  for (const toolkit::Change& change : diff.changes) {
+    if (!change.service.empty()) told.push_back(change.kind + " " + change.oldPlace);
+  }
+  EXPECT_THAT(told, ElementsAre("mapping-renamed type Quote.policyParts.suffix",
+                                "entry-point-lost discountFor", "mapping-changed taxOn.tax"));
+  EXPECT_TRUE(toolkit::breaksCallers(diff));
+}
+
+TEST_F(DiffTest, AllowedChangesBreakNobody) {
+  toolkit::Diff diff =
+      diffOf("01 R. 05 A PIC 9(4). 05 B PIC X.", "01 R. 05 A PIC 9(6). 05 B PIC X.");
+  EXPECT_TRUE(toolkit::breaksCallers(diff));
+  EXPECT_FALSE(toolkit::allow(diff, "no-such-kind"));
+  EXPECT_TRUE(toolkit::allow(diff, "picture-widened:R.B"));
+  EXPECT_TRUE(toolkit::breaksCallers(diff));
+  EXPECT_TRUE(toolkit::allow(diff, "picture-widened:R"));
+  EXPECT_FALSE(toolkit::breaksCallers(diff));
+  EXPECT_THAT(textOf(diff), testing::StartsWith("allowed   R.A: PICTURE widened"));
+}
+
+TEST_F(DiffTest, APlaceIsNoPartOfALongerName) {
+  toolkit::Diff diff = diffOf("01 R. 05 AB PIC 9(4).", "01 R. 05 AB PIC S9(4).");
+  EXPECT_TRUE(toolkit::allow(diff, "*:R.A"));
+  EXPECT_TRUE(toolkit::breaksCallers(diff));
+  EXPECT_TRUE(toolkit::allow(diff, "*:R.AB"));
+  EXPECT_FALSE(toolkit::breaksCallers(diff));
+}
+
+TEST(DiffAllowTest, RulesOfATextAreItsLines) {
+  EXPECT_THAT(toolkit::allowRulesIn("# why\n\n  item-moved:R \r\n*:Q\n"),
+              ElementsAre("item-moved:R", "*:Q"));
+}
+
+TEST_F(DiffTest, JsonHoldsAllChanges) {
+  const toolkit::Diff diff =
+      diffOf("01 R. 05 A PIC 9(4). 05 B PIC X.", "01 R. 05 A PIC 9(6). 05 B PIC X.");
+  const nlohmann::json json = jsonOfDiff(diff);
+  EXPECT_EQ(json["of"], "dictionaries");
+  EXPECT_EQ(json["breaks"], true);
+  ASSERT_EQ(json["changes"].size(), diff.changes.size());
+  EXPECT_EQ(json["changes"][0]["kind"], "picture-widened");
+  EXPECT_EQ(json["changes"][0]["text"], "R.A: PICTURE widened from 9(4) to 9(6)");
+  EXPECT_TRUE(json["changes"][0]["follows"].is_null());
+  EXPECT_EQ(json["changes"][1]["follows"], 0);
+}
+
+TEST_F(DiffTest, DocumentsOfTwoKindsAreRefused) {
+  const toolkit::Refusal refusal = test::refusalOf(
+      [&] { toolkit::diffFiles(reader(), example("MOTPREM.xml"), example("MOTPREM-java.xml")); });
+  EXPECT_EQ(refusal.text, "is a service, which cannot be compared with a dictionary");
+}
+
+// Many items of one name, many that moved: neither takes time beyond measure.
+TEST_F(DiffTest, LargeDictionariesAreNoMatter) {
+  const auto entries = [](const char* first) {
+    std::string text = std::string("01 R. 05 ") + first + " PIC X(8).";
+    for (int i = 0; i < 800; ++i) {
+      text += "\n05 FILLER PIC X. 05 N" + std::to_string(i) + " PIC 9(4).";
+    }
+    return text;
+  };
+  const toolkit::Diff diff = diffOf(entries("A"), entries("Z PIC X. 05 A"));
+  EXPECT_EQ(diff.changes.size(), 1603U);
+  EXPECT_THAT(textOf(diff), HasSubstr("1601 items behind it move by 1 byte;"));
+}
+
+}  // namespace
