@@ -75,8 +75,7 @@ int CElementImpl::integer(const XMLCh* attribute) const { return integerOf(wide(
 bool CElementImpl::truth(const XMLCh* attribute) const { return truthOf(wide(attribute)); }
 
 const XMLCh* CElementImpl::wide(const XMLCh* attribute) const {
-  const DOMAttr* const found = element_->getAttributeNode(attribute);
-  return found == nullptr ? u"" : valueOf(*found);
+  return valueOf(*element_, attribute);
 }
 
 void CElementImpl::write(const XMLCh* attribute, const char* value) {

@@ -1,10 +1,19 @@
 #include "xml/ReadElement.h"
 
 #include <utility>
+#include <xercesc/dom/impl/DOMCasts.hpp>
 #include <xercesc/util/XMLString.hpp>
 
 #include "as/Globals.h"
 #include "xml/Vocabulary.h"
+
+using xercesc::DOMChildNode;
+using xercesc::DOMDocument;
+using xercesc::DOMElement;
+using xercesc::DOMElementImpl;
+using xercesc::DOMNode;
+using xercesc::DOMText;
+using xercesc::DOMTextImpl;
 
 namespace {
 
@@ -12,7 +21,51 @@ bool isOfWrappers(const XMLCh* key) {
   return key == APIDATA_KEY || xercesc::XMLString::equals(key, APIDATA_KEY);
 }
 
+// The neighbours of a child. Elements and texts tell by their types what class they are of.
+DOMChildNode& linksOf(DOMNode* child) {
+  switch (child->getNodeType()) {
+    case DOMNode::ELEMENT_NODE:
+      return static_cast<DOMElementImpl*>(static_cast<DOMElement*>(child))->fChild;
+    case DOMNode::TEXT_NODE:
+      return static_cast<DOMTextImpl*>(static_cast<DOMText*>(child))->fChild;
+    default:
+      return *xercesc::castToChildImpl(child);
+  }
+}
+
 }  // namespace
+
+ReadElement::ReadElement(DOMDocument* document, const XMLCh* namespaceUri, const XMLCh* prefix,
+                         const XMLCh* localName, const XMLCh* qualifiedName)
+    : DOMElementNSImpl(document, namespaceUri, prefix, localName, qualifiedName) {
+  fAttributes = &attributes_;
+}
+
+ReadElement::ReadElement(DOMDocument* document, const XMLCh* namespaceUri, const XMLCh* localName)
+    : DOMElementNSImpl(document, localName) {
+  fAttributes = &attributes_;
+  fNamespaceURI = namespaceUri;
+  fLocalName = fName;
+}
+
+DOMNode* ReadElement::getParentNode() const { return fNode.isOwned() ? fNode.fOwnerNode : nullptr; }
+
+void ReadElement::append(DOMNode* child, xercesc::DOMNodeImpl& node, DOMChildNode& links) {
+  node.fOwnerNode = this;
+  node.isOwned(true);
+  DOMNode*& first = fParent.fFirstChild;
+  if (first == nullptr) {
+    first = child;
+    node.isFirstChild(true);
+    links.previousSibling = child;
+    return;
+  }
+  // A first child leads to the last one.
+  DOMNode*& last = linksOf(first).previousSibling;
+  linksOf(last).nextSibling = child;
+  links.previousSibling = last;
+  last = child;
+}
 
 void* ReadElement::setUserData(const XMLCh* key, void* data, xercesc::DOMUserDataHandler* handler) {
   if (!isOfWrappers(key)) return DOMElementNSImpl::setUserData(key, data, handler);

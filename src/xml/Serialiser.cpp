@@ -14,10 +14,8 @@
 #include "xml/AttributeValue.h"
 #include "xml/Limits.h"
 
-using xercesc::DOMAttr;
 using xercesc::DOMDocument;
 using xercesc::DOMElement;
-using xercesc::DOMNamedNodeMap;
 using xercesc::DOMNode;
 using xercesc::XMLChar1_0;
 using xercesc::XMLString;
@@ -144,19 +142,16 @@ class Writer {
     if (!isInNamespace) writePrefixBelow(around);
     writeName(element->getNodeName());
     const std::size_t nameLength = text_.size() - nameAt;
-    const DOMNamedNodeMap* const attributes = element->getAttributes();
-    const XMLSize_t count = attributes->getLength();
-    if (count > limits::attributes) {
+    if (element->getAttributes()->getLength() > limits::attributes) {
       throw std::length_error("too many attributes to be read again");
     }
-    for (XMLSize_t i = 0; i < count; i++) {
-      const auto* const attribute = static_cast<const DOMAttr*>(attributes->item(i));
+    visitAttributes(*element, [this](const XMLCh* name, const XMLCh* value) {
       text_ += u' ';
-      writeName(attribute->getNodeName());
+      writeName(name);
       text_ += u"=\"";
-      writeText<referenceInValue>(valueOf(*attribute));
+      writeText<referenceInValue>(value);
       text_ += u'"';
-    }
+    });
     const DOMNode* child = element->getFirstChild();
     if (child == nullptr) {
       text_ += u"/>";

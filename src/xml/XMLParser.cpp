@@ -16,8 +16,6 @@
 #include "xml/Limits.h"
 #include "xml/Place.h"
 #include "xml/Position.h"
-#include "xml/ReadAttribute.h"
-#include "xml/ReadElement.h"
 #include "xml/Refusals.h"
 #include "xml/XStr.h"
 
@@ -90,7 +88,7 @@ static_assert(alignof(CXMLParser) <= alignof(void*));
 
 CXMLParser::CXMLParser(std::shared_ptr<SharedSchemas> shared)
     : GrammarStore(std::move(shared)),
-      XercesDOMParser(nullptr, XMLPlatformUtils::fgMemoryManager, &grammars) {
+      TreeParser(nullptr, XMLPlatformUtils::fgMemoryManager, &grammars) {
   limits_.setEntityExpansionLimit(limits::entityExpansions);
   memory.whenFull([this] { refuseAtOnce(refusals::ofGrammars()); });
 }
@@ -177,9 +175,7 @@ void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int ur
   // In front of the DOM, which would hold them.
   if (attributeCount > limits::attributes) refuseAtOnce(refusals::ofTooManyAttributes());
   if (!brought_.empty()) countDefaults(attributes, attributeCount);
-  // For an empty element the base class would end it from here, in front of the handler's start.
-  XercesDOMParser::startElement(declaration, uriId, prefix, attributes, attributeCount, false,
-                                isRoot);
+  beginElement(declaration, uriId, prefix, attributes, attributeCount);
   DOMNode* const element = getCurrentNode();
   if (isRoot) {
     if (handler_ != nullptr) handler_->startDocument(element);
@@ -221,18 +217,6 @@ void CXMLParser::endElement(const XMLElementDecl& declaration, unsigned int uriI
   XercesDOMParser::endElement(declaration, uriId, isRoot, prefix);
   --depth_;
   if (handler_ != nullptr) handler_->newElement(getCurrentNode());
-}
-
-xercesc::DOMElement* CXMLParser::createElementNS(const XMLCh* namespaceUri, const XMLCh* prefix,
-                                                 const XMLCh* localName,
-                                                 const XMLCh* qualifiedName) {
-  return new (fDocument) ReadElement(fDocument, namespaceUri, prefix, localName, qualifiedName);
-}
-
-xercesc::DOMAttr* CXMLParser::createAttrNS(const XMLCh* namespaceUri, const XMLCh* prefix,
-                                           const XMLCh* localName, const XMLCh* qualifiedName) {
-  return new (fDocument, xercesc::DOMMemoryManager::ATTR_NS_OBJECT)
-      ReadAttribute(fDocument, namespaceUri, prefix, localName, qualifiedName);
 }
 
 void CXMLParser::endDocument() {

@@ -8,7 +8,6 @@
 #include <set>
 #include <string>
 #include <xercesc/framework/MemBufInputSource.hpp>
-#include <xercesc/parsers/XercesDOMParser.hpp>
 #include <xercesc/sax/ErrorHandler.hpp>
 #include <xercesc/util/SecurityManager.hpp>
 #include <xercesc/util/XMLResourceIdentifier.hpp>
@@ -19,6 +18,7 @@
 #include "xml/LocalFile.h"
 #include "xml/ParseGrammars.h"
 #include "xml/SchemaInspection.h"
+#include "xml/TreeParser.h"
 #include "xml/VorEntityResolver.h"
 
 // One parser serves one parse. It holds the DOM document afterwards, and is therefore kept by the
@@ -27,9 +27,7 @@
 // Documents may come from anywhere. Refusals.h tells what is refused of them and of the schemas
 // that they bring, Limits.def what bounds them. Every refusal is an as::CASParseException. Whatever
 // is read is opened here, once, and judged as it is read: the parser opens nothing.
-class CXMLParser : public xercesc::XercesDOMParser,
-                   public xercesc::ErrorHandler,
-                   protected virtual GrammarStore {
+class CXMLParser : public TreeParser, public xercesc::ErrorHandler, protected virtual GrammarStore {
  public:
   // Parses with the schemas that are shared, where they are given and will do; the parse throws
   // SharedSchemas::NotShared where they will not, and is to be made again by another parser.
@@ -70,12 +68,6 @@ class CXMLParser : public xercesc::XercesDOMParser,
   void entityDecl(const xercesc::DTDEntityDecl& entity, bool isParameterEntity,
                   bool isIgnored) override;
   void startAttList(const xercesc::DTDElementDecl& element) override;
-
-  // For every element and attribute that is read.
-  xercesc::DOMElement* createElementNS(const XMLCh* namespaceUri, const XMLCh* prefix,
-                                       const XMLCh* localName, const XMLCh* qualifiedName) override;
-  xercesc::DOMAttr* createAttrNS(const XMLCh* namespaceUri, const XMLCh* prefix,
-                                 const XMLCh* localName, const XMLCh* qualifiedName) override;
 
   // From the parser's error reporter: every message, warnings included, ends the parse.
   void error(unsigned int code, const XMLCh* domain, xercesc::XMLErrorReporter::ErrTypes type,

@@ -15,6 +15,7 @@
 #include "support/Calls.h"
 #include "support/Labels.h"
 #include "support/ServiceSamples.h"
+#include "xml/AttributeValue.h"
 #include "xml/XStr.h"
 
 namespace {
@@ -29,14 +30,13 @@ std::unique_ptr<as::IService> serviceOf(const ServiceSample& sample) {
   return test::parseService(test::rootOf(sample, test::everything(sample)));
 }
 
+// Leaves the attributes as they are: the DOM may have no nodes of them yet.
 Attributes attributesOf(as::IElement* object) {
   Attributes all;
-  const xercesc::DOMNamedNodeMap* const nodes =
-      as::interface_cast<CElementImpl>(object)->getElement()->getAttributes();
-  for (XMLSize_t i = 0; i < nodes->getLength(); i++) {
-    all[CXStr(nodes->item(i)->getNodeName(), false)] =
-        std::string(CXStr(nodes->item(i)->getNodeValue(), false));
-  }
+  visitAttributes(*as::interface_cast<CElementImpl>(object)->getElement(),
+                  [&all](const XMLCh* name, const XMLCh* text) {
+                    all[CXStr(name, false)] = std::string(CXStr(text, false));
+                  });
   return all;
 }
 
