@@ -176,6 +176,13 @@ std::unique_ptr<XMLCh[]> CXStr::rendered() const {
 }
 
 std::string textOf(const XMLCh* text) {
+  if (text == nullptr) return {};
+  // Most texts are a few letters.
+  std::array<char, 32> few;
+  for (std::size_t i = 0; i < few.size() && text[i] <= 0x7F; i++) {
+    if (text[i] == 0) return {few.data(), i};
+    few[i] = static_cast<char>(text[i]);
+  }
   const std::size_t length = XMLString::stringLen(text);
   XMLCh all = 0;
   for (std::size_t i = 0; i < length; i++) all = static_cast<XMLCh>(all | text[i]);
