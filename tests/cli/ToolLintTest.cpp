@@ -42,7 +42,7 @@ TEST_F(ToolLintTest, FindingsAreLinesWithASummary) {
   writeService(std::string(lost) + mapped + unmapped);
   const test::ToolOutcome outcome = run({"lint", "s.xml"});
   EXPECT_EQ(outcome.out,
-            "s.xml: error: pay.q: PAYROLL has no data item 'REQ.IDX'; correct the name\n"
+            "s.xml: error: pay.q: PAYROLL has no data item 'REQ.IDX'; did you mean 'REQ.ID'?\n"
             "s.xml: warning: pay.r: it is mapped to no data item; add a mapping or remove it\n"
             "s.xml: 1 error, 1 warning\n");
   EXPECT_THAT(outcome.err, IsEmpty());

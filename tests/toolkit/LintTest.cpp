@@ -171,6 +171,10 @@ std::vector<Family> families() {
             "name='Pay' implementation='java' programName='OTHER' dataDictFilename='PAY.xml'",
             "warning: service: it names program 'OTHER', the dictionary is of 'PAYROLL'; "
             "correct \"programName\" or \"dataDictFilename\"")}},
+      {"Comments",
+       {java("Good", "", "<!-- lint: off lost-type same-name --><operations/>", ""),
+        java("UnknownRule", "lint-comment", "<!-- lint: off lost-tpye --><operations/>",
+             "warning: comment: there is no rule 'lost-tpye'; did you mean 'lost-type'?")}},
       {"Mappings",
        {
            java("Good", "", mapped("dataType='int'", "item='REQ.ID'"), ""),
@@ -184,7 +188,16 @@ std::vector<Family> families() {
            java("NoItem", "empty-mapping", mapped("dataType='int'", "subscript='1'"),
                 "error: pay.p: the mapping names no data item; name one in \"item\""),
            java("UnknownItem", "lost-data-item", mapped("dataType='int'", "item='REQ.IDX'"),
-                "error: pay.p: PAYROLL has no data item 'REQ.IDX'; correct the name"),
+                "error: pay.p: PAYROLL has no data item 'REQ.IDX'; did you mean 'REQ.ID'?"),
+           java("NearItemElsewhere", "lost-data-item",
+                mapped("dataType='int'", "item='REQ.AMONUT'"),
+                "error: pay.p: PAYROLL has no data item 'REQ.AMONUT'; did you mean "
+                "'REQ.LINE.AMOUNT'?"),
+           java("NoItemNear", "lost-data-item", mapped("dataType='int'", "item='REQ.WEIGHT'"),
+                "error: pay.p: PAYROLL has no data item 'REQ.WEIGHT'; correct the name"),
+           java("BelowANearGroup", "lost-data-item", mapped("dataType='int'", "item='RQE.CELLS'"),
+                "error: pay.p: PAYROLL has no data item 'RQE.CELLS'; did you mean "
+                "'REQ.LINE.CELL'?"),
            java("ItemElsewhere", "lost-data-item", mapped("dataType='int'", "item='ID'"),
                 "error: pay.p: PAYROLL has no data item 'ID'; did you mean 'REQ.ID'?"),
            java("UnknownSpecialName", "lost-data-item", mapped("dataType='int'", "item='$input'"),
@@ -280,6 +293,9 @@ std::vector<Family> families() {
            java("NoEntryPoint", "unbound-operation",
                 "<operations><operation name='o'/></operations>",
                 "error: o: the operation is bound to no entry point; name one in \"entryPoint\""),
+           java("NearEntryPoint", "lost-entry-point",
+                "<operations><operation name='o' entryPoint='pya'/></operations>",
+                "error: o: PAYROLL has no entry point 'pya'; did you mean 'PAY'?"),
            java("UnknownEntryPoint", "lost-entry-point",
                 "<operations><operation name='o' entryPoint='GO'/></operations>",
                 "error: o: PAYROLL has no entry point 'GO'; bind the operation to one of the "
@@ -319,6 +335,11 @@ std::vector<Family> families() {
        }},
       {"References",
        {
+           java("NearOne", "lost-type",
+                "<parameterTypeDefs><parameter name='Street' dataType='int'><mappings><mapping "
+                "item='REQ.ID'/></mappings></parameter></parameterTypeDefs>" +
+                    parameters("<parameter name='p' ref='Stret'/>"),
+                "error: pay.p: there is no type definition 'Stret'; did you mean 'Street'?"),
            java("Unknown", "lost-type", parameters("<parameter name='p' ref='X'/>"),
                 "error: pay.p: there is no type definition 'X'; correct \"ref\" or add the "
                 "definition"),

@@ -22,6 +22,9 @@ struct Refusal {
   int column = 0;
   std::string text;
   std::string hint;  // What to do about it; may be empty.
+  // Whether it is a document of another kind than was asked for: there may be nothing wrong with
+  // it.
+  bool isOfAnotherKind = false;
 };
 
 // "FILE:LINE:COLUMN: TEXT", or "FILE: TEXT" for a problem without a place; without the hint.
@@ -41,6 +44,17 @@ class AS_EXPORT RefusedDocument : public std::runtime_error {
  private:
   Refusal refusal_;
 };
+
+// Where a document is read from: the file `name`, or else `text`, its bytes, which messages call
+// so.
+struct DocumentSource {
+  std::string name;
+  std::optional<std::string> text{};
+};
+
+// What a stream of bytes from the descriptor holds to its end, called `name`: standard input, a
+// pipe. Throws RefusedDocument when it cannot be read.
+AS_EXPORT DocumentSource documentFrom(int descriptor, const std::string& name);
 
 // A document of either kind: exactly one of the two is set.
 struct Document {
@@ -78,12 +92,16 @@ class AS_EXPORT DocumentReader {
   // The data dictionary or the service in `file`, whichever it is; a service comes without its
   // program. Throws RefusedDocument.
   Document read(const std::string& file) const;
+  Document read(const DocumentSource& source) const;
 
   // The data dictionary in `file`; never null. Throws RefusedDocument.
   std::unique_ptr<as::IProgram> readDictionary(const std::string& file) const;
 
   // The service in `file`, without its program; never null. Throws RefusedDocument.
   std::unique_ptr<as::IService> readService(const std::string& file) const;
+
+  // The same from either source.
+  std::unique_ptr<as::IService> readService(const DocumentSource& source) const;
 
   // The service in `text`, which messages call `file`; never null, without its program. Throws
   // RefusedDocument.

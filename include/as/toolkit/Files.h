@@ -1,4 +1,4 @@
-// Files written so that nothing is lost, and names of files in documents.
+// Files written so that nothing is lost, files found in folders, and names of files in documents.
 #ifndef AS_TOOLKIT_FILES_H_
 #define AS_TOOLKIT_FILES_H_
 
@@ -8,6 +8,7 @@
 
 #include "as/Export.h"
 #include "as/IService.h"
+#include "as/toolkit/DocumentReader.h"
 
 namespace as::toolkit {
 
@@ -39,6 +40,15 @@ AS_EXPORT std::vector<std::string> replaceFiles(const std::vector<FileContent>& 
 // Writes the document of `service` so. Throws RefusedDocument when XML cannot hold it (elements
 // nest too deep, a name holds control characters), and FileError.
 AS_EXPORT void writeService(as::IService& service, const std::string& file);
+
+struct FoundFiles {
+  std::vector<std::string> files;  // As seen from the folder, sorted.
+  std::vector<Refusal> refusals;   // The folders that could not be read, sorted.
+};
+
+// The files in a folder and those below it whose names end in one of `extensions` (".xml"), in
+// letters of any case. Links to files are files, links to folders are not followed.
+AS_EXPORT FoundFiles filesIn(const std::string& folder, const std::vector<std::string>& extensions);
 
 // The file that a relative or absolute `name` in the document `file` means: relative names count
 // from the folder of that document.

@@ -5,6 +5,7 @@
 #ifndef AS_TOOLKIT_TOOLKIT_H_
 #define AS_TOOLKIT_TOOLKIT_H_
 
+#include "as/toolkit/Baseline.h"
 #include "as/toolkit/Convert.h"
 #include "as/toolkit/Copybooks.h"
 #include "as/toolkit/Diff.h"
@@ -23,5 +24,6 @@
 #include "as/toolkit/SourceLocation.h"
 #include "as/toolkit/Storage.h"
 #include "as/toolkit/Text.h"
+#include "as/toolkit/Version.h"
 
 #endif  // AS_TOOLKIT_TOOLKIT_H_

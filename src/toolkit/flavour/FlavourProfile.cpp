@@ -47,7 +47,7 @@ std::vector<Trait> FlavourProfile::traitsOf(as::IField& /*field*/) const { retur
 std::vector<Message> FlavourProfile::messagesOf(as::IOperation& /*operation*/) const { return {}; }
 as::IList* FlavourProfile::attributesOf(as::IField& /*field*/) const { return nullptr; }
 void FlavourProfile::lint(as::IOperation& /*operation*/, const Place& /*place*/,
-                          Findings& /*findings*/) const {}
+                          LintReport& /*report*/) const {}
 void FlavourProfile::complete(as::IService& /*service*/, as::IOperation& /*operation*/) const {}
 void FlavourProfile::markReturned(as::IField& /*field*/) const {}
 const DataType* FlavourProfile::groupType(bool /*repeats*/) const { return nullptr; }

@@ -19,6 +19,7 @@
 
 namespace as::toolkit {
 
+class LintReport;
 class Place;
 
 // Something that a flavour adds to an object of the model.
@@ -93,7 +94,7 @@ class FlavourProfile {
   virtual const DataType* typeReadAs(const std::string& word) const;
 
   // Has lint look at what the flavour adds to the operation, which stands at `place`.
-  virtual void lint(as::IOperation& operation, const Place& place, Findings& findings) const;
+  virtual void lint(as::IOperation& operation, const Place& place, LintReport& report) const;
 
   // A new service, which takes the program over. Throws as::CASException.
   virtual std::unique_ptr<as::IService> newService(std::unique_ptr<as::IProgram> program) const = 0;

@@ -69,9 +69,9 @@ class WebProfile : public FlavourProfile {
 
   const DataType* defaultType() const override { return nullptr; }
 
-  void lint(as::IOperation& operation, const Place& place, Findings& findings) const override {
+  void lint(as::IOperation& operation, const Place& place, LintReport& report) const override {
     if (auto* const web = as::interface_cast<Operation>(&operation)) {
-      lintWebOperation(*web, place, findings);
+      lintWebOperation(*web, place, report);
     }
   }
 

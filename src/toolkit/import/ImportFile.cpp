@@ -1,5 +1,4 @@
 // Imports from file to file.
-#include <algorithm>
 #include <array>
 #include <cctype>
 #include <cerrno>
@@ -8,6 +7,7 @@
 #include <fstream>
 #include <set>
 #include <system_error>
+#include <utility>
 
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Files.h"
@@ -50,14 +50,6 @@ std::string fileNameOf(const std::string& program) {
   return name;
 }
 
-bool isSource(const fs::path& file) {
-  std::string extension = file.extension().string();
-  std::transform(extension.begin(), extension.end(), extension.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  constexpr std::array<const char*, 4> known = {".cbl", ".cob", ".cobol", ".pco"};
-  return std::find(known.begin(), known.end(), extension) != known.end();
-}
-
 }  // namespace
 
 ImportedFile importCobolFile(const std::string& file, const std::string& output,
@@ -86,17 +78,9 @@ ImportedFile importCobolFile(const std::string& file, const std::string& output,
 }
 
 std::vector<std::string> cobolSourcesIn(const std::string& folder) {
-  std::vector<std::string> sources;
-  std::error_code failure;
-  fs::recursive_directory_iterator next(folder, failure);
-  for (; !failure && next != fs::recursive_directory_iterator(); next.increment(failure)) {
-    if (isSource(next->path()) && next->is_regular_file()) {
-      sources.push_back(next->path().lexically_relative(folder).string());
-    }
-  }
-  if (failure) refuse(folder, failure);
-  std::sort(sources.begin(), sources.end());
-  return sources;
+  FoundFiles found = filesIn(folder, {".cbl", ".cob", ".cobol", ".pco"});
+  if (!found.refusals.empty()) throw RefusedDocument(found.refusals.front());
+  return std::move(found.files);
 }
 
 }  // namespace as::toolkit

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <limits>
 #include <string_view>
 #include <system_error>
 #include <type_traits>
@@ -46,6 +47,10 @@ std::string noService() {
 
 RefusedDocument refused(const std::string& file, const std::string& text) {
   return RefusedDocument({file, 0, 0, text, ""});
+}
+
+RefusedDocument ofAnotherKind(const std::string& file, const std::string& text) {
+  return RefusedDocument({file, 0, 0, text, "", true});
 }
 
 // The library tells less about a file that it cannot read.
@@ -105,10 +110,19 @@ auto rootFrom(const std::string& file, const Request& request) {
   return root;
 }
 
+// The library takes the size as an unsigned int.
+unsigned int sizeOf(const std::string& text, const std::string& file) {
+  if (text.size() > std::numeric_limits<unsigned int>::max()) throw refused(file, "is too large");
+  return static_cast<unsigned int>(text.size());
+}
+
+const unsigned char* bytesOf(const std::string& text) {
+  return reinterpret_cast<const unsigned char*>(text.data());
+}
+
 as::IService* parseText(as::IAgentServices& services, const std::string& text,
                         const std::string& file, bool loadProgram) {
-  return services.parseService(file.c_str(), reinterpret_cast<const unsigned char*>(text.data()),
-                               static_cast<unsigned int>(text.size()), loadProgram);
+  return services.parseService(file.c_str(), bytesOf(text), sizeOf(text, file), loadProgram);
 }
 
 // The dictionary that `service`, read from `file`, is to have its program from, which can be read.
@@ -165,15 +179,33 @@ Document DocumentReader::read(const std::string& file) const {
   document.dictionary = rootFrom(file, [&] { return services_->parseCobolDD(file.c_str()); });
   if (document.dictionary) return document;
   document.service = rootFrom(file, [&] { return services_->parseService(file.c_str(), false); });
-  if (!document.service) throw refused(file, noDictionary() + "; and " + noService());
+  if (!document.service) throw ofAnotherKind(file, noDictionary() + "; and " + noService());
   return document;
+}
+
+Document DocumentReader::read(const DocumentSource& source) const {
+  if (!source.text) return read(source.name);
+  const std::string& file = source.name;
+  Document document;
+  document.dictionary = rootFrom(file, [&] {
+    return services_->parseCobolDD(file.c_str(), bytesOf(*source.text), sizeOf(*source.text, file));
+  });
+  if (document.dictionary) return document;
+  document.service =
+      rootFrom(file, [&] { return parseText(*services_, *source.text, file, false); });
+  if (!document.service) throw ofAnotherKind(file, noDictionary() + "; and " + noService());
+  return document;
+}
+
+std::unique_ptr<as::IService> DocumentReader::readService(const DocumentSource& source) const {
+  return source.text ? readServiceText(*source.text, source.name) : readService(source.name);
 }
 
 std::unique_ptr<as::IService> DocumentReader::readService(const std::string& file) const {
   checkReadable(file);
   std::unique_ptr<as::IService> service =
       rootFrom(file, [&] { return services_->parseService(file.c_str(), false); });
-  if (!service) throw refused(file, noService());
+  if (!service) throw ofAnotherKind(file, noService());
   return service;
 }
 
@@ -181,7 +213,7 @@ std::unique_ptr<as::IProgram> DocumentReader::readDictionary(const std::string& 
   checkReadable(file);
   std::unique_ptr<as::IProgram> dictionary =
       rootFrom(file, [&] { return services_->parseCobolDD(file.c_str()); });
-  if (!dictionary) throw refused(file, noDictionary());
+  if (!dictionary) throw ofAnotherKind(file, noDictionary());
   return dictionary;
 }
 
@@ -189,7 +221,7 @@ std::unique_ptr<as::IService> DocumentReader::readServiceText(const std::string&
                                                               const std::string& file) const {
   std::unique_ptr<as::IService> service =
       rootFrom(file, [&] { return parseText(*services_, text, file, false); });
-  if (!service) throw refused(file, noService());
+  if (!service) throw ofAnotherKind(file, noService());
   return service;
 }
 

@@ -15,8 +15,9 @@ void unboundOperation(const OperationSubject& subject, const Tell& tell) {
 void lostEntryPoint(const OperationSubject& subject, const Tell& tell) {
   if (subject.entryPoint.empty()) return;
   if (subject.program == nullptr || subject.interface != nullptr) return;
+  const std::string meant = subject.program->entryPointMeant(subject.entryPoint);
   tell(subject.program->name() + " has no entry point " + quote(subject.entryPoint),
-       "bind the operation to one of the program's");
+       meant.empty() ? "bind the operation to one of the program's" : didYouMean(meant));
 }
 
 void lostLinkageRecord(const OperationSubject& subject, const Tell& tell) {

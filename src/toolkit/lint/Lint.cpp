@@ -1,23 +1,62 @@
 #include "as/toolkit/Lint.h"
 
+#include <memory>
+#include <utility>
+
 #include "as/IProgram.h"
 #include "as/IService.h"
+#include "as/toolkit/Text.h"
 #include "toolkit/flavour/FlavourProfile.h"
+#include "toolkit/io/Bytes.h"
+#include "toolkit/lint/LintComments.h"
+#include "toolkit/lint/LintReport.h"
 #include "toolkit/lint/LintedService.h"
 #include "toolkit/lint/Rules.h"
 #include "toolkit/lint/ServiceWalk.h"
+#include "toolkit/outline/DocumentOutline.h"
+#include "toolkit/outline/ServiceOutline.h"
 
 namespace as::toolkit {
 
 namespace {
 
-const Place& servicePlace() {
-  static const Place place("service");
-  return place;
+void lookAtService(as::IService& service, LintReport& report) {
+  const Place place("service", service);
+  look(ServiceSubject{place, service, profileOf(service)}, report);
 }
 
-void lookAtService(as::IService& service, Findings& findings) {
-  look(ServiceSubject{servicePlace(), service, profileOf(service)}, findings);
+void lookAtComments(const LintComments& comments, LintReport& report) {
+  for (const LintComments::Mistake& mistake : comments.mistakes()) {
+    const Place place("comment", mistake.place);
+    look(CommentSubject{place, mistake.problem, mistake.advice}, report);
+  }
+}
+
+// At the dictionary that the service is to be looked at with. Null when there is none.
+std::shared_ptr<as::IProgram> lookAtDictionary(const DocumentReader& reader, as::IService& service,
+                                               const std::string& file,
+                                               const std::optional<std::string>& dictionary,
+                                               LintReport& report) {
+  if (!dictionary && service.getDDFilename().empty()) return nullptr;
+  const Place place("service", service);
+  try {
+    std::shared_ptr<as::IProgram> program =
+        reader.programOf(service, file, ProgramChoice{dictionary});
+    look(DictionarySubject{place, nullptr, service.getAttributeValue("programName"),
+                           program->getName()},
+         report);
+    return program;
+  } catch (const RefusedDocument& refused) {
+    look(DictionarySubject{place, &refused.refusal(), ""}, report);
+  }
+  return nullptr;
+}
+
+// The bytes that `source` was read from; empty when they cannot be had again.
+std::string bytesOf(const DocumentSource& source) {
+  if (source.text) return *source.text;
+  std::string bytes;
+  return readRegularFile(source.name, bytes) ? bytes : "";
 }
 
 }  // namespace
@@ -30,37 +69,77 @@ const std::vector<LintRule>& lintRules() {
   return all;
 }
 
+const LintRule* findLintRule(std::string_view id) {
+  for (const LintRule& rule : lintRules()) {
+    if (id == rule.id) return &rule;
+  }
+  return nullptr;
+}
+
+std::string nearestLintRule(const std::string& id) {
+  std::vector<std::string> ids;
+  for (const LintRule& rule : lintRules()) ids.emplace_back(rule.id);
+  return nearestName(id, ids);
+}
+
+const std::vector<RuleSetting>& ruleSettings() {
+  static const std::vector<RuleSetting> all = {{"off", std::nullopt},
+                                               {wordOf(Severity::note), Severity::note},
+                                               {wordOf(Severity::warning), Severity::warning},
+                                               {wordOf(Severity::error), Severity::error}};
+  return all;
+}
+
+const RuleSetting* findRuleSetting(std::string_view word) {
+  for (const RuleSetting& setting : ruleSettings()) {
+    if (word == setting.word) return &setting;
+  }
+  return nullptr;
+}
+
 Findings lint(as::IService& service) { return lintWith(service, service.getProgram()); }
 
 Findings lintWith(as::IService& service, as::IProgram* program) {
-  Findings findings;
-  lookAtService(service, findings);
-  lintMembers(service, program, findings);
-  return findings;
+  LintReport report;
+  lookAtService(service, report);
+  lintMembers(service, program, report);
+  return std::move(report.findings());
 }
+
+namespace {
+
+// `service` was read from `source`.
+LintedService lintService(const DocumentReader& reader, as::IService& service,
+                          const DocumentSource& source, const LintOptions& options) {
+  const DocumentOutline document(bytesOf(source));
+  const ServiceOutline outline(service, document);
+  const LintComments comments(document);
+  LintReport report({&outline, &comments, &options.rules});
+  lookAtService(service, report);
+  LintedService linted;
+  linted.program = lookAtDictionary(reader, service, source.name, options.dictionary, report);
+  lookAtComments(comments, report);
+  lintMembers(service, linted.program.get(), report);
+  linted.findings = std::move(report.findings());
+  return linted;
+}
+
+}  // namespace
 
 LintedService lintRead(const DocumentReader& reader, as::IService& service, const std::string& file,
                        const std::optional<std::string>& dictionary) {
-  LintedService linted;
-  lookAtService(service, linted.findings);
-  if (dictionary || !service.getDDFilename().empty()) {
-    try {
-      linted.program = reader.programOf(service, file, ProgramChoice{dictionary});
-      look(DictionarySubject{servicePlace(), nullptr, service.getAttributeValue("programName"),
-                             linted.program->getName()},
-           linted.findings);
-    } catch (const RefusedDocument& refused) {
-      look(DictionarySubject{servicePlace(), &refused.refusal(), ""}, linted.findings);
-    }
-  }
-  lintMembers(service, linted.program.get(), linted.findings);
-  return linted;
+  return lintService(reader, service, {file}, {dictionary, {}});
+}
+
+Findings lintDocument(const DocumentReader& reader, const DocumentSource& source,
+                      const LintOptions& options) {
+  const std::unique_ptr<as::IService> service = reader.readService(source);
+  return lintService(reader, *service, source, options).findings;
 }
 
 Findings lintFile(const DocumentReader& reader, const std::string& file,
                   const std::optional<std::string>& dictionary) {
-  const std::unique_ptr<as::IService> service = reader.readService(file);
-  return lintRead(reader, *service, file, dictionary).findings;
+  return lintDocument(reader, {file}, {dictionary, {}});
 }
 
 }  // namespace as::toolkit

@@ -4,7 +4,6 @@
 #include "toolkit/lint/Rules.h"
 #include "toolkit/lint/SubscriptText.h"
 #include "toolkit/text/Phrases.h"
-#include "toolkit/text/Words.h"
 #include "toolkit/walk/Subscripts.h"
 
 namespace as::toolkit::rules {
@@ -42,9 +41,8 @@ void lostDataItem(const MappingSubject& subject, const Tell& tell) {
   std::string advice = "correct the name";
   if (path.rfind('$', 0) == 0) {
     advice = "use $command_line, $return_code, $stdin or $stdout";
-  } else if (as::IDataItem* const other =
-                 subject.program->firstOfName(path.substr(path.rfind('.') + 1))) {
-    advice = "did you mean " + quote(dottedPath(*other)) + "?";
+  } else if (const std::string meant = subject.program->pathMeant(path); !meant.empty()) {
+    advice = didYouMean(meant);
   }
   tell(subject.program->name() + " has no data item " + quote(path), advice);
 }

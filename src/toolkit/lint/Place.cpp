@@ -12,6 +12,12 @@ std::string Place::text() const {
   return text;
 }
 
+const as::IElement* Place::object() const {
+  const Place* at = this;
+  while (at->object_ == nullptr && at->around_ != nullptr) at = at->around_;
+  return at->object_;
+}
+
 std::string nameOrUnnamed(const std::string& name) { return name.empty() ? "(unnamed)" : name; }
 
 }  // namespace as::toolkit

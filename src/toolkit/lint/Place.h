@@ -5,21 +5,36 @@
 #include <string>
 #include <utility>
 
+#include "as/IElement.h"
+#include "toolkit/outline/TextPlace.h"
+
 namespace as::toolkit {
 
-// A step behind the place around it, which must outlive this one. Becomes text only when something
-// is to be told there.
+// A step behind the place around it, which must outlive this one, as must the object of the model
+// that stands there. Becomes text only when something is to be told there.
 class Place {
  public:
   explicit Place(std::string step) : step_(std::move(step)) {}
+  Place(std::string step, const as::IElement& object) : step_(std::move(step)), object_(&object) {}
+  Place(std::string step, const TextPlace& at) : step_(std::move(step)), at_(at) {}
   Place(std::string step, const Place& around) : step_(std::move(step)), around_(&around) {}
+  Place(std::string step, const Place& around, const as::IElement& object)
+      : step_(std::move(step)), around_(&around), object_(&object) {}
 
   // In the terms of the document: "quote.serial", "type Address.street".
   std::string text() const;
 
+  // The object there, or else the next one around it; null when there is none.
+  const as::IElement* object() const;
+
+  // Where that is in the text, for a place that no object stands at; lines from 0 for others.
+  const TextPlace& inText() const { return at_; }
+
  private:
   std::string step_;
   const Place* around_ = nullptr;
+  const as::IElement* object_ = nullptr;
+  TextPlace at_;
 };
 
 // What stands in a place for a missing name.

@@ -2,12 +2,14 @@
 
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 #include "as/IDataItem.h"
 #include "as/IEntryPoint.h"
 #include "as/IGroup.h"
 #include "as/ILinkageItem.h"
 #include "as/IProgram.h"
+#include "toolkit/text/Words.h"
 #include "toolkit/walk/ItemWalk.h"
 #include "toolkit/walk/TreeWalk.h"
 
@@ -21,7 +23,8 @@ ProgramFacts::ProgramFacts(as::IProgram& program) : program_(program) {
     recordsByName_.emplace(item.getName(), &item);
   });
   forEachMember<as::IEntryPoint>(program.getEntryPoints(), [this](as::IEntryPoint& entryPoint) {
-    entryPoints_.emplace(entryPoint.getName(), &entryPoint);
+    const std::string name = entryPoint.getName();
+    if (entryPoints_.emplace(name, &entryPoint).second) entryPointNames_.add(name);
   });
 }
 
@@ -32,16 +35,60 @@ as::IDataItem* ProgramFacts::find(const std::string& mapping) {
   return index_->find(std::string_view(mapping).substr(0, mapping.find('(')));
 }
 
-as::IDataItem* ProgramFacts::firstOfName(const std::string& name) {
-  if (!byName_) {
-    byName_.emplace();
-    walkItems(
-        program_.getDataItems(),
-        [this](as::IDataItem& item, std::size_t) { byName_->emplace(item.getName(), &item); },
-        [](as::IDataItem&) {});
+void ProgramFacts::findNames() {
+  names_.emplace();
+  walkItems(
+      program_.getDataItems(),
+      [this](as::IDataItem& item, std::size_t) {
+        std::string name = item.getName();
+        if (!numbers_.emplace(name, firstOfName_.size()).second) return;
+        names_->add(std::move(name));
+        firstOfName_.push_back(&item);
+      },
+      [](as::IDataItem&) {});
+}
+
+// The item with nearly the last name of the path in the group that the rest of it leads to; null
+// when there is none.
+as::IDataItem* ProgramFacts::nearBeside(const std::string& path) {
+  const std::size_t period = path.rfind('.');
+  const bool isRecord = period == std::string::npos;
+  as::IDataItem* const around = isRecord ? nullptr : find(path.substr(0, period));
+  as::IList* members = isRecord ? program_.getDataItems() : nullptr;
+  if (around != nullptr) {
+    auto* const group = as::interface_cast<as::IGroup>(around);
+    members = group == nullptr ? nullptr : group->getChildren();
   }
-  const auto found = byName_->find(name);
-  return found == byName_->end() ? nullptr : found->second;
+  if (members == nullptr) return nullptr;
+  const auto [names, isNew] = members_.try_emplace(around);
+  if (isNew) {
+    forEachMember<as::IDataItem>(
+        members, [&near = names->second](as::IDataItem& item) { near.add(item.getName()); });
+  }
+  const auto nearest = names->second.nearestTo(isRecord ? path : path.substr(period + 1));
+  return nearest ? as::interface_cast<as::IDataItem>(members->getItem(static_cast<int>(*nearest)))
+                 : nullptr;
+}
+
+std::string ProgramFacts::pathMeant(const std::string& path) {
+  if (!names_) findNames();
+  const std::string name = path.substr(path.rfind('.') + 1);
+  as::IDataItem* meant = nullptr;
+  if (const auto same = numbers_.find(name); same != numbers_.end()) {
+    meant = firstOfName_[same->second];
+  } else if (meant = nearBeside(path); meant == nullptr) {
+    const std::optional<std::size_t> nearest = names_->nearestTo(name);
+    if (nearest) meant = firstOfName_[*nearest];
+  }
+  if (meant == nullptr) return "";
+  std::string found = dottedPath(*meant);
+  // Names may hold what separates those of a path.
+  return find(found) == nullptr ? "" : found;
+}
+
+std::string ProgramFacts::entryPointMeant(const std::string& name) {
+  const std::optional<std::size_t> nearest = entryPointNames_.nearestTo(name);
+  return nearest ? entryPointNames_[*nearest] : "";
 }
 
 as::IDataItem* ProgramFacts::recordOf(as::IDataItem& item) const {

@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "toolkit/text/NearNames.h"
 #include "toolkit/walk/ItemIndex.h"
 
 namespace as {
@@ -34,8 +35,13 @@ class ProgramFacts {
   // The item that a mapping with that text leads to; null when there is none.
   as::IDataItem* find(const std::string& mapping);
 
-  // The first item of that name, wherever it stands; null when there is none.
-  as::IDataItem* firstOfName(const std::string& name);
+  // The path of the item that a mapping may have meant that leads nowhere: the first one of the
+  // name, wherever it stands, or else one whose name is nearly that, the one that stands where the
+  // rest of the path leads before others. Empty when there is none.
+  std::string pathMeant(const std::string& path);
+
+  // The entry point whose name is nearly that; empty when there is none.
+  std::string entryPointMeant(const std::string& name);
 
   // The record whose storage `item` lies in. The same storage under another name is the same
   // record.
@@ -46,6 +52,8 @@ class ProgramFacts {
 
  private:
   CallInterface read(as::IEntryPoint& entryPoint) const;
+  void findNames();
+  as::IDataItem* nearBeside(const std::string& path);
 
   as::IProgram& program_;
   std::unordered_map<as::IDataItem*, as::IDataItem*> records_;     // Of the items at the top.
@@ -53,7 +61,12 @@ class ProgramFacts {
   std::unordered_map<std::string, as::IEntryPoint*> entryPoints_;  // The first of each name.
   std::unordered_map<std::string, CallInterface> interfaces_;      // Those asked for.
   std::optional<ItemIndex> index_;                                 // Once an item was looked for.
-  std::optional<std::unordered_map<std::string, as::IDataItem*>> byName_;  // Likewise.
+  // All names of items with the first item of each; once an item was not found.
+  std::optional<NearNames> names_;
+  std::vector<as::IDataItem*> firstOfName_;  // In the order of names_.
+  std::unordered_map<std::string, std::size_t> numbers_;
+  std::unordered_map<as::IDataItem*, NearNames> members_;  // Of groups that were asked for.
+  NearNames entryPointNames_;
 };
 
 }  // namespace as::toolkit

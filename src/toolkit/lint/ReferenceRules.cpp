@@ -24,8 +24,9 @@ void recursiveType(const ReferenceSubject& subject, const Tell& tell) {
 
 void lostType(const ReferenceSubject& subject, const Tell& tell) {
   if (subject.leads != Leads::nowhere) return;
-  tell("there is no type definition " + quote(subject.type),
-       R"(correct "ref" or add the definition)");
+  tell(
+      "there is no type definition " + quote(subject.type),
+      subject.meant.empty() ? R"(correct "ref" or add the definition)" : didYouMean(subject.meant));
 }
 
 void lateType(const ReferenceSubject& subject, const Tell& tell) {

@@ -5,8 +5,8 @@
 #include <string>
 #include <type_traits>
 
-#include "as/toolkit/Finding.h"
 #include "as/toolkit/Lint.h"
+#include "toolkit/lint/LintReport.h"
 #include "toolkit/lint/Subjects.h"
 
 namespace as::toolkit {
@@ -14,17 +14,17 @@ namespace as::toolkit {
 // Tells what a rule has found at a place.
 class Tell {
  public:
-  Tell(const LintRule& rule, const Place& place, Findings& findings)
-      : rule_(rule), place_(place), findings_(findings) {}
+  Tell(const LintRule& rule, const Place& place, LintReport& report)
+      : rule_(rule), place_(place), report_(report) {}
 
   void operator()(const std::string& problem, const std::string& advice) const {
-    findings_.push_back({rule_.id, rule_.severity, place_.text(), problem, advice});
+    report_.add(rule_, place_, problem, advice);
   }
 
  private:
   const LintRule& rule_;
   const Place& place_;
-  Findings& findings_;
+  LintReport& report_;
 };
 
 namespace rules {
@@ -46,10 +46,10 @@ namespace rows {
 
 // Has the rules about such subjects look at `subject`.
 template <class T>
-void look(const T& subject, Findings& findings) {
-#define AS_LINT_RULE(function, Subject, id, severity, summary)               \
-  if constexpr (std::is_same_v<T, Subject>) {                                \
-    rules::function(subject, Tell(rows::function, subject.place, findings)); \
+void look(const T& subject, LintReport& report) {
+#define AS_LINT_RULE(function, Subject, id, severity, summary)             \
+  if constexpr (std::is_same_v<T, Subject>) {                              \
+    rules::function(subject, Tell(rows::function, subject.place, report)); \
   }
 #include "toolkit/lint/Rules.def"
 }

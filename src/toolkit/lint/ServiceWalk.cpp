@@ -22,6 +22,7 @@
 #include "toolkit/lint/ProgramFacts.h"
 #include "toolkit/lint/Rules.h"
 #include "toolkit/lint/TypeStorage.h"
+#include "toolkit/text/NearNames.h"
 #include "toolkit/walk/FieldWalk.h"
 #include "toolkit/walk/Subscripts.h"
 
@@ -55,14 +56,16 @@ std::vector<as::IDataItem*> tablesAround(as::IDataItem& item) {
 
 class ServiceWalk {
  public:
-  ServiceWalk(as::IService& service, as::IProgram* program, Findings& findings)
-      : service_(service), findings_(findings), profile_(profileOf(service)) {
+  ServiceWalk(as::IService& service, as::IProgram* program, LintReport& report)
+      : service_(service), report_(report), profile_(profileOf(service)) {
     if (program != nullptr) program_.emplace(*program);
     forEachMember<as::IParameter>(service.getParameterTypeDefs(), [this](as::IParameter& type) {
       const std::size_t number = typeStorage_.addDefinition();
       definitions_.emplace(&type, number);
       // References lead to the first of a name; the last one is the one that comes too late.
-      lastOfName_[type.getName()] = number;
+      const std::string name = type.getName();
+      if (!lastOfName_.contains(name)) typeNames_.add(name);
+      lastOfName_[name] = number;
     });
   }
 
@@ -72,7 +75,7 @@ class ServiceWalk {
     lookAtNames<as::IParameter>(definitions, "type definition", types, "");
     std::size_t number = 0;
     forEachMember<as::IParameter>(definitions, [&](as::IParameter& definition) {
-      const Place place(nameOrUnnamed(definition.getName()), types);
+      const Place place(nameOrUnnamed(definition.getName()), types, definition);
       lookAtTree(definition, place, {as::IParameter::BY_IO, nullptr, number++});
     });
     static const Place nowhere("");
@@ -91,29 +94,29 @@ class ServiceWalk {
     forEachMember<Member>(members, [&](Member& member) {
       const std::string name = member.getName();
       const bool isTaken = !names.insert(name).second;
-      const Place at(separator + nameOrUnnamed(name), place);
-      look(MemberSubject{at, kind, name, isTaken}, findings_);
+      const Place at(separator + nameOrUnnamed(name), place, member);
+      look(MemberSubject{at, kind, name, isTaken}, report_);
     });
   }
 
   void lookAtOperation(as::IOperation& operation) {
-    const Place place(nameOrUnnamed(operation.getName()));
+    const Place place(nameOrUnnamed(operation.getName()), operation);
     const std::string entryPoint = operation.getAttributeValue("entryPoint");
     const CallInterface* const interface =
         program_ && !entryPoint.empty() ? program_->interfaceOf(entryPoint) : nullptr;
-    look(OperationSubject{place, entryPoint, program(), interface}, findings_);
+    look(OperationSubject{place, entryPoint, program(), interface}, report_);
     for (const Trait& trait : profile_.traitsOf(operation)) {
       if (!trait.code || trait.text.empty()) continue;
       const std::string written = operation.getAttributeValue(trait.attribute.c_str());
-      look(WordSubject{place, trait.attribute, written, trait.text, profile_}, findings_);
+      look(WordSubject{place, trait.attribute, written, trait.text, profile_}, report_);
     }
-    profile_.lint(operation, place, findings_);
+    profile_.lint(operation, place, report_);
     lookAtHiddenParameters(operation, place, interface);
     lookAtParameters(operation.getParameters(), place, interface);
     std::map<std::string, int> numbers;
     for (const Message& message : profile_.messagesOf(operation)) {
       const std::string number = std::to_string(++numbers[message.kind]);
-      const Place at(std::string(", ") + message.kind + " " + number, place);
+      const Place at(std::string(", ") + message.kind + " " + number, place, *message.element);
       lookAtParameters(message.parameters, at, interface);
     }
   }
@@ -123,16 +126,17 @@ class ServiceWalk {
     int number = 0;
     forEachMember<as::IHiddenParameter>(
         operation.getHiddenParameters(), [&](as::IHiddenParameter& hidden) {
-          const Place place(", hidden parameter " + std::to_string(++number), operationPlace);
+          const Place place(", hidden parameter " + std::to_string(++number), operationPlace,
+                            hidden);
           as::IDataItem* item = nullptr;
           if (const std::optional<MappingSubject> mapping = subjectOf(hidden, place)) {
-            look(*mapping, findings_);
+            look(*mapping, report_);
             item = reachedBy(*mapping);
           }
           if (item != nullptr) {
             lookAtStorage(*program_->recordOf(*item), place, as::IParameter::BY_IN, interface);
           }
-          look(HiddenSubject{place, hidden.getValue(), item}, findings_);
+          look(HiddenSubject{place, hidden.getValue(), item}, report_);
         });
   }
 
@@ -141,7 +145,7 @@ class ServiceWalk {
     forEachMember<as::IField>(parameters, [&](as::IField& field) {
       auto* const parameter = as::interface_cast<as::IParameter>(&field);
       const int direction = parameter == nullptr ? as::IParameter::BY_IO : parameter->getByType();
-      const Place at("." + nameOrUnnamed(field.getName()), place);
+      const Place at("." + nameOrUnnamed(field.getName()), place, field);
       lookAtTree(field, at, {direction, interface, std::nullopt});
     });
   }
@@ -156,7 +160,8 @@ class ServiceWalk {
   }
 
   FieldPlace placeBelow(as::IField& field, const FieldPlace& around) {
-    return placeOf(field, Place("." + nameOrUnnamed(field.getName()), around.place), around.tables);
+    return placeOf(field, Place("." + nameOrUnnamed(field.getName()), around.place, field),
+                   around.tables);
   }
 
   // At a parameter or definition with all its fields.
@@ -184,7 +189,7 @@ class ServiceWalk {
     const DataType* const type = isLeaf || hasDataType(field) ? lookAtDataType(at) : nullptr;
     as::IList* const attributes = profile_.attributesOf(field);
     const bool hasAttributes = attributes != nullptr && attributes->getLength() > 0;
-    look(FieldSubject{at.place, field, isLeaf && !hasAttributes, isAttribute}, findings_);
+    look(FieldSubject{at.place, field, isLeaf && !hasAttributes, isAttribute}, report_);
     lookAtMappings(at, isLeaf ? type : nullptr, tree);
     if (!hasAttributes || isAttribute) return;
     lookAtNames<as::IField>(attributes, "field attribute", at.place, ".");
@@ -205,9 +210,9 @@ class ServiceWalk {
     static const std::string attribute = "dataType";
     const DataType* const read = profile_.findDataType(*code);
     const std::string written = at.field.getAttributeValue(attribute.c_str());
-    look(DataTypeSubject{at.place, written, read, profile_}, findings_);
+    look(DataTypeSubject{at.place, written, read, profile_}, report_);
     if (read != nullptr) {
-      look(WordSubject{at.place, attribute, written, read->word, profile_}, findings_);
+      look(WordSubject{at.place, attribute, written, read->word, profile_}, report_);
     }
     return read;
   }
@@ -216,19 +221,21 @@ class ServiceWalk {
     as::IList* const mappings = at.field.getMappings();
     if (mappings->getLength() == 0) return;
     forEachMember<as::IMapping>(mappings, [&](as::IMapping& mapping) {
-      std::optional<MappingSubject> subject = subjectOf(mapping, at.place);
+      // It has no name of its own, but a place in the text.
+      const Place place("", at.place, mapping);
+      std::optional<MappingSubject> subject = subjectOf(mapping, place);
       if (!subject) return;
       subject->profile = &profile_;
       subject->type = type;
       subject->fieldTables = tree.definition ? nullptr : &fieldTables_;
-      look(*subject, findings_);
+      look(*subject, report_);
       as::IDataItem* const item = reachedBy(*subject);
       if (item == nullptr) return;
       as::IDataItem* const record = program_->recordOf(*item);
       if (tree.definition) {
         typeStorage_.addRecord(*tree.definition, *record);
       } else {
-        lookAtStorage(*record, at.place, tree.direction, tree.interface);
+        lookAtStorage(*record, place, tree.direction, tree.interface);
       }
     });
   }
@@ -266,7 +273,7 @@ class ServiceWalk {
   void lookAtStorage(as::IDataItem& record, const Place& place, int direction,
                      const CallInterface* interface) {
     if (!isKnown(interface)) return;
-    look(StorageSubject{place, record, *interface, direction}, findings_);
+    look(StorageSubject{place, record, *interface, direction}, report_);
   }
 
   static bool isKnown(const CallInterface* interface) {
@@ -281,12 +288,13 @@ class ServiceWalk {
     as::IParameter* const target = parameter == nullptr ? nullptr : parameter->getReferenceType();
     const auto found = definitions_.find(target);
     const bool isDefinition = found != definitions_.end();
-    look(ReferenceSubject{place, field, type, target != nullptr,
-                          target == nullptr ? leadOf(type, tree)
-                          : isDefinition && found->second == tree.definition
-                              ? ReferenceSubject::Leads::toItself
-                              : ReferenceSubject::Leads::toAnEarlierOne},
-         findings_);
+    const ReferenceSubject::Leads leads = target == nullptr ? leadOf(type, tree)
+                                          : isDefinition && found->second == tree.definition
+                                              ? ReferenceSubject::Leads::toItself
+                                              : ReferenceSubject::Leads::toAnEarlierOne;
+    look(ReferenceSubject{place, field, type, target != nullptr, leads,
+                          leads == ReferenceSubject::Leads::nowhere ? typeMeant(type) : ""},
+         report_);
     if (!isDefinition) return true;
     if (tree.definition) {
       typeStorage_.addReference(*tree.definition, found->second);
@@ -304,29 +312,36 @@ class ServiceWalk {
                                            : ReferenceSubject::Leads::toALaterOne;
   }
 
+  // The definition of nearly that name; empty when there is none.
+  std::string typeMeant(const std::string& type) {
+    const std::optional<std::size_t> nearest = typeNames_.nearestTo(type);
+    return nearest ? typeNames_[*nearest] : "";
+  }
+
   // At all storage of a type definition, as that of what refers to it.
   void lookAtStorageOf(std::size_t definition, const Place& place, const Tree& tree) {
     const auto isWrong = [&](as::IDataItem& record) {
-      Findings found;
-      look(StorageSubject{place, record, *tree.interface, tree.direction}, found);
-      return !found.empty();
+      LintReport trial = report_.emptyOne();
+      look(StorageSubject{place, record, *tree.interface, tree.direction}, trial);
+      return !trial.findings().empty();
     };
     const TypeStorage::WrongOnes wrong =
         typeStorage_.wrongOnes(definition, *tree.interface, tree.direction, isWrong);
     for (as::IDataItem* const record : wrong.told) {
       const bool hasMore = wrong.areMore && record == wrong.told.back();
-      look(StorageSubject{place, *record, *tree.interface, tree.direction, hasMore}, findings_);
+      look(StorageSubject{place, *record, *tree.interface, tree.direction, hasMore}, report_);
     }
   }
 
   ProgramFacts* program() { return program_ ? &*program_ : nullptr; }
 
   as::IService& service_;
-  Findings& findings_;
+  LintReport& report_;
   const FlavourProfile& profile_;
   std::optional<ProgramFacts> program_;
   std::unordered_map<as::IParameter*, std::size_t> definitions_;  // By their numbers.
   std::unordered_map<std::string, std::size_t> lastOfName_;
+  NearNames typeNames_;
   TypeStorage typeStorage_;
   // The occurrences of the tables that the field at hand stands in, itself included, outermost
   // first.
@@ -335,8 +350,8 @@ class ServiceWalk {
 
 }  // namespace
 
-void lintMembers(as::IService& service, as::IProgram* program, Findings& findings) {
-  ServiceWalk(service, program, findings).run();
+void lintMembers(as::IService& service, as::IProgram* program, LintReport& report) {
+  ServiceWalk(service, program, report).run();
 }
 
 }  // namespace as::toolkit

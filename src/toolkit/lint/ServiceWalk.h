@@ -2,8 +2,6 @@
 #ifndef TOOLKIT_LINT_SERVICEWALK_H_
 #define TOOLKIT_LINT_SERVICEWALK_H_
 
-#include "as/toolkit/Finding.h"
-
 namespace as {
 class IProgram;
 class IService;
@@ -11,9 +9,11 @@ class IService;
 
 namespace as::toolkit {
 
+class LintReport;
+
 // Looks at type definitions and operations, with the program of the service; null when it is
 // unknown. Takes time in proportion to service and program.
-void lintMembers(as::IService& service, as::IProgram* program, Findings& findings);
+void lintMembers(as::IService& service, as::IProgram* program, LintReport& report);
 
 }  // namespace as::toolkit
 

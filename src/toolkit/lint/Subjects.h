@@ -33,6 +33,13 @@ struct DictionarySubject {
   std::string dictionaryName{};  // What the dictionary calls it.
 };
 
+// A comment to lint that is not understood.
+struct CommentSubject {
+  const Place& place;
+  const std::string& problem;
+  const std::string& advice;
+};
+
 // A member of a list.
 struct MemberSubject {
   const Place& place;
@@ -45,7 +52,7 @@ struct MemberSubject {
 struct OperationSubject {
   const Place& place;
   std::string entryPoint;          // Its name, as the document has it.
-  const ProgramFacts* program;     // Null when unknown.
+  ProgramFacts* program;           // Null when unknown.
   const CallInterface* interface;  // Null when the program has no such entry point, or is unknown.
 };
 
@@ -91,6 +98,7 @@ struct ReferenceSubject {
   // Whether the model follows it. It may do so to the definition that the reference stands in.
   bool isFollowed;
   Leads leads;
+  std::string meant;  // The definition with nearly that name, where it leads nowhere; may be empty.
 };
 
 // A mapping to a data item, of a field or of a hidden parameter.

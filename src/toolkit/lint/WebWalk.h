@@ -2,17 +2,16 @@
 #ifndef TOOLKIT_LINT_WEBWALK_H_
 #define TOOLKIT_LINT_WEBWALK_H_
 
-#include "as/toolkit/Finding.h"
-
 namespace as {
 class IWSOperation;
 }
 
 namespace as::toolkit {
 
+class LintReport;
 class Place;
 
-void lintWebOperation(as::IWSOperation& operation, const Place& place, Findings& findings);
+void lintWebOperation(as::IWSOperation& operation, const Place& place, LintReport& report);
 
 }  // namespace as::toolkit
 

@@ -6,6 +6,8 @@ namespace as::toolkit {
 
 std::string quote(const std::string& text) { return "'" + text + "'"; }
 
+std::string didYouMean(const std::string& name) { return "did you mean " + quote(name) + "?"; }
+
 std::string dotted(const std::vector<std::string>& names) {
   std::string path;
   for (std::size_t i = 0; i < names.size(); ++i) {

@@ -14,6 +14,9 @@ namespace as::toolkit {
 // 'text'
 std::string quote(const std::string& text);
 
+// "did you mean 'name'?"
+std::string didYouMean(const std::string& name);
+
 // The names with periods between: RECORD.GROUP.ITEM.
 std::string dotted(const std::vector<std::string>& names);
 

@@ -1,6 +1,9 @@
 #include "as/toolkit/Text.h"
 
 #include <cstddef>
+#include <nlohmann/json.hpp>
+
+#include "toolkit/text/NearNames.h"
 
 namespace as::toolkit {
 
@@ -39,6 +42,18 @@ std::string printable(std::string_view text) {
 
 std::string count(std::size_t number, const char* what) {
   return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
+}
+
+std::string jsonText(std::string_view text) {
+  using nlohmann::json;
+  return json(text).dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
+std::string nearestName(const std::string& name, const std::vector<std::string>& names) {
+  NearNames near;
+  for (const std::string& known : names) near.add(known);
+  const std::optional<std::size_t> nearest = near.nearestTo(name);
+  return nearest ? names[*nearest] : "";
 }
 
 }  // namespace as::toolkit

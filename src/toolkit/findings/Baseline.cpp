@@ -1,0 +1,105 @@
+#include "as/toolkit/Baseline.h"
+
+#include <cerrno>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <system_error>
+#include <utility>
+
+#include "as/toolkit/DocumentReader.h"
+#include "as/toolkit/Files.h"
+#include "toolkit/io/Bytes.h"
+#include "toolkit/render/JsonWriter.h"
+
+namespace as::toolkit {
+
+namespace {
+
+using nlohmann::json;
+
+// What the file calls itself, with the version of what is in it.
+constexpr char kind[] = "agentservices lint baseline 1";
+
+std::string textIn(const json& object, const char* key) {
+  const auto found = object.find(key);
+  return found != object.end() && found->is_string() ? found->get<std::string>() : "";
+}
+
+bool isBaseline(const json& content) {
+  return content.is_object() && textIn(content, "kind") == kind && content.contains("findings") &&
+         content["findings"].is_array();
+}
+
+}  // namespace
+
+Baseline::Baseline(std::string file) : file_(std::move(file)) {}
+Baseline::~Baseline() = default;
+
+void Baseline::read() {
+  std::string text;
+  errno = 0;
+  if (!readRegularFile(file_, text)) {
+    const std::string reason =
+        errno == 0 ? "it is no file" : std::generic_category().message(errno);
+    throw RefusedDocument({file_, 0, 0, "cannot be read: " + reason, ""});
+  }
+  const json content = json::parse(text, nullptr, false);
+  if (!isBaseline(content)) {
+    throw RefusedDocument({file_, 0, 0, "not a baseline of findings", "write a new one"});
+  }
+  for (const json& row : content["findings"]) {
+    if (!row.is_object()) continue;
+    const auto count = row.find("count");
+    const bool isCounted = count != row.end() && count->is_number_unsigned();
+    counts_[{textIn(row, "file"), textIn(row, "rule"), textIn(row, "place")}] +=
+        isCounted ? count->get<std::size_t>() : 1;
+  }
+}
+
+void Baseline::add(const std::string& document, const Finding& finding) {
+  ++counts_[keyOf(document, finding)];
+}
+
+bool Baseline::take(const std::string& document, const Finding& finding) {
+  const auto found = counts_.find(keyOf(document, finding));
+  if (found == counts_.end() || found->second == 0) return false;
+  --found->second;
+  return true;
+}
+
+std::size_t Baseline::left() const {
+  std::size_t all = 0;
+  for (const auto& [key, number] : counts_) all += number;
+  return all;
+}
+
+void Baseline::write() const {
+  std::ostringstream out;
+  JsonWriter writer(out);
+  writer.beginObject();
+  writer.member("kind", kind);
+  writer.key("findings");
+  writer.beginArray();
+  for (const auto& [key, number] : counts_) {
+    writer.beginObject();
+    writer.member("file", std::get<0>(key));
+    writer.member("rule", std::get<1>(key));
+    writer.member("place", std::get<2>(key));
+    writer.member("count", number);
+    writer.end();
+  }
+  writer.end();
+  writer.end();
+  replaceFile(file_, out.str());
+}
+
+Baseline::Key Baseline::keyOf(const std::string& document, const Finding& finding) {
+  if (seen_.empty() || document != document_) {
+    document_ = document;
+    // Standard input has no folder.
+    seen_ = document == "-" ? document : nameSeenFrom(file_, document);
+  }
+  return {seen_, finding.rule, finding.place};
+}
+
+}  // namespace as::toolkit

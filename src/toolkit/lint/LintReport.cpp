@@ -1,0 +1,30 @@
+#include "toolkit/lint/LintReport.h"
+
+namespace as::toolkit {
+
+void LintReport::add(const LintRule& rule, const Place& place, const std::string& problem,
+                     const std::string& advice) {
+  const as::IElement* const object = place.object();
+  const std::size_t element = frame_.outline == nullptr || object == nullptr
+                                  ? DocumentOutline::none
+                                  : frame_.outline->elementOf(*object);
+  const RuleSetting* const setting = settingFor(rule, element);
+  if (setting != nullptr && !setting->severity) return;
+  const Severity severity = setting != nullptr ? *setting->severity : rule.severity;
+  const TextPlace& at = element == DocumentOutline::none
+                            ? place.inText()
+                            : frame_.outline->document().elements()[element].place;
+  findings_.push_back({rule.id, severity, place.text(), problem, advice, at.line, at.column});
+}
+
+const RuleSetting* LintReport::settingFor(const LintRule& rule, std::size_t element) const {
+  // The document's own word is the nearer one.
+  if (frame_.comments != nullptr && element != DocumentOutline::none) {
+    if (const RuleSetting* const said = frame_.comments->find(rule.id, element)) return said;
+  }
+  if (frame_.settings == nullptr) return nullptr;
+  const auto found = frame_.settings->find(rule.id);
+  return found == frame_.settings->end() ? nullptr : &found->second;
+}
+
+}  // namespace as::toolkit

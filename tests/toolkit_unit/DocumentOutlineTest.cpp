@@ -1,0 +1,70 @@
+// Tests of outlines of documents that the library would refuse: nothing comes of them, whatever
+// they are.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "toolkit/outline/DocumentOutline.h"
+
+namespace {
+
+using as::toolkit::DocumentOutline;
+
+TEST(DocumentOutline, KnowsElementsAndComments) {
+  const DocumentOutline outline("<x:a><!--c--><b/><c><![CDATA[<no>]]><b></b></c></x:a><!--d-->");
+  ASSERT_EQ(outline.elements().size(), 4U);
+  EXPECT_EQ(outline.elements()[0].name, "a");
+  EXPECT_EQ(outline.elements()[0].end, 4U);
+  EXPECT_EQ(outline.elements()[3].parent, 2U);
+  EXPECT_EQ(outline.childrenOf(0, "b").size(), 1U);
+  EXPECT_EQ(outline.childOf(0, "c"), 2U);
+  EXPECT_EQ(outline.childOf(0, "d"), DocumentOutline::none);
+  EXPECT_EQ(outline.childOf(DocumentOutline::none, "d"), DocumentOutline::none);
+  ASSERT_EQ(outline.comments().size(), 2U);
+  EXPECT_EQ(outline.comments()[0].text, "c");
+  EXPECT_EQ(outline.comments()[0].next, 1U);
+  EXPECT_EQ(outline.comments()[1].parent, DocumentOutline::none);
+}
+
+TEST(DocumentOutline, HasNothingOfWhatIsNoDocument) {
+  for (const char* const text : {"",
+                                 "<",
+                                 "</a>",
+                                 "<a>",
+                                 "<a></a></a>",
+                                 "<a",
+                                 "<a b='>",
+                                 "<!--",
+                                 "<a><![CDATA[</a>",
+                                 "<?a",
+                                 "<!DOCTYPE",
+                                 "<!DOCTYPE a [",
+                                 "<!DOCTYPE a [<!ENTITY",
+                                 "<!DOCTYPE a [<!ENTITY b \"",
+                                 "<!DOCTYPE a [ <",
+                                 "<!DOCTYPE a [%b;",
+                                 "<a>&",
+                                 "<a>&b",
+                                 "\xFF\xFE<",
+                                 "\x4C\x6F\xA7\x94",
+                                 "<?xml version='1.0' encoding='none such'?><a/>",
+                                 "<?xml encoding='",
+                                 "<?xml encoding="}) {
+    EXPECT_TRUE(DocumentOutline(text).elements().empty()) << text;
+    EXPECT_TRUE(DocumentOutline(text).comments().empty()) << text;
+  }
+}
+
+TEST(DocumentOutline, EndsWithEntitiesThatDoNot) {
+  for (const char* const entities :
+       {"<!ENTITY e '&e;'>", "<!ENTITY e '&f;'><!ENTITY f '&e;&e;'>", "<!ENTITY e '<b>'>",
+        "<!ENTITY e '</a>'>", "<!ENTITY e '&#60;'>", "<!ENTITY e '&#x110000;&#99999999999;&#<'>"}) {
+    const DocumentOutline outline("<!DOCTYPE a [" + std::string(entities) + "]><a>&e;</a>");
+    EXPECT_LE(outline.elements().size(), 1U) << entities;
+  }
+  std::string many = "<!DOCTYPE a [<!ENTITY e '<b/>'>]><a>";
+  for (int i = 0; i < 1001; ++i) many += "&e;";
+  EXPECT_TRUE(DocumentOutline(many + "</a>").elements().empty());
+}
+
+}  // namespace
