@@ -4,49 +4,85 @@
 
 namespace cli {
 
+namespace {
+
+constexpr char anyText[] = "TEXT";
+
+}  // namespace
+
+Argument& Arguments::note(const char* name, const char* value, const char* help) {
+  Argument argument;
+  argument.names = name;
+  argument.value = value;
+  argument.help = help;
+  return table_.emplace_back(std::move(argument));
+}
+
 void Arguments::required(const char* name, std::string& value, const char* help) {
   app_.add_option(name, value, help)->required();
+  note(name, name, help).isRequired = true;
+}
+
+void Arguments::required(const char* name, std::string& value,
+                         const std::vector<std::string>& words, const char* help) {
+  app_.add_option(name, value, help)->required()->check(CLI::IsMember(words));
+  Argument& argument = note(name, name, help);
+  argument.isRequired = true;
+  argument.words = words;
 }
 
 void Arguments::required(const char* name, std::vector<std::string>& values, const char* help) {
   app_.add_option(name, values, help)->required();
+  Argument& argument = note(name, name, help);
+  argument.isRequired = true;
+  argument.isRepeated = true;
 }
 
 void Arguments::requiredOption(const char* name, std::string& value, const char* help) {
   app_.add_option(name, value, help)->required();
+  note(name, anyText, help).isRequired = true;
 }
 
 void Arguments::requiredOption(const char* name, std::string& value,
                                const std::vector<std::string>& words, const char* help) {
   app_.add_option(name, value, help)->required()->check(CLI::IsMember(words));
+  Argument& argument = note(name, anyText, help);
+  argument.isRequired = true;
+  argument.words = words;
 }
 
 void Arguments::option(const char* name, std::string& value, const char* help) {
   app_.add_option(name, value, help);
+  note(name, anyText, help);
 }
 
 void Arguments::option(const char* name, std::optional<std::string>& value, const char* type,
                        const char* help) {
   app_.add_option(name, value, help)->type_name(type);
+  note(name, type, help);
 }
 
 void Arguments::option(const char* name, std::string& value, const std::vector<std::string>& words,
                        const char* help) {
   app_.add_option(name, value, help)->check(CLI::IsMember(words));
+  note(name, anyText, help).words = words;
 }
 
 void Arguments::option(const char* name, std::size_t& value, const char* help) {
   constexpr std::size_t most = 1000;
   app_.add_option(name, value, help)->check(CLI::Range(std::size_t{1}, most));
+  note(name, "NUMBER", help);
 }
 
 void Arguments::list(const char* name, std::vector<std::string>& values, const char* type,
                      const char* help) {
   app_.add_option(name, values, help)->delimiter(',')->allow_extra_args(false)->type_name(type);
+  note(name, type, help).isRepeated = true;
 }
 
 void Arguments::flag(const char* name, bool& value, const char* help) {
   app_.add_flag(name, value, help);
+  note(name, "", help);
 }
 
 void Arguments::insteadOf(std::initializer_list<const char*> others, const char* name, bool& value,
@@ -58,6 +94,7 @@ void Arguments::insteadOf(std::initializer_list<const char*> others, const char*
     for (CLI::Option* const option : replaced) option->required(false);
   };
   app_.add_flag_callback(name, given, help);
+  note(name, "", help);
 }
 
 }  // namespace cli

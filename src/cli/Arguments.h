@@ -15,15 +15,31 @@ class App;
 
 namespace cli {
 
+// What was declared, for help in other forms.
+struct Argument {
+  std::string names;               // "-o,--output", or a name without a dash for a plain one.
+  std::string value;               // What the value is called; empty for a flag.
+  std::vector<std::string> words;  // What the value may be; empty for anything.
+  std::string help;
+  bool isRequired = false;
+  bool isRepeated = false;  // Whether there may be several.
+
+  bool isOption() const { return names.front() == '-'; }
+};
+
 // The part of the command line that belongs to one command, or to the tool. Values are written to
 // where they are wanted as the command line is read; what they are written to must still be there
 // then.
 class Arguments {
  public:
-  explicit Arguments(CLI::App& app) : app_(app) {}
+  // What is declared is noted in `table`, too.
+  Arguments(CLI::App& app, std::vector<Argument>& table) : app_(app), table_(table) {}
 
   // A name that must be given; or that must be given unless a flag declared with insteadOf() is.
   void required(const char* name, std::string& value, const char* help);
+  // One of these words.
+  void required(const char* name, std::string& value, const std::vector<std::string>& words,
+                const char* help);
   // One name or more.
   void required(const char* name, std::vector<std::string>& values, const char* help);
   // "--name VALUE", which must be given.
@@ -48,7 +64,10 @@ class Arguments {
                  const char* help);
 
  private:
+  Argument& note(const char* name, const char* value, const char* help);
+
   CLI::App& app_;
+  std::vector<Argument>& table_;
 };
 
 }  // namespace cli

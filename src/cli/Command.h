@@ -18,10 +18,14 @@ namespace cli {
 namespace toolkit = as::toolkit;
 
 // What the tool's process answers.
-inline constexpr int exitFine = 0;
-// A document was refused or has errors, or the output failed.
-inline constexpr int exitRefused = 1;
-inline constexpr int exitUsage = 2;
+#define AS_EXIT_CODE(name, number, text) inline constexpr int name = number;
+#include "cli/ExitCodes.def"
+
+// A call of a command, and what it is for.
+struct Example {
+  const char* arguments;  // What stands behind the tool's name: "show MOTPREM.xml".
+  const char* text;       // One line.
+};
 
 class Command {
  public:
@@ -32,6 +36,9 @@ class Command {
 
   const char* name() const { return name_; }
   const char* summary() const { return summary_; }
+
+  // Calls that show what it is for; help and manual tell them.
+  virtual std::vector<Example> examples() const { return {}; }
 
   // Tells what the command takes.
   virtual void declare(Arguments& arguments) = 0;
@@ -49,6 +56,12 @@ class Command {
 #define AS_COMMAND(name) std::unique_ptr<Command> name##Command();
 #include "cli/Commands.def"
 #undef AS_COMMAND
+
+struct CommandTable;
+
+// Those that tell about the others. The table must outlive them.
+std::unique_ptr<Command> completionCommand(const CommandTable& table);
+std::unique_ptr<Command> manualCommand(const CommandTable& table);
 
 // Runs `work` with a reader for the schema directory in use, and tells what was refused. Returns
 // the exit code.

@@ -14,10 +14,16 @@ class Convert : public Command {
  public:
   Convert() : Command("convert", "Carry a service over to another flavour") {}
 
+  std::vector<Example> examples() const override {
+    return {
+        {"convert --flavour ws quotes.xml -o quotes-ws.xml", "make a Web service of a Java one"}};
+  }
+
   void declare(Arguments& arguments) override {
     arguments.required("SERVICE", file_, "The service");
     addFlavourOption(arguments, flavour_);
     addOutputOption(arguments, output_);
+    arguments.flag("-q,--quiet", isQuiet_, "Say only what is wrong");
   }
 
   int run(const std::optional<std::string>& schemas) override {
@@ -25,6 +31,7 @@ class Convert : public Command {
       const toolkit::Flavour& flavour = *toolkit::findFlavour(flavour_);
       const toolkit::ConvertedService converted =
           toolkit::convertServiceFile(reader, file_, output_, flavour);
+      if (isQuiet_) return exitFine;
       printFindings(output_, converted.notes);
       std::cout << toolkit::printable(output_) << ": " << converted.from->name << " service made a "
                 << flavour.name << " service\n";
@@ -36,6 +43,7 @@ class Convert : public Command {
   std::string file_;
   std::string flavour_;
   std::string output_;
+  bool isQuiet_ = false;
 };
 
 }  // namespace

@@ -1,8 +1,6 @@
 // agentservices import: makes data dictionaries from COBOL sources.
 #include "as/toolkit/Import.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
@@ -13,6 +11,7 @@
 #include "as/toolkit/Text.h"
 #include "cli/Command.h"
 #include "cli/Messages.h"
+#include "cli/Progress.h"
 #include "cli/Workers.h"
 
 namespace cli {
@@ -21,12 +20,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Beyond so many sources a terminal is told how far the work is.
-constexpr std::size_t fewSources = 10;
-
 class Import : public Command {
  public:
   Import() : Command("import", "Make data dictionaries from COBOL sources") {}
+
+  std::vector<Example> examples() const override {
+    return {{"import MOTPREM.cbl -o MOTPREM.xml", "make a dictionary of a source"},
+            {"import -I copybooks --jobs 4 sources -o dictionaries", "make those of a folder"},
+            {"import MOTPREM.cbl -o MOTPREM.xml --explain LK-PREMIUM",
+             "tell how the size and place of an item came about"}};
+  }
 
   void declare(Arguments& arguments) override {
     arguments.required("FILE", files_,
@@ -48,6 +51,7 @@ class Import : public Command {
     arguments.option("--explain", explained_, "ITEM",
                      "Print how size and place of an item came about");
     arguments.option("--jobs", jobs_, "Work in so many processes; 1 unless told");
+    arguments.flag("-q,--quiet", isQuiet_, "Say only what is wrong");
   }
 
   int run(const std::optional<std::string>&) override {
@@ -55,11 +59,14 @@ class Import : public Command {
     options_.format = formatOf(format_);
     options_.pointerSize = pointerSize_.empty() ? 0 : pointerSize_ == "4" ? 4 : 8;
     bool isFine = true;
+    const Progress progress(tasks_.size(), isQuiet_);
     workThrough(
         tasks_.size(), jobs_, [this](std::size_t task) { return import(tasks_[task]); },
         [&](std::size_t task, const WorkOutcome& outcome) {
           isFine = isFine && outcome.isFine;
+          progress.clear();
           tell(task, outcome);
+          progress.show(task + 1);
         });
     return isFine ? exitFine : exitRefused;
   }
@@ -126,6 +133,7 @@ class Import : public Command {
           toolkit::importCobolFile(task.source, task.output, folders_, options_);
       outcome.isFine = countOf(file.imported.findings, toolkit::Severity::error) == 0;
       for (const toolkit::ImportFinding& finding : file.imported.findings) {
+        if (isQuiet_ && finding.severity == toolkit::Severity::note) continue;
         outcome.messages += lines(textOf(finding));
       }
       if (explained_) explain(file.imported, outcome);
@@ -160,18 +168,11 @@ class Import : public Command {
   }
 
   void tell(std::size_t task, const WorkOutcome& outcome) const {
-    const bool isWatched = tasks_.size() > fewSources && ::isatty(STDERR_FILENO) != 0;
-    // The line that tells the progress is written over.
-    if (isWatched) std::cerr << "\r\x1B[K";
     std::cerr << outcome.messages;
     std::cout << outcome.results;
     if (!outcome.isFine && outcome.messages.empty()) {
       std::cerr << toolkit::printable(tasks_[task].source)
                 << ": error: the import came to no end\n";
-    }
-    if (isWatched) {
-      std::cerr << task + 1 << " of " << tasks_.size() << (task + 1 == tasks_.size() ? "\n" : "");
-      std::cerr.flush();
     }
   }
 
@@ -182,6 +183,7 @@ class Import : public Command {
   std::string pointerSize_;
   std::optional<std::string> explained_;
   std::size_t jobs_ = 1;
+  bool isQuiet_ = false;
   toolkit::ImportOptions options_;
   std::vector<Task> tasks_;
   bool isFolder_ = false;  // Whether the output is one.

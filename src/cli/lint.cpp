@@ -1,4 +1,4 @@
-// agentservices lint: finds what is broken in a service.
+// agentservices lint: finds what is broken in services.
 #include "as/toolkit/Lint.h"
 
 #include <algorithm>
@@ -6,9 +6,17 @@
 #include <cstring>
 #include <iomanip>
 #include <iostream>
+#include <memory>
+#include <utility>
 
+#include "as/toolkit/Baseline.h"
+#include "as/toolkit/Files.h"
 #include "as/toolkit/Text.h"
 #include "cli/Command.h"
+#include "cli/FindingsReport.h"
+#include "cli/Inputs.h"
+#include "cli/Messages.h"
+#include "cli/Parcel.h"
 
 namespace cli {
 
@@ -28,15 +36,81 @@ void printRules() {
   }
 }
 
+std::vector<toolkit::RuleDescription> ruleDescriptions() {
+  std::vector<toolkit::RuleDescription> all;
+  for (const toolkit::LintRule& rule : toolkit::lintRules()) {
+    const std::string id = rule.id;
+    all.push_back({id, rule.severity, rule.summary,
+                   "Wanted: " + std::string(rule.summary) +
+                       ". Where this is not meant, switch the rule off: for a run with --rule " +
+                       id + "=off, for an element by a comment in front of it, <!-- lint: off " +
+                       id + " -->."});
+  }
+  return all;
+}
+
+// What was found in one service, or in several.
+struct Tally {
+  std::size_t documents = 0;
+  std::size_t refused = 0;
+  std::size_t passedOver = 0;
+  std::size_t errors = 0;
+  std::size_t warnings = 0;
+  std::size_t known = 0;  // Findings of the baseline.
+
+  void add(const Tally& other) {
+    documents += other.documents;
+    refused += other.refused;
+    passedOver += other.passedOver;
+    errors += other.errors;
+    warnings += other.warnings;
+    known += other.known;
+  }
+
+  bool isClean() const { return errors == 0 && warnings == 0; }
+  bool isFine() const { return errors == 0 && refused == 0; }
+};
+
+// "1 error, 2 warnings", "clean"; and what else there is to tell.
+std::string textOf(const Tally& tally) {
+  std::string text = tally.isClean() && tally.refused == 0
+                         ? "clean"
+                         : toolkit::count(tally.errors, "error") + ", " +
+                               toolkit::count(tally.warnings, "warning");
+  if (tally.known > 0) text += ", " + std::to_string(tally.known) + " known";
+  if (tally.refused > 0) text += ", " + std::to_string(tally.refused) + " refused";
+  if (tally.passedOver > 0) text += ", " + std::to_string(tally.passedOver) + " no services";
+  return text;
+}
+
+// How looking at a document ended.
+enum class Ending : std::size_t { lost, looked, refused };
+
 class Lint : public Command {
  public:
-  Lint() : Command("lint", "Find what is broken in a service") {}
+  Lint() : Command("lint", "Find what is broken in services") {}
+
+  std::vector<Example> examples() const override {
+    return {{"lint quotes.xml", "look at a service with the dictionary that it names"},
+            {"lint --recursive --jobs 4 services", "look at all services in a folder"},
+            {"lint --format sarif -r . > lint.sarif", "for code review and continuous integration"},
+            {"lint --write-baseline known.json -r .", "begin with what there is, and from then on"},
+            {"lint --baseline known.json -r .", "tell only what is new"},
+            {"lint --rule narrow-data-type=off,same-name=warning quotes.xml", "judge otherwise"}};
+  }
 
   void declare(Arguments& arguments) override {
-    arguments.required("SERVICE", file_, "The service");
+    inputs_.declare(arguments, "SERVICE");
     arguments.option(
-        "--dictionary", dictionary_, "FILE",
-        "The data dictionary of the program, in place of the one that the service names");
+        "--dictionary", options_.dictionary, "FILE",
+        "The data dictionary of the program, in place of the one that the services name");
+    arguments.list("--rule", settings_, "ID=WORD,...",
+                   "What is to become of a rule's findings: off, note, warning or error");
+    arguments.option("--baseline", baseline_, "FILE", "Do not tell the findings in this file");
+    arguments.option("--write-baseline", writtenBaseline_, "FILE",
+                     "Write the findings to this file, for --baseline, and tell none");
+    report_.declare(arguments);
+    output_.declare(arguments);
     arguments.insteadOf(
         {"SERVICE"}, "--rules", rules_,
         "Print what is looked for, with the names of the rules, and look at nothing");
@@ -47,26 +121,132 @@ class Lint : public Command {
       printRules();
       return exitFine;
     }
-    return withReader(schemas, [this](const toolkit::DocumentReader& reader) {
-      const toolkit::Findings findings = toolkit::lintFile(reader, file_, dictionary_);
-      printFindings(file_, findings);
-      const std::size_t errors = countOf(findings, toolkit::Severity::error);
-      const std::size_t warnings = countOf(findings, toolkit::Severity::warning);
-      std::cout << toolkit::printable(file_) << ": ";
-      if (errors == 0 && warnings == 0) {
-        std::cout << "clean\n";
-      } else {
-        std::cout << toolkit::count(errors, "error") << ", " << toolkit::count(warnings, "warning")
-                  << "\n";
-      }
-      return errors == 0 ? exitFine : exitRefused;
-    });
+    if (!readSettings()) return exitUsage;
+    return withReader(schemas,
+                      [this](const toolkit::DocumentReader& reader) { return lint(reader); });
   }
 
  private:
-  std::string file_;
-  std::optional<std::string> dictionary_;
+  // False, with a message, when one of them says nothing.
+  bool readSettings() {
+    for (const std::string& text : settings_) {
+      const std::size_t equals = std::min(text.find('='), text.size());
+      const std::string id = text.substr(0, equals);
+      const toolkit::RuleSetting* const setting =
+          toolkit::findRuleSetting(text.substr(std::min(equals + 1, text.size())));
+      if (toolkit::findLintRule(id) == nullptr) {
+        const std::string near = toolkit::nearestLintRule(id);
+        printError("--rule: there is no rule '" + id + "'" +
+                   (near.empty() ? "; lint --rules lists them" : "; did you mean '" + near + "'?"));
+        return false;
+      }
+      if (setting == nullptr) {
+        printError("--rule: write " + id + "=off, =note, =warning or =error");
+        return false;
+      }
+      options_.rules.insert_or_assign(id, *setting);
+    }
+    return true;
+  }
+
+  int lint(const toolkit::DocumentReader& reader) {
+    if (baseline_) {
+      known_ = std::make_unique<toolkit::Baseline>(*baseline_);
+      known_->read();
+    }
+    if (writtenBaseline_) written_ = std::make_unique<toolkit::Baseline>(*writtenBaseline_);
+    const bool isFound = inputs_.find();
+    report_.begin(output_, ruleDescriptions());
+    Tally all;
+    inputs_.workThrough(
+        output_, [&](const Input& input) { return look(reader, input); },
+        [&](const Input& input, const WorkOutcome& outcome) { all.add(tell(input, outcome)); });
+    report_.end();
+    if (report_.isText() && !output_.isQuiet()) summarise(all);
+    if (!writtenBaseline_) return all.isFine() && isFound ? exitFine : exitRefused;
+    written_->write();
+    return all.refused == 0 && isFound ? exitFine : exitRefused;
+  }
+
+  WorkOutcome look(const toolkit::DocumentReader& reader, const Input& input) const {
+    Parcel parcel;
+    try {
+      const toolkit::Findings findings = toolkit::lintDocument(reader, input.source, options_);
+      parcel.put(static_cast<std::size_t>(Ending::looked));
+      parcel.put(findings.size());
+      for (const toolkit::Finding& finding : findings) parcel.put(finding);
+    } catch (const toolkit::RefusedDocument& refused) {
+      parcel.put(static_cast<std::size_t>(Ending::refused));
+      parcel.put(refused.refusal());
+    }
+    return {true, "", parcel.take()};
+  }
+
+  Tally tell(const Input& input, const WorkOutcome& outcome) {
+    OpenedParcel parcel(outcome.results);
+    const std::string& file = input.source.name;
+    Tally tally;
+    switch (static_cast<Ending>(parcel.number())) {
+      case Ending::looked:
+        tally.documents = 1;
+        for (std::size_t left = parcel.number(); left > 0; --left) {
+          tell(file, parcel.finding(), tally);
+        }
+        if (report_.isText() && !output_.isQuiet()) {
+          std::cout << toolkit::printable(file) << ": " << textOf(tally) << "\n";
+        }
+        return tally;
+      case Ending::refused: {
+        const toolkit::Refusal refusal = parcel.refusal();
+        if (input.isSearched && refusal.isOfAnotherKind) {
+          tally.passedOver = 1;
+          return tally;
+        }
+        report_.add(refusal);
+        break;
+      }
+      default:
+        report_.add(toolkit::Refusal{file, 0, 0, "looking at it came to no end", ""});
+    }
+    tally.documents = 1;
+    tally.refused = 1;
+    return tally;
+  }
+
+  void tell(const std::string& file, const toolkit::Finding& finding, Tally& tally) {
+    const bool isKnown = known_ && known_->take(file, finding);
+    if (written_) written_->add(file, finding);
+    if (isKnown || written_) {
+      ++tally.known;
+      return;
+    }
+    if (finding.severity == toolkit::Severity::error) ++tally.errors;
+    if (finding.severity == toolkit::Severity::warning) ++tally.warnings;
+    report_.add(file, finding);
+  }
+
+  // Behind the lines of several services.
+  void summarise(const Tally& all) const {
+    if (inputs_.areSeveral()) {
+      std::cout << toolkit::count(all.documents, "service") << ": " << textOf(all) << "\n";
+    }
+    if (known_ && known_->left() > 0) {
+      std::cout << toolkit::printable(*baseline_) << ": "
+                << toolkit::count(known_->left(), "finding")
+                << " of it not found any more; write it anew\n";
+    }
+  }
+
+  Inputs inputs_;
+  toolkit::LintOptions options_;
+  std::vector<std::string> settings_;
+  std::optional<std::string> baseline_;
+  std::optional<std::string> writtenBaseline_;
+  FindingsReport report_;
+  Output output_;
   bool rules_ = false;
+  std::unique_ptr<toolkit::Baseline> known_;
+  std::unique_ptr<toolkit::Baseline> written_;
 };
 
 }  // namespace

@@ -3,12 +3,18 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <exception>
-#include <utility>
+#include <iostream>
+#include <string>
+#include <vector>
 
+#include "as/toolkit/Text.h"
+#include "as/toolkit/Version.h"
 #include "cli/Command.h"
+#include "cli/CommandTable.h"
 #include "cli/Messages.h"
 
 namespace cli {
@@ -22,35 +28,74 @@ constexpr std::unique_ptr<Command> (*commands[])() = {
 #undef AS_COMMAND
 };
 
+// "Examples:" with a line for each call and one for what it does.
+std::string examplesOf(const Command& command) {
+  std::string text;
+  for (const Example& example : command.examples()) {
+    text += text.empty() ? "Examples:\n" : "\n";
+    text += std::string("  agentservices ") + example.arguments + "\n      " + example.text;
+  }
+  return text;
+}
+
+std::string exitCodesText() {
+  std::string text = "Exit codes:";
+  for (const ExitCode& code : exitCodes()) {
+    text += "\n  " + std::to_string(code.number) + "  " + code.text;
+  }
+  return text;
+}
+
+// What else is to be said when the command line is wrong: the command that may have been meant.
+void suggestCommand(int argc, char** argv, const CommandTable& table) {
+  std::vector<std::string> names;
+  for (const CommandEntry& entry : table.commands) names.emplace_back(entry.command->name());
+  if (argc < 2 || argv[1][0] == '-') return;
+  if (std::find(names.begin(), names.end(), argv[1]) != names.end()) return;
+  const std::string near = toolkit::nearestName(argv[1], names);
+  if (!near.empty()) std::cerr << "Did you mean '" << near << "'?\n";
+}
+
+std::string versionText() {
+  return std::string("agentservices " AS_TOOL_VERSION " (library ") + toolkit::toolkitVersion() +
+         ", " + toolkit::parserVersion() + ")";
+}
+
 int run(int argc, char** argv) {
-  CLI::App app(
+  CommandTable table;
+  table.name = "agentservices";
+  table.summary =
       "Shows and checks XML data dictionaries of COBOL programs, and shows, checks and makes "
-      "service definitions.",
-      "agentservices");
-  app.set_version_flag("--version", "agentservices " AS_TOOL_VERSION);
+      "service definitions.";
+  CLI::App app(table.summary, table.name);
+  app.set_version_flag("--version", versionText());
   app.require_subcommand(1);
-  app.footer(
-      "Exit codes: 0 fine, 1 a document was refused or has errors, or the output failed, 2 wrong "
-      "usage.");
+  app.footer("agentservices COMMAND --help tells of a command, with examples.\n\n" +
+             exitCodesText());
   std::optional<std::string> schemas;
-  Arguments forAll(app);
+  Arguments forAll(app, table.arguments);
   addSchemasOption(forAll, schemas);
-  std::vector<std::pair<CLI::App*, std::unique_ptr<Command>>> known;
-  for (const auto make : commands) {
-    std::unique_ptr<Command> command = make();
-    CLI::App* const part = app.add_subcommand(command->name(), command->summary());
-    Arguments arguments(*part);
-    command->declare(arguments);
+  for (const auto make : commands) table.commands.push_back({make(), {}});
+  table.commands.push_back({completionCommand(table), {}});
+  table.commands.push_back({manualCommand(table), {}});
+  std::vector<CLI::App*> parts;
+  for (CommandEntry& entry : table.commands) {
+    CLI::App* const part = app.add_subcommand(entry.command->name(), entry.command->summary());
+    part->footer(examplesOf(*entry.command));
+    Arguments arguments(*part, entry.arguments);
+    entry.command->declare(arguments);
     addSchemasOption(arguments, schemas);
-    known.emplace_back(part, std::move(command));
+    parts.push_back(part);
   }
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& failure) {
-    return app.exit(failure) == 0 ? exitFine : exitUsage;
+    if (app.exit(failure) == 0) return exitFine;
+    suggestCommand(argc, argv, table);
+    return exitUsage;
   }
-  for (const auto& [part, command] : known) {
-    if (part->parsed()) return command->run(schemas);
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    if (parts[i]->parsed()) return table.commands[i].command->run(schemas);
   }
   return exitUsage;
 }

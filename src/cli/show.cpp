@@ -1,60 +1,134 @@
-// agentservices show: prints a document, as a tree or as JSON.
+// agentservices show: prints documents, as trees or as JSON.
+#include <cstddef>
 #include <iostream>
+#include <sstream>
 
 #include "as/toolkit/Render.h"
+#include "as/toolkit/Text.h"
 #include "cli/Command.h"
+#include "cli/Inputs.h"
+#include "cli/Messages.h"
+#include "cli/Parcel.h"
 
 namespace cli {
 
 namespace {
 
+// How showing a document ended.
+enum class Ending : std::size_t { lost, shown, refused };
+
 class Show : public Command {
  public:
-  Show() : Command("show", "Print a data dictionary or a service as a tree") {}
+  Show() : Command("show", "Print data dictionaries and services as trees") {}
+
+  std::vector<Example> examples() const override {
+    return {{"show MOTPREM.xml", "print a data dictionary as a tree"},
+            {"show --program quotes.xml", "print a service with the data items it is mapped to"},
+            {"show --json MOTPREM.xml", "print everything the model answers, for programs"},
+            {"show -r .", "print all documents in a folder"}};
+  }
 
   void declare(Arguments& arguments) override {
-    arguments.required("FILE", file_, "The document");
+    inputs_.declare(arguments, "FILE");
     arguments.flag("--json", json_, "Print everything the model answers, as JSON");
-    arguments.flag("--program", withProgram_,
-                   "Show a service with the data items of its program, read from the dictionary "
-                   "that it names");
+    arguments.flag(
+        "--program", withProgram_,
+        "Show services with the data items of their programs, read from the dictionaries "
+        "that they name");
+    output_.declare(arguments);
   }
 
   int run(const std::optional<std::string>& schemas) override {
     return withReader(schemas, [this](const toolkit::DocumentReader& reader) {
-      toolkit::Document document = reader.read(file_);
-      if (document.dictionary) {
-        render(*document.dictionary);
-      } else {
-        if (withProgram_) document.service = complete(reader, *document.service);
-        render(*document.service);
+      isFine_ = inputs_.find();
+      if (inputs_.all().size() == 1 && !inputs_.all().front().isSearched) {
+        // Piece by piece: it may be of any size.
+        show(reader, inputs_.all().front(), std::cout);
+        return isFine_ ? exitFine : exitRefused;
       }
-      return exitFine;
+      if (json_) std::cout << "[";
+      inputs_.workThrough(
+          output_, [&](const Input& input) { return shown(reader, input); },
+          [&](const Input& input, const WorkOutcome& outcome) { tell(input, outcome); });
+      if (json_) std::cout << "\n]\n";
+      return isFine_ ? exitFine : exitRefused;
     });
   }
 
  private:
-  std::unique_ptr<as::IService> complete(const toolkit::DocumentReader& reader,
-                                         as::IService& service) const {
+  void show(const toolkit::DocumentReader& reader, const Input& input, std::ostream& out) const {
+    toolkit::Document document = reader.read(input.source);
+    if (document.dictionary) return render(out, *document.dictionary);
+    if (withProgram_) document.service = complete(reader, *document.service, input.source.name);
+    render(out, *document.service);
+  }
+
+  static std::unique_ptr<as::IService> complete(const toolkit::DocumentReader& reader,
+                                                as::IService& service, const std::string& file) {
     if (service.getDDFilename().empty()) {
-      throw toolkit::RefusedDocument({file_, 0, 0, "the service names no dictionary",
+      throw toolkit::RefusedDocument({file, 0, 0, "the service names no dictionary",
                                       "write attribute dataDictFilename, or leave --program out"});
     }
-    return reader.withProgram(service, file_).service;
+    return reader.withProgram(service, file).service;
   }
 
   template <class Root>
-  void render(Root& root) const {
+  void render(std::ostream& out, Root& root) const {
     if (json_) {
-      toolkit::renderJson(std::cout, root);
+      toolkit::renderJson(out, root);
     } else {
-      toolkit::renderText(std::cout, root);
+      toolkit::renderText(out, root);
     }
   }
 
-  std::string file_;
+  WorkOutcome shown(const toolkit::DocumentReader& reader, const Input& input) const {
+    Parcel parcel;
+    try {
+      std::ostringstream out;
+      show(reader, input, out);
+      parcel.put(static_cast<std::size_t>(Ending::shown));
+      parcel.put(out.str());
+    } catch (const toolkit::RefusedDocument& refused) {
+      parcel.put(static_cast<std::size_t>(Ending::refused));
+      parcel.put(refused.refusal());
+    }
+    return {true, "", parcel.take()};
+  }
+
+  void tell(const Input& input, const WorkOutcome& outcome) {
+    OpenedParcel parcel(outcome.results);
+    switch (static_cast<Ending>(parcel.number())) {
+      case Ending::shown:
+        return print(input.source.name, parcel.text());
+      case Ending::refused: {
+        const toolkit::Refusal refusal = parcel.refusal();
+        if (input.isSearched && refusal.isOfAnotherKind) return;
+        printRefusal(refusal);
+        break;
+      }
+      default:
+        printRefusal({input.source.name, 0, 0, "showing it came to no end", ""});
+    }
+    isFine_ = false;
+  }
+
+  // One of several documents.
+  void print(const std::string& file, const std::string& text) {
+    if (json_) {
+      std::cout << (isFirst_ ? "\n" : ",\n") << "{\"file\": " << toolkit::jsonText(file)
+                << ", \"document\": " << text.substr(0, text.find_last_not_of('\n') + 1) << "}";
+    } else {
+      std::cout << (isFirst_ ? "" : "\n") << "==> " << toolkit::printable(file) << " <==\n" << text;
+    }
+    isFirst_ = false;
+  }
+
+  Inputs inputs_;
+  Output output_;
   bool json_ = false;
   bool withProgram_ = false;
+  bool isFine_ = true;
+  bool isFirst_ = true;
 };
 
 }  // namespace

@@ -79,7 +79,7 @@ TEST_F(ToolTest, ValidateAnswersForEveryFile) {
   const test::ToolOutcome outcome =
       run({"validate", "first.xml", "bad.xml", "missing.xml", "last.xml"});
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_EQ(outcome.out, "first.xml: ok\nlast.xml: ok\n");
+  EXPECT_EQ(outcome.out, "first.xml: ok\nlast.xml: ok\n4 documents: 2 ok, 2 refused\n");
   EXPECT_THAT(outcome.err, StartsWith("bad.xml:1:"));
   EXPECT_THAT(outcome.err, HasSubstr("\nmissing.xml: error: "));
 }
@@ -88,14 +88,65 @@ TEST_F(ToolTest, ValidateOfGoodFilesSucceedsSilently) {
   write("good.xml", test::payProgram());
   const test::ToolOutcome outcome = run({"validate", "good.xml", "good.xml"});
   EXPECT_EQ(outcome.exitCode, 0);
-  EXPECT_EQ(outcome.out, "good.xml: ok\ngood.xml: ok\n");
+  EXPECT_EQ(outcome.out, "good.xml: ok\ngood.xml: ok\n2 documents: 2 ok, 0 refused\n");
   EXPECT_THAT(outcome.err, IsEmpty());
 }
 
 TEST_F(ToolTest, ValidateTakesBothKinds) {
   write("d.xml", test::payProgram());
   write("s.xml", test::javaService("", ""));
-  EXPECT_EQ(run({"validate", "s.xml", "d.xml"}).out, "s.xml: ok\nd.xml: ok\n");
+  EXPECT_THAT(run({"validate", "s.xml", "d.xml"}).out, StartsWith("s.xml: ok\nd.xml: ok\n"));
+}
+
+TEST_F(ToolTest, ValidateSearchesFolders) {
+  write("in/d.xml", test::payProgram());
+  write("in/below/s.XML", test::javaService("", ""));
+  write("in/other.xml", "<other/>");
+  write("in/bad.xml", "<");
+  write("in/notes.txt", "");
+  for (const char* const jobs : {"1", "3"}) {
+    const test::ToolOutcome outcome = run({"validate", "-r", "--jobs", jobs, "in"});
+    EXPECT_EQ(outcome.out,
+              "in/below/s.XML: ok\nin/d.xml: ok\n3 documents: 2 ok, 1 refused, 1 of other kinds\n");
+    EXPECT_THAT(outcome.err, StartsWith("in/bad.xml:1:"));
+    EXPECT_EQ(outcome.exitCode, 1);
+  }
+  EXPECT_EQ(run({"validate", "-r", "--quiet", "in/d.xml", "in/below"}).out, "");
+}
+
+TEST_F(ToolTest, ValidateTellsPrograms) {
+  write("bad.xml", test::dictionaryOf("\n\n<pointer name='A' lenght='4'/>"));
+  const test::ToolOutcome outcome = run({"validate", "bad.xml", "--format", "sarif"});
+  EXPECT_THAT(outcome.out, HasSubstr("\"startLine\": 3,"));
+  EXPECT_THAT(outcome.err, StartsWith("bad.xml:3:31: error: "));
+  EXPECT_EQ(outcome.exitCode, 1);
+}
+
+TEST_F(ToolTest, StandardInputIsADocument) {
+  write("p.xml", test::payProgram());
+  for (const char* const command : {"validate", "show"}) {
+    const test::StandardInput redirected(open(pathOf("p.xml").c_str(), O_RDONLY));
+    EXPECT_THAT(run({command, "-"}).out, testing::AnyOf("-: ok\n", StartsWith("PROGRAM PAYROLL")));
+  }
+  const test::StandardInput redirected(open(directory().c_str(), O_RDONLY | O_DIRECTORY));
+  const test::ToolOutcome outcome = run({"validate", "-"});
+  EXPECT_EQ(outcome.err, "-: error: cannot be read: Is a directory\n");
+  EXPECT_EQ(outcome.exitCode, 1);
+}
+
+TEST_F(ToolTest, ShowTellsSeveralDocumentsApart) {
+  write("a.xml", test::dictionary(""));
+  write("b.xml", test::javaService("name='B'", ""));
+  const test::ToolOutcome trees = run({"show", "a.xml", "missing.xml", "b.xml"});
+  EXPECT_EQ(trees.exitCode, 1);
+  EXPECT_THAT(trees.out, StartsWith("==> a.xml <==\nPROGRAM PAYROLL\n"));
+  EXPECT_THAT(trees.out, HasSubstr("\n\n==> b.xml <==\n"));
+  EXPECT_THAT(trees.err, StartsWith("missing.xml: error: "));
+  const test::ToolOutcome json = run({"show", "--json", "a.xml", "b.xml", "--jobs", "2"});
+  EXPECT_EQ(json.exitCode, 0);
+  EXPECT_THAT(json.out, StartsWith("[\n{\"file\": \"a.xml\", \"document\": {\n"));
+  EXPECT_THAT(json.out, HasSubstr("},\n{\"file\": \"b.xml\", \"document\": {\n"));
+  EXPECT_THAT(json.out, EndsWith("}}\n]\n"));
 }
 
 TEST_F(ToolTest, AnyFileNameIsTaken) {
@@ -272,7 +323,6 @@ INSTANTIATE_TEST_SUITE_P(
     Calls, ToolUsageTest,
     testing::Values(UsageCase{"Nothing", {}}, UsageCase{"UnknownCommand", {"shew", "a.xml"}},
                     UsageCase{"ShowWithoutFile", {"show"}},
-                    UsageCase{"ShowOfTwoFiles", {"show", "a.xml", "b.xml"}},
                     UsageCase{"UnknownOption", {"show", "--xml", "a.xml"}},
                     UsageCase{"ValidateWithoutFile", {"validate"}},
                     UsageCase{"SchemasWithoutDirectory", {"validate", "a.xml", "--schemas"}}),
@@ -291,7 +341,10 @@ TEST_F(ToolTest, HelpIsNoMistake) {
 TEST_F(ToolTest, VersionIsTold) {
   const test::ToolOutcome outcome = run({"--version"});
   EXPECT_EQ(outcome.exitCode, 0);
-  EXPECT_THAT(outcome.out, testing::MatchesRegex("agentservices [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+  EXPECT_THAT(outcome.out,
+              testing::MatchesRegex("agentservices [0-9]+\\.[0-9]+\\.[0-9]+ \\(library "
+                                    "[0-9]+\\.[0-9]+\\.[0-9]+, Xerces-C\\+\\+ "
+                                    "[0-9]+\\.[0-9]+\\.[0-9]+\\)\n"));
 }
 
 }  // namespace

@@ -24,6 +24,25 @@ struct ToolOutcome {
   int signal = 0;  // The one that ended it.
 };
 
+// What the tools that are started read from their standard input, as long as it lives. The
+// descriptor is closed.
+class StandardInput {
+ public:
+  explicit StandardInput(int in) : before_(dup(STDIN_FILENO)) {
+    dup2(in, STDIN_FILENO);
+    close(in);
+  }
+  ~StandardInput() {
+    dup2(before_, STDIN_FILENO);
+    close(before_);
+  }
+  StandardInput(const StandardInput&) = delete;
+  StandardInput& operator=(const StandardInput&) = delete;
+
+ private:
+  int before_;
+};
+
 // Has a directory of its own, in which the tool runs.
 class ToolTest : public testing::Test {
  protected:

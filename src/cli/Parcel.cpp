@@ -1,0 +1,79 @@
+#include "cli/Parcel.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace cli {
+
+namespace {
+
+std::size_t unsignedOf(int number) { return static_cast<std::size_t>(std::max(number, 0)); }
+
+}  // namespace
+
+void Parcel::put(std::size_t number) {
+  bytes_.append(reinterpret_cast<const char*>(&number), sizeof number);
+}
+
+void Parcel::put(const std::string& text) {
+  put(text.size());
+  bytes_ += text;
+}
+
+void Parcel::put(const as::toolkit::Finding& finding) {
+  put(finding.rule);
+  put(static_cast<std::size_t>(finding.severity));
+  put(finding.place);
+  put(finding.problem);
+  put(finding.advice);
+  put(unsignedOf(finding.line));
+  put(unsignedOf(finding.column));
+}
+
+void Parcel::put(const as::toolkit::Refusal& refusal) {
+  put(refusal.file);
+  put(unsignedOf(refusal.line));
+  put(unsignedOf(refusal.column));
+  put(refusal.text);
+  put(refusal.hint);
+  put(std::size_t{refusal.isOfAnotherKind ? 1U : 0U});
+}
+
+std::size_t OpenedParcel::number() {
+  std::size_t number = 0;
+  if (bytes_.size() - at_ < sizeof number) return 0;
+  std::memcpy(&number, bytes_.data() + at_, sizeof number);
+  at_ += sizeof number;
+  return number;
+}
+
+std::string OpenedParcel::text() {
+  const std::size_t size = std::min(number(), bytes_.size() - at_);
+  at_ += size;
+  return bytes_.substr(at_ - size, size);
+}
+
+as::toolkit::Finding OpenedParcel::finding() {
+  as::toolkit::Finding finding;
+  finding.rule = text();
+  finding.severity = static_cast<as::toolkit::Severity>(number());
+  finding.place = text();
+  finding.problem = text();
+  finding.advice = text();
+  finding.line = static_cast<int>(number());
+  finding.column = static_cast<int>(number());
+  return finding;
+}
+
+as::toolkit::Refusal OpenedParcel::refusal() {
+  as::toolkit::Refusal refusal;
+  refusal.file = text();
+  refusal.line = static_cast<int>(number());
+  refusal.column = static_cast<int>(number());
+  refusal.text = text();
+  refusal.hint = text();
+  refusal.isOfAnotherKind = number() != 0;
+  return refusal;
+}
+
+}  // namespace cli
