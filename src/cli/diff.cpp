@@ -27,6 +27,14 @@ class DiffCommand : public Command {
  public:
   DiffCommand() : Command("diff", "Tell what changed between two dictionaries or services") {}
 
+  std::vector<Example> examples() const override {
+    return {
+        {"diff old/MOTPREM.xml MOTPREM.xml", "what became of a program"},
+        {"diff old.xml new.xml --service quotes.xml", "and which mappings of a service it touches"},
+        {"diff old.xml new.xml --allow condition-added", "take what is meant for granted"},
+        {"diff --kinds", "which changes there are, and why they break callers"}};
+  }
+
   void declare(Arguments& arguments) override {
     arguments.required("OLD", old_, "A dictionary or a service");
     arguments.required("NEW", new_, "Another one of the same kind");

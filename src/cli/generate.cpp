@@ -42,6 +42,13 @@ class Generate : public Command {
  public:
   Generate() : Command("generate", "Make schemas and interfaces for callers of a service") {}
 
+  std::vector<Example> examples() const override {
+    return {{"generate --kinds", "what can be made, and the options of each"},
+            {"generate wsdl quotes.xml -o quotes.wsdl", "the interface of a Web service"},
+            {"generate openapi quotes.xml -o quotes.json", "the same for callers by HTTP and JSON"},
+            {"generate xsd MOTPREM.xml --record LK-REQUEST -o request.xsd", "a record's data"}};
+  }
+
   void declare(Arguments& arguments) override {
     arguments.required("KIND", kind_, "What to make; --kinds lists the kinds");
     arguments.required("SERVICE", file_, "The service; for some kinds also a data dictionary");
