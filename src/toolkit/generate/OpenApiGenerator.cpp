@@ -180,6 +180,7 @@ class OpenApi {
         header["content"] = {{"application/json", {{"schema", schemas_.schemaOf(*fields[i])}}}};
       } else {
         header["schema"] = schemas_.schemaOf(*fields[i]);
+        if (job_.option("examples") != "none") header["example"] = schemas_.sampleOf(*fields[i]);
       }
       if (isRequest) {
         made.push_back(std::move(header));

@@ -377,7 +377,8 @@ void SchemaSet::writeElement(const Element& element) {
   part.text.open("<xs:element" + attribute("name", element.name) + ">");
   part.text.open("<xs:complexType>");
   writeMembers(part, element.members->chosen(), memberNames(*element.members),
-               {element.uri, Form::unsaid, Form::unsaid, element.members->isPlain});
+               {element.uri, Form::unsaid, Form::unsaid, element.members->isPlain,
+                element.members->isPlain});
   part.text.close("</xs:complexType>");
   part.text.close("</xs:element>");
 }
@@ -392,12 +393,11 @@ void SchemaSet::writeNamedType(const NamedType& type) {
   }
   part.text.open("<xs:complexType" + attribute("name", type.name) + ">");
   if (isTable) {
-    part.text.open("<xs:sequence>");
-    writeMember(part, *type.field, "item", {target_, Form::unsaid, Form::unsaid, true});
-    part.text.close("</xs:sequence>");
+    writeOccurrences(part, *type.field);
   } else {
-    writeMembers(part, type.members->chosen(), memberNames(*type.members),
-                 {target_, Form::unsaid, Form::unsaid, type.members->isPlain});
+    writeMembers(
+        part, type.members->chosen(), memberNames(*type.members),
+        {target_, Form::unsaid, Form::unsaid, type.members->isPlain, type.members->isPlain});
   }
   part.text.close("</xs:complexType>");
 }
@@ -422,12 +422,26 @@ void SchemaSet::writeMember(Part& part, const Field& field, const std::string& n
                    occurrences(field) + "/>");
     return;
   }
+  if (around.hasLists && field.isTable()) {
+    part.text.open("<xs:element" + attribute("name", name) + R"( form="unqualified">)");
+    part.text.open("<xs:complexType>");
+    writeOccurrences(part, field);
+    part.text.close("</xs:complexType>");
+    part.text.close("</xs:element>");
+    return;
+  }
   const bool isUnqualified =
       around.isPlain || said(field.elementForm, around.elementForm) == Form::unqualified;
   writeTyped(part, "element",
              attribute("name", name) + (isUnqualified ? R"( form="unqualified")" : "") +
                  occurrences(field),
              field);
+}
+
+void SchemaSet::writeOccurrences(Part& part, const Field& field) {
+  part.text.open("<xs:sequence>");
+  writeMember(part, field, "item", {target_, Form::unsaid, Form::unsaid, true});
+  part.text.close("</xs:sequence>");
 }
 
 void SchemaSet::writeAttributes(Part& part, const Type& type, const Around& around) {

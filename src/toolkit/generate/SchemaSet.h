@@ -31,7 +31,8 @@ class SchemaSet {
   const std::string& targetNamespace() const { return target_; }
 
   // Some of the parameters of an operation or a message, which must outlive the set. `isPlain`:
-  // their names are written without a namespace, whatever they say.
+  // their names are written without a namespace, whatever they say, and a table is one element with
+  // its occurrences in it.
   struct Members {
     const std::vector<Field>& all;
     std::string place;  // Where they stand, as findings tell it.
@@ -111,6 +112,7 @@ class SchemaSet {
     Form elementForm = Form::unsaid;
     Form attributeForm = Form::unsaid;
     bool isPlain = false;
+    bool hasLists = false;  // A table is one element, with its occurrences in it.
   };
 
   void readTypes();
@@ -134,6 +136,7 @@ class SchemaSet {
   bool isNamed(const Field& field) const;
   void writeMembers(Part& part, const std::vector<const Field*>& fields,
                     const std::vector<std::string>& names, const Around& around);
+  void writeOccurrences(Part& part, const Field& field);
   void writeAttributes(Part& part, const Type& type, const Around& around);
   void writeMember(Part& part, const Field& field, const std::string& name, const Around& around);
   // An element, attribute or other declaration of the field's type.

@@ -87,10 +87,10 @@ class Wsdl {
     PlannedOperation planned{operation};
     planned.request =
         planMessage(operation, requestMembers(model_, operation), requestWish(model_, operation),
-                    operation.inputNamespace, "Request");
+                    operation.inputNamespace);
     planned.answer =
         planMessage(operation, answerMembers(model_, operation), answerWish(model_, operation),
-                    operation.outputNamespace, "Answer");
+                    operation.outputNamespace);
     for (const Message& message : operation.messages) {
       planned.messages.push_back({message, planMessage(operation, message)});
     }
@@ -102,9 +102,9 @@ class Wsdl {
 
   // A request or an answer: one element with all parameters in it, or a part for each of them.
   std::size_t planMessage(const Operation& operation, const SchemaSet::Members& members,
-                          const NameWish& element, const std::string& uri, const char* kind) {
-    WsdlMessage message{
-        {operation.name + kind, model_.placeOf(operation) + " message " + kind, true}};
+                          const NameWish& element, const std::string& uri) {
+    // Messages are called as the elements of the bodies: some readers take one name for the other.
+    WsdlMessage message{{element.name, element.place, true}};
     if (!isRpc(operation)) {
       message.parts.push_back({"parameters", schemas_.addWrapper(uri, element, members)});
     } else {

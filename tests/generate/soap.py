@@ -1,0 +1,169 @@
+"""Proves WSDL and XML Schemas with readers that nobody here wrote: xmlschema and libxml2 judge the
+documents and the messages, zeep reads the service, writes requests and reads answers."""
+
+import json
+import os
+import warnings
+from decimal import Decimal, InvalidOperation
+from pathlib import Path
+from typing import Any, Dict, List
+
+import requests
+import xmlschema
+import zeep
+import zeep.helpers
+from lxml import etree
+from zeep.transports import Transport
+
+warnings.simplefilter('ignore')
+
+XSD = '{http://www.w3.org/2001/XMLSchema}'
+ENVELOPES = ('{http://schemas.xmlsoap.org/soap/envelope/}', '{http://www.w3.org/2003/05/soap-envelope}')
+PUBLISHED = os.path.join(os.path.dirname(xmlschema.__file__), 'schemas')
+WSDL_SCHEMA = xmlschema.XMLSchema(os.path.join(PUBLISHED, 'WSDL', 'wsdl.xsd'))
+SCHEMA_SCHEMA = xmlschema.XMLSchema10.meta_schema
+
+
+class Failure(Exception):
+    pass
+
+
+def first_error(schema, source: Any) -> None:
+    for error in schema.iter_errors(source):
+        raise Failure(f'{source}: {error.reason} at {error.path}')
+
+
+def read_schema(file: Path) -> etree.XMLSchema:
+    """The schema in a file with all that it imports, judged by the schema for schemas and two
+    readers."""
+    for part in file.parent.glob('*.xsd'):
+        first_error(SCHEMA_SCHEMA, str(part))
+    xmlschema.XMLSchema(str(file))
+    return etree.XMLSchema(etree.parse(str(file)))
+
+
+class Answers(Transport):
+    """Answers what it is told to, and keeps what was sent."""
+
+    def __init__(self):
+        super().__init__(session=requests.Session())
+        self.answer = b''
+        self.sent = None
+
+    def post(self, address, message, headers):
+        self.sent = etree.fromstring(message)
+        response = requests.Response()
+        response.status_code = 200
+        response.headers['Content-Type'] = 'text/xml; charset=utf-8'
+        response._content = self.answer
+        return response
+
+
+def for_zeep(value: Any, kind: Any) -> Any:
+    """A sample as zeep wants it: the value of an element with attributes has a name of zeep's own."""
+    if isinstance(value, dict):
+        result = {}
+        known = {name: element.type for name, element in getattr(kind, 'elements', [])} \
+            if hasattr(kind, 'elements') else {}
+        for name, part in value.items():
+            plain = '_value_1' if name == 'value' and '_value_1' in known else name
+            result[plain] = for_zeep(part, known.get(plain))
+        return result
+    if isinstance(value, list):
+        return [for_zeep(part, kind) for part in value]
+    return value
+
+
+def is_same(expected: Any, found: Any) -> bool:
+    """Whether a value was read back as it was; numbers count as such, not as their texts."""
+    if isinstance(expected, dict):
+        return isinstance(found, dict) and all(
+            is_same(part, found.get(name)) for name, part in expected.items()) and all(
+            found[name] is None for name in found if name not in expected)
+    if isinstance(expected, list):
+        return isinstance(found, list) and len(expected) == len(found) and all(
+            map(is_same, expected, found))
+    if isinstance(found, (int, float, Decimal)) and not isinstance(found, bool):
+        try:
+            return Decimal(str(expected)) == Decimal(str(found))
+        except InvalidOperation:
+            return False
+    # zeep reads an empty element as nothing.
+    return expected == found or (expected == '' and found is None)
+
+
+def check(schema: etree.XMLSchema, envelope, is_header_known: bool) -> None:
+    for space in ENVELOPES:
+        parts = [envelope.find(f'{space}Body')]
+        if is_header_known:
+            parts.append(envelope.find(f'{space}Header'))
+        for part in parts:
+            for element in part if part is not None else ():
+                # By itself, so that nothing around it counts.
+                document = etree.ElementTree(etree.fromstring(etree.tostring(element)))
+                if not schema.validate(document):
+                    raise Failure(f'{schema.error_log.last_error}: {etree.tostring(element)[:300]!r}')
+
+
+def lists(sample: Dict[str, Any], is_rpc: bool) -> Dict[str, Any]:
+    """In rpc messages a table is one element."""
+    if not is_rpc:
+        return sample
+    return {name: {'item': value} if isinstance(value, list) else value for name, value in sample.items()}
+
+
+def plain(result: Any, names: List[str]) -> Dict[str, Any]:
+    """What zeep answers, by the names of what the operation answers: one that stands alone comes
+    without its name."""
+    result = zeep.helpers.serialize_object(result, dict)
+    if len(names) == 1 and not (isinstance(result, dict) and names[0] in result):
+        return {names[0]: result}
+    return result if isinstance(result, dict) else {}
+
+
+def prove(wsdl: Path, schema_file: Path, samples_file: Path) -> int:
+    """Answers how many messages were written and read."""
+    first_error(WSDL_SCHEMA, str(wsdl))
+    tree = etree.parse(str(wsdl))
+    for part in tree.iter(f'{XSD}schema'):
+        first_error(SCHEMA_SCHEMA, etree.fromstring(etree.tostring(part)))
+    schema = read_schema(schema_file)
+    samples = json.loads(samples_file.read_text())['paths']
+    transport = Answers()
+    client = zeep.Client(str(wsdl), transport=transport)
+    messages = 0
+    for service in client.wsdl.services.values():
+        for port in service.ports.values():
+            proxy = client.bind(service.name, port.name)
+            for operation in port.binding._operations.values():
+                messages += prove_operation(schema, samples, transport, proxy, operation, port.binding)
+    return messages
+
+
+def prove_operation(schema, samples, transport, proxy, operation, binding) -> int:
+    described = next((path['post'] for path in samples.values()
+                      if path['post']['operationId'].replace(' ', '_') == operation.name), None)
+    if described is None:
+        raise Failure(f'{operation.name} is not described')
+    request = described['requestBody']['content']['application/json'].get('example')
+    answer = described['responses']['200']['content']['application/json'].get('example')
+    if request is None or answer is None:
+        return 0
+    is_rpc = operation.style == 'rpc'
+    request, answer = lists(request, is_rpc), lists(answer, is_rpc)
+    headers = {parameter['name']: parameter['example'] for parameter in described.get('parameters', ())
+               if 'example' in parameter}
+    outward = for_zeep(answer, getattr(operation.output.body, 'type', None))
+    envelope = operation.output.serialize(**outward).content
+    check(schema, envelope, False)
+    transport.answer = etree.tostring(envelope)
+    arguments = for_zeep(request, getattr(operation.input.body, 'type', None))
+    if headers:
+        arguments['_soapheaders'] = headers
+    result = getattr(proxy, operation.name)(**arguments)
+    # Headers that are encoded have no elements in a schema.
+    check(schema, transport.sent, not is_rpc)
+    found = plain(result, list(answer))
+    if not is_same(answer, found):
+        raise Failure(f'{operation.name}: {str(answer)[:300]} was read back as {str(found)[:300]}')
+    return 2
