@@ -14,6 +14,7 @@
 #include "as/toolkit/Lint.h"
 #include "support/Documents.h"
 #include "support/Flavours.h"
+#include "support/SchemasOfMoreWords.h"
 #include "support/Toolkit.h"
 
 namespace {
@@ -31,31 +32,12 @@ struct Row {
   std::string document;
   std::string text;
   std::string program = test::payProgram();
-  bool moreWords = false;  // Read with writeSchemasOfMoreWords().
+  bool moreWords = false;  // Read with test::writeSchemasOfMoreWords().
 };
 
 Row withMoreWords(Row row) {
   row.moreWords = true;
   return row;
-}
-
-// The shipped schemas, in `directory`, with two more words in each of their lists: what they would
-// refuse still reaches lint where a client reads documents with schemas of its own.
-void writeSchemasOfMoreWords(const test::TempDirectory& directory) {
-  for (const auto& entry : std::filesystem::directory_iterator(AS_SCHEMA_DIR)) {
-    std::istringstream lines(test::contentOf(entry.path()));
-    std::string schema;
-    bool isFirst = false;
-    for (std::string line; std::getline(lines, line);) {
-      if (line.find("<xs:restriction") != std::string::npos) isFirst = true;
-      if (isFirst && line.find("<xs:enumeration") != std::string::npos) {
-        schema += "<xs:enumeration value='Int'/><xs:enumeration value='sometimes'/>";
-        isFirst = false;
-      }
-      schema += line + "\n";
-    }
-    directory.write(entry.path().filename().string(), schema);
-  }
 }
 
 // Services with such type definitions and operations.
@@ -562,7 +544,7 @@ TEST_P(LintRuleTest, FindsIt) {
   write("PAY.xml", row.program);
   write("s.xml", row.document);
   const test::TempDirectory schemas;
-  if (row.moreWords) writeSchemasOfMoreWords(schemas);
+  if (row.moreWords) test::writeSchemasOfMoreWords(schemas);
   const toolkit::DocumentReader reader(row.moreWords ? schemas.path() : AS_SCHEMA_DIR);
   const toolkit::Findings findings = toolkit::lintFile(reader, "s.xml");
   std::vector<std::string> texts;
