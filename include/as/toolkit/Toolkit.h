@@ -20,6 +20,7 @@
 #include "as/toolkit/Make.h"
 #include "as/toolkit/Picture.h"
 #include "as/toolkit/Render.h"
+#include "as/toolkit/Report.h"
 #include "as/toolkit/SourceFormat.h"
 #include "as/toolkit/SourceLocation.h"
 #include "as/toolkit/Storage.h"

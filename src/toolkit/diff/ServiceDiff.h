@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "toolkit/diff/ChangeList.h"
-#include "toolkit/diff/ServiceFacts.h"
+#include "toolkit/facts/ServiceFacts.h"
 
 namespace as::toolkit {
 

@@ -25,18 +25,8 @@ ServiceImpact::ServiceImpact(const DictionaryFacts& before, const DictionaryFact
       match_(match),
       items_(items),
       entryChanges_(entryChanges),
-      changes_(changes) {
-  std::vector<bool> isOfFile(before.items().size(), false);
-  for (const SectionFacts& section : before.sections()) {
-    if (section.kind != SectionFacts::Kind::file) continue;
-    for (const ItemNumber record : section.records) isOfFile[record] = true;
-  }
-  for (ItemNumber i = 0; i < before.items().size(); ++i) {
-    const ItemNumber parent = before[i].parent;
-    if (parent != noItem) isOfFile[i] = isOfFile[parent];
-    if (!isOfFile[i]) index_[parent].emplace(before[i].name, i);
-  }
-}
+      changes_(changes),
+      paths_(before) {}
 
 void ServiceImpact::compare(as::IService& service, const std::string& file) {
   file_ = file;
@@ -86,7 +76,7 @@ void ServiceImpact::compareMapping(as::IMapping& mapping, const std::string& pla
   if (mapping.getType() != as::IMapping::MAP_DATA_ITEM) return;
   std::string path = mapping.getRawMapping();
   path = path.substr(0, path.find('('));
-  const ItemNumber old = find(path);
+  const ItemNumber old = paths_.find(path);
   if (old == noItem) return;
   const ItemNumber added = match_.newOf(old);
   if (added == noItem) {
@@ -124,20 +114,6 @@ void ServiceImpact::compareMapping(as::IMapping& mapping, const std::string& pla
   if (!isTold && items_.hasMoved(old)) {
     tell("mapping-moved", place, std::to_string(before_[old].offset),
          std::to_string(after_[added].offset), false, noChange);
-  }
-}
-
-ItemNumber ServiceImpact::find(std::string_view path) const {
-  ItemNumber at = noItem;
-  while (true) {
-    const std::size_t period = path.find('.');
-    const auto names = index_.find(at);
-    if (names == index_.end()) return noItem;
-    const auto found = names->second.find(path.substr(0, period));
-    if (found == names->second.end()) return noItem;
-    at = found->second;
-    if (period == std::string_view::npos) return at;
-    path.remove_prefix(period + 1);
   }
 }
 

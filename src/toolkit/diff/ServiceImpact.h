@@ -3,7 +3,6 @@
 #define TOOLKIT_DIFF_SERVICEIMPACT_H_
 
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -13,6 +12,7 @@
 #include "toolkit/diff/ItemComparison.h"
 #include "toolkit/diff/ItemMatch.h"
 #include "toolkit/facts/DictionaryFacts.h"
+#include "toolkit/facts/ItemPaths.h"
 
 namespace as::toolkit {
 
@@ -28,7 +28,6 @@ class ServiceImpact {
  private:
   void compareMapping(as::IMapping& mapping, const std::string& place);
   void compareFields(as::IList* fields, const std::string& place);
-  ItemNumber find(std::string_view path) const;
   void tell(const char* kind, const std::string& place, std::string oldValue, std::string newValue,
             bool breaks, ChangeNumber cause);
 
@@ -38,8 +37,7 @@ class ServiceImpact {
   const ItemComparison& items_;
   const EntryChanges& entryChanges_;
   ChangeList& changes_;
-  // What a mapping finds: of the items of one name in one group, the first.
-  std::unordered_map<ItemNumber, std::unordered_map<std::string_view, ItemNumber>> index_;
+  ItemPaths paths_;
   std::string file_;
 };
 

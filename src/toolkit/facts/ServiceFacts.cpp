@@ -1,4 +1,4 @@
-#include "toolkit/diff/ServiceFacts.h"
+#include "toolkit/facts/ServiceFacts.h"
 
 #include "as/IHiddenParameter.h"
 #include "as/IMapping.h"

@@ -1,6 +1,6 @@
 // What a service tells, as plain values.
-#ifndef TOOLKIT_DIFF_SERVICEFACTS_H_
-#define TOOLKIT_DIFF_SERVICEFACTS_H_
+#ifndef TOOLKIT_FACTS_SERVICEFACTS_H_
+#define TOOLKIT_FACTS_SERVICEFACTS_H_
 
 #include <string>
 #include <utility>
@@ -61,4 +61,4 @@ struct ServiceFacts {
 
 }  // namespace as::toolkit
 
-#endif  // TOOLKIT_DIFF_SERVICEFACTS_H_
+#endif  // TOOLKIT_FACTS_SERVICEFACTS_H_

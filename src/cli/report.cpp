@@ -1,0 +1,52 @@
+// agentservices report: makes a site of documents for looking at.
+#include "as/toolkit/Report.h"
+
+#include <iostream>
+
+#include "as/toolkit/Files.h"
+#include "as/toolkit/Text.h"
+#include "cli/Command.h"
+#include "cli/Messages.h"
+
+namespace cli {
+
+namespace {
+
+class ReportCommand : public Command {
+ public:
+  ReportCommand() : Command("report", "Make a site for looking at dictionaries and services") {}
+
+  void declare(Arguments& arguments) override {
+    arguments.required("FILE", files_, "Dictionaries and services");
+    arguments.requiredOption("-o,--output", output_,
+                             "The folder of the site; open its index.html in a browser");
+    arguments.list("--source", options_.sourceFolders, "DIR,...",
+                   "Folders of sources to show, before those of the dictionaries");
+  }
+
+  // A refused document is told; the others are shown all the same.
+  int run(const std::optional<std::string>& schemas) override {
+    return withReader(schemas, [this](const toolkit::DocumentReader& reader) {
+      const toolkit::Report report = toolkit::makeReport(reader, files_, options_);
+      for (const toolkit::Refusal& refusal : report.refusals) printRefusal(refusal);
+      if (report.programs + report.services == 0) return exitRefused;
+      toolkit::writeReport(report, output_);
+      std::cout << toolkit::printable(output_)
+                << "/index.html: " << toolkit::count(report.programs, "program") << ", "
+                << toolkit::count(report.services, "service") << ", "
+                << toolkit::count(report.findings, "finding") << "\n";
+      return report.refusals.empty() ? exitFine : exitRefused;
+    });
+  }
+
+ private:
+  std::vector<std::string> files_;
+  std::string output_;
+  toolkit::ReportOptions options_;
+};
+
+}  // namespace
+
+std::unique_ptr<Command> reportCommand() { return std::make_unique<ReportCommand>(); }
+
+}  // namespace cli

@@ -1,0 +1,103 @@
+#include "toolkit/report/SourceText.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+namespace as::toolkit {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Nobody reads a source of more bytes in a browser.
+constexpr std::uintmax_t largestSource = 16U << 20U;
+
+std::size_t continuationsOf(unsigned char lead) {
+  if (lead >= 0xC2 && lead <= 0xDF) return 1;
+  if (lead >= 0xE0 && lead <= 0xEF) return 2;
+  return lead >= 0xF0 && lead <= 0xF4 ? 3 : 0;
+}
+
+bool isUtf8(const std::string& text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto lead = static_cast<unsigned char>(text[i]);
+    if (lead < 0x80) continue;
+    const std::size_t count = continuationsOf(lead);
+    if (count == 0 || i + count >= text.size()) return false;
+    for (std::size_t j = 1; j <= count; ++j) {
+      if ((static_cast<unsigned char>(text[i + j]) & 0xC0U) != 0x80) return false;
+    }
+    i += count;
+  }
+  return true;
+}
+
+std::string fromLatin1(const std::string& text) {
+  std::string result;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x80) {
+      result += c;
+    } else {
+      result += static_cast<char>(0xC0U | byte >> 6U);
+      result += static_cast<char>(0x80U | (byte & 0x3FU));
+    }
+  }
+  return result;
+}
+
+std::vector<std::string> linesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  for (std::size_t from = 0; from < text.size();) {
+    const std::size_t end = std::min(text.find('\n', from), text.size());
+    std::string line = text.substr(from, end - from);
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    lines.push_back(std::move(line));
+    from = end + 1;
+  }
+  return lines;
+}
+
+std::string inCapitals(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(), [](char c) {
+    return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+  });
+  return text;
+}
+
+}  // namespace
+
+std::optional<SourceText> findSource(const std::string& name,
+                                     const std::vector<std::string>& folders) {
+  const fs::path file = fs::path(name).filename();
+  if (file.empty() || file == "." || file == "..") return std::nullopt;
+  for (const std::string& folder : folders) {
+    const fs::path path = fs::path(folder) / file;
+    std::error_code failure;
+    if (!fs::is_regular_file(path, failure) || fs::file_size(path, failure) > largestSource) {
+      continue;
+    }
+    std::ifstream in(path, std::ios::binary);
+    if (!in) continue;
+    std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    if (!isUtf8(text)) text = fromLatin1(text);
+    return SourceText{file.string(), linesOf(text)};
+  }
+  return std::nullopt;
+}
+
+bool SourceLineCheck::isOf(const ItemFacts& item) const {
+  if (source_ == nullptr || item.line < 1) return false;
+  const auto line = static_cast<std::size_t>(item.line) - 1;
+  if (line >= source_->lines.size()) return false;
+  const std::string& text = source_->lines[line];
+  if (text.size() < item.name.size() && !item.isUnnamed()) return false;
+  return item.isUnnamed() || inCapitals(text).find(inCapitals(item.name)) != std::string::npos;
+}
+
+}  // namespace as::toolkit

@@ -1,0 +1,144 @@
+// Looks at a report in a headless Chromium: pictures of its pages, light, dark, on a phone and in
+// print; whether search and keyboard do what they are to; what axe says of accessibility; whether
+// anything was asked of a network, and any script failed.
+//   node look.mjs BROWSER SITE PICTURES
+import { mkdirSync } from "node:fs";
+import { createRequire } from "node:module";
+import { pathToFileURL } from "node:url";
+import puppeteer from "puppeteer-core";
+
+const [browserPath, site, pictures] = process.argv.slice(2);
+const axe = createRequire(import.meta.url).resolve("axe-core/axe.min.js");
+const home = pathToFileURL(site + "/index.html").href;
+mkdirSync(pictures, { recursive: true });
+
+const problems = [];
+function check(isFine, text) {
+  console.log((isFine ? "  ok    " : "  WRONG ") + text);
+  if (!isFine) problems.push(text);
+}
+
+const browser = await puppeteer.launch({
+  executablePath: browserPath,
+  args: ["--no-sandbox", "--force-color-profile=srgb", "--hide-scrollbars"],
+});
+const page = await browser.newPage();
+page.on("pageerror", (failure) => check(false, "a script failed: " + failure.message));
+page.on("console", (message) => {
+  if (message.type() === "error") check(false, "the console says: " + message.text());
+});
+page.on("request", (request) => {
+  const isLocal = /^(file|data):/.test(request.url());
+  if (!isLocal) check(false, "asked of a network: " + request.url());
+});
+
+const settle = () => page.evaluate(() => new Promise((done) => setTimeout(done, 120)));
+async function open(address, size = { width: 1280, height: 900 }) {
+  await page.setViewport(size);
+  await page.goto("about:blank");
+  await page.goto(home + address, { waitUntil: "load" });
+  await settle();
+}
+const heading = () => page.$eval("h1", (title) => title.firstChild.textContent);
+const focused = () => page.evaluate(() => document.activeElement.textContent);
+
+const documents = await (async () => {
+  await open("");
+  return page.evaluate(() => asReport.index.documents);
+})();
+const program = documents.find((known) => known.kind === "program" && known.name === "MOTPREM") || documents.find((known) => known.kind === "program");
+const service = documents.find((known) => known.errors > 0) || documents.find((known) => known.kind === "service");
+const record = await page.evaluate(async (id) => {
+  const program = new Program(id, await asReport.load(id));
+  return program.sections.flatMap((section) => section.records).find((i) => program.children[i].some((child) => program.items[child].rd >= 0)) || 0;
+}, program.id);
+const source = await page.evaluate(async (id) => (await asReport.load(id)).source, program.id);
+const views = [
+  ["overview", ""],
+  ["program", "#/" + program.id],
+  ["record", "#/" + program.id + "/" + record],
+  ["service", "#/" + service.id],
+  ...(source ? [["source", "#/" + source + "/40"]] : []),
+];
+
+console.log("pictures");
+const themes = [["light", 1280, 900], ["dark", 1280, 900], ["phone", 360, 740], ["phone-dark", 360, 740]];
+for (const [theme, width, height] of themes) {
+  const scheme = theme.endsWith("dark") ? "dark" : "light";
+  await page.emulateMediaFeatures([{ name: "prefers-color-scheme", value: scheme }]);
+  for (const [name, address] of views) {
+    await open(address, { width, height, deviceScaleFactor: width < 500 ? 2 : 1 });
+    await page.screenshot({ path: pictures + "/" + name + "-" + theme + ".png" });
+    const wide = await page.evaluate(() => document.documentElement.scrollWidth - innerWidth);
+    check(wide <= 0, name + ", " + theme + ": nothing stands beyond the edge (" + wide + ")");
+    await page.addScriptTag({ path: axe });
+    const found = await page.evaluate(() => axe.run());
+    const told = found.violations.map((one) => one.id + " (" + one.nodes.length + ": " + one.nodes[0].target + ")");
+    check(told.length === 0, name + ", " + theme + ": accessible" + (told.length > 0 ? ": " + told.join(", ") : ""));
+  }
+}
+await page.emulateMediaFeatures([{ name: "prefers-color-scheme", value: "light" }]);
+for (const [name, address] of views.filter(([name]) => name === "record" || name === "service")) {
+  await open(address);
+  await page.pdf({ path: pictures + "/" + name + "-print.pdf", format: "A4", printBackground: true });
+}
+
+console.log("keyboard");
+await open("");
+await page.keyboard.press("/");
+check(await page.evaluate(() => document.activeElement.id === "search"), "/ goes to the search");
+const name = await page.evaluate(async (id, i) => (await asReport.load(id)).items[i].n, program.id, record);
+await page.keyboard.type(name.toLowerCase());
+check(await page.$eval("#results li .name", (first) => first.textContent) === name, "the search finds " + name + " first");
+await page.keyboard.press("ArrowDown");
+check(await page.$eval("#results li:nth-child(2)", (second) => second.getAttribute("aria-selected")) === "true", "the arrow goes to the second name");
+await page.keyboard.press("ArrowUp");
+await page.keyboard.press("Enter");
+await settle();
+check(await heading() === name, "Enter opens the record");
+await page.keyboard.press("/");
+await page.keyboard.type("x");
+await page.keyboard.press("Escape");
+check(await page.$eval("#results", (list) => list.hidden), "Escape closes the search");
+await page.focus('.tree [tabindex="0"]');
+await page.keyboard.press("ArrowDown");
+const second = await focused();
+check(!second.includes(name), "the arrow goes to the next item");
+await page.keyboard.press("ArrowUp");
+await page.keyboard.press("ArrowLeft");
+check(await page.$eval('.tree [tabindex="0"]', (row) => row.getAttribute("aria-expanded")) === "false", "the left arrow closes a group");
+await page.keyboard.press("ArrowRight");
+check(await page.$eval('.tree [tabindex="0"]', (row) => row.getAttribute("aria-expanded")) === "true", "the right arrow opens it");
+await open("#/" + program.id);
+for (let i = 0; i < 3; ++i) await page.keyboard.press("Tab");
+check(await page.evaluate(() => document.activeElement.matches("a, button, input")), "Tab reaches links");
+
+console.log("mouse");
+await open("#/" + program.id + "/" + record);
+const folded = await page.$$eval(".block", (blocks) => blocks.length);
+const fold = await page.$(".tools .plain");
+if (fold) {
+  await fold.click();
+  await settle();
+  await page.screenshot({ path: pictures + "/record-unfolded.png" });
+  check(await page.$$eval(".block", (blocks) => blocks.length) >= folded, "tables unfold");
+}
+await page.click(".map .block");
+check((await page.$eval(".details h2", (title) => title.textContent)).length > 0, "a block tells of its item");
+
+console.log("links");
+const names = new Set();
+for (const [, address] of views) {
+  await open(address);
+  for (const href of await page.$$eval("main a", (links) => links.map((link) => link.getAttribute("href")))) names.add(href);
+}
+for (const href of [...names].slice(0, 60)) {
+  await open(href);
+  const title = await heading();
+  if (title.startsWith("There is no") || title.startsWith("This page cannot")) check(false, href + " leads nowhere");
+}
+check(names.size > 0, names.size + " links seen, the first 60 followed");
+
+await browser.close();
+console.log(problems.length === 0 ? "all is well" : problems.length + " problems");
+process.exit(problems.length === 0 ? 0 : 1);
