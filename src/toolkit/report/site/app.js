@@ -6,7 +6,7 @@ function documentCard(known) {
   const counts = Object.entries(known.counts).filter(([, number]) => number > 0)
     .map(([name, number]) => plural(number, name.replace(/s$/, ""))).join(" \u00b7 ");
   const isClean = known.errors === 0 && known.warnings === 0;
-  return el("li.cardlink", {}, el("a", {href: "#/" + known.id}, clip(known.name)),
+  return el("li.cardlink", {}, el("a", {href: "#/" + known.id}, clip(known.name) || "(unnamed)"),
     el("span.kind", {}, known.kind === "service" ? known.flavour + " service" : "Program"),
     el("p.quiet", {}, clip(known.file)), el("p", {}, counts),
     known.kind !== "service" ? null : isClean ? el("p.clean", {}, "clean")
@@ -27,7 +27,7 @@ function overview() {
 }
 
 function navigation(current) {
-  const entry = (known) => el("li", {}, el("a", {href: "#/" + known.id, "aria-current": known.id === current ? "page" : null}, clip(known.name, 60),
+  const entry = (known) => el("li", {}, el("a", {href: "#/" + known.id, "aria-current": known.id === current ? "page" : null}, clip(known.name, 60) || "(unnamed)",
     known.kind === "service" ? el("small", {}, known.flavour) : null));
   const list = (title, kind) => {
     const some = asReport.index.documents.filter((known) => known.kind === kind);
@@ -103,7 +103,7 @@ async function route() {
   };
   const apply = (theme) => {
     document.documentElement.dataset.theme = theme;
-    button.textContent = "Theme: " + theme;
+    button.lastElementChild.textContent = theme;
   };
   let theme = themes.includes(remembered()) ? remembered() : "system";
   apply(theme);

@@ -156,6 +156,14 @@ class ByteMap {
     return el("div.row", {}, gutter, track);
   }
 
+  // As much of the end of a name as there is room for: names in a record begin alike.
+  shortName(name, width) {
+    const fits = (text) => text.length * 7.2 <= width;
+    let text = name;
+    while (!fits(text) && text.includes("-")) text = text.slice(text.indexOf("-") + 1);
+    return text;
+  }
+
   blockOf(block, from, to) {
     const item = this.program.items[block.i];
     const start = Math.max(block.start, from);
@@ -175,7 +183,7 @@ class ByteMap {
     element.style.left = (start - from) * this.unit + "px";
     element.style.width = Math.max(width - 1, 1) + "px";
     element.style.top = 4 + block.lane * ByteMap.laneHeight + "px";
-    if (width >= 26) element.append(el("b", {}, text));
+    if (width >= 20) element.append(el("b", {}, isRest ? text : this.shortName(name, width - 12)));
     if (width >= 90 && !isRest && (item.pic || item.u) && block.start >= from) element.append(el("i", {}, clip(item.pic || item.u, 24)));
     element.addEventListener("click", () => this.onPick(block.i));
     return element;
@@ -187,11 +195,11 @@ class ByteMap {
     this.layOut();
   }
 
-  // Marks the blocks of an item, and of all in a group.
+  // Marks the blocks of an item, and of all in a group; none for -1.
   pick(i) {
     const inside = new Set([i]);
     const waiting = [i];
-    while (waiting.length > 0) {
+    while (i >= 0 && waiting.length > 0) {
       for (const child of this.program.children[waiting.pop()]) {
         inside.add(child);
         waiting.push(child);

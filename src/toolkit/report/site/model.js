@@ -146,28 +146,31 @@ class Service {
 
   cardOf(data, isType) {
     const rows = [];
-    const place = isType ? "type " + data.n : data.n;
+    const place = (isType ? "type " : "") + (data.n || "(unnamed)");
     const addFields = (fields, depth, around, mark) => {
       for (const field of fields || []) {
-        const at = around + "." + field.n;
+        const at = around + "." + (field.n || "(unnamed)");
         rows.push({depth, name: mark + field.n, place: at, field, mappings: field.m || []});
         addFields(field.fa, depth + 1, at, "@");
         addFields(field.f, depth + 1, at, "");
       }
     };
-    for (const [item, number, value] of data.hidden || []) {
-      rows.push({depth: 0, name: "hidden", place: place + " (hidden)", value, mappings: [[item, number]]});
-    }
+    (data.hidden || []).forEach(([item, number, value], i) => {
+      rows.push({depth: 0, name: "hidden", place: place + ", hidden parameter " + (i + 1), value, mappings: [[item, number]]});
+    });
     if (isType && data.m) rows.push({depth: 0, name: data.n, place, field: data, mappings: data.m});
     addFields(data.fa, 0, place, "@");
     addFields(data.f, 0, place, "");
+    const numbers = {};
     for (const message of data.messages || []) {
-      rows.push({depth: 0, name: message.kind, place: place + " " + message.kind, attributes: message.a, mappings: []});
-      addFields(message.f, 1, place + " " + message.kind, "");
+      numbers[message.kind] = (numbers[message.kind] || 0) + 1;
+      const at = place + ", " + message.kind + " " + numbers[message.kind];
+      rows.push({depth: 0, name: message.kind, place: at, attributes: message.a, mappings: []});
+      addFields(message.f, 1, at, "");
     }
     const findings = this.findings.filter(
       (finding) => finding.place === place || finding.place.startsWith(place + ".") ||
-        finding.place.startsWith(place + " "));
+        finding.place.startsWith(place + ","));
     return {data, isType, place, rows, findings};
   }
 }

@@ -46,7 +46,7 @@ function entryTile(program, entry) {
     entry.conv ? el("p.quiet", {}, "calling convention " + entry.conv) : null,
     entry.params.length === 0 ? el("p.quiet", {}, "no parameters") : el("ol.params", {}, entry.params.map(([name, passing, item]) =>
       el("li", {}, item >= 0 ? el("a.name", {href: program.hrefOf(item)}, clip(name)) : el("span.name", {}, clip(name)),
-        " ", el("span.quiet", {}, "by " + passing)))));
+        " ", el("span.quiet", {}, passing === "returning" ? passing : "by " + passing)))));
 }
 
 function sectionOf(program, section) {
@@ -202,7 +202,7 @@ class RecordPage {
       if (this.closed.delete(at)) this.list();
     }
     this.picked = i;
-    this.map.pick(i);
+    this.map.pick(i === this.record ? -1 : i);
     for (const line of this.table.querySelectorAll(".picked")) {
       line.classList.remove("picked");
       line.tabIndex = -1;

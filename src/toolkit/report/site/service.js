@@ -37,7 +37,7 @@ class ServicePage {
     const types = this.cards.slice(service.operations.length);
     return [
       crumbs(el("a", {href: "#/"}, "Overview"), service.flavour + " service"),
-      el("h1", {}, clip(service.name), el("small", {}, service.flavour)),
+      el("h1", {}, clip(service.name) || "(unnamed)", el("small", {}, service.flavour)),
       facts([
         ["File", clip(service.file)],
         ["Program", program ? el("a", {href: "#/" + program.id}, clip(program.name)) : clip(service.program || "none")],
@@ -82,7 +82,7 @@ class ServicePage {
     const {data} = card;
     const entry = this.program && data.entry ? this.program.entries.find((known) => known.n === data.entry) : null;
     host.append(...[
-      el("header", {}, el("h3", {}, clip(data.n)),
+      el("header", {}, el("h3", {}, clip(data.n) || "(unnamed)"),
         data.entry ? el("span.entry", {}, "\u2192 ", entry
           ? el("a", {href: "#/" + this.program.id}, clip(data.entry)) : clip(data.entry)) : null,
         data.exit ? el("span.chip", {}, plural(data.exit, "exit point")) : null,

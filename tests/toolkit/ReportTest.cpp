@@ -1,0 +1,241 @@
+// Tests of reports: the files that come out, that nothing of a document gets into them but as text,
+// and that they are the same every time. How they look is for ./run look.
+#include <algorithm>
+#include <regex>
+#include <set>
+
+#include "support/Documents.h"
+#include "support/Toolkit.h"
+
+namespace {
+
+namespace toolkit = as::toolkit;
+using testing::AllOf;
+using testing::Contains;
+using testing::Each;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::SizeIs;
+
+std::string example(const std::string& name) {
+  return (std::filesystem::path(AS_EXAMPLES_DIR) / name).string();
+}
+
+class ReportTest : public test::ToolkitTest {
+ protected:
+  toolkit::Report reportOf(const std::vector<std::string>& files,
+                           const toolkit::ReportOptions& options = {}) const {
+    return toolkit::makeReport(reader(), files, options);
+  }
+
+  static std::vector<std::string> namesOf(const toolkit::Report& report) {
+    std::vector<std::string> names;
+    for (const toolkit::ReportFile& file : report.files) names.push_back(file.name);
+    return names;
+  }
+
+  static std::string contentOf(const toolkit::Report& report, const std::string& name) {
+    for (const toolkit::ReportFile& file : report.files) {
+      if (file.name == name) return file.content;
+    }
+    ADD_FAILURE() << "there is no " << name;
+    return "";
+  }
+
+  // What a data file hands over: a call with a name and JSON, and nothing else.
+  static nlohmann::json dataOf(const toolkit::Report& report, const std::string& id) {
+    const std::string script = contentOf(report, "data/" + id + ".js");
+    const std::string start = "asReport.add(\"" + id + "\", ";
+    const std::string end = ");\n";
+    EXPECT_EQ(script.substr(0, start.size()), start);
+    EXPECT_EQ(script.substr(script.size() - end.size()), end);
+    return nlohmann::json::parse(
+        script.substr(start.size(), script.size() - start.size() - end.size()));
+  }
+};
+
+TEST_F(ReportTest, TheFirstPageComesFirst) {
+  const toolkit::Report report = reportOf({example("MOTPREM.xml")});
+  EXPECT_EQ(report.files.front().name, "index.html");
+  EXPECT_THAT(namesOf(report), Contains("data/index.js"));
+  EXPECT_THAT(namesOf(report), Contains("data/d1.js"));
+  EXPECT_EQ(report.programs, 1U);
+  EXPECT_EQ(report.services, 0U);
+}
+
+TEST_F(ReportTest, WhatThePageNamesIsThere) {
+  const toolkit::Report report = reportOf({example("MOTPREM.xml")});
+  const std::string page = report.files.front().content;
+  const std::vector<std::string> names = namesOf(report);
+  static const std::regex reference("(?:href|src)=\"([^\"#][^\":]*)\"");
+  int count = 0;
+  for (std::sregex_iterator at(page.begin(), page.end(), reference), end; at != end; ++at) {
+    EXPECT_THAT(names, Contains((*at)[1].str()));
+    ++count;
+  }
+  EXPECT_GE(count, 8);
+}
+
+TEST_F(ReportTest, NothingIsAskedOfANetwork) {
+  for (const toolkit::ReportFile& file : reportOf({example("MOTPREM.xml")}).files) {
+    if (file.name.rfind("data/", 0) == 0) continue;
+    std::string text = file.content;
+    // The name of a namespace is no address.
+    const std::string svg = "http://www.w3.org/2000/svg";
+    const std::size_t at = text.find(svg);
+    if (at != std::string::npos) text.erase(at, svg.size());
+    for (const char* const word :
+         {"http:", "https:", "//cdn", "fetch(", "XMLHttpRequest", "@import", "innerHTML",
+          "outerHTML", "insertAdjacentHTML", "document.write", "eval("}) {
+      EXPECT_THAT(text, Not(HasSubstr(word))) << file.name;
+    }
+  }
+}
+
+TEST_F(ReportTest, EveryDocumentIsInTheIndexAndHasItsData) {
+  const toolkit::Report report = reportOf({example("MOTPREM.xml"), example("MOTPREM-ws.xml"),
+                                           example("WHSLOTS-java.xml"), example("PAYSLIP.xml")});
+  const nlohmann::json index = dataOf(report, "index");
+  // The dictionary of WHSLOTS comes with its service.
+  EXPECT_THAT(index["documents"], SizeIs(5));
+  for (const nlohmann::json& document : index["documents"]) {
+    const std::string id = document["id"];
+    EXPECT_EQ(dataOf(report, id)["name"], document["name"]);
+    EXPECT_THAT(index["names"][id], Not(IsEmpty()));
+  }
+}
+
+TEST_F(ReportTest, TheSameInputGivesTheSameBytes) {
+  const std::vector<std::string> files = {example("MOTPREM.xml"), example("MOTPREM-java.xml")};
+  const toolkit::Report first = reportOf(files);
+  const toolkit::Report second = reportOf(files);
+  ASSERT_EQ(namesOf(first), namesOf(second));
+  for (std::size_t i = 0; i < first.files.size(); ++i) {
+    EXPECT_EQ(first.files[i].content, second.files[i].content) << first.files[i].name;
+  }
+}
+
+TEST_F(ReportTest, ItemsHaveTheirPlacesAndConditions) {
+  const nlohmann::json data = dataOf(reportOf({example("MOTPREM.xml")}), "d1");
+  for (const nlohmann::json& item : data["items"]) {
+    if (item["n"] == "LK-REQ-POLICY-PARTS") {
+      EXPECT_EQ(data["items"][item["rd"].get<std::size_t>()]["n"], "LK-REQ-POLICY-NO");
+      EXPECT_EQ(item["o"], 2);
+    }
+    if (item["n"] == "LK-REQ-COMPANY") {
+      EXPECT_EQ(item["k"], nlohmann::json::parse(R"([["LK-OWN-COMPANY", ["MI", "MD"]]])"));
+      return;
+    }
+  }
+  FAIL() << "the item is missing";
+}
+
+TEST_F(ReportTest, MappingsLeadToItems) {
+  const toolkit::Report report = reportOf({example("MOTPREM-java.xml")});
+  const nlohmann::json items = dataOf(report, "d1")["items"];
+  const nlohmann::json service = dataOf(report, "s1");
+  EXPECT_EQ(service["document"], "d1");
+  const nlohmann::json mapping = service["operations"][0]["f"][2]["m"][0];
+  EXPECT_EQ(mapping[0], "LK-RETURN-CODE");
+  EXPECT_EQ(items[mapping[1].get<std::size_t>()]["n"], "LK-RETURN-CODE");
+}
+
+TEST_F(ReportTest, FindingsOfLintAreTold) {
+  const toolkit::Report report = reportOf({example("broken/MOTPREM-java.xml")});
+  EXPECT_GT(report.findings, 0U);
+  const nlohmann::json findings = dataOf(report, "s1")["findings"];
+  EXPECT_GE(findings.size(), report.findings);
+  EXPECT_THAT(findings[0], Contains(testing::Not("")));
+}
+
+TEST_F(ReportTest, ARefusedDocumentIsLeftOutAndTold) {
+  const toolkit::Report report =
+      reportOf({example("refused/length-in-words.xml"), example("MOTPREM.xml")});
+  ASSERT_THAT(report.refusals, SizeIs(1));
+  EXPECT_EQ(report.refusals[0].line, 9);
+  EXPECT_EQ(report.programs, 1U);
+}
+
+TEST_F(ReportTest, ADictionaryThatIsNamedTwiceIsShownOnce) {
+  const toolkit::Report report =
+      reportOf({example("MOTPREM.xml"), example("../examples/MOTPREM.xml"),
+                example("MOTPREM-ws.xml"), example("MOTPREM-com.xml")});
+  EXPECT_EQ(report.programs, 1U);
+  EXPECT_EQ(report.services, 2U);
+}
+
+// What a name may hold to get out of a script, a page or an attribute.
+TEST_F(ReportTest, HostileNamesStayText) {
+  const std::string hostile =
+      "</script><script>alert(1)</script>\"'`${x}-->]]>\\u2028\xE2\x80\xA8\xE2\x80\xA9";
+  std::string escaped;
+  for (const char c : hostile) {
+    escaped += c == '<' ? "&lt;" : c == '>' ? "&gt;" : c == '"' ? "&quot;" : std::string(1, c);
+  }
+  write("h.xml", test::dictionaryOf("<alphanumeric name=\"" + escaped + "\" picture=\"" + escaped +
+                                    "\" offset=\"0\" length=\"4\"/>"));
+  const toolkit::Report report = reportOf({"h.xml"});
+  EXPECT_EQ(dataOf(report, "d1")["items"][0]["n"], hostile);
+  for (const char* const id : {"d1", "index"}) {
+    const std::string script = contentOf(report, std::string("data/") + id + ".js");
+    EXPECT_THAT(script, Not(HasSubstr("<")));
+    EXPECT_TRUE(std::all_of(script.begin(), script.end(),
+                            [](char c) { return c == '\n' || (c >= ' ' && c <= '~'); }));
+  }
+}
+
+TEST_F(ReportTest, ALongNameIsCutInTheIndexOnly) {
+  const std::string name(1000000, 'N');
+  write("l.xml", test::dictionaryOf("<alphanumeric name='" + name + "' offset='0' length='4'/>"));
+  const toolkit::Report report = reportOf({"l.xml"});
+  EXPECT_EQ(dataOf(report, "d1")["items"][0]["n"].get<std::string>().size(), name.size());
+  EXPECT_LT(contentOf(report, "data/index.js").size(), 2000U);
+}
+
+TEST_F(ReportTest, SourcesAreFoundBesideTheDictionary) {
+  const toolkit::Report report = reportOf({example("MOTPREM.xml")});
+  const nlohmann::json data = dataOf(report, "d1");
+  EXPECT_EQ(data["source"], "t1");
+  const nlohmann::json source = dataOf(report, "t1");
+  EXPECT_EQ(source["name"], "MOTPREM.cbl");
+  // Each item that has a line has it there.
+  for (const nlohmann::json& item : data["items"]) {
+    EXPECT_EQ(item.value("src", 0), 1) << item["n"];
+  }
+}
+
+TEST_F(ReportTest, ASourceIsFoundByItsOwnNameOnly) {
+  const std::string program =
+      "<properties><property name='source' value='../secret/T.cbl'/></properties>";
+  write("secret/T.cbl", "       01 A PIC X.\n");
+  write("in/d.xml", test::dictionary(program));
+  EXPECT_FALSE(dataOf(reportOf({"in/d.xml"}), "d1").contains("source"));
+  toolkit::ReportOptions options;
+  options.sourceFolders = {"secret"};
+  EXPECT_EQ(dataOf(reportOf({"in/d.xml"}, options), "d1")["source"], "t1");
+}
+
+TEST_F(ReportTest, SourcesOfOldCodePagesAreRead) {
+  write("T.cbl", "* M\xFCnchen\r\n01 A.\r\n");
+  write("d.xml",
+        test::dictionary("<properties><property name='source' value='T.cbl'/></properties>"));
+  EXPECT_EQ(dataOf(reportOf({"d.xml"}), "t1")["lines"],
+            nlohmann::json::parse(R"(["* M\u00fcnchen", "01 A."])"));
+}
+
+TEST_F(ReportTest, IsWrittenBelowAFolder) {
+  const toolkit::Report report = reportOf({example("MOTPREM.xml")});
+  toolkit::writeReport(report, "site/of/mine");
+  for (const toolkit::ReportFile& file : report.files) {
+    EXPECT_EQ(test::contentOf("site/of/mine/" + file.name), file.content);
+  }
+}
+
+TEST_F(ReportTest, AFolderThatCannotBeMadeIsTold) {
+  write("site", "a file");
+  const toolkit::Report report = reportOf({example("MOTPREM.xml")});
+  EXPECT_THAT(test::fileErrorOf([&] { toolkit::writeReport(report, "site"); }), HasSubstr("site"));
+}
+
+}  // namespace
