@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "as/CASException.h"
-#include "as/toolkit/Text.h"
+#include "as/toolkit/FindingsWriter.h"
 #include "cli/Messages.h"
 #include "cli/SchemaDirectory.h"
 
@@ -30,9 +30,9 @@ int withReader(const std::optional<std::string>& schemas,
 }
 
 void printFindings(const std::string& file, const toolkit::Findings& findings) {
-  for (const toolkit::Finding& finding : findings) {
-    std::cout << toolkit::printable(file) << ": " << toolkit::printable(textOf(finding)) << "\n";
-  }
+  const auto writer = toolkit::findFindingsFormat("text")->makeWriter(std::cout, {});
+  for (const toolkit::Finding& finding : findings) writer->add({file, finding});
+  writer->end();
 }
 
 // May stand before the command as well as behind it.
@@ -45,12 +45,6 @@ void addFlavourOption(Arguments& arguments, std::string& word) {
   std::vector<std::string> words;
   for (const toolkit::Flavour& flavour : toolkit::flavours()) words.emplace_back(flavour.word);
   arguments.requiredOption("--flavour", word, words, "The service's flavour");
-}
-
-void addOutputOption(Arguments& arguments, std::string& file) {
-  arguments.requiredOption(
-      "-o,--output", file,
-      "The file to write; one that is there is replaced when the new one is complete");
 }
 
 }  // namespace cli

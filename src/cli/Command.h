@@ -74,7 +74,6 @@ void printFindings(const std::string& file, const toolkit::Findings& findings);
 // The options that commands have in common.
 void addSchemasOption(Arguments& arguments, std::optional<std::string>& schemas);
 void addFlavourOption(Arguments& arguments, std::string& word);
-void addOutputOption(Arguments& arguments, std::string& file);
 
 }  // namespace cli
 

@@ -4,13 +4,58 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 #include <system_error>
 
 #include "as/toolkit/Files.h"
 #include "cli/Messages.h"
 #include "cli/Progress.h"
+#include "cli/Workers.h"
 
 namespace cli {
+
+namespace {
+
+using as::toolkit::Refusal;
+
+// How the work at a document ended.
+enum class Ending : std::size_t { lost, done, refused };
+
+WorkOutcome packed(const Inputs::Work& work, const Input& input) {
+  const auto refused = [](const Refusal& refusal) {
+    Parcel parcel;
+    parcel.put(static_cast<std::size_t>(Ending::refused));
+    parcel.put(refusal);
+    return WorkOutcome{false, "", parcel.take()};
+  };
+  try {
+    Parcel parcel;
+    parcel.put(static_cast<std::size_t>(Ending::done));
+    work(input, parcel);
+    return {true, "", parcel.take()};
+  } catch (const as::toolkit::RefusedDocument& failure) {
+    return refused(failure.refusal());
+  } catch (const as::toolkit::FileError& failure) {
+    return refused({toolName, 0, 0, failure.what(), ""});
+  }
+}
+
+void tell(const Input& input, const WorkOutcome& outcome, const Inputs::Tellers& tellers) {
+  OpenedParcel parcel(outcome.results);
+  switch (static_cast<Ending>(parcel.number())) {
+    case Ending::done:
+      return tellers.done(input, parcel);
+    case Ending::refused: {
+      const Refusal refusal = parcel.refusal();
+      if (input.isSearched && refusal.isOfAnotherKind) return tellers.passedOver();
+      return tellers.refused(input, refusal);
+    }
+    default:
+      tellers.refused(input, {input.source.name, 0, 0, "the work at it came to no end", ""});
+  }
+}
+
+}  // namespace
 
 void Inputs::declare(Arguments& arguments, const char* name) {
   arguments.required(name, names_, "Files, folders with --recursive, - for standard input");
@@ -36,7 +81,7 @@ bool Inputs::add(const std::string& name) {
     // It gives nothing a second time.
     if (isRead) return true;
     try {
-      inputs_.push_back({as::toolkit::documentFrom(STDIN_FILENO, name)});
+      inputs_.push_back({as::toolkit::documentFrom(STDIN_FILENO, name), false, name});
     } catch (const as::toolkit::RefusedDocument& refused) {
       printRefusal(refused.refusal());
       return false;
@@ -45,27 +90,39 @@ bool Inputs::add(const std::string& name) {
   }
   std::error_code ignored;
   if (!isRecursive_ || !std::filesystem::is_directory(name, ignored)) {
-    inputs_.push_back({{name}});
+    inputs_.push_back({{name}, false, std::filesystem::path(name).filename().string()});
     return true;
   }
   const as::toolkit::FoundFiles found = as::toolkit::filesIn(name, {".xml"});
   for (const std::string& file : found.files) {
-    inputs_.push_back({{(std::filesystem::path(name) / file).string()}, true});
+    inputs_.push_back({{(std::filesystem::path(name) / file).string()}, true, file});
   }
-  for (const as::toolkit::Refusal& refusal : found.refusals) printRefusal(refusal);
+  for (const Refusal& refusal : found.refusals) printRefusal(refusal);
   return found.refusals.empty();
 }
 
-void Inputs::workThrough(const Output& output, const std::function<WorkOutcome(const Input&)>& work,
-                         const std::function<void(const Input&, const WorkOutcome&)>& done) const {
+void Inputs::workThrough(const Output& output, const Work& work, const Tellers& tellers) const {
   const Progress progress(inputs_.size(), output.isQuiet());
   cli::workThrough(
-      inputs_.size(), jobs_, [&](std::size_t i) { return work(inputs_[i]); },
+      inputs_.size(), jobs_, [&](std::size_t i) { return packed(work, inputs_[i]); },
       [&](std::size_t i, const WorkOutcome& outcome) {
         progress.clear();
-        done(inputs_[i], outcome);
+        tell(inputs_[i], outcome, tellers);
         progress.show(i + 1);
       });
+}
+
+std::vector<std::string> Inputs::targetsIn(const std::string& output) const {
+  if (inputs_.size() == 1 && !inputs_.front().isSearched) return {output};
+  std::vector<std::string> targets;
+  std::set<std::string> taken;
+  for (const Input& input : inputs_) {
+    targets.push_back((std::filesystem::path(output) / input.place).string());
+    if (taken.insert(targets.back()).second) continue;
+    printError("two documents would be written to " + targets.back());
+    return {};
+  }
+  return targets;
 }
 
 }  // namespace cli

@@ -10,13 +10,14 @@
 #include "as/toolkit/DocumentReader.h"
 #include "cli/Arguments.h"
 #include "cli/Output.h"
-#include "cli/Workers.h"
+#include "cli/Parcel.h"
 
 namespace cli {
 
 struct Input {
   as::toolkit::DocumentSource source;
   bool isSearched = false;  // Found in a folder, not named: it may be a document of any kind.
+  std::string place{};      // Its name below the folder that was searched, or without any folder.
 };
 
 class Inputs {
@@ -31,11 +32,26 @@ class Inputs {
   const std::vector<Input>& all() const { return inputs_; }
   bool areSeveral() const { return inputs_.size() > 1; }
 
+  // What is done with a document: puts what came of it into the parcel, or throws
+  // toolkit::RefusedDocument or toolkit::FileError.
+  using Work = std::function<void(const Input&, Parcel&)>;
+
+  // What is to be told of it: what came of it, or else why nothing did.
+  struct Tellers {
+    std::function<void(const Input&, OpenedParcel&)> done;
+    std::function<void(const Input&, const as::toolkit::Refusal&)> refused;
+    // A search found it, and it is of another kind than the command is about.
+    std::function<void()> passedOver;
+  };
+
   // Does `work` for each of them, in as many processes as the user wants, and tells on a terminal
-  // how far it is. `done` gets what came of it, in the order of the inputs; what came to no end has
-  // no results.
-  void workThrough(const Output& output, const std::function<WorkOutcome(const Input&)>& work,
-                   const std::function<void(const Input&, const WorkOutcome&)>& done) const;
+  // how far it is. The tellers are called in the order of the inputs.
+  void workThrough(const Output& output, const Work& work, const Tellers& tellers) const;
+
+  // The files that commands write which make a document of each of theirs: `output` itself for one
+  // that was named, files in the folder `output` for others. Empty, after a message, when two would
+  // be written to the same.
+  std::vector<std::string> targetsIn(const std::string& output) const;
 
  private:
   bool add(const std::string& name);

@@ -12,7 +12,7 @@ namespace cli {
 // std::cerr is tied to std::cout: both keep their order where they go to the same place.
 
 void printError(std::string_view text) {
-  std::cerr << "agentservices: error: " << as::toolkit::printable(text) << "\n";
+  std::cerr << toolName << ": error: " << as::toolkit::printable(text) << "\n";
 }
 
 void printRefusal(const as::toolkit::Refusal& refusal) {

@@ -8,6 +8,9 @@
 
 namespace cli {
 
+// What the tool calls itself.
+inline constexpr char toolName[] = "agentservices";
+
 // "agentservices: error: TEXT": about the call, not about a document.
 void printError(std::string_view text);
 

@@ -1,10 +1,8 @@
-// agentservices convert: carries a service over to another flavour.
+// agentservices convert: carries services over to another flavour.
 #include "as/toolkit/Convert.h"
 
-#include <iostream>
-
-#include "as/toolkit/Text.h"
 #include "cli/Command.h"
+#include "cli/Making.h"
 
 namespace cli {
 
@@ -12,38 +10,34 @@ namespace {
 
 class Convert : public Command {
  public:
-  Convert() : Command("convert", "Carry a service over to another flavour") {}
+  Convert() : Command("convert", "Carry services over to another flavour") {}
 
   std::vector<Example> examples() const override {
     return {
-        {"convert --flavour ws quotes.xml -o quotes-ws.xml", "make a Web service of a Java one"}};
+        {"convert --flavour ws quotes.xml -o quotes-ws.xml", "make a Web service of a Java one"},
+        {"convert --flavour ws -r services -o web", "make those of a folder"}};
   }
 
   void declare(Arguments& arguments) override {
-    arguments.required("SERVICE", file_, "The service");
+    making_.declareInputs(arguments, "SERVICE");
     addFlavourOption(arguments, flavour_);
-    addOutputOption(arguments, output_);
-    arguments.flag("-q,--quiet", isQuiet_, "Say only what is wrong");
+    making_.declareOutput(arguments);
   }
 
   int run(const std::optional<std::string>& schemas) override {
-    return withReader(schemas, [this](const toolkit::DocumentReader& reader) {
-      const toolkit::Flavour& flavour = *toolkit::findFlavour(flavour_);
+    const toolkit::Flavour& flavour = *toolkit::findFlavour(flavour_);
+    return making_.run(schemas, [&flavour](const toolkit::DocumentReader& reader,
+                                           const Input& input, const std::string& output) {
       const toolkit::ConvertedService converted =
-          toolkit::convertServiceFile(reader, file_, output_, flavour);
-      if (isQuiet_) return exitFine;
-      printFindings(output_, converted.notes);
-      std::cout << toolkit::printable(output_) << ": " << converted.from->name << " service made a "
-                << flavour.name << " service\n";
-      return exitFine;
+          toolkit::convertServiceFile(reader, input.source, output, flavour);
+      return Made{converted.notes, std::string(converted.from->name) + " service made a " +
+                                       flavour.name + " service"};
     });
   }
 
  private:
-  std::string file_;
+  Making making_;
   std::string flavour_;
-  std::string output_;
-  bool isQuiet_ = false;
 };
 
 }  // namespace

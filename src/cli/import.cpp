@@ -1,6 +1,8 @@
 // agentservices import: makes data dictionaries from COBOL sources.
 #include "as/toolkit/Import.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
@@ -33,7 +35,8 @@ class Import : public Command {
 
   void declare(Arguments& arguments) override {
     arguments.required("FILE", files_,
-                       "The sources: files, and folders with files *.cbl, *.cob ...");
+                       "The sources: files, folders with files *.cbl, *.cob ..., or - for one from "
+                       "standard input");
     arguments.requiredOption("-o,--output", output_,
                              "The dictionary of one FILE; the folder of those of several");
     arguments.list("-I,--include", folders_, "DIR,...",
@@ -73,7 +76,7 @@ class Import : public Command {
 
  private:
   struct Task {
-    std::string source;
+    toolkit::DocumentSource source;
     std::string output;
   };
 
@@ -93,12 +96,15 @@ class Import : public Command {
   // One FILE that is no folder goes to the file OUT; everything else to the folder OUT.
   int findTasks() {
     std::error_code failure;
-    if (files_.size() == 1 && !fs::is_directory(files_.front(), failure)) {
-      tasks_.push_back({files_.front(), output_});
-      return exitFine;
-    }
-    isFolder_ = true;
     try {
+      if (files_.size() == 1 && !fs::is_directory(files_.front(), failure)) {
+        const bool isStream = files_.front() == "-";
+        tasks_.push_back({isStream ? toolkit::documentFrom(STDIN_FILENO, "-")
+                                   : toolkit::DocumentSource{files_.front()},
+                          output_});
+        return exitFine;
+      }
+      isFolder_ = true;
       for (const std::string& file : files_) {
         if (!fs::is_directory(file, failure)) {
           addTask(fs::path(file).parent_path(), fs::path(file).filename());
@@ -120,7 +126,7 @@ class Import : public Command {
   void addTask(const fs::path& folder, const fs::path& source) {
     fs::path target = fs::path(output_) / source;
     target.replace_extension(".xml");
-    tasks_.push_back({(folder / source).string(), target.string()});
+    tasks_.push_back({{(folder / source).string()}, target.string()});
   }
 
   WorkOutcome import(const Task& task) const {
@@ -171,7 +177,7 @@ class Import : public Command {
     std::cerr << outcome.messages;
     std::cout << outcome.results;
     if (!outcome.isFine && outcome.messages.empty()) {
-      std::cerr << toolkit::printable(tasks_[task].source)
+      std::cerr << toolkit::printable(tasks_[task].source.name)
                 << ": error: the import came to no end\n";
     }
   }

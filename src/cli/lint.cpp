@@ -16,7 +16,6 @@
 #include "cli/FindingsReport.h"
 #include "cli/Inputs.h"
 #include "cli/Messages.h"
-#include "cli/Parcel.h"
 
 namespace cli {
 
@@ -82,9 +81,6 @@ std::string textOf(const Tally& tally) {
   if (tally.passedOver > 0) text += ", " + std::to_string(tally.passedOver) + " no services";
   return text;
 }
-
-// How looking at a document ended.
-enum class Ending : std::size_t { lost, looked, refused };
 
 class Lint : public Command {
  public:
@@ -159,8 +155,14 @@ class Lint : public Command {
     report_.begin(output_, ruleDescriptions());
     Tally all;
     inputs_.workThrough(
-        output_, [&](const Input& input) { return look(reader, input); },
-        [&](const Input& input, const WorkOutcome& outcome) { all.add(tell(input, outcome)); });
+        output_, [&](const Input& input, Parcel& parcel) { look(reader, input, parcel); },
+        {[&](const Input& input, OpenedParcel& parcel) { all.add(tell(input, parcel)); },
+         [&](const Input&, const toolkit::Refusal& refusal) {
+           ++all.documents;
+           ++all.refused;
+           report_.add(refusal);
+         },
+         [&] { ++all.passedOver; }});
     report_.end();
     if (report_.isText() && !output_.isQuiet()) summarise(all);
     if (!writtenBaseline_) return all.isFine() && isFound ? exitFine : exitRefused;
@@ -168,48 +170,20 @@ class Lint : public Command {
     return all.refused == 0 && isFound ? exitFine : exitRefused;
   }
 
-  WorkOutcome look(const toolkit::DocumentReader& reader, const Input& input) const {
-    Parcel parcel;
-    try {
-      const toolkit::Findings findings = toolkit::lintDocument(reader, input.source, options_);
-      parcel.put(static_cast<std::size_t>(Ending::looked));
-      parcel.put(findings.size());
-      for (const toolkit::Finding& finding : findings) parcel.put(finding);
-    } catch (const toolkit::RefusedDocument& refused) {
-      parcel.put(static_cast<std::size_t>(Ending::refused));
-      parcel.put(refused.refusal());
-    }
-    return {true, "", parcel.take()};
+  void look(const toolkit::DocumentReader& reader, const Input& input, Parcel& parcel) const {
+    const toolkit::Findings findings = toolkit::lintDocument(reader, input.source, options_);
+    parcel.put(findings.size());
+    for (const toolkit::Finding& finding : findings) parcel.put(finding);
   }
 
-  Tally tell(const Input& input, const WorkOutcome& outcome) {
-    OpenedParcel parcel(outcome.results);
+  Tally tell(const Input& input, OpenedParcel& parcel) {
     const std::string& file = input.source.name;
     Tally tally;
-    switch (static_cast<Ending>(parcel.number())) {
-      case Ending::looked:
-        tally.documents = 1;
-        for (std::size_t left = parcel.number(); left > 0; --left) {
-          tell(file, parcel.finding(), tally);
-        }
-        if (report_.isText() && !output_.isQuiet()) {
-          std::cout << toolkit::printable(file) << ": " << textOf(tally) << "\n";
-        }
-        return tally;
-      case Ending::refused: {
-        const toolkit::Refusal refusal = parcel.refusal();
-        if (input.isSearched && refusal.isOfAnotherKind) {
-          tally.passedOver = 1;
-          return tally;
-        }
-        report_.add(refusal);
-        break;
-      }
-      default:
-        report_.add(toolkit::Refusal{file, 0, 0, "looking at it came to no end", ""});
-    }
     tally.documents = 1;
-    tally.refused = 1;
+    for (std::size_t left = parcel.number(); left > 0; --left) tell(file, parcel.finding(), tally);
+    if (report_.isText() && !output_.isQuiet()) {
+      std::cout << toolkit::printable(file) << ": " << textOf(tally) << "\n";
+    }
     return tally;
   }
 

@@ -1,9 +1,7 @@
-// agentservices new: makes a first service for a program.
-#include <iostream>
-
+// agentservices new: makes first services for programs.
 #include "as/toolkit/Make.h"
-#include "as/toolkit/Text.h"
 #include "cli/Command.h"
+#include "cli/Making.h"
 
 namespace cli {
 
@@ -11,43 +9,45 @@ namespace {
 
 class New : public Command {
  public:
-  New() : Command("new", "Make a first service for the program of a data dictionary") {}
+  New() : Command("new", "Make first services for the programs of data dictionaries") {}
 
   std::vector<Example> examples() const override {
     return {{"new --flavour java MOTPREM.xml -o quotes.xml", "make a service of all entry points"},
             {"new --flavour ws --operations QUOTE --name Quotes MOTPREM.xml -o quotes.xml",
-             "make one of that entry point, with a name"}};
+             "make one of that entry point, with a name"},
+            {"new --flavour java -r dictionaries -o services", "make those of a folder"}};
   }
 
   void declare(Arguments& arguments) override {
-    arguments.required("DICTIONARY", dictionary_, "The data dictionary");
+    making_.declareInputs(arguments, "DICTIONARY");
     addFlavourOption(arguments, flavour_);
-    addOutputOption(arguments, output_);
+    making_.declareOutput(arguments);
     arguments.option("--name", options_.name, "The service's name, in place of the program's");
     arguments.list("--operations", options_.entryPoints, "ENTRY,...",
                    "The entry points to make operations of, with commas between; all unless told");
-    arguments.flag("-q,--quiet", isQuiet_, "Say only what is wrong");
   }
 
   int run(const std::optional<std::string>& schemas) override {
-    return withReader(schemas, [this](const toolkit::DocumentReader& reader) {
-      const toolkit::Flavour& flavour = *toolkit::findFlavour(flavour_);
+    const toolkit::Flavour& flavour = *toolkit::findFlavour(flavour_);
+    return making_.run(schemas, [&](const toolkit::DocumentReader& reader, const Input& input,
+                                    const std::string& output) {
+      if (input.source.text) {
+        throw toolkit::RefusedDocument({input.source.name, 0, 0,
+                                        "a service names the file of its dictionary",
+                                        "name that, in place of standard input"});
+      }
       const toolkit::MadeService made =
-          toolkit::makeServiceFile(reader, dictionary_, output_, flavour, options_);
-      if (isQuiet_) return exitFine;
-      printFindings(output_, made.notes);
-      std::cout << toolkit::printable(output_) << ": " << flavour.name << " service, operations "
-                << made.operations << ", mapped items " << made.mappings << "\n";
-      return exitFine;
+          toolkit::makeServiceFile(reader, input.source.name, output, flavour, options_);
+      return Made{made.notes, std::string(flavour.name) + " service, operations " +
+                                  std::to_string(made.operations) + ", mapped items " +
+                                  std::to_string(made.mappings)};
     });
   }
 
  private:
-  std::string dictionary_;
+  Making making_;
   std::string flavour_;
-  std::string output_;
   toolkit::MakeOptions options_;
-  bool isQuiet_ = false;
 };
 
 }  // namespace

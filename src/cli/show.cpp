@@ -8,14 +8,10 @@
 #include "cli/Command.h"
 #include "cli/Inputs.h"
 #include "cli/Messages.h"
-#include "cli/Parcel.h"
 
 namespace cli {
 
 namespace {
-
-// How showing a document ended.
-enum class Ending : std::size_t { lost, shown, refused };
 
 class Show : public Command {
  public:
@@ -47,9 +43,20 @@ class Show : public Command {
         return isFine_ ? exitFine : exitRefused;
       }
       if (json_) std::cout << "[";
-      inputs_.workThrough(
-          output_, [&](const Input& input) { return shown(reader, input); },
-          [&](const Input& input, const WorkOutcome& outcome) { tell(input, outcome); });
+      inputs_.workThrough(output_,
+                          [&](const Input& input, Parcel& parcel) {
+                            std::ostringstream out;
+                            show(reader, input, out);
+                            parcel.put(out.str());
+                          },
+                          {[&](const Input& input, OpenedParcel& parcel) {
+                             print(input.source.name, parcel.text());
+                           },
+                           [&](const Input&, const toolkit::Refusal& refusal) {
+                             printRefusal(refusal);
+                             isFine_ = false;
+                           },
+                           [] {}});
       if (json_) std::cout << "\n]\n";
       return isFine_ ? exitFine : exitRefused;
     });
@@ -79,37 +86,6 @@ class Show : public Command {
     } else {
       toolkit::renderText(out, root);
     }
-  }
-
-  WorkOutcome shown(const toolkit::DocumentReader& reader, const Input& input) const {
-    Parcel parcel;
-    try {
-      std::ostringstream out;
-      show(reader, input, out);
-      parcel.put(static_cast<std::size_t>(Ending::shown));
-      parcel.put(out.str());
-    } catch (const toolkit::RefusedDocument& refused) {
-      parcel.put(static_cast<std::size_t>(Ending::refused));
-      parcel.put(refused.refusal());
-    }
-    return {true, "", parcel.take()};
-  }
-
-  void tell(const Input& input, const WorkOutcome& outcome) {
-    OpenedParcel parcel(outcome.results);
-    switch (static_cast<Ending>(parcel.number())) {
-      case Ending::shown:
-        return print(input.source.name, parcel.text());
-      case Ending::refused: {
-        const toolkit::Refusal refusal = parcel.refusal();
-        if (input.isSearched && refusal.isOfAnotherKind) return;
-        printRefusal(refusal);
-        break;
-      }
-      default:
-        printRefusal({input.source.name, 0, 0, "showing it came to no end", ""});
-    }
-    isFine_ = false;
   }
 
   // One of several documents.

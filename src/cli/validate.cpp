@@ -6,14 +6,10 @@
 #include "cli/Command.h"
 #include "cli/FindingsReport.h"
 #include "cli/Inputs.h"
-#include "cli/Parcel.h"
 
 namespace cli {
 
 namespace {
-
-// How reading a document ended.
-enum class Ending : std::size_t { lost, good, refused };
 
 class Validate : public Command {
  public:
@@ -36,9 +32,17 @@ class Validate : public Command {
     return withReader(schemas, [this](const toolkit::DocumentReader& reader) {
       const bool isFound = inputs_.find();
       report_.begin(output_, {});
-      inputs_.workThrough(
-          output_, [&](const Input& input) { return read(reader, input); },
-          [&](const Input& input, const WorkOutcome& outcome) { tell(input, outcome); });
+      inputs_.workThrough(output_, [&](const Input& input, Parcel&) { reader.read(input.source); },
+                          {[&](const Input& input, OpenedParcel&) {
+                             ++good_;
+                             if (isTold())
+                               std::cout << toolkit::printable(input.source.name) << ": ok\n";
+                           },
+                           [&](const Input&, const toolkit::Refusal& refusal) {
+                             ++refused_;
+                             report_.add(refusal);
+                           },
+                           [&] { ++passedOver_; }});
       report_.end();
       if (isTold() && inputs_.areSeveral()) {
         std::cout << toolkit::count(good_ + refused_, "document") << ": " << good_ << " ok, "
@@ -51,41 +55,6 @@ class Validate : public Command {
   }
 
  private:
-  static WorkOutcome read(const toolkit::DocumentReader& reader, const Input& input) {
-    Parcel parcel;
-    try {
-      reader.read(input.source);
-      parcel.put(static_cast<std::size_t>(Ending::good));
-    } catch (const toolkit::RefusedDocument& refused) {
-      parcel.put(static_cast<std::size_t>(Ending::refused));
-      parcel.put(refused.refusal());
-    }
-    return {true, "", parcel.take()};
-  }
-
-  void tell(const Input& input, const WorkOutcome& outcome) {
-    OpenedParcel parcel(outcome.results);
-    const std::string& file = input.source.name;
-    switch (static_cast<Ending>(parcel.number())) {
-      case Ending::good:
-        ++good_;
-        if (isTold()) std::cout << toolkit::printable(file) << ": ok\n";
-        return;
-      case Ending::refused: {
-        const toolkit::Refusal refusal = parcel.refusal();
-        if (input.isSearched && refusal.isOfAnotherKind) {
-          ++passedOver_;
-          return;
-        }
-        report_.add(refusal);
-        break;
-      }
-      default:
-        report_.add(toolkit::Refusal{file, 0, 0, "reading it came to no end", ""});
-    }
-    ++refused_;
-  }
-
   // Whether what is good is to be told.
   bool isTold() const { return report_.isText() && !output_.isQuiet(); }
 

@@ -34,6 +34,22 @@ TEST_F(ToolConvertTest, TellsWhatItMadeOfWhatAndWhatIsLost) {
   EXPECT_EQ(run({"validate", "out.xml"}).out, "out.xml: ok\n");
 }
 
+TEST_F(ToolConvertTest, TakesStandardInput) {
+  const test::StandardInput redirected(open(pathOf("s.xml").c_str(), O_RDONLY));
+  EXPECT_EQ(run({"convert", "-q", "--flavour", "com", "-", "-o", "out.xml"}).exitCode, 0);
+  EXPECT_EQ(run({"lint", "-q", "--rule", "unbound-operation=off", "out.xml"}).out, "");
+}
+
+TEST_F(ToolConvertTest, KeepsCommentsToLint) {
+  write("s.xml", "<!-- lint: off unmapped-field -->\n" +
+                     test::payService("<operations><!-- lint: off unbound-operation --><operation "
+                                      "name='pay'><parameters><parameter name='p' dataType='int'/>"
+                                      "</parameters></operation></operations>"));
+  ASSERT_EQ(run({"lint", "-q", "s.xml"}).out, "");
+  ASSERT_EQ(run({"convert", "--flavour", "com", "s.xml", "-o", "out.xml"}).exitCode, 0);
+  EXPECT_EQ(run({"lint", "-q", "out.xml"}).out, "");
+}
+
 TEST_F(ToolConvertTest, ARefusalIsToldAndChangesNothing) {
   const test::ToolOutcome outcome = run({"convert", "--flavour", "com", "s.xml", "-o", "PAY.xml"});
   EXPECT_EQ(outcome.exitCode, 1);

@@ -34,6 +34,19 @@ TEST_F(ToolImportTest, WritesTheDictionaryOfASource) {
   EXPECT_EQ(run({"validate", "a.xml"}).exitCode, 0);
 }
 
+TEST_F(ToolImportTest, TakesStandardInput) {
+  write("a.cbl", program("A", "01 R PIC Q."));
+  const test::StandardInput redirected(open(pathOf("a.cbl").c_str(), O_RDONLY));
+  EXPECT_EQ(run({"import", "-", "-o", "a.xml"}).err,
+            "-:4:17: error: Q is no PICTURE that can be read\n");
+}
+
+TEST_F(ToolImportTest, QuietlyTellsNoNotes) {
+  write("a.cbl", program("A", "01 R PIC X.") + "       REPORT SECTION.\n");
+  EXPECT_THAT(run({"import", "a.cbl", "-o", "a.xml"}).err, HasSubstr(": note: "));
+  EXPECT_EQ(run({"import", "-q", "a.cbl", "-o", "a.xml"}).err, "");
+}
+
 TEST_F(ToolImportTest, TellsFindingsOnStandardError) {
   write("a.cbl", program("A", "01 R PIC Q."));
   const test::ToolOutcome outcome = run({"import", "a.cbl", "-o", "a.xml"});

@@ -63,6 +63,47 @@ TEST_F(ToolNewTest, OptionsNameTheServiceAndItsOperations) {
                     Not(HasSubstr("entryPoint=\"C\""))));
 }
 
+TEST_F(ToolNewTest, SeveralDictionariesGoToAFolder) {
+  write("in/a.xml", test::payProgram());
+  write("in/below/b.xml", test::payProgram());
+  write("in/s.xml", test::payService(""));
+  write("c.xml", test::payProgram());
+  const test::ToolOutcome outcome = run(
+      {"new", "--flavour", "java", "-r", "in", "c.xml", "missing.xml", "-o", "out", "--jobs", "2"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.out,
+            "out/a.xml: Java service, operations 1, mapped items 5\n"
+            "out/below/b.xml: Java service, operations 1, mapped items 5\n"
+            "out/c.xml: Java service, operations 1, mapped items 5\n");
+  EXPECT_EQ(outcome.err, "missing.xml: error: cannot be read: No such file or directory\n");
+  EXPECT_EQ(run({"lint", "-q", "-r", "out"}).out, "");
+}
+
+TEST_F(ToolNewTest, NoTwoDictionariesGoToOneFile) {
+  write("a/p.xml", test::payProgram());
+  write("b/p.xml", test::payProgram());
+  const test::ToolOutcome outcome =
+      run({"new", "--flavour", "java", "a/p.xml", "b/p.xml", "-o", "out"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err, "agentservices: error: two documents would be written to out/p.xml\n");
+  EXPECT_FALSE(std::filesystem::exists(pathOf("out")));
+}
+
+TEST_F(ToolNewTest, NeedsAFileToName) {
+  write("p.xml", test::payProgram());
+  const test::StandardInput redirected(open(pathOf("p.xml").c_str(), O_RDONLY));
+  EXPECT_EQ(run({"new", "--flavour", "java", "-", "-o", "s.xml"}).err,
+            "-: error: a service names the file of its dictionary\n"
+            "hint: name that, in place of standard input\n");
+}
+
+TEST_F(ToolNewTest, QuietlySaysNothing) {
+  write("p.xml", test::payProgram());
+  const test::ToolOutcome outcome = run({"new", "-q", "--flavour", "java", "p.xml", "-o", "s.xml"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_EQ(outcome.out + outcome.err, "");
+}
+
 TEST_F(ToolNewTest, AnUnknownEntryPointIsRefusedWithThoseThereAre) {
   write("p.xml", test::payProgram());
   const test::ToolOutcome outcome =

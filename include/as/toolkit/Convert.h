@@ -29,9 +29,13 @@ AS_EXPORT ConvertedService convertService(const DocumentReader& reader, as::ISer
                                           const std::string& file, const Flavour& to,
                                           as::IProgram* program = nullptr);
 
-// The same from file to file; the program is that of the dictionary that the service names, if that
-// can be read. `output` is written when the whole service is there; it may be `file` itself, but
-// never takes the place of the dictionary. Throws RefusedDocument and FileError (see Files.h).
+// The same from a document to a file; the program is that of the dictionary that the service names,
+// if that can be read. `output` is written when the whole service is there; it may be the
+// document's file, but never takes the place of the dictionary. Throws RefusedDocument and
+// FileError (see Files.h).
+AS_EXPORT ConvertedService convertServiceFile(const DocumentReader& reader,
+                                              const DocumentSource& source,
+                                              const std::string& output, const Flavour& to);
 AS_EXPORT ConvertedService convertServiceFile(const DocumentReader& reader, const std::string& file,
                                               const std::string& output, const Flavour& to);
 

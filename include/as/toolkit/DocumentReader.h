@@ -53,7 +53,7 @@ struct DocumentSource {
 };
 
 // What a stream of bytes from the descriptor holds to its end, called `name`: standard input, a
-// pipe. Throws RefusedDocument when it cannot be read.
+// pipe. Throws RefusedDocument when it cannot be read, or is more than 2^30 bytes.
 AS_EXPORT DocumentSource documentFrom(int descriptor, const std::string& name);
 
 // A document of either kind: exactly one of the two is set.

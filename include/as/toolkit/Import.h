@@ -8,6 +8,7 @@
 
 #include "as/Export.h"
 #include "as/toolkit/Copybooks.h"
+#include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Finding.h"
 #include "as/toolkit/SourceFormat.h"
 #include "as/toolkit/SourceLocation.h"
@@ -105,6 +106,9 @@ struct ImportedFile {
 // PROGRAM-ID in its name: OUT.xml and OUT-OTHER.xml. Programs with errors leave what is there.
 // Throws RefusedDocument for a source that cannot be read, FileError (see Files.h), and what
 // importCobol() throws.
+AS_EXPORT ImportedFile importCobolFile(const DocumentSource& source, const std::string& output,
+                                       const std::vector<std::string>& folders = {},
+                                       const ImportOptions& options = {});
 AS_EXPORT ImportedFile importCobolFile(const std::string& file, const std::string& output,
                                        const std::vector<std::string>& folders = {},
                                        const ImportOptions& options = {});

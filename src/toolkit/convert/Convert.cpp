@@ -41,7 +41,13 @@ ConvertedService convertService(const DocumentReader& reader, as::IService& serv
 
 ConvertedService convertServiceFile(const DocumentReader& reader, const std::string& file,
                                     const std::string& output, const Flavour& to) {
-  const std::unique_ptr<as::IService> service = reader.readService(file);
+  return convertServiceFile(reader, DocumentSource{file}, output, to);
+}
+
+ConvertedService convertServiceFile(const DocumentReader& reader, const DocumentSource& source,
+                                    const std::string& output, const Flavour& to) {
+  const std::string& file = source.name;
+  const std::unique_ptr<as::IService> service = reader.readService(source);
   ConvertedService result;
   result.from = &flavourOf(*service);
   const std::string named = service->getDDFilename();

@@ -55,9 +55,17 @@ std::string fileNameOf(const std::string& program) {
 ImportedFile importCobolFile(const std::string& file, const std::string& output,
                              const std::vector<std::string>& folders,
                              const ImportOptions& options) {
+  return importCobolFile(DocumentSource{file}, output, folders, options);
+}
+
+ImportedFile importCobolFile(const DocumentSource& source, const std::string& output,
+                             const std::vector<std::string>& folders,
+                             const ImportOptions& options) {
+  const std::string& file = source.name;
   FolderCopybooks copybooks(folders, file);
   ImportedFile result;
-  result.imported = importCobol(contentOf(file), file, &copybooks, options);
+  result.imported =
+      importCobol(source.text ? *source.text : contentOf(file), file, &copybooks, options);
   const fs::path first = output;
   std::set<std::string> taken;
   for (std::size_t i = 0; i < result.imported.programs.size(); ++i) {

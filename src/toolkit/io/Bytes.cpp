@@ -13,9 +13,20 @@
 
 namespace as::toolkit {
 
+namespace {
+
+// What never ends, a device, is not to take all memory.
+constexpr std::size_t mostBytes = std::size_t{1} << 30U;
+
+}  // namespace
+
 bool readAll(int descriptor, std::string& bytes) {
   std::array<char, 65536> part{};
   for (;;) {
+    if (bytes.size() > mostBytes) {
+      errno = EFBIG;
+      return false;
+    }
     const ssize_t got = ::read(descriptor, part.data(), part.size());
     if (got < 0 && errno == EINTR) continue;
     if (got <= 0) return got == 0;
