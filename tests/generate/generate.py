@@ -3,6 +3,7 @@ made of random data divisions, and of services with names and values made to do 
 
 import argparse
 import json
+import re
 import shutil
 import subprocess
 import sys
@@ -10,7 +11,7 @@ import tempfile
 import time
 from collections import Counter
 from pathlib import Path
-from typing import Callable, List
+from typing import Callable, Dict, List
 
 import growth
 import hostile
@@ -20,6 +21,7 @@ import soap
 HERE = Path(__file__).resolve().parent
 EXAMPLES = HERE.parent.parent / 'examples'
 FLAVOURS = ['ws', 'com', 'dotnet', 'java']
+CHANGED = re.compile(r": '([^\n]*)' is no name in XML, or taken: '([^\n]*)' stands for it\n")
 COMPILED = 20  # One in so many of the services that are made up goes through gsoap.
 
 
@@ -28,16 +30,19 @@ class Prover:
         self.tool = tool
         self.folder = folder
         self.modules = modules
+        self.renamed: Dict[str, str] = {}
         self.failures: List[str] = []
         self.counts: Counter = Counter()
         self.schemas: List[str] = []
         self.broken: Counter = Counter()
 
     def generate(self, kind: str, source: Path, folder: Path, *options: str) -> List[Path]:
+        """Answers the files; `renamed` holds the names that were changed."""
         result = subprocess.run([self.tool, 'generate', kind, str(source), '-o', str(folder) + '/', *options],
                                 capture_output=True, text=True, errors='replace', check=False)
         if result.returncode != 0:
             raise soap.Failure(f'{kind} of {source}: {result.stdout[-500:]}{result.stderr[-500:]}')
+        self.renamed = {told[1]: told[2] for told in CHANGED.finditer(result.stdout)}
         return sorted(folder.iterdir())
 
     def attempt(self, what: str, work: Callable[[], None]) -> None:
@@ -72,7 +77,7 @@ class Prover:
     def prove_soap(self, service: Path, folder: Path) -> None:
         wsdl = self.generate('wsdl', service, folder / 'wsdl')[0]
         openapi = next((folder / 'json').glob('*.openapi.json'))
-        self.counts['messages'] += soap.prove(wsdl, main_schema(folder / 'xsd'), openapi)
+        self.counts['messages'] += soap.prove(wsdl, main_schema(folder / 'xsd'), openapi, self.renamed)
         apart = folder / 'apart'
         self.generate('wsdl', service, apart, '--set', 'schema=separate')
         soap.read_schema(main_schema(apart))
@@ -155,6 +160,21 @@ def main() -> int:
             prover.attempt(str(dictionary), lambda source=dictionary: prover.prove_schemas(
                 source, prover.folder / 'made' / source.stem / 'xsd'))
 
+    def prove_guide(prover: Prover) -> None:
+        guide = (HERE.parent.parent / 'docs' / 'generate.md').read_text()
+        code = guide.partition('<!-- caller -->')[2].partition('```python\n')[2].partition('```')[0]
+        prover.folder.mkdir(parents=True, exist_ok=True)
+
+        def call() -> None:
+            prover.generate('wsdl', EXAMPLES / 'PAYSLIP-ws.xml', prover.folder)
+            result = subprocess.run([sys.executable, '-c', code], cwd=prover.folder, capture_output=True,
+                                    text=True, check=False)
+            if 'return code 0' not in result.stdout or '4711</' not in result.stdout:
+                raise soap.Failure(result.stdout + result.stderr)
+            prover.counts['callers'] += 1
+
+        prover.attempt('the caller of the guide', call)
+
     def prove_made(prover: Prover) -> None:
         services = made.services(arguments.tool, prover.folder, arguments.seed, arguments.programs, FLAVOURS)
         for number, (flavour, service) in enumerate(services):
@@ -166,6 +186,7 @@ def main() -> int:
 
     try:
         run('examples', prove_examples)
+        run('guide', prove_guide)
         run('hostile names and values', prove_hostile)
         run('made of random data divisions', prove_made)
         failed = not growth.prove(arguments.tool, folder / 'growth') or failed

@@ -70,14 +70,14 @@ def dictionary(name: str, others) -> str:
     def items(first: int) -> str:
         return ''.join(
             f'<alphanumeric{attributes(name=other, picture="X(8)", offset=str(8 * number + first), length="8")}>'
-            f'<conditions><alphanumericCondition{attributes(name=other)}>'
-            f'<alphanumericConstant{attributes(value=other)}/></alphanumericCondition></conditions>'
+            f'<alphanumericCondition{attributes(name=other)}>'
+            f'<alphanumericConstant{attributes(value=other)}/></alphanumericCondition>'
             '</alphanumeric>' for number, other in enumerate(others))
 
     return (f'<program xmlns="{uri}" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance" '
             f'xsi:schemaLocation="{uri} {uri}"{attributes(name=name)}>'
-            f'<dataItems><group{attributes(name=name, length=str(8 * len(others)))}><children>{items(0)}'
-            f'</children></group></dataItems><entryPoints><entryPoint{attributes(name=name)}/></entryPoints>'
+            f'<dataItems><group{attributes(name=name, length=str(8 * len(others)))}>{items(0)}'
+            f'</group>{items(0)}</dataItems><entryPoints><entryPoint{attributes(name=name)}/></entryPoints>'
             '</program>')
 
 

@@ -51,7 +51,7 @@ const rules = {
   'letters for numeral': (s) => s.pattern ? 'abc' : undefined,
   'exponent in numeral': (s) => s.pattern ? '1E2' : undefined,
   'numeral too long': (s) => /\{1,/.test(s.pattern || '') ? '9'.repeat(60) : undefined,
-  'too many decimals': (s) => s.pattern ? '0.' + '1'.repeat(60) : undefined,
+  'too many decimals': (s) => s.pattern && !s.pattern.includes('[0-9]+)') ? '0.' + '1'.repeat(60) : undefined,
   'negative numeral': (s) => s.pattern && !s.pattern.startsWith('^-') ? '-1' : undefined,
   'empty numeral': (s) => s.pattern && s.pattern.startsWith('^[') ? '' : undefined,
   'text for number': (s) => s.type === 'number' ? 'text' : undefined,

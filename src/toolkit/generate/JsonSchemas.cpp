@@ -82,6 +82,7 @@ JsonSchemas::JsonSchemas(const Job& job, std::string definitions)
       definitionNames_(job.namesBy(jsonNames())),
       memberNames_(job.namesBy(memberRule())),
       samples_(job.model),
+      types_(jsonTypes()),
       prefix_(std::move(definitions)),
       withConditions_(job.isChosen("conditions", "enumerations")),
       values_(job.model.types.size()) {
@@ -89,7 +90,7 @@ JsonSchemas::JsonSchemas(const Job& job, std::string definitions)
   // Structures that have a value beside their field attributes.
   const auto keepValue = [&](const Field& field) {
     if (field.structure == none || field.reference != none || field.dataType.empty()) return;
-    if (!model.types[field.structure].fields.empty() || rowFor(jsonTypes(), field) == nullptr) {
+    if (!model.types[field.structure].fields.empty() || types_.rowFor(field) == nullptr) {
       return;
     }
     Field value = field;
@@ -221,7 +222,7 @@ JsonSchemas::Json JsonSchemas::schemaOfOne(const Field& field) const {
 }
 
 JsonSchemas::Json JsonSchemas::schemaOfValue(const Field& field) const {
-  const TypeRow* const row = rowFor(jsonTypes(), field);
+  const TypeRow* const row = types_.rowFor(field);
   if (row == nullptr || row->type == anything) return Json::object();
   const std::string_view type = row->type;
   const Facets facets = facetsOf(job_.model, field, withConditions_);
@@ -294,7 +295,7 @@ JsonSchemas::Json JsonSchemas::sampleOfObject(const std::vector<const Field*>& m
 }
 
 JsonSchemas::Json JsonSchemas::sampleOfValue(const Field& field) const {
-  const TypeRow* const row = rowFor(jsonTypes(), field);
+  const TypeRow* const row = types_.rowFor(field);
   const std::string_view type = row == nullptr ? anything : row->type;
   const std::string value = samples_.valueOf(field);
   if (type == "integer") return std::atoll(value.c_str());

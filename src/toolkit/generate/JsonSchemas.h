@@ -74,6 +74,7 @@ class JsonSchemas {
   NameGiver definitionNames_;
   NameGiver memberNames_;
   SampleMaker samples_;
+  TypeLookup types_;
   std::string prefix_;
   bool withConditions_;
   std::vector<Definition> definitions_;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <map>
 #include <unordered_map>
 #include <utility>
 
@@ -158,6 +157,17 @@ std::string digitsOfText(std::string_view text) {
 }
 
 bool isLegal(const NameRule& rule, std::string_view name) {
+  // Most names are of ASCII: their bytes are their characters.
+  const bool isAscii = std::all_of(
+      name.begin(), name.end(), [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+  if (isAscii) {
+    return !name.empty() && name.size() <= rule.mostCharacters &&
+           rule.mayStart(static_cast<unsigned char>(name.front())) &&
+           std::all_of(
+               name.begin(), name.end(),
+               [&rule](char byte) { return rule.mayFollow(static_cast<unsigned char>(byte)); }) &&
+           !isReserved(rule, std::string(name));
+  }
   const std::u32string characters = charactersOf(name);
   return !characters.empty() && characters.size() <= rule.mostCharacters &&
          rule.mayStart(characters.front()) &&
@@ -223,7 +233,9 @@ std::vector<std::string> NameGiver::namesIn(const std::vector<NameWish>& wishes)
     int rank;  // Chosen, as it was, changed.
   };
   std::vector<std::string> names(wishes.size());
-  std::map<std::string, std::vector<Claim>> claims;
+  std::unordered_map<std::string, std::vector<Claim>> claims;
+  claims.reserve(wishes.size());
+  bool areApart = true;
   for (std::size_t i = 0; i < wishes.size(); ++i) {
     const std::string* const chosen = chosenFor(wishes[i]);
     names[i] = chosen != nullptr ? *chosen : legalName(rule_, wishes[i].name);
@@ -235,10 +247,16 @@ std::vector<std::string> NameGiver::namesIn(const std::vector<NameWish>& wishes)
     const int rank = chosen != nullptr                                 ? 0
                      : names[i] == wishes[i].name && !wishes[i].isMade ? 1
                                                                        : 2;
-    claims[keyOf(rule_, names[i])].push_back({i, rank});
+    std::vector<Claim>& claimants = claims[keyOf(rule_, names[i])];
+    claimants.push_back({i, rank});
+    areApart = areApart && claimants.size() == 1;
   }
-  for (auto& [key, claimants] : claims) {
-    if (claimants.size() == 1) continue;
+  for (std::size_t first = 0; first < wishes.size() && !areApart; ++first) {
+    const auto found = claims.find(keyOf(rule_, names[first]));
+    // Each group once, in the order of its first member.
+    if (found == claims.end() || found->second.size() == 1) continue;
+    std::vector<Claim> claimants = std::move(found->second);
+    claims.erase(found);
     std::stable_sort(claimants.begin(), claimants.end(),
                      [&](const Claim& left, const Claim& right) {
                        return std::pair(left.rank, wishes[left.index].name) <
@@ -259,6 +277,7 @@ std::vector<std::string> NameGiver::namesIn(const std::vector<NameWish>& wishes)
   // Wishes that are the same word for word still collide: they are told apart by their order.
   std::unordered_map<std::string, int> given;
   for (std::string& name : names) {
+    if (areApart) break;
     const std::string base = name;
     while (!given.try_emplace(keyOf(rule_, name), 1).second) {
       name = base + "_" + std::to_string(++given[keyOf(rule_, base)]);

@@ -47,6 +47,7 @@ std::string uriText(std::string_view text) {
 SchemaSet::SchemaSet(const Job& job)
     : job_(job),
       names_(job.namesBy(xmlNames())),
+      lookup_(xsdTypes()),
       target_(job.option("namespace")),
       withConditions_(job.isChosen("conditions", "enumerations")) {
   if (target_.empty()) {
@@ -286,7 +287,7 @@ std::string SchemaSet::typeName(Handle type) const {
   const Field* const field = namedTypes_[type].field;
   if (field == nullptr || !isNamed(*field)) return "tns:" + namedTypes_[type].name;
   const std::size_t own = field->reference != none ? field->reference : field->structure;
-  if (own == none) return builtIn(*field);
+  if (own == none) return std::string(builtIn(*field));
   return prefixes_.at(types_[own].uri) + ":" + types_[own].name;
 }
 
@@ -326,9 +327,9 @@ std::string SchemaSet::qualified(Part& part, const std::string& uri, const std::
   return prefixOf(uri) + ":" + name;
 }
 
-std::string SchemaSet::builtIn(const Field& field) const {
-  const TypeRow* const row = rowFor(xsdTypes(), field);
-  return row == nullptr ? std::string(anyType) : row->type;
+std::string_view SchemaSet::builtIn(const Field& field) const {
+  const TypeRow* const row = lookup_.rowFor(field);
+  return row == nullptr ? anyType : row->type;
 }
 
 void SchemaSet::writeType(std::size_t number) {
@@ -348,7 +349,7 @@ void SchemaSet::writeType(std::size_t number) {
     part.text.open("<xs:extension" +
                    attribute("base", hasFacets(*facts.value)
                                          ? qualified(part, facts.uri, facts.valueName)
-                                         : builtIn(*facts.value)) +
+                                         : std::string(builtIn(*facts.value))) +
                    ">");
     writeAttributes(part, type, around);
     part.text.close("</xs:extension>");
@@ -476,38 +477,45 @@ Facets SchemaSet::facetsIn(const Field& field) const {
   return facets;
 }
 
-bool SchemaSet::hasFacets(const Field& field) const {
-  const std::string base = builtIn(field);
-  if (base == anyType) return false;
-  const Facets facets = facetsIn(field);
+bool SchemaSet::saysAnything(const Facets& facets) {
   return facets.totalDigits > 0 || !facets.most.empty() || facets.longest >= 0 ||
          !facets.pattern.empty() || !facets.values.empty();
 }
 
+bool SchemaSet::hasFacets(const Field& field) const {
+  return builtIn(field) != anyType && saysAnything(facetsIn(field));
+}
+
 void SchemaSet::writeTyped(Part& part, const std::string& tag, const std::string& attributes,
                            const Field& field, bool isAttribute) {
-  const std::string start = "<xs:" + tag + attributes;
   const std::vector<std::string> lines = linesAbout(job_.model, field);
   std::string type;
+  Facets facets;
+  bool isAny = false;
   const std::size_t own = field.reference != none ? field.reference : field.structure;
   if (own != none) {
     type = qualified(part, types_[own].uri, types_[own].name);
   } else if (builtIn(field) == anyType) {
+    isAny = !isAttribute;
     if (isAttribute) type = "xs:string";
-  } else if (!hasFacets(field)) {
-    type = builtIn(field);
+  } else {
+    facets = facetsIn(field);
+    if (!saysAnything(facets)) type = builtIn(field);
   }
-  const std::string typed = type.empty() ? start : start + attribute("type", type);
+  std::string start = "<xs:" + tag + attributes;
+  if (!type.empty()) start += attribute("type", type);
   if (!type.empty() && lines.empty()) {
-    part.text.line(typed + "/>");
+    part.text.line(start + "/>");
     return;
   }
-  part.text.open(typed + ">");
-  writeDocumentation(part, field);
-  if (type.empty() && builtIn(field) == anyType) {
+  part.text.open(start + ">");
+  writeDocumentation(part, lines);
+  if (isAny) {
     writeAny(part, "");
   } else if (type.empty()) {
-    writeSimpleType(part, field, "");
+    part.text.open("<xs:simpleType>");
+    writeRestriction(part, field, facets);
+    part.text.close("</xs:simpleType>");
   }
   part.text.close("</xs:" + tag + ">");
 }
@@ -542,20 +550,23 @@ void SchemaSet::writeSimpleType(Part& part, const Field& field, const std::strin
     part.text.close("</xs:complexType>");
     return;
   }
-  const std::string base = builtIn(field);
-  if (base == anyType) {
+  if (builtIn(field) == anyType) {
     writeAny(part, named);
     return;
   }
-  const Facets facets = facetsIn(field);
   part.text.open("<xs:simpleType" + named + ">");
-  if (!name.empty()) writeDocumentation(part, field);
-  if (!hasFacets(field)) {
-    part.text.line("<xs:restriction" + attribute("base", base) + "/>");
-    part.text.close("</xs:simpleType>");
+  writeDocumentation(part, linesAbout(job_.model, field));
+  writeRestriction(part, field, facetsIn(field));
+  part.text.close("</xs:simpleType>");
+}
+
+void SchemaSet::writeRestriction(Part& part, const Field& field, const Facets& facets) {
+  const std::string start = "<xs:restriction" + attribute("base", builtIn(field));
+  if (!saysAnything(facets)) {
+    part.text.line(start + "/>");
     return;
   }
-  part.text.open("<xs:restriction" + attribute("base", base) + ">");
+  part.text.open(start + ">");
   const auto facet = [&part](const char* word, std::string_view value) {
     part.text.line("<xs:" + std::string(word) + attribute("value", value) + "/>");
   };
@@ -567,11 +578,9 @@ void SchemaSet::writeSimpleType(Part& part, const Field& field, const std::strin
   if (!facets.least.empty()) facet("minInclusive", facets.least);
   if (!facets.most.empty()) facet("maxInclusive", facets.most);
   part.text.close("</xs:restriction>");
-  part.text.close("</xs:simpleType>");
 }
 
-void SchemaSet::writeDocumentation(Part& part, const Field& field) {
-  const std::vector<std::string> lines = linesAbout(job_.model, field);
+void SchemaSet::writeDocumentation(Part& part, const std::vector<std::string>& lines) {
   if (lines.empty()) return;
   part.text.open("<xs:annotation>");
   for (const std::string& line : lines) {

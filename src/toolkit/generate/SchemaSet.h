@@ -14,6 +14,7 @@
 #include "toolkit/generate/Facets.h"
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/TextWriter.h"
+#include "toolkit/generate/TypeTable.h"
 
 namespace as::toolkit::gen {
 
@@ -144,10 +145,12 @@ class SchemaSet {
                   const Field& field, bool isAttribute = false);
   void writeSimpleType(Part& part, const Field& field, const std::string& name);
   void writeAny(Part& part, const std::string& attributes);
-  void writeDocumentation(Part& part, const Field& field);
+  void writeRestriction(Part& part, const Field& field, const Facets& facets);
+  static void writeDocumentation(Part& part, const std::vector<std::string>& lines);
   Facets facetsIn(const Field& field) const;
   bool hasFacets(const Field& field) const;
-  std::string builtIn(const Field& field) const;
+  static bool saysAnything(const Facets& facets);
+  std::string_view builtIn(const Field& field) const;
   // "tns:Claim", and the part's schema imports the namespace.
   std::string qualified(Part& part, const std::string& uri, const std::string& name);
   Part& partOf(const std::string& uri);
@@ -155,6 +158,7 @@ class SchemaSet {
 
   const Job& job_;
   NameGiver names_;
+  TypeLookup lookup_;
   std::string target_;
   bool withConditions_;
   std::vector<TypeFacts> types_;

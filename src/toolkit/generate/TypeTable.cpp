@@ -28,7 +28,7 @@ std::string wordsOf(const TypeRow& row) {
     case Kind::group:
       return "groups";
     default:
-      return std::string("data type ") + row.word;
+      return std::string("what is of data type `") + row.word + "`";
   }
 }
 
@@ -44,11 +44,20 @@ const TypeRow* rowFor(const TypeTable& table, const Field& field) {
   return found == table.end() ? nullptr : &*found;
 }
 
+const TypeRow* TypeLookup::rowFor(const Field& field) const {
+  if (field.dataType.empty()) return gen::rowFor(table_, field);
+  const auto [found, isNew] = rows_.try_emplace(field.dataType);
+  if (isNew) found->second = gen::rowFor(table_, field);
+  return found->second;
+}
+
 bool holds(const TypeRow& row, const Item& item) { return contains(row.capacity, item.capacity); }
 
 std::string textOf(const TypeTable& table) {
   std::string text;
-  for (const TypeRow& row : table) text += std::string(row.type) + ": " + wordsOf(row) + "\n";
+  for (const TypeRow& row : table) {
+    text += "| " + wordsOf(row) + " | `" + row.type + "` |\n";
+  }
   return text;
 }
 

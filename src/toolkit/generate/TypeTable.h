@@ -4,6 +4,7 @@
 #define TOOLKIT_GENERATE_TYPETABLE_H_
 
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "toolkit/generate/ServiceModel.h"
@@ -21,10 +22,23 @@ using TypeTable = std::vector<TypeRow>;
 // The row for a field that has a value; null when none holds it.
 const TypeRow* rowFor(const TypeTable& table, const Field& field);
 
+// The same for many fields: data types of flavours are looked up once.
+class TypeLookup {
+ public:
+  // The table must outlive it.
+  explicit TypeLookup(const TypeTable& table) : table_(table) {}
+
+  const TypeRow* rowFor(const Field& field) const;
+
+ private:
+  const TypeTable& table_;
+  mutable std::unordered_map<std::string, const TypeRow*> rows_;  // By the words of data types.
+};
+
 // Whether the row's type holds all that the item does.
 bool holds(const TypeRow& row, const Item& item);
 
-// The table as documentation shows it, a line a row: what is held, and by which type.
+// The rows of the table as documentation shows it: what is held, and by which type.
 std::string textOf(const TypeTable& table);
 
 }  // namespace as::toolkit::gen

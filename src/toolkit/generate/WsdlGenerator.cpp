@@ -85,12 +85,10 @@ class Wsdl {
 
   void plan(const Operation& operation) {
     PlannedOperation planned{operation};
-    planned.request =
-        planMessage(operation, requestMembers(model_, operation), requestWish(model_, operation),
-                    operation.inputNamespace);
-    planned.answer =
-        planMessage(operation, answerMembers(model_, operation), answerWish(model_, operation),
-                    operation.outputNamespace);
+    planned.request = planMessage(operation, requestMembers(model_, operation),
+                                  requestWish(model_, operation), operation.inputNamespace);
+    planned.answer = planMessage(operation, answerMembers(model_, operation),
+                                 answerWish(model_, operation), operation.outputNamespace);
     for (const Message& message : operation.messages) {
       planned.messages.push_back({message, planMessage(operation, message)});
     }

@@ -1,0 +1,68 @@
+// What is made of the examples, compared with what is kept in tests/golden/generate: a change of
+// output is to be seen. With AS_RENEW_GOLDEN=1 in the environment it is kept anew.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <ostream>
+#include <set>
+#include <string>
+
+#include "support/Toolkit.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+namespace toolkit = as::toolkit;
+using test::contentOf;
+
+// Each kind of each example, and each flavour somewhere.
+struct Row {
+  const char* kind;
+  const char* source;
+};
+
+void PrintTo(const Row& row, std::ostream* out) { *out << row.kind << " of " << row.source; }
+
+class GenerateGolden : public test::ToolkitTest, public testing::WithParamInterface<Row> {};
+
+std::set<std::string> namesIn(const fs::path& folder) {
+  std::set<std::string> names;
+  if (!fs::exists(folder)) return names;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+    names.insert(entry.path().filename().string());
+  }
+  return names;
+}
+
+TEST_P(GenerateGolden, IsAsItWas) {
+  const std::string source = GetParam().source;
+  const fs::path kept = fs::path(AS_GOLDEN_DIR) / "generate" / (source + "-" + GetParam().kind);
+  // What is made tells the version, which changes.
+  toolkit::generateFiles(reader(), *toolkit::findGeneratorKind(GetParam().kind),
+                         AS_EXAMPLES_DIR "/" + source + ".xml", "made/");
+  if (std::getenv("AS_RENEW_GOLDEN") != nullptr) {
+    fs::remove_all(kept);
+    fs::create_directories(kept);
+    fs::copy("made", kept);
+  }
+  EXPECT_EQ(namesIn("made"), namesIn(kept));
+  for (const std::string& name : namesIn("made")) {
+    EXPECT_TRUE(contentOf(fs::path("made") / name) == contentOf(kept / name))
+        << name << " is another than " << kept / name;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Examples, GenerateGolden,
+    testing::Values(Row{"wsdl", "DEPINT01-ws"}, Row{"wsdl", "MOTPREM-ws"},
+                    Row{"wsdl", "PAYSLIP-ws"}, Row{"wsdl", "WHSLOTS-ws"},
+                    Row{"xsd", "DEPINT01-com"}, Row{"xsd", "MOTPREM-java"},
+                    Row{"xsd", "PAYSLIP-dotnet"}, Row{"xsd", "WHSLOTS-ws"}, Row{"xsd", "PAYSLIP"},
+                    Row{"jsonschema", "DEPINT01-java"}, Row{"jsonschema", "MOTPREM-dotnet"},
+                    Row{"jsonschema", "PAYSLIP-ws"}, Row{"jsonschema", "WHSLOTS-com"},
+                    Row{"openapi", "DEPINT01-dotnet"}, Row{"openapi", "MOTPREM-ws"},
+                    Row{"openapi", "PAYSLIP-java"}, Row{"openapi", "WHSLOTS-com"}));
+
+}  // namespace

@@ -1,0 +1,247 @@
+// Tests of making what callers need: kinds and options, what refuses a service, names that users
+// choose, and files.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "support/Documents.h"
+#include "support/Requests.h"
+#include "support/Toolkit.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+namespace toolkit = as::toolkit;
+using test::contentOf;
+using test::textsOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::SizeIs;
+
+const toolkit::GeneratorKind& kindOf(const char* word) { return *toolkit::findGeneratorKind(word); }
+
+const char* const example = AS_EXAMPLES_DIR "/MOTPREM-ws.xml";
+
+class GenerateTest : public test::ToolkitTest {
+ protected:
+  toolkit::GeneratedOutput make(const char* kind, const std::string& file,
+                                const std::string& output,
+                                const toolkit::GenerateOptions& options = {}) const {
+    return toolkit::generateFiles(reader(), kindOf(kind), file, output, options);
+  }
+
+  // The text of the only file that is made.
+  std::string textOf(const char* kind, const std::string& file,
+                     const toolkit::GenerateOptions& options = {}) const {
+    make(kind, file, "out", options);
+    return contentOf("out");
+  }
+
+  // p.xml, with a record of those items, and s.xml, a Java service of it.
+  void writeService(const std::string& items) const {
+    write("p.xml",
+          test::dictionary("<dataItems><group name='R' length='8' linkage='true'>" + items +
+                           "</group></dataItems><entryPoints><entryPoint name='GO'>"
+                           "<parameter dataItem='R' byType='reference'/></entryPoint>"
+                           "</entryPoints>"));
+    toolkit::makeServiceFile(reader(), "p.xml", "s.xml", *toolkit::findFlavour("java"));
+  }
+};
+
+TEST_F(GenerateTest, WordsOfKindsAreUnique) {
+  std::set<std::string> words;
+  for (const toolkit::GeneratorKind& kind : toolkit::generatorKinds()) {
+    EXPECT_TRUE(words.insert(kind.word).second) << kind.word;
+    EXPECT_EQ(toolkit::findGeneratorKind(kind.word), &kind);
+    EXPECT_THAT(kind.flavours, Not(IsEmpty()));
+    for (const char* const flavour : kind.flavours) {
+      EXPECT_NE(toolkit::findFlavour(flavour), nullptr) << flavour;
+    }
+  }
+  EXPECT_EQ(toolkit::findGeneratorKind("nothing"), nullptr);
+}
+
+TEST_F(GenerateTest, EveryKindMakesSomethingOfEveryFlavourItTakes) {
+  for (const toolkit::GeneratorKind& kind : toolkit::generatorKinds()) {
+    for (const char* const flavour : kind.flavours) {
+      const std::string file = std::string(AS_EXAMPLES_DIR "/PAYSLIP-") + flavour + ".xml";
+      const toolkit::GeneratedOutput made = make(kind.word, file, "out/");
+      EXPECT_THAT(made.files, Not(IsEmpty())) << kind.word << " " << flavour;
+      for (const std::string& name : made.files) {
+        EXPECT_THAT(contentOf(name), HasSubstr(std::string("from PAYSLIP-") + flavour)) << name;
+      }
+    }
+  }
+}
+
+TEST_F(GenerateTest, OptionsAreThoseOfTheKind) {
+  toolkit::GenerateOptions options;
+  options.values = {{"schema", "separate"}};
+  EXPECT_EQ(toolkit::wrongOption(kindOf("wsdl"), options), "");
+  EXPECT_EQ(toolkit::wrongOption(kindOf("xsd"), options), "xsd has no option 'schema'");
+  options.values = {{"schema", "both"}};
+  EXPECT_EQ(toolkit::wrongOption(kindOf("wsdl"), options),
+            "option 'schema' takes inline|separate, not 'both'");
+}
+
+TEST_F(GenerateTest, WhatLintRefusesIsNotMade) {
+  const toolkit::GeneratedOutput made =
+      make("xsd", AS_EXAMPLES_DIR "/broken/WHSLOTS-ws.xml", "out/");
+  EXPECT_THAT(made.files, IsEmpty());
+  EXPECT_THAT(textsOf(made.findings), Contains(HasSubstr("data type 'byte' cannot hold LM-AS-OF")));
+  EXPECT_FALSE(fs::exists("out"));
+}
+
+TEST_F(GenerateTest, OtherFlavoursAreRefused) {
+  const toolkit::GeneratedOutput made = make("wsdl", AS_EXAMPLES_DIR "/PAYSLIP-java.xml", "out");
+  EXPECT_THAT(textsOf(made.findings),
+              ElementsAre("service: wsdl is not made of Java services; convert it first, to ws"));
+  EXPECT_FALSE(fs::exists("out"));
+}
+
+TEST_F(GenerateTest, FilesThatHoldTheSameAreLeftAlone) {
+  const toolkit::GeneratedOutput first = make("xsd", example, "out/");
+  EXPECT_EQ(first.written, first.files);
+  const toolkit::GeneratedOutput second = make("xsd", example, "out/");
+  EXPECT_EQ(second.files, first.files);
+  EXPECT_THAT(second.written, IsEmpty());
+  write(first.files.back(), "other");
+  EXPECT_THAT(make("xsd", example, "out/").written, ElementsAre(first.files.back()));
+}
+
+TEST_F(GenerateTest, AllFilesAreWrittenOrNone) {
+  const toolkit::GeneratedOutput first = make("xsd", example, "out/");
+  for (const std::string& file : first.files) write(file, "old");
+  // A folder stands where the last file is to be.
+  fs::remove(first.files.back());
+  fs::create_directory(first.files.back());
+  EXPECT_THAT(test::fileErrorOf([&] { make("xsd", example, "out/"); }),
+              HasSubstr(first.files.back()));
+  EXPECT_EQ(contentOf(first.files.front()), "old");
+}
+
+TEST_F(GenerateTest, OneFileIsCalledAsItIsTold) {
+  EXPECT_THAT(make("wsdl", example, "my.wsdl").files, ElementsAre("my.wsdl"));
+}
+
+TEST_F(GenerateTest, WhatIsMadeIsTheSameEachTime) {
+  EXPECT_EQ(textOf("openapi", example), textOf("openapi", example));
+}
+
+TEST_F(GenerateTest, RecordsOfDictionariesAreTypes) {
+  toolkit::GenerateOptions options;
+  options.record = "LK-RESULT";
+  const std::string text = textOf("xsd", AS_EXAMPLES_DIR "/MOTPREM.xml", options);
+  EXPECT_THAT(text, HasSubstr("<xs:element name=\"LK-RESULT\""));
+  EXPECT_THAT(text, Not(HasSubstr("LK-REQUEST")));
+}
+
+TEST_F(GenerateTest, UnknownRecordsAreErrors) {
+  toolkit::GenerateOptions options;
+  options.record = "NONE";
+  EXPECT_THAT(textsOf(make("xsd", AS_EXAMPLES_DIR "/MOTPREM.xml", "out", options).findings),
+              ElementsAre("dictionary: there is no record 'NONE'; name another one"));
+}
+
+TEST_F(GenerateTest, KindsOfServicesTakeNoDictionaries) {
+  EXPECT_EQ(test::refusalOf([&] { make("wsdl", AS_EXAMPLES_DIR "/MOTPREM.xml", "out"); }).text,
+            "wsdl is made of services, this is a dictionary");
+}
+
+TEST_F(GenerateTest, OneOperationMayBeWanted) {
+  toolkit::GenerateOptions options;
+  options.values = {{"operation", "taxOn"}};
+  const std::string text = textOf("jsonschema", example, options);
+  EXPECT_THAT(text, HasSubstr("\"taxOnResponse\""));
+  EXPECT_THAT(text, Not(HasSubstr("\"quoteResponse\"")));
+  options.values = {{"operation", "none"}};
+  EXPECT_THAT(make("jsonschema", example, "out", options).files, IsEmpty());
+}
+
+TEST_F(GenerateTest, PackedNumbersOfFifteenDigitsAreNoDoubles) {
+  writeService(
+      "<numeric name='N' picture='S9(13)V99' usage='comp-3' sign='true' digits='15' "
+      "alignment='2' length='8'/>");
+  EXPECT_THAT(textOf("xsd", "s.xml"), HasSubstr("<xs:restriction base=\"xs:decimal\">"));
+  EXPECT_THAT(textOf("jsonschema", "s.xml"),
+              HasSubstr(R"("pattern": "^-?[0-9]{1,13}([.][0-9]{1,2})?$")"));
+}
+
+TEST_F(GenerateTest, ConditionsAreEnumerationsWhereTheyAreAskedFor) {
+  writeService(
+      "<alphanumeric name='A' picture='X' length='1'><alphanumericCondition name='YES'>"
+      "<alphanumericConstant value='Y'/></alphanumericCondition></alphanumeric>");
+  EXPECT_THAT(textOf("xsd", "s.xml"), HasSubstr("YES: 'Y'"));
+  EXPECT_THAT(textOf("xsd", "s.xml"), Not(HasSubstr("<xs:enumeration")));
+  toolkit::GenerateOptions options;
+  options.values = {{"conditions", "enumerations"}};
+  EXPECT_THAT(textOf("xsd", "s.xml", options), HasSubstr(R"(<xs:enumeration value="Y"/>)"));
+}
+
+TEST_F(GenerateTest, ChangedNamesAreToldAndMayBeChosen) {
+  writeService("<alphanumeric name='1ST' picture='X' length='1'/>");
+  EXPECT_THAT(textsOf(make("xsd", "s.xml", "out").findings),
+              ElementsAre("GO.R.1ST: '1ST' is no name in XML, or taken: '_1ST' stands for it"));
+  toolkit::GenerateOptions options;
+  options.names = toolkit::readChosenNames("# Ours\n\nGO.R.1ST = first\n", "names");
+  EXPECT_THAT(make("xsd", "s.xml", "out", options).findings, IsEmpty());
+  EXPECT_THAT(contentOf("out"), HasSubstr("<xs:element name=\"first\""));
+}
+
+TEST_F(GenerateTest, ForbiddenChoicesMakeNothing) {
+  writeService("<alphanumeric name='A' picture='X' length='1'/>");
+  toolkit::GenerateOptions options;
+  options.names = {{"A", "not this"}};
+  EXPECT_THAT(make("xsd", "s.xml", "out", options).files, IsEmpty());
+}
+
+TEST_F(GenerateTest, NamesAreOnePerLine) {
+  const toolkit::Refusal refusal =
+      test::refusalOf([] { toolkit::readChosenNames("A = B\nnothing\n", "names"); });
+  EXPECT_EQ(refusal.line, 2);
+  EXPECT_EQ(toolkit::readChosenNames("a=b = c \r\n", "names").at("a=b"), "c");
+}
+
+TEST_F(GenerateTest, SourcesCannotEndComments) {
+  toolkit::GenerateOptions options;
+  options.source = "a --> */ \n b \\u002a/";
+  const std::string text = textOf("wsdl", example, options);
+  EXPECT_THAT(text, HasSubstr("from a - -> * /   b /u002a/ -->"));
+}
+
+// Answers what wsdl is made with in `kind`.
+class RecursiveTypeTest : public GenerateTest {
+ protected:
+  void writeRecursive() const {
+    write("p.xml", test::dictionary("<dataItems><alphanumeric name='A' picture='X' length='1' "
+                                    "linkage='true'/></dataItems><entryPoints><entryPoint "
+                                    "name='GO'><parameter dataItem='A' byType='reference'/>"
+                                    "</entryPoint></entryPoints>"));
+    toolkit::makeServiceFile(reader(), "p.xml", "s.xml", *toolkit::findFlavour("ws"));
+    std::string text = contentOf("s.xml");
+    const std::string types = "<parameterTypeDefs>";
+    const std::size_t at = text.find(types);
+    ASSERT_NE(at, std::string::npos) << text;
+    text.insert(at + types.size(),
+                "<parameter name='Node'><mappings/><field name='next' ref='Node'/><field "
+                "name='value' dataType='string'><mappings><mapping item='A'/></mappings></field>"
+                "</parameter>");
+    write("s.xml", text);
+  }
+};
+
+TEST_F(RecursiveTypeTest, ReferToThemselvesByName) {
+  writeRecursive();
+  EXPECT_THAT(textOf("wsdl", "s.xml"),
+              HasSubstr("<xs:element name=\"next\" minOccurs=\"0\" type=\"tns:Node\"/>"));
+  EXPECT_THAT(textOf("jsonschema", "s.xml"), HasSubstr(R"("$ref": "#/$defs/Node")"));
+}
+
+}  // namespace
