@@ -185,6 +185,17 @@ TEST_F(GenerateTest, ConditionsAreEnumerationsWhereTheyAreAskedFor) {
   EXPECT_THAT(textOf("xsd", "s.xml", options), HasSubstr(R"(<xs:enumeration value="Y"/>)"));
 }
 
+TEST_F(GenerateTest, ConditionsThatAreNoValuesAreTold) {
+  writeService(
+      "<numeric name='A' picture='9' digits='1' length='1'><numericCondition name='LOW'>"
+      "<numericRange from='1' to='3'/></numericCondition></numeric>");
+  toolkit::GenerateOptions options;
+  options.values = {{"conditions", "enumerations"}};
+  EXPECT_THAT(textsOf(make("xsd", "s.xml", "out", options).findings),
+              ElementsAre("GO.R.A: conditions of A are ranges or no values of its type: they are "
+                          "told in words"));
+}
+
 TEST_F(GenerateTest, ChangedNamesAreToldAndMayBeChosen) {
   writeService("<alphanumeric name='1ST' picture='X' length='1'/>");
   EXPECT_THAT(textsOf(make("xsd", "s.xml", "out").findings),
@@ -216,32 +227,36 @@ TEST_F(GenerateTest, SourcesCannotEndComments) {
   EXPECT_THAT(text, HasSubstr("from a - -> * /   b /u002a/ -->"));
 }
 
-// Answers what wsdl is made with in `kind`.
 class RecursiveTypeTest : public GenerateTest {
  protected:
-  void writeRecursive() const {
+  // s.xml, a Web service with that type definition.
+  void writeWithType(const std::string& definition) const {
     write("p.xml", test::dictionary("<dataItems><alphanumeric name='A' picture='X' length='1' "
                                     "linkage='true'/></dataItems><entryPoints><entryPoint "
                                     "name='GO'><parameter dataItem='A' byType='reference'/>"
                                     "</entryPoint></entryPoints>"));
     toolkit::makeServiceFile(reader(), "p.xml", "s.xml", *toolkit::findFlavour("ws"));
     std::string text = contentOf("s.xml");
-    const std::string types = "<parameterTypeDefs>";
+    const std::string types = "<parameterTypeDefs/>";
     const std::size_t at = text.find(types);
     ASSERT_NE(at, std::string::npos) << text;
-    text.insert(at + types.size(),
-                "<parameter name='Node'><mappings/><field name='next' ref='Node'/><field "
-                "name='value' dataType='string'><mappings><mapping item='A'/></mappings></field>"
-                "</parameter>");
+    text.replace(at, types.size(), "<parameterTypeDefs>" + definition + "</parameterTypeDefs>");
     write("s.xml", text);
   }
 };
 
 TEST_F(RecursiveTypeTest, ReferToThemselvesByName) {
-  writeRecursive();
+  writeWithType(
+      "<parameter name='Node'><mappings/><field name='next' ref='Node'/><field name='value' "
+      "dataType='string'><mappings><mapping item='A'/></mappings></field></parameter>");
   EXPECT_THAT(textOf("wsdl", "s.xml"),
               HasSubstr("<xs:element name=\"next\" minOccurs=\"0\" type=\"tns:Node\"/>"));
   EXPECT_THAT(textOf("jsonschema", "s.xml"), HasSubstr(R"("$ref": "#/$defs/Node")"));
+}
+
+TEST_F(RecursiveTypeTest, OneThatIsNothingElseIsRefused) {
+  writeWithType("<parameter name='Node' ref='Node'/>");
+  EXPECT_THAT(make("wsdl", "s.xml", "out").files, IsEmpty());
 }
 
 }  // namespace

@@ -69,6 +69,11 @@ Generated makeOfService(const gen::Generator& generator, as::IService& service,
   }
   if (countOf(reasons, Severity::error) > 0) return {{}, std::move(reasons)};
   gen::ServiceModel model = gen::modelOf(service, program);
+  if (!model.isWhole) {
+    // One that is nothing but a reference to itself holds nothing.
+    for (Finding& reason : reasons) reason.severity = Severity::error;
+    return {{}, std::move(reasons)};
+  }
   return make(generator, model, options, std::move(reasons));
 }
 

@@ -1,6 +1,11 @@
 #include "toolkit/generate/Generator.h"
 
 #include <algorithm>
+#include <unordered_set>
+
+#include "as/toolkit/Version.h"
+#include "toolkit/generate/Facets.h"
+#include "toolkit/text/Phrases.h"
 
 namespace as::toolkit::gen {
 
@@ -31,8 +36,30 @@ void Job::refuse(const char* rule, const std::string& place, const std::string& 
   out.findings.push_back({rule, Severity::error, place, text, advice});
 }
 
+void Job::tellValues(const TypeTable& types) const {
+  const bool withConditions = isChosen("conditions", "enumerations");
+  const TypeLookup lookup(types);
+  std::unordered_set<std::size_t> told;
+  forEachField(model, [&](const Field& field, const auto& placeOf) {
+    if (field.reference != none || field.structure != none) return;
+    if (lookup.rowFor(field) == nullptr) {
+      warn("no-type", placeOf(),
+           "there is no type for " +
+               (field.dataType.empty() ? std::string("it") : quote(field.dataType)) +
+               ": it may hold anything",
+           "give it fields, or a data type of a value");
+    }
+    if (!withConditions || !hasOtherConditions(model, field)) return;
+    if (!told.insert(field.item).second) return;
+    note("other-conditions", placeOf(),
+         "conditions of " + model.items[field.item].name +
+             " are ranges or no values of its type: they are told in words");
+  });
+}
+
 std::string Job::banner() const {
-  return "Made by AgentServices " AS_TOOLKIT_VERSION " from " + commentText(model.source);
+  return std::string("Made by AgentServices ") + toolkitVersion() + " from " +
+         commentText(model.source);
 }
 
 std::string Job::fileStem() const {

@@ -12,6 +12,7 @@
 #include "as/toolkit/Generate.h"
 #include "toolkit/generate/NameRule.h"
 #include "toolkit/generate/ServiceModel.h"
+#include "toolkit/generate/TypeTable.h"
 
 namespace as::toolkit::gen {
 
@@ -39,6 +40,10 @@ struct Job {
   // Then there will be no files.
   void refuse(const char* rule, const std::string& place, const std::string& text,
               const std::string& advice) const;
+
+  // Tells of fields that have a value and no row in the table of types, and, where conditions are
+  // to be the only values, of items whose conditions are none.
+  void tellValues(const TypeTable& types) const;
 
   // "Made by AgentServices 1.0.0 from MOTPREM-ws.xml": what every file starts with, without the
   // marks of a comment. On one line, and with nothing in it that ends a comment of any language.

@@ -23,6 +23,7 @@ class JsonSchemaGenerator : public Generator {
 
   void generate(const Job& job) const override {
     const ServiceModel& model = job.model;
+    job.tellValues(jsonTypes());
     JsonSchemas schemas(job, "#/$defs/");
     const std::string wanted = job.option("operation");
     bool isFound = wanted.empty();

@@ -211,7 +211,10 @@ class OpenApiGenerator : public Generator {
                     {"conditions", "documented|enumerations",
                      "values of conditions (level 88) as the only ones, or in words"}}}) {}
 
-  void generate(const Job& job) const override { OpenApi(job).make(); }
+  void generate(const Job& job) const override {
+    job.tellValues(jsonTypes());
+    OpenApi(job).make();
+  }
 };
 
 }  // namespace

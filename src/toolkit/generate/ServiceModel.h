@@ -177,6 +177,8 @@ struct ServiceModel {
   std::vector<Item> items;
   std::vector<Type> types;  // Declared ones in the order of the document; any after its owner.
   std::vector<Operation> operations;
+  // Whether every reference leads to a declared type.
+  bool isWhole = true;
 
   const Item* itemOf(const Field& field) const {
     return field.item == none ? nullptr : &items[field.item];
@@ -189,6 +191,32 @@ struct ServiceModel {
   std::string placeOf(const Operation& operation) const;
   std::string placeOf(const Operation& operation, const Message& message) const;
 };
+
+// Calls visit(const Field&, placeOf) for every field, field attribute and parameter, and for what
+// declared types are by themselves. placeOf() tells where it stands, as findings do.
+template <class Visit>
+void forEachField(const ServiceModel& model, const Visit& visit) {
+  for (const Type& type : model.types) {
+    const auto below = [&](const std::vector<Field>& fields) {
+      for (const Field& field : fields) {
+        visit(field, [&] { return model.placeOf(type) + "." + field.name; });
+      }
+    };
+    if (type.isDeclared) visit(type.self, [&] { return model.placeOf(type); });
+    below(type.fields);
+    below(type.attributes);
+  }
+  for (const Operation& operation : model.operations) {
+    for (const Field& field : operation.parameters) {
+      visit(field, [&] { return model.placeOf(operation) + "." + field.name; });
+    }
+    for (const Message& message : operation.messages) {
+      for (const Field& field : message.parameters) {
+        visit(field, [&] { return model.placeOf(operation, message) + "." + field.name; });
+      }
+    }
+  }
+}
 
 }  // namespace as::toolkit::gen
 

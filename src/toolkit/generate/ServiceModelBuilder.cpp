@@ -189,6 +189,7 @@ class Builder {
       const auto found = definitions_.find(parameter->getReferenceType());
       if (found != definitions_.end()) read.reference = found->second;
     }
+    if (read.reference == none && !referenceOf(field).empty()) model_.isWhole = false;
     if (const std::optional<int> code = profile_.dataTypeOf(field)) {
       if (const DataType* const type = profile_.findDataType(*code)) {
         read.dataType = type->word;

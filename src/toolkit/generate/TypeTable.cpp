@@ -39,6 +39,10 @@ const TypeRow* rowFor(const TypeTable& table, const Field& field) {
     if (field.capacity.kind == Kind::open) {
       return row.capacity.kind == Kind::open && field.dataType == row.word;
     }
+    // Decimal numbers are exact, floating-point ones are not, though each might hold the other.
+    if ((row.capacity.kind == Kind::floating) != (field.capacity.kind == Kind::floating)) {
+      return false;
+    }
     return row.capacity.kind != Kind::open && contains(row.capacity, field.capacity);
   });
   return found == table.end() ? nullptr : &*found;

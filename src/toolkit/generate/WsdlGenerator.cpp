@@ -402,7 +402,10 @@ class WsdlGenerator : public Generator {
                     {"namespace", "",
                      "the namespace of what has none; urn:agentservices:PROGRAM unless told"}}}) {}
 
-  void generate(const Job& job) const override { Wsdl(job).make(); }
+  void generate(const Job& job) const override {
+    job.tellValues(xsdTypes());
+    Wsdl(job).make();
+  }
 };
 
 }  // namespace

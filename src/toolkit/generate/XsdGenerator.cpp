@@ -3,6 +3,7 @@
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/MessagePlan.h"
 #include "toolkit/generate/SchemaSet.h"
+#include "toolkit/generate/XsdTypes.h"
 
 namespace as::toolkit::gen {
 
@@ -42,6 +43,7 @@ class XsdGenerator : public Generator {
 
   void generate(const Job& job) const override {
     const ServiceModel& model = job.model;
+    job.tellValues(xsdTypes());
     SchemaSet schemas(job);
     const std::string wanted = job.option("operation");
     bool isFound = wanted.empty();
