@@ -3,6 +3,7 @@
 #define COBOL_DATAITEMINDEX_H_
 
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "cobol/NameIndex.h"
@@ -14,18 +15,22 @@
 class DataItemIndex {
  public:
   // Null for a program without items.
-  explicit DataItemIndex(CList* topLevel) { unseen_[nullptr] = {topLevel}; }
+  explicit DataItemIndex(CList* topLevel) : topLevel_(topLevel) {}
 
   // The entry of the items called `name` in the groups of `around`, null for the top level; null
   // when none is called so. Of no use any more when it has thrown.
   const NameIndex::Entry* find(const NameIndex::Entry* around, const XMLCh* name);
 
  private:
-  void add(const NameIndex::Entry* around, CList& members);
+  // Looks at what stands in the groups of an entry, null for the top level.
+  void lookInto(const NameIndex::Entry* around);
+  void add(const NameIndex::Entry* around, CList* members);
 
+  CList* topLevel_;
   NameIndex names_;
-  // What stands in the groups of an entry that nothing has been looked for in.
-  std::unordered_map<const NameIndex::Entry*, std::vector<CList*>> unseen_;
+  std::unordered_set<const NameIndex::Entry*> seen_;  // Those that have been looked into.
+  // The items of an entry behind the first one, which nearly all have alone.
+  std::unordered_map<const NameIndex::Entry*, std::vector<CElementImpl*>> others_;
 };
 
 #endif  // COBOL_DATAITEMINDEX_H_

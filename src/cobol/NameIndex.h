@@ -21,6 +21,9 @@ class NameIndex {
     CElementImpl* first;  // The first object that was added.
   };
 
+  // Makes room for so many entries.
+  void reserve(std::size_t count) { entries_.reserve(count); }
+
   // The entry of the objects called `name` below those of `around`, null for the outermost; a new
   // one starts with `object`. Entries keep their places.
   const Entry* add(const Entry* around, const XMLCh* name, CElementImpl* object) {

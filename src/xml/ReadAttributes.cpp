@@ -32,6 +32,13 @@ std::uint64_t signOf(const XMLCh* name) {
   return ((2 * first + 6 * second + 7 * third) & 0xFF) | 0x80;
 }
 
+bool areEqual(const XMLCh* one, const XMLCh* other) {
+  for (; *one == *other; one++, other++) {
+    if (*one == 0) return true;
+  }
+  return false;
+}
+
 DOMDocumentImpl* documentOf(const DOMNode* node) {
   return static_cast<DOMDocumentImpl*>(node->getOwnerDocument());
 }
@@ -59,28 +66,30 @@ void ReadAttributes::add(const XMLCh* name, const XMLCh* value) {
   signs_ = (signs_ & before) | signOf(added.name) << shift | (signs_ & ~before) << bitsOfASign;
 }
 
-const XMLCh* ReadAttributes::valueOf(const XMLCh* name) const {
-  if (count_ > 0) {
-    const Attribute* const found = find(name);
-    return found == nullptr ? u"" : found->value;
-  }
-  const DOMNode* const found = DOMAttrMapImpl::getNamedItem(name);
-  return found == nullptr ? u"" : ::valueOf(static_cast<const DOMAttr&>(*found));
-}
-
-const ReadAttributes::Attribute* ReadAttributes::find(const XMLCh* name) const {
+inline const ReadAttributes::Attribute* ReadAttributes::find(const XMLCh* name) const {
   // Zero where a sign is the one that is looked for.
   const std::uint64_t different = signs_ ^ (signOf(name) * lowestOfEach);
   // A bit in each such place, and sometimes in the one behind it.
   std::uint64_t places = (different - lowestOfEach) & ~different & highestOfEach;
   for (; places != 0; places &= places - 1) {
     const auto place = static_cast<unsigned>(std::countr_zero(places)) / bitsOfASign;
-    if (XMLString::equals(read_[place].name, name)) return &read_[place];
+    if (areEqual(read_[place].name, name)) return &read_[place];
   }
   for (std::size_t i = signsThere; i < count_; i++) {
-    if (XMLString::equals(read_[i].name, name)) return &read_[i];
+    if (areEqual(read_[i].name, name)) return &read_[i];
   }
   return nullptr;
+}
+
+const XMLCh* ReadAttributes::valueOf(const XMLCh* name) const {
+  if (count_ == 0) return valueOfNode(name);
+  const Attribute* const found = find(name);
+  return found == nullptr ? u"" : found->value;
+}
+
+const XMLCh* ReadAttributes::valueOfNode(const XMLCh* name) const {
+  const DOMNode* const found = DOMAttrMapImpl::getNamedItem(name);
+  return found == nullptr ? u"" : ::valueOf(static_cast<const DOMAttr&>(*found));
 }
 
 XMLSize_t ReadAttributes::getLength() const {

@@ -60,6 +60,7 @@ class ReadAttributes final : public xercesc::DOMAttrMapImpl {
   void makeNodes() const;
   void makeNodes();
   const Attribute* find(const XMLCh* name) const;
+  const XMLCh* valueOfNode(const XMLCh* name) const;
 
   std::uint32_t count_ = 0;
   Attribute* read_ = nullptr;  // In the document's memory.
