@@ -1,7 +1,12 @@
 #include <strings.h>
 
+#include <stdexcept>
 #include <type_traits>
+#include <xercesc/dom/DOM.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/framework/Wrapper4InputSource.hpp>
+#include <xercesc/framework/XMLGrammarPoolImpl.hpp>
+#include <xercesc/util/XMLUni.hpp>
 
 #include "WholeJob.h"
 #include "as/Namespaces.h"
@@ -109,20 +114,79 @@ class Reader {
   Reading reading_;
 };
 
+xercesc::MemBufInputSource sourceOf(const std::string& text) {
+  return {reinterpret_cast<const XMLByte*>(text.data()), text.size(), "bindings"};
+}
+
+Reading readAll(const tree::program& program) {
+  Reader reader;
+  if (program.dataItems().present()) {
+    reader.readItems(program.dataItems()->group());
+    reader.readMembers(*program.dataItems());
+  }
+  return reader.reading();
+}
+
+// Ends at the first message.
+class Messages : public xercesc::DOMErrorHandler {
+ public:
+  bool handleError(const xercesc::DOMError& /*error*/) override {
+    throw std::runtime_error("the document is not valid");
+  }
+};
+
+class BindingsKeeper : public Keeper {
+ public:
+  BindingsKeeper() {
+    using xercesc::XMLUni;
+    xercesc::DOMConfiguration& settings = *parser_->getDomConfig();
+    settings.setParameter(XMLUni::fgDOMErrorHandler, &messages_);
+    settings.setParameter(XMLUni::fgDOMComments, false);
+    settings.setParameter(XMLUni::fgDOMDatatypeNormalization, true);
+    settings.setParameter(XMLUni::fgDOMEntities, false);
+    settings.setParameter(XMLUni::fgDOMNamespaces, true);
+    settings.setParameter(XMLUni::fgDOMElementContentWhitespace, false);
+    settings.setParameter(XMLUni::fgDOMValidate, true);
+    settings.setParameter(XMLUni::fgXercesSchema, true);
+    settings.setParameter(XMLUni::fgXercesSchemaFullChecking, false);
+    settings.setParameter(XMLUni::fgXercesUserAdoptsDOMDocument, true);
+    if (parser_->loadGrammar(AS_SCHEMA_DIR "/vorcobol.xsd", xercesc::Grammar::SchemaGrammarType,
+                             true) == nullptr) {
+      throw std::runtime_error("the schema cannot be loaded");
+    }
+    pool_.lockPool();
+    settings.setParameter(XMLUni::fgXercesUseCachedGrammarInParse, true);
+    settings.setParameter(XMLUni::fgXercesLoadSchema, false);
+  }
+  ~BindingsKeeper() override { parser_->release(); }
+  BindingsKeeper(const BindingsKeeper&) = delete;
+  BindingsKeeper& operator=(const BindingsKeeper&) = delete;
+
+  Reading job(const std::string& text) override {
+    xercesc::MemBufInputSource bytes = sourceOf(text);
+    const xercesc::Wrapper4InputSource source(&bytes, false);
+    xml_schema::dom::unique_ptr<xercesc::DOMDocument> document(parser_->parse(&source));
+    return readAll(*tree::program_(*document, xml_schema::flags::dont_initialize));
+  }
+
+ private:
+  Messages messages_;
+  xercesc::XMLGrammarPoolImpl pool_;
+  xercesc::DOMLSParser* parser_ =
+      xercesc::DOMImplementationRegistry::getDOMImplementation(u"LS")->createLSParser(
+          xercesc::DOMImplementationLS::MODE_SYNCHRONOUS, nullptr,
+          xercesc::XMLPlatformUtils::fgMemoryManager, &pool_);
+};
+
 }  // namespace
 
 Reading jobOfBindings(const std::string& text) {
   xml_schema::properties properties;
   properties.schema_location(as::namespaces::dd.uri, AS_SCHEMA_DIR "/vorcobol.xsd");
-  xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(text.data()), text.size(),
-                                    "bindings");
-  const auto program = tree::program_(source, xml_schema::flags::dont_initialize, properties);
-  Reader reader;
-  if (program->dataItems().present()) {
-    reader.readItems(program->dataItems()->group());
-    reader.readMembers(*program->dataItems());
-  }
-  return reader.reading();
+  xercesc::MemBufInputSource source = sourceOf(text);
+  return readAll(*tree::program_(source, xml_schema::flags::dont_initialize, properties));
 }
+
+std::unique_ptr<Keeper> keeperOfBindings() { return std::make_unique<BindingsKeeper>(); }
 
 }  // namespace bench

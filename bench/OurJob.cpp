@@ -95,17 +95,34 @@ class Reader {
   Reading reading_;
 };
 
+std::unique_ptr<as::IProgram> programOf(as::IAgentServices& services, const std::string& text) {
+  std::unique_ptr<as::IProgram> program(
+      services.parseCobolDD("bench", reinterpret_cast<const unsigned char*>(text.data()),
+                            static_cast<unsigned int>(text.size())));
+  if (program == nullptr) throw std::runtime_error("the dictionary makes no program");
+  return program;
+}
+
+class OurKeeper : public Keeper {
+ public:
+  OurKeeper() { services_->setSchemaLocation(AS_SCHEMA_DIR); }
+
+  Reading job(const std::string& text) override {
+    return readEverything(*programOf(*services_, text));
+  }
+
+ private:
+  std::unique_ptr<as::IAgentServices> services_{
+      as::CAgentServicesFactory::CreateCachingAgentServices()};
+};
+
 }  // namespace
 
 std::unique_ptr<as::IProgram> parseDictionary(const std::string& text) {
   const std::unique_ptr<as::IAgentServices> services(
       as::CAgentServicesFactory::CreateAgentServices());
   services->setSchemaLocation(AS_SCHEMA_DIR);
-  std::unique_ptr<as::IProgram> program(
-      services->parseCobolDD("bench", reinterpret_cast<const unsigned char*>(text.data()),
-                             static_cast<unsigned int>(text.size())));
-  if (program == nullptr) throw std::runtime_error("the dictionary makes no program");
-  return program;
+  return programOf(*services, text);
 }
 
 Reading readEverything(as::IProgram& program) {
@@ -118,5 +135,7 @@ Reading jobOfOurs(const std::string& text) {
   const std::unique_ptr<as::IProgram> program = parseDictionary(text);
   return readEverything(*program);
 }
+
+std::unique_ptr<Keeper> keeperOfOurs() { return std::make_unique<OurKeeper>(); }
 
 }  // namespace bench
