@@ -241,6 +241,54 @@ const DiffRow rows[] = {
      "fieldAttribute name=\"bonusClass\"",
      "field-renamed type Driver.@noClaimsClass -> type Driver.@bonusClass: noClaimsClass -> "
      "bonusClass !\n"},
+    {"MOTPREM-java.xml",
+     "    <operation name=\"taxOn\" entryPoint=\"MOTPTAX\" transactionType=\"never\">\n      "
+     "<hiddenParameters/>\n      <parameters>\n        <parameter name=\"net\" byType=\"in\" "
+     "dataType=\"int\">\n          <mappings>\n            <mapping item=\"LK-NET-AMOUNT\"/>\n     "
+     "     </mappings>\n        </parameter>\n        <parameter name=\"tax\" byType=\"out\" "
+     "dataType=\"int\">\n          <mappings>\n            <mapping item=\"LK-TAX-AMOUNT\"/>\n     "
+     "     </mappings>\n        </parameter>\n      </parameters>\n    </operation>\n",
+     "", "operation-removed taxOn ->  !\n"},
+    {"MOTPREM-java.xml",
+     "        <parameter name=\"tax\" byType=\"out\" dataType=\"int\">\n          <mappings>\n     "
+     "       <mapping item=\"LK-TAX-AMOUNT\"/>\n          </mappings>\n        </parameter>\n",
+     "", "parameter-removed taxOn.tax -> : out int ->  !\n"},
+    {"MOTPREM-java.xml", "dataDictFilename=\"MOTPREM.xml\"", "dataDictFilename=\"dd/MOTPREM.xml\"",
+     "dictionary-changed service: MOTPREM.xml -> dd/MOTPREM.xml\n"},
+    {"MOTPREM-java.xml", "<property name=\"owner\" value=\"Motor",
+     "<property name=\"owner\" value=\"Motors",
+     "property-changed property owner: Motor insurance, product team -> Motors insurance, product "
+     "team\n"},
+    {"MOTPREM-java.xml", "<parameter name=\"Claim\" ", "<parameter name=\"Damage\" ",
+     "type-definition-renamed type Claim -> type Damage: Claim -> Damage\n"},
+    {"PAYSLIP-java.xml", "exitProgramName=\"", "exitProgramName=\"X",
+     "exit-program-changed service: PAYEXIT -> XPAYEXIT\n"},
+    {"DEPINT01.cbl", "       FD  JOURNAL.",
+     "       FD  JOURNAL.\n       01  JRN-MORE                    PIC X(200).",
+     "item-added  -> JRN-MORE:  -> alphanumeric X(200)\n"},
+    {"MOTPREM-ws.xml",
+     "      <header byType=\"in\" namespace=\"urn:mi:motor:header\" use=\"literal\">\n        "
+     "<parameters>\n          <parameter name=\"policyNumber\" byType=\"in\" "
+     "dataType=\"string\">\n            <mappings>\n              <mapping "
+     "item=\"LK-REQUEST.LK-REQ-POLICY-NO\"/>\n            </mappings>\n          </parameter>\n    "
+     "    </parameters>\n      </header>\n",
+     "",
+     "header-removed quote header of policyNumber ->  !\n"
+     "header-removed instalments header of policyNumber ->  !\n"},
+    {"MOTPREM-ws.xml",
+     "      <fault namespace=\"urn:mi:motor:fault\" use=\"literal\">\n        <parameters>\n       "
+     "   <parameter name=\"code\" byType=\"out\" dataType=\"short\">\n            <mappings>\n     "
+     "         <mapping item=\"LK-RESULT.LK-RES-STATUS\"/>\n            </mappings>\n          "
+     "</parameter>\n          <parameter name=\"reason\" byType=\"out\" dataType=\"string\">\n     "
+     "       <mappings>\n              <mapping item=\"LK-RESULT.LK-RES-MESSAGE\"/>\n            "
+     "</mappings>\n          </parameter>\n        </parameters>\n      </fault>\n",
+     "",
+     "fault-removed quote fault of code -> \n"
+     "fault-removed instalments fault of code -> \n"},
+    {"MOTPREM-ws.xml",
+     "name=\"Premium\" namespace=\"urn:mi:motor:types\" elementForm=\"qualified\"",
+     "name=\"Premium\" namespace=\"urn:mi:motor:types\" elementForm=\"unqualified\"",
+     "form-changed type Premium elementForm: qualified -> unqualified !\n"},
 };
 
 std::string lineOf(const toolkit::Change& change) {
@@ -341,6 +389,39 @@ TEST_P(DiffRowsTest, IsMirroredWhenOldAndNewChangePlaces) {
   const std::string added = after();
   EXPECT_EQ(allOf(toolkit::diffFiles(reader(), old, added), false),
             allOf(toolkit::diffFiles(reader(), added, old), true));
+}
+
+// Rows tell a kind or its mirror.
+TEST(DiffRowTableTest, EveryKindHasARow) {
+  // What only follows from others, what no source leads to, and what services of two flavours and
+  // services beside their dictionaries tell (see DiffTest.cpp).
+  std::set<std::string> told = {"size-changed",
+                                "item-moved",
+                                "renames-changed",
+                                "attribute-changed",
+                                "file-added",
+                                "file-removed",
+                                "flavour-changed",
+                                "mapping-lost",
+                                "mapping-renamed",
+                                "mapping-changed",
+                                "mapping-moved",
+                                "entry-point-lost",
+                                "entry-point-changed",
+                                "type-definition-added",
+                                "type-definition-removed"};
+  for (const DiffRow& row : rows) {
+    std::istringstream lines(row.expected);
+    for (std::string line; std::getline(lines, line);) {
+      const toolkit::ChangeKind* const kind =
+          toolkit::findChangeKind(line.substr(0, line.find(' ')));
+      ASSERT_NE(kind, nullptr) << line;
+      told.insert(kind->id);
+      told.insert(kind->mirror);
+    }
+  }
+  for (const toolkit::ChangeKind& kind : toolkit::changeKinds())
+    EXPECT_EQ(told.count(kind.id), 1U) << kind.id;
 }
 
 INSTANTIATE_TEST_SUITE_P(Changes, DiffRowsTest, testing::ValuesIn(rows));

@@ -134,6 +134,38 @@ TEST_F(DiffTest, ServicesLearnWhatBecomesOfTheirMappings) {
   EXPECT_TRUE(toolkit::breaksCallers(diff));
 }
 
+TEST_F(DiffTest, AServiceOfAnotherFlavourSpeaksOtherwise) {
+  const toolkit::Diff diff =
+      toolkit::diffFiles(reader(), example("MOTPREM-java.xml"), example("MOTPREM-com.xml"));
+  ASSERT_FALSE(diff.changes.empty());
+  EXPECT_EQ(diff.changes[0].kind, "flavour-changed");
+  EXPECT_TRUE(diff.changes[0].breaks);
+}
+
+TEST_F(DiffTest, FilesThatComeAndGoAreTold) {
+  write("old.xml", test::dictionary("<fileSection><fd name='A'/></fileSection>"));
+  write("new.xml", test::dictionary("<fileSection><fd name='B'/></fileSection>"));
+  EXPECT_THAT(kindsOf(toolkit::diffFiles(reader(), "old.xml", "new.xml")),
+              ElementsAre("file-removed", "file-added"));
+}
+
+TEST_F(DiffTest, AMovedItemIsFoundByItsNameAndOneThatIsGoneIsNot) {
+  dictionary("old.xml", "01 R. 05 A PIC X. 05 B PIC X. 05 C PIC X.");
+  dictionary("new.xml", "01 R. 05 A PIC X(2). 05 B PIC X.");
+  write("s.xml", test::javaService("name='s' implementation='java'",
+                                   "<operations><operation name='o' entryPoint='T'><parameters>"
+                                   "<parameter name='b'><mappings><mapping item='R.B'/></mappings>"
+                                   "</parameter><parameter name='c'><mappings>"
+                                   "<mapping item='R.C'/></mappings></parameter></parameters>"
+                                   "</operation></operations>"));
+  std::vector<std::string> told;
+  for (const toolkit::Change& change :
+       toolkit::diffFiles(reader(), "old.xml", "new.xml", {"s.xml"}).changes) {
+    if (!change.service.empty()) told.push_back(change.kind + " " + change.oldPlace);
+  }
+  EXPECT_THAT(told, ElementsAre("mapping-moved o.b", "mapping-lost o.c"));
+}
+
 TEST_F(DiffTest, AllowedChangesBreakNobody) {
   toolkit::Diff diff =
       diffOf("01 R. 05 A PIC 9(4). 05 B PIC X.", "01 R. 05 A PIC 9(6). 05 B PIC X.");

@@ -183,8 +183,13 @@ class ByteMap {
     element.style.left = (start - from) * this.unit + "px";
     element.style.width = Math.max(width - 1, 1) + "px";
     element.style.top = 4 + block.lane * ByteMap.laneHeight + "px";
-    if (width >= 20) element.append(el("b", {}, isRest ? text : this.shortName(name, width - 12)));
-    if (width >= 90 && !isRest && (item.pic || item.u) && block.start >= from) element.append(el("i", {}, clip(item.pic || item.u, 24)));
+    const isNarrow = width < 44;
+    if (isNarrow) element.classList.add("narrow");
+    const room = width - (isNarrow ? 7 : 16);
+    const picture = clip(item.pic || item.u || "", 24);
+    if (width >= 14) element.append(el("b", {}, isRest ? text : this.shortName(name, room)));
+    const isRoomy = name.length * 7.4 + picture.length * 6.8 + 8 <= room;
+    if (isRoomy && !isRest && picture !== "" && block.start >= from) element.append(el("i", {}, picture));
     element.addEventListener("click", () => this.onPick(block.i));
     return element;
   }

@@ -97,7 +97,7 @@ class RecordPage {
       if (program.children[at].length === 0) used.add(program.toneOf(at));
       waiting.push(...program.children[at]);
     }
-    const legend = el("ul.legend", {"aria-label": "Colours"}, tones.filter(([tone]) => used.has(tone)).map(([tone, text]) =>
+    const legend = el("ul.legend", {}, tones.filter(([tone]) => used.has(tone)).map(([tone, text]) =>
       el("li", {}, el("span.swatch.tone-" + tone, {}), text)));
     if (this.map.overlays.length > 0) legend.append(el("li", {}, el("span.swatch.over", {}), "redefines or renames"));
     return [
