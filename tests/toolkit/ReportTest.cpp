@@ -10,9 +10,7 @@
 namespace {
 
 namespace toolkit = as::toolkit;
-using testing::AllOf;
 using testing::Contains;
-using testing::Each;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
