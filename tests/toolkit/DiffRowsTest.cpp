@@ -289,6 +289,16 @@ const DiffRow rows[] = {
      "name=\"Premium\" namespace=\"urn:mi:motor:types\" elementForm=\"qualified\"",
      "name=\"Premium\" namespace=\"urn:mi:motor:types\" elementForm=\"unqualified\"",
      "form-changed type Premium elementForm: qualified -> unqualified !\n"},
+    {"MOTPREM-java.xml",
+     "      <field name=\"net\" dataType=\"BigDecimal\">\n        <mappings>\n          <mapping "
+     "item=\"LK-RESULT.LK-RES-NET\"/>\n        </mappings>\n      </field>\n      <field "
+     "name=\"tax\" dataType=\"BigDecimal\">\n        <mappings>\n          <mapping "
+     "item=\"LK-RESULT.LK-RES-TAX\"/>\n        </mappings>\n      </field>\n",
+     "      <field name=\"tax\" dataType=\"BigDecimal\">\n        <mappings>\n          <mapping "
+     "item=\"LK-RESULT.LK-RES-TAX\"/>\n        </mappings>\n      </field>\n      <field "
+     "name=\"net\" dataType=\"BigDecimal\">\n        <mappings>\n          <mapping "
+     "item=\"LK-RESULT.LK-RES-NET\"/>\n        </mappings>\n      </field>\n",
+     "field-reordered type Premium.net: 4 -> 5 !\n"},
 };
 
 std::string lineOf(const toolkit::Change& change) {
