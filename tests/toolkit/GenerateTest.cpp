@@ -176,13 +176,13 @@ TEST_F(GenerateTest, PackedNumbersOfFifteenDigitsAreNoDoubles) {
 
 TEST_F(GenerateTest, ConditionsAreEnumerationsWhereTheyAreAskedFor) {
   writeService(
-      "<alphanumeric name='A' picture='X' length='1'><alphanumericCondition name='YES'>"
-      "<alphanumericConstant value='Y'/></alphanumericCondition></alphanumeric>");
-  EXPECT_THAT(textOf("xsd", "s.xml"), HasSubstr("YES: 'Y'"));
+      "<numeric name='A' picture='9' digits='1' length='1'><numericCondition name='YES'>"
+      "<numericConstant value='+1'/></numericCondition></numeric>");
+  EXPECT_THAT(textOf("xsd", "s.xml"), HasSubstr("YES: '+1'"));
   EXPECT_THAT(textOf("xsd", "s.xml"), Not(HasSubstr("<xs:enumeration")));
   toolkit::GenerateOptions options;
   options.values = {{"conditions", "enumerations"}};
-  EXPECT_THAT(textOf("xsd", "s.xml", options), HasSubstr(R"(<xs:enumeration value="Y"/>)"));
+  EXPECT_THAT(textOf("xsd", "s.xml", options), HasSubstr(R"(<xs:enumeration value="1"/>)"));
 }
 
 TEST_F(GenerateTest, ConditionsThatAreNoValuesAreTold) {
