@@ -141,8 +141,23 @@ def prove(wsdl: Path, schema_file: Path, samples_file: Path, names: Dict[str, st
         for port in service.ports.values():
             proxy = client.bind(service.name, port.name)
             for operation in port.binding._operations.values():
+                messages += prove_fault(schema, samples, client, operation.name)
                 messages += prove_operation(schema, samples, transport, proxy, operation, names)
     return messages
+
+
+def prove_fault(schema, samples, client, operation: str) -> int:
+    """The detail of a fault that is written by zeep; nothing for one that has no element."""
+    response = samples.get(f'/{operation}', {}).get('post', {}).get('responses', {}).get('500', {})
+    sample = response.get('content', {}).get('application/json', {}).get('example')
+    element = next((one for one in client.wsdl.types.elements if one.name == f'{operation}Fault'), None)
+    if sample is None or element is None:
+        return 0
+    detail = etree.Element('detail')
+    element.render(detail, element(**sample))
+    if not schema.validate(etree.ElementTree(etree.fromstring(etree.tostring(detail[0])))):
+        raise Failure(f'{schema.error_log.last_error}: {etree.tostring(detail)[:300]!r}')
+    return 1
 
 
 def prove_operation(schema, samples, transport, proxy, operation, names) -> int:
