@@ -65,7 +65,8 @@ TEST_P(GuidePageTest, ItsCodeIsThatOfTheExamples) {
   for (const auto& entry : fs::directory_iterator(fs::path(AS_EXAMPLES_DIR) / "cpp")) {
     code += test::contentOf(entry.path());
   }
-  for (const docs::Block& block : docs::Page(GetParam()).blocks()) {
+  docs::Page page(GetParam());
+  for (const docs::Block& block : page.blocks()) {
     if (!block.is("cpp")) continue;
     EXPECT_NE(code.find(block.text), std::string::npos) << block.text;
   }
