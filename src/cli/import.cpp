@@ -37,8 +37,9 @@ class Import : public Command {
     arguments.required("FILE", files_,
                        "The sources: files, folders with files *.cbl, *.cob ..., or - for one from "
                        "standard input");
-    arguments.requiredOption("-o,--output", output_,
-                             "The dictionary of one FILE; the folder of those of several");
+    arguments.option("-o,--output", output_,
+                     "The dictionary of one FILE, the folder of those of several; may be left out "
+                     "with --explain");
     arguments.list("-I,--include", folders_, "DIR,...",
                    "Folders to look for copybooks in, before the source's own");
     arguments.option("--format", format_, {"auto", "fixed", "free", "variable"},
@@ -58,6 +59,10 @@ class Import : public Command {
   }
 
   int run(const std::optional<std::string>&) override {
+    if (output_.empty() && !explained_) {
+      printError("--output is required, unless an item is to be explained");
+      return exitUsage;
+    }
     if (const int wrong = findTasks(); wrong != exitFine) return wrong;
     options_.format = formatOf(format_);
     options_.pointerSize = pointerSize_.empty() ? 0 : pointerSize_ == "4" ? 4 : 8;
@@ -126,7 +131,8 @@ class Import : public Command {
   void addTask(const fs::path& folder, const fs::path& source) {
     fs::path target = fs::path(output_) / source;
     target.replace_extension(".xml");
-    tasks_.push_back({{(folder / source).string()}, target.string()});
+    tasks_.push_back(
+        {{(folder / source).string()}, output_.empty() ? std::string() : target.string()});
   }
 
   WorkOutcome import(const Task& task) const {
@@ -134,7 +140,7 @@ class Import : public Command {
     try {
       std::error_code failure;
       const fs::path folder = fs::path(task.output).parent_path();
-      if (isFolder_) fs::create_directories(folder, failure);
+      if (isFolder_ && !folder.empty()) fs::create_directories(folder, failure);
       const toolkit::ImportedFile file =
           toolkit::importCobolFile(task.source, task.output, folders_, options_);
       outcome.isFine = countOf(file.imported.findings, toolkit::Severity::error) == 0;
@@ -183,7 +189,7 @@ class Import : public Command {
   }
 
   std::vector<std::string> files_;
-  std::string output_;
+  std::string output_;  // Empty: nothing is written.
   std::vector<std::string> folders_;
   std::string format_ = "auto";
   std::string pointerSize_;

@@ -64,6 +64,21 @@ TEST_F(ToolImportTest, LooksForCopybooksInTheFoldersTold) {
   EXPECT_EQ(run({"import", "a.cbl", "-o", "b.xml"}).exitCode, 1);
 }
 
+TEST_F(ToolImportTest, ExplainsWithoutWriting) {
+  write("a.cbl", program("A", "01 R PIC X."));
+  const test::ToolOutcome outcome = run({"import", "a.cbl", "--explain", "R"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_THAT(outcome.out, HasSubstr("R: bytes 0 to 0\n"));
+  EXPECT_FALSE(exists("a.xml"));
+}
+
+TEST_F(ToolImportTest, NeedsAnOutputWhenNothingIsExplained) {
+  write("a.cbl", program("A", "01 R PIC X."));
+  const test::ToolOutcome outcome = run({"import", "a.cbl"});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_THAT(outcome.err, HasSubstr("--output is required"));
+}
+
 TEST_F(ToolImportTest, OptionsReachTheLibrary) {
   write("a.cbl", "01 R. 05 A PIC 9 COMP. 05 P POINTER.\n");
   ASSERT_EQ(run({"import", "--format", "free", "--dialect", "gnucobol", "--pointer-size", "4",

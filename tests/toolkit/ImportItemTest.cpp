@@ -58,6 +58,19 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"PIC +9(3).9(4)E+99",
                   "<numeric name='A' picture='+9(3).9(4)E+99' usage='externalFloat' sign='true' "
                   "digits='7' alignment='4' offset='0' length='13'"},
+        ImportRow{"PIC U(5)", "<alphanumeric name='A' picture='U(5)' offset='0' length='20'"},
+        ImportRow{"PIC U(5) USAGE UTF-8",
+                  "<alphanumeric name='A' picture='U(5)' offset='0' length='20'"},
+        ImportRow{"PIC U BYTE-LENGTH 10 USAGE UTF-8",
+                  "<alphanumeric name='A' picture='U' offset='0' length='10'"},
+        ImportRow{"VALUE 'abc' & \"de\"",
+                  "<alphanumeric name='A' picture='X(5)' offset='0' length='5'"},
+        ImportRow{"ANY LENGTH", "<alphanumeric name='A' picture='X' offset='0' length='1'"},
+        ImportRow{"ANY NUMERIC",
+                  "<numeric name='A' picture='9' usage='display' sign='false' digits='1' "
+                  "alignment='0' offset='0' length='1'"},
+        ImportRow{"PIC X IS SPECIAL-NAMES CRT STATUS",
+                  "<alphanumeric name='A' picture='X' offset='0' length='1'"},
         ImportRow{"PIC 1(8)", "<alphanumeric name='A' picture='1(8)' offset='0' length='8'"}));
 
 INSTANTIATE_TEST_SUITE_P(

@@ -35,6 +35,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(ImportRow{"01 A PIC X.\nNONSENSE B.\n01 C PIC X.", "2:1 unknown-text"},
                     ImportRow{"01 A PIC X.\n50 B PIC X.", "2:1 unknown-level"},
                     ImportRow{"05 A PIC X.", "1:1 no-record"},
+                    ImportRow{"05 A PIC X.\n05 B PIC X.\n01 C. 05 D PIC X.", "1:1 no-record"},
                     ImportRow{"01 R.\n10 A PIC X.\n05 B PIC X.", "3:1 odd-level"},
                     ImportRow{"01 A PIC X.\n05 B PIC X.", "1:1 members-of-item"},
                     ImportRow{"01 A PIC X\n01 B PIC X.", "2:1 no-period"},
@@ -51,7 +52,12 @@ INSTANTIATE_TEST_SUITE_P(
                               "1:12 passed-over-clause, 1:1 dialect-decides"},
                     ImportRow{"01 A PIC 9(9) COMP SYNC.", ""},
                     ImportRow{"01 A PIC S9(18) COMP SYNC.", "1:1 dialect-decides"},
-                    ImportRow{"01 A PIC X ANY LENGTH.", "1:12 length-unknown"}));
+                    ImportRow{"01 A PIC X ANY LENGTH.", "1:12 length-unknown"},
+                    ImportRow{"01 A ANY LENGTH.", "1:6 length-unknown, 1:1 implied-picture"},
+                    ImportRow{"01 A VALUE 'ABC'.", "1:1 implied-picture"},
+                    ImportRow{"01 A VALUE SPACES.", "1:1 no-picture"},
+                    ImportRow{"01 G VALUE 'AB'. 05 A PIC X(2).", ""},
+                    ImportRow{"01 A PIC U BYTE-LENGTH B.", "1:12 bad-clause"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Items, ImportProblemTest,
@@ -112,6 +118,8 @@ INSTANTIATE_TEST_SUITE_P(
     Values, ImportProblemTest,
     testing::Values(ImportRow{"78 K VALUE 1 / 0.", "1:12 bad-constant"},
                     ImportRow{"78 K VALUE NEXT.", "1:12 bad-constant"},
+                    ImportRow{"78 K VALUE H\"0G\".", "1:12 bad-constant"},
+                    ImportRow{"01 K CONSTANT FROM NOWHERE.", "1:20 bad-constant"},
                     ImportRow{"78 K VALUE 9223372036854775807 + 1.", "1:12 bad-constant"},
                     ImportRow{"78 K VALUE ((((1).", "1:12 bad-constant"},
                     ImportRow{"01 A PIC X. 88 C.", "1:16 no-value"},
@@ -146,7 +154,18 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"PROGRAM-ID. T. DATA DIVISION. LINKAGE SECTION.\n01 A PIC X.\n"
                   "PROCEDURE DIVISION USING BY CONTENT OPTIONAL A.",
                   "3:29 content-parameter, 3:37 optional-parameter"},
-        ImportRow{"PROGRAM-ID. T. PROCEDURE DIVISION.\nENTRY FAST 'E'.", "2:7 lost-convention"}));
+        ImportRow{"PROGRAM-ID. T. PROCEDURE DIVISION.\nENTRY FAST 'E'.", "2:7 lost-convention"},
+        ImportRow{"PROGRAM-ID. T. PROCEDURE DIVISION USING\nDFHEIBLK DFHCOMMAREA.",
+                  "2:1 system-parameter"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION. WORKING-STORAGE SECTION.\n01 A. COPY CMQODV.\n"
+                  "01 B PIC X.",
+                  "2:7 system-copybook, 2:1 system-record"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION. WORKING-STORAGE SECTION.\n01 A.\n"
+                  "01 B. COPY CMQODV.",
+                  "3:7 system-copybook, 2:1 no-picture, 3:1 system-record"},
+        ImportRow{"01 A PIC ZZZ.ZZ9,99.", "1:1 copybook, 1:10 comma-assumed"},
+        ImportRow{"FUNCTION-ID. F.\nPROCEDURE DIVISION.\nEND FUNCTION F.",
+                  "1:1 passed-over-program, 3:16 nothing-to-import"}));
 
 // What a note says counts everywhere: it is told once a source.
 TEST(ImportNotes, AreToldOnceASource) {

@@ -29,7 +29,7 @@ constexpr int mostInt = std::numeric_limits<int>::max();
 const std::vector<Usage>& allUsages() {
   static const std::vector<Usage> all = [] {
     std::vector<Usage> usages;
-    for (int i = 0; i <= static_cast<int>(Usage::objectReference); ++i) {
+    for (int i = 0; i <= static_cast<int>(Usage::utf8); ++i) {
       usages.push_back(static_cast<Usage>(i));
     }
     return usages;

@@ -131,7 +131,7 @@ TEST(Copy, PlacesAreThoseOfTheCopybook) {
 TEST(Copy, AsksOnceForAName) {
   test::MemoryCopybooks copybooks(std::map<std::string, std::string>{{"B", "A"}});
   as::toolkit::SourceMap map;
-  as::toolkit::Findings findings;
+  as::toolkit::SourceFindings findings;
   as::toolkit::SourceReader reader("COPY B. COPY B. COPY C. COPY C.", "main", {}, &copybooks, map,
                                    findings);
   while (reader.next().kind != as::toolkit::TokenKind::end) {
@@ -141,7 +141,7 @@ TEST(Copy, AsksOnceForAName) {
 
 TEST(Copy, NeedsNoCopybooks) {
   as::toolkit::SourceMap map;
-  as::toolkit::Findings findings;
+  as::toolkit::SourceFindings findings;
   as::toolkit::SourceReader reader("COPY B. A", "main", {}, nullptr, map, findings);
   EXPECT_EQ(reader.next().text, "A");
   EXPECT_EQ(findings.size(), 1u);
@@ -168,16 +168,18 @@ TEST(CopyLimits, NestingIsBounded) {
 }
 
 TEST(CopyLimits, InclusionsAreBounded) {
-  const test::Reading reading = test::readingOf({"COPY B0. C", chain(15, 2)});
-  EXPECT_THAT(reading.texts, HasSubstr("the source comes to more than 10000 copybooks"));
+  test::Source source{"COPY B0. C", chain(15, 2)};
+  source.most.inclusions = 100;
+  EXPECT_THAT(test::readingOf(source).texts,
+              HasSubstr("the source comes to more than 100 copybooks"));
 }
 
 TEST(CopyLimits, TextIsBounded) {
-  const std::string megabyte(1048576, ' ');
-  std::map<std::string, std::string> copybooks = chain(7, 2);
-  copybooks["B7"] = megabyte;
-  EXPECT_THAT(test::readingOf({"COPY B0. C", copybooks}).texts,
-              HasSubstr("the source comes to more than 67108864 bytes of copybooks"));
+  test::Source source{"COPY B0. C", chain(7, 2)};
+  source.copybooks["B7"] = std::string(1000, ' ');
+  source.most.text = 100000;
+  EXPECT_THAT(test::readingOf(source).texts,
+              HasSubstr("the source comes to more than 100000 bytes of copybooks"));
 }
 
 TEST(CopyLimits, FindingsOfARuleAreBounded) {

@@ -64,6 +64,29 @@ const ReadingRow conditionRows[] = {
 };
 AS_READING_ROWS(Conditions, conditionRows);
 
+// What a sum comes to, and what is told of it.
+ReadingRow sum(const char* name, const std::string& text, const std::string& result,
+               const std::string& findings = "") {
+  return {name,
+          {">>DEFINE FIVE AS 5\n>>DEFINE X AS " + text + "\n>>IF X DEFINED\n>>IF X = " + result +
+           "\nA\n>>END-IF\n>>END-IF\n"},
+          findings.empty() ? "A" : "",
+          findings};
+}
+
+const ReadingRow sumRows[] = {
+    sum("ProductsFirst", "FIVE + 2 * 3 - 1", "10"),
+    sum("LeftToRight", "FIVE - 2 - 1", "2"),
+    sum("Parentheses", "( FIVE + 2 ) * 3", "21"),
+    sum("NestedParentheses", "2 * (3 * (FIVE - 1))", "24"),
+    sum("WholeNumbers", "FIVE / 2", "2"),
+    sum("Zero", "FIVE / 0", "0", "directive-syntax main:2:1"),
+    sum("Text", "FIVE + \"a\"", "0", "directive-syntax main:2:1"),
+    sum("OpenParenthesis", "( FIVE + 1", "0", "directive-syntax main:2:1"),
+    sum("Overflow", "999999999999999 * 2", "0", "directive-syntax main:2:1"),
+};
+AS_READING_ROWS(Sums, sumRows);
+
 const ReadingRow rows[] = {
     {"Elif",
      {">>DEFINE A 2\n>>IF A = 1\nX\n>>ELIF A = 2\nY\n>>ELIF A = 2\nZ\n>>ELSE\nW\n>>END-IF\nV"},
@@ -115,7 +138,7 @@ const ReadingRow rows[] = {
       "AND A NOT DEFINED\nX\n>>END-IF\n"},
      "X"},
     {"DefineOfNothing",
-     {">>DEFINE\n>>DEFINE A 1 + 2\n"},
+     {">>DEFINE\n>>DEFINE A 1 2\n"},
      "",
      "directive-syntax main:1:1\ndirective-syntax main:2:1"},
     {"DefineTooLong",

@@ -20,7 +20,16 @@ void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 
 constexpr auto fixed = SourceFormat::fixed;
 constexpr auto free = SourceFormat::free;
-constexpr auto unknown = SourceFormat::variable;  // Stands for what is taken otherwise.
+constexpr auto variable = SourceFormat::variable;
+constexpr auto unknown = SourceFormat::recognised;  // Stands for what is taken otherwise.
+
+const std::string star = "      * A\n";
+
+// A line with so many characters of a literal that does not end in front of the margin.
+std::string literal(std::size_t size) { return "       A '" + std::string(size, 'x'); }
+
+// A line up to that column.
+std::string code(std::size_t columns) { return "       " + std::string(columns - 7, 'A'); }
 
 const Row rows[] = {
     {"Nothing", "", unknown},
@@ -53,6 +62,15 @@ const Row rows[] = {
     {"DollarDirectiveEndsTheLook", "      $SET SOURCEFORMAT\"FREE\"\n      * A\n", unknown},
     {"OtherDirectivesDoNot", ">>DEFINE A 1\n$SET ANS85\n      * A\n", fixed},
     {"DebuggingLine", "      D A\n", unknown},
+    {"LiteralThatEndsBehindTheMargin", star + literal(60) + " y'.\n       A.\n", variable},
+    {"LiteralThatIsContinued", star + literal(60) + " y'.\n      -    'z'.\n", fixed},
+    {"LiteralThatEndsNowhere", star + literal(60) + "\n       A.\n", fixed},
+    {"TextBehindTheIdentification", star + code(72) + "        A.\n", variable},
+    {"TextThroughTheIdentification", star + code(79) + "AAAA\n", variable},
+    {"IdentificationAndMore", star + code(72) + "ABCD0010 A.\n", fixed},
+    {"CommentBehindTheMargin", star + "      * " + std::string(80, 'x') + "\n", fixed},
+    {"InlineCommentBehindTheMargin", star + "       A. *> it's " + std::string(80, 'x') + "'\n",
+     fixed},
     {"UmlautsAreOneColumn", "\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4* A\n", fixed},
 };
 

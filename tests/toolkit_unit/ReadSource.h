@@ -8,6 +8,7 @@
 #include <string>
 
 #include "as/toolkit/Copybooks.h"
+#include "as/toolkit/Finding.h"
 #include "toolkit/import/SourceReader.h"
 
 namespace test {
@@ -61,15 +62,17 @@ struct Source {
   std::map<std::string, std::string> copybooks = {};
   as::toolkit::SourceFormat format = as::toolkit::SourceFormat::free;
   std::string encoding = "";
+  as::toolkit::ImportBudget::Most most = {};
 };
 
 inline Reading readingOf(const Source& source, bool withPlaces = false) {
   MemoryCopybooks copybooks(source.copybooks);
   as::toolkit::SourceMap map;
-  as::toolkit::Findings findings;
+  as::toolkit::SourceFindings findings;
   as::toolkit::SourceOptions options;
   options.format = source.format;
   options.encoding = source.encoding;
+  options.most = source.most;
   options.definitions = {{"OUTSIDE", "7"}};
   as::toolkit::SourceReader reader(source.text, "main", options, &copybooks, map, findings);
   Reading result;
@@ -79,10 +82,13 @@ inline Reading readingOf(const Source& source, bool withPlaces = false) {
     result.words += shown(token);
     if (withPlaces) result.words += " at " + map.textOf(token.place) + ";";
   }
-  for (const as::toolkit::Finding& finding : findings) {
+  for (const as::toolkit::SourceFinding& finding : findings) {
     if (!result.findings.empty()) result.findings += '\n';
-    result.findings += finding.rule + " " + finding.place;
-    result.texts += textOf(finding) + "\n";
+    const std::string place = map.textOf(finding.place);
+    result.findings += std::string(finding.rule) + " " + place;
+    result.texts += textOf(as::toolkit::Finding{finding.rule, finding.severity, place,
+                                                finding.problem, finding.advice}) +
+                    "\n";
   }
   result.decimalPointIsComma = reader.decimalPointIsComma();
   return result;

@@ -115,19 +115,20 @@ const Row rows[] = {
 class DecodedSource : public testing::TestWithParam<Row> {
  protected:
   as::toolkit::SourceText decode(const Row& row) {
-    as::toolkit::SourceReport report(findings_, map_);
+    as::toolkit::SourceReport report(findings_);
     return as::toolkit::decodeSource(row.bytes, row.encoding, map_.add("main"), report);
   }
 
   as::toolkit::SourceMap map_;
-  as::toolkit::Findings findings_;
+  as::toolkit::SourceFindings findings_;
 };
 
 TEST_P(DecodedSource, IsTheText) {
   EXPECT_EQ(decode(GetParam()).text, GetParam().text);
   std::string findings;
   for (const auto& finding : findings_) {
-    findings += (findings.empty() ? "" : "\n") + finding.rule + " " + finding.place;
+    findings += (findings.empty() ? "" : "\n") + std::string(finding.rule) + " " +
+                map_.textOf(finding.place);
   }
   EXPECT_EQ(findings, GetParam().findings);
 }

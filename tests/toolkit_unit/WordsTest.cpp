@@ -94,7 +94,7 @@ AS_READING_ROWS(Words, rows);
 TEST(WordSequence, EndStays) {
   test::MemoryCopybooks copybooks(std::map<std::string, std::string>{});
   as::toolkit::SourceMap map;
-  as::toolkit::Findings findings;
+  as::toolkit::SourceFindings findings;
   as::toolkit::SourceReader reader("", "main", {}, &copybooks, map, findings);
   EXPECT_EQ(reader.next().kind, as::toolkit::TokenKind::end);
   EXPECT_EQ(reader.next().kind, as::toolkit::TokenKind::end);

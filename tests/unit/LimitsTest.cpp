@@ -188,7 +188,9 @@ TEST_P(Limits, StandsInTheHeader) {
 
 // A row that no limit stands for any more.
 TEST(LimitsTable, IsAllThatThePolicyHolds) {
-  const std::string policy = test::contentOf(AS_SCHEMA_DIR "/../SECURITY.md");
+  std::string policy = test::contentOf(AS_SCHEMA_DIR "/../SECURITY.md");
+  // Those of import have a table of their own.
+  policy.resize(policy.find("\n## The limits of import\n"));
   const auto lines = [&](const std::string& start) {
     XMLSize_t count = 0;
     for (auto at = policy.find(start); at != std::string::npos; at = policy.find(start, at + 1)) {

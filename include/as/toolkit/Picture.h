@@ -21,6 +21,7 @@ struct Picture {
     nationalEdited,      // N(2)BN(3)
     numeric,             // S9(5)V99
     numericEdited,       // -Z(4)9.99
+    utf8,                // U(5)
   };
 
   Category category = Category::alphanumeric;

@@ -42,6 +42,7 @@ enum class Usage {
   procedurePointer,  // Also PROGRAM-POINTER.
   functionPointer,
   objectReference,
+  utf8,  // Characters of up to four bytes, for each of which there is room.
 };
 
 // The usage of that word or words as a program may write them, COMPUTATIONAL-3 and OBJECT REFERENCE

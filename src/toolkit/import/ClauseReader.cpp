@@ -1,19 +1,25 @@
 #include "toolkit/import/ClauseReader.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstddef>
-#include <limits>
 #include <optional>
+#include <string_view>
+#include <utility>
+
+#include "toolkit/import/Characters.h"
+#include "toolkit/import/EntryWords.h"
 
 namespace as::toolkit {
 
 namespace {
 
-constexpr std::int64_t mostOccurrences = std::numeric_limits<int>::max();
+constexpr std::int64_t mostByteLength = 1'000'000'000;
 
-bool isEntryLevel(int level) {
-  return (level >= 1 && level <= 49) || level == 66 || level == 77 || level == 78 || level == 88;
+// In characters of UTF-8, as far as a PICTURE can count.
+int lengthOf(const std::string& text) {
+  constexpr std::ptrdiff_t most = 1'000'000;
+  return static_cast<int>(std::min(
+      most, std::count_if(text.begin(), text.end(), [](char c) { return !isWithinCharacter(c); })));
 }
 
 bool isUnsignedUsage(const std::string& word) {
@@ -23,26 +29,10 @@ bool isUnsignedUsage(const std::string& word) {
 
 }  // namespace
 
-int levelOf(const Word& word) {
-  const std::string& text = word.token.text;
-  if (!word.is(TokenKind::word) || text.empty() || text.size() > 2) return -1;
-  int level = 0;
-  for (const char digit : text) {
-    if (digit < '0' || digit > '9') return -1;
-    level = 10 * level + (digit - '0');
-  }
-  return level;
-}
-
-bool ClauseReader::isClause(const Word& word) const {
-  return word.meaning.role == KeywordRole::clause || word.meaning.role == KeywordRole::usage ||
-         word.meaning.role == KeywordRole::softClause;
-}
-
 void ClauseReader::readName(DataEntry& entry) {
   entry.name = "FILLER";
   const Word& word = words_.peek();
-  if (!word.is(TokenKind::word) || isAtNextEntry()) return;
+  if (!word.is(TokenKind::word) || isAtNextEntry(words_)) return;
   if (word.is(Keyword::filler)) {
     words_.skip();
     return;
@@ -67,16 +57,6 @@ void ClauseReader::readName(DataEntry& entry) {
   words_.skip();
 }
 
-bool ClauseReader::isAtNextEntry() {
-  const Word& word = words_.peek();
-  if (word.is(TokenKind::end)) return true;
-  if (!word.is(TokenKind::word)) return false;
-  if (isEntryLevel(levelOf(word))) return true;
-  if (word.meaning.role == KeywordRole::unit) return true;
-  const Word& next = words_.peek(1);
-  return next.is(Keyword::section) || next.is(Keyword::division);
-}
-
 void ClauseReader::endEntry(const DataEntry& entry) {
   if (words_.peek().is(TokenKind::period)) {
     words_.skip();
@@ -87,7 +67,7 @@ void ClauseReader::endEntry(const DataEntry& entry) {
 }
 
 void ClauseReader::readClauses(DataEntry& entry) {
-  while (!words_.peek().is(TokenKind::period) && !isAtNextEntry()) {
+  while (!words_.peek().is(TokenKind::period) && !isAtNextEntry(words_)) {
     if (readClause(entry)) continue;
     entry.isDamaged = true;
     while (!words_.peek().is(TokenKind::period) && !words_.atEnd()) words_.skip();
@@ -132,7 +112,7 @@ bool ClauseReader::readClause(DataEntry& entry) {
     case Keyword::trailing:
       return readSign(entry);
     case Keyword::occurs:
-      return readOccurs(entry);
+      return occurs_.read(entry);
     case Keyword::sync:
     case Keyword::synchronized:
       words_.skip();
@@ -158,7 +138,7 @@ bool ClauseReader::readClause(DataEntry& entry) {
     case Keyword::value:
     case Keyword::values:
       words_.skip();
-      skipValue();
+      readValue(entry);
       return true;
     case Keyword::external:
       words_.skip();
@@ -185,7 +165,9 @@ bool ClauseReader::readClause(DataEntry& entry) {
       return readReference(entry, NameReference::Kind::like);
     case Keyword::any:
       words_.skip();
-      if (!words_.accept(Keyword::length) && !words_.accept(Keyword::numeric)) {
+      entry.impliedSize = 1;
+      entry.isImpliedNumeric = words_.accept(Keyword::numeric);
+      if (!entry.isImpliedNumeric && !words_.accept(Keyword::length)) {
         return bad(entry, place, "ANY is not followed by LENGTH or NUMERIC");
       }
       problems_.tell(EntryRule::notThatLong, place,
@@ -205,6 +187,16 @@ bool ClauseReader::readClause(DataEntry& entry) {
       problems_.tell(EntryRule::notThatLong, place,
                      entry.name + " is of dynamic length: it counts with that of its PICTURE");
       return true;
+    case Keyword::byteLength: {
+      words_.skip();
+      words_.accept(Keyword::isWord);
+      const std::optional<std::int64_t> length = constants_.takeInteger();
+      if (!length || *length < 1 || *length > mostByteLength) {
+        return bad(entry, place, "BYTE-LENGTH is no number that is known");
+      }
+      entry.byteLength = static_cast<int>(*length);
+      return true;
+    }
     case Keyword::based:
       words_.skip();
       return passOver(entry, "BASED");
@@ -217,9 +209,19 @@ bool ClauseReader::readClause(DataEntry& entry) {
     case Keyword::aligned:
       words_.skip();
       return passOver(entry, "ALIGNED");
+    case Keyword::specialNames:
+    case Keyword::externalForm:
+      // What the run-time system keeps of the screen in the item, or a form of a web page.
+      words_.skip();
+      while (words_.peek().is(TokenKind::word) && !isAtNextEntry(words_) &&
+             !isClause(words_.peek())) {
+        words_.skip();
+      }
+      return true;
     case Keyword::property:
       words_.skip();
-      while (!words_.peek().is(TokenKind::period) && !isAtNextEntry() && !isClause(words_.peek())) {
+      while (!words_.peek().is(TokenKind::period) && !isAtNextEntry(words_) &&
+             !isClause(words_.peek())) {
         words_.skip();
       }
       return passOver(entry, "PROPERTY");
@@ -314,51 +316,8 @@ bool ClauseReader::readPicture(DataEntry& entry) {
   const bool isText = words_.peek().is(TokenKind::picture) || words_.peek().is(TokenKind::word) ||
                       words_.peek().is(TokenKind::number);
   if (!isText) return bad(entry, place, "PICTURE is followed by nothing");
-  entry.picture = pictureOf(words_.take().token.text, place);
+  entry.picture = pictures_.indexOf(words_.take().token.text, place);
   return true;
-}
-
-// Names of constants in parentheses are as good as numbers.
-std::string ClauseReader::withConstants(const std::string& picture) const {
-  std::string result;
-  for (std::size_t at = 0; at < picture.size(); ++at) {
-    result += picture[at];
-    if (picture[at] != '(') continue;
-    const std::size_t close = picture.find(')', at);
-    if (close == std::string::npos) continue;
-    const std::string name = picture.substr(at + 1, close - at - 1);
-    const bool isName =
-        std::any_of(name.begin(), name.end(), [](unsigned char c) { return std::isalpha(c) != 0; });
-    const ConstantEntry* const constant = isName ? constants_.find(name) : nullptr;
-    result += constant != nullptr && constant->number ? std::to_string(*constant->number) : name;
-    at = close - 1;
-  }
-  return result;
-}
-
-Index ClauseReader::pictureOf(const std::string& written, const SourcePlace& place) {
-  const auto known = pictures_.find(written);
-  if (known != pictures_.end() &&
-      program_.pictures[static_cast<std::size_t>(known->second)].picture) {
-    return known->second;
-  }
-  PictureRules rules;
-  rules.isDecimalPointComma = program_.isDecimalPointComma;
-  for (const CobolProgram::Currency& currency : program_.currencies) {
-    const bool isFirst = &currency == &program_.currencies.front();
-    if (!isFirst && written.find(currency.symbol) == std::string::npos) continue;
-    rules.currencySymbol = currency.symbol;
-    rules.currencyCharacters = currency.characters;
-  }
-  PictureEntry entry{withConstants(written), std::nullopt};
-  entry.picture = as::toolkit::readPicture(entry.text, rules);
-  if (!entry.picture) {
-    problems_.tell(EntryRule::badPicture, place, entry.text + " is no PICTURE that can be read");
-  }
-  program_.pictures.push_back(std::move(entry));
-  const auto index = static_cast<Index>(program_.pictures.size() - 1);
-  pictures_[written] = index;
-  return index;
 }
 
 bool ClauseReader::readSign(DataEntry& entry) {
@@ -375,125 +334,25 @@ bool ClauseReader::readSign(DataEntry& entry) {
   return true;
 }
 
-bool ClauseReader::readOccurs(DataEntry& entry) {
-  const SourcePlace place = words_.peek().token.place;
-  words_.skip();
-  if (entry.isTable()) return bad(entry, place, "OCCURS stands there twice");
-  if (words_.accept(Keyword::dynamic)) {
-    entry.isUnbounded = true;
-    entry.minOccurs = 0;
-    if (words_.accept(Keyword::capacity)) {
-      words_.accept(Keyword::in);
-      words_.skip();
-    }
-    if (words_.accept(Keyword::from)) {
-      entry.minOccurs = static_cast<int>(
-          std::clamp<std::int64_t>(constants_.takeInteger().value_or(0), 0, mostOccurrences));
-    }
-    if (words_.accept(Keyword::to)) constants_.takeInteger();
-    words_.accept(Keyword::initialized);
-    entry.maxOccurs = std::max(entry.minOccurs, 1);
-  } else if (!readOccurrences(entry)) {
-    return false;
-  }
-  if (!readOccursPhrases(entry)) return false;
-  if (entry.isUnbounded) {
-    problems_.tell(EntryRule::notThatLong, place,
-                   entry.name + " has no greatest number of occurrences: it counts with " +
-                       std::to_string(entry.maxOccurs));
-  } else if (entry.depending == none && entry.minOccurs != entry.maxOccurs) {
-    problems_.tell(EntryRule::noDepending, place,
-                   entry.name + " occurs " + std::to_string(entry.minOccurs) + " to " +
-                       std::to_string(entry.maxOccurs) + " times, but depends on nothing");
-  } else if (entry.level == 1 || entry.level == 77) {
-    problems_.tell(EntryRule::tableOnTop, place, entry.name + " is a table of records");
-  }
-  return true;
-}
-
-bool ClauseReader::readOccurrences(DataEntry& entry) {
-  const SourcePlace place = words_.peek().token.place;
-  const auto tell = [&](const std::string& text) {
-    problems_.tell(EntryRule::badOccurs, place, entry.name + " " + text);
-    return false;
-  };
-  const std::optional<std::int64_t> first = constants_.takeInteger();
-  if (!first) return tell("occurs a number of times that is not known");
-  std::optional<std::int64_t> last = first;
-  const bool isRange = words_.accept(Keyword::to);
-  if (isRange && words_.accept(Keyword::unbounded)) {
-    entry.isUnbounded = true;
-    last = std::max<std::int64_t>(*first, 1);
-  } else if (isRange) {
-    last = constants_.takeInteger();
-  }
-  if (!last) return tell("occurs a number of times that is not known");
-  if (*first < 0 || *last < 1) return tell("occurs " + std::to_string(*last) + " times");
-  if (*last > mostOccurrences) return tell("occurs more often than 2147483647 times");
-  if (*first > *last) {
-    return tell("occurs at least " + std::to_string(*first) + " times, but at most " +
-                std::to_string(*last));
-  }
-  entry.minOccurs = static_cast<int>(*first);
-  entry.maxOccurs = static_cast<int>(*last);
-  words_.accept(Keyword::times);
-  if (words_.peek().is(Keyword::depending) && !isRange) entry.minOccurs = 1;
-  return true;
-}
-
-bool ClauseReader::readOccursPhrases(DataEntry& entry) {
-  for (;;) {
-    const SourcePlace place = words_.peek().token.place;
-    if (words_.accept(Keyword::times)) continue;
-    if (words_.accept(Keyword::depending)) {
-      words_.accept(Keyword::on);
-      NameReference reference;
-      reference.kind = NameReference::Kind::depending;
-      reference.place = words_.peek().token.place;
-      reference.names = constants_.takeName();
-      if (reference.names.empty()) return bad(entry, place, "DEPENDING ON names nothing");
-      program_.references.push_back(std::move(reference));
-      entry.depending = static_cast<Index>(program_.references.size() - 1);
-    } else if (words_.peek().is(Keyword::ascending) || words_.peek().is(Keyword::descending)) {
-      words_.skip();
-      words_.accept(Keyword::key);
-      words_.accept(Keyword::isWord);
-      words_.accept(Keyword::are);
-      skipNames();
-    } else if (words_.accept(Keyword::indexed)) {
-      words_.accept(Keyword::by);
-      skipNames();
-    } else {
-      return true;
-    }
-  }
-}
-
-// Indexes and keys stand in no dictionary.
-void ClauseReader::skipNames() {
-  for (;;) {
-    const Word& word = words_.peek();
-    const bool isName = word.is(TokenKind::word) && !isClause(word) &&
-                        word.meaning.role != KeywordRole::filling && !word.is(Keyword::ascending) &&
-                        !word.is(Keyword::descending) && !word.is(Keyword::indexed) &&
-                        !word.is(Keyword::depending);
-    if (!isName || isAtNextEntry()) return;
-    words_.skip();
-  }
-}
-
-// Values are of no use to a dictionary; they end where a clause begins.
-void ClauseReader::skipValue() {
+// Of values, a dictionary needs the length of a literal, which is that of an item without a
+// PICTURE. They end where a clause begins.
+void ClauseReader::readValue(DataEntry& entry) {
   words_.accept(Keyword::isWord);
   words_.accept(Keyword::are);
-  if (!words_.peek().is(TokenKind::period)) words_.skip();
+  if (words_.peek().is(TokenKind::literal)) entry.impliedSize = 0;
+  while (words_.peek().is(TokenKind::literal)) {
+    const Word literal = words_.take();
+    if (literal.token.prefix.empty()) entry.impliedSize += lengthOf(literal.token.text);
+    if (!words_.acceptMark("&")) break;
+  }
+  if (!words_.peek().is(TokenKind::period) && !isClause(words_.peek())) words_.skip();
   while (!words_.peek().is(TokenKind::period) && !words_.atEnd()) {
     const Word& word = words_.peek();
     if (isClause(word) || word.meaning.role == KeywordRole::filling) return;
     // A number here is a further value, unless an entry begins with it.
     const bool isSection =
         words_.peek(1).is(Keyword::section) || words_.peek(1).is(Keyword::division);
-    const bool isEntry = isEntryLevel(levelOf(word)) && words_.peek(1).is(TokenKind::word) &&
+    const bool isEntry = isEntryLevel(word) && words_.peek(1).is(TokenKind::word) &&
                          (isClause(words_.peek(2)) || words_.peek(2).is(TokenKind::period));
     if (isSection || isEntry) return;
     words_.skip();
@@ -509,7 +368,7 @@ bool ClauseReader::readReference(DataEntry& entry, NameReference::Kind kind) {
   NameReference reference;
   reference.kind = kind;
   reference.place = words_.peek().token.place;
-  if (!isAtNextEntry()) reference.names = constants_.takeName();
+  if (!isAtNextEntry(words_)) reference.names = constants_.takeName();
   if (reference.names.empty()) return bad(entry, reference.place, "a name is missing");
   // LIKE X (+5) makes an item longer.
   if (kind == NameReference::Kind::like && words_.peek().isMark("(")) {

@@ -3,12 +3,11 @@
 #define TOOLKIT_IMPORT_CLAUSEREADER_H_
 
 #include <string>
-#include <unordered_map>
-#include <utility>
-#include <vector>
 
 #include "toolkit/import/ConstantReader.h"
 #include "toolkit/import/EntryProblems.h"
+#include "toolkit/import/OccursReader.h"
+#include "toolkit/import/PictureTable.h"
 #include "toolkit/import/ProgramEntries.h"
 #include "toolkit/import/WordReader.h"
 
@@ -22,7 +21,9 @@ class ClauseReader {
         program_(program),
         names_(names),
         constants_(constants),
-        problems_(problems) {}
+        problems_(problems),
+        pictures_(program, constants, problems),
+        occurs_(words, program, constants, problems) {}
 
   // The name that follows the level number, if there is one.
   void readName(DataEntry& entry);
@@ -34,39 +35,26 @@ class ClauseReader {
   // Ends an entry: takes its period, or tells that there is none.
   void endEntry(const DataEntry& entry);
 
-  // Whether what comes next begins another entry, section or division.
-  bool isAtNextEntry();
-
  private:
   bool readClause(DataEntry& entry);
   bool readUsage(DataEntry& entry);
   void readUsagePhrases(DataEntry& entry);
   bool readPicture(DataEntry& entry);
   bool readSign(DataEntry& entry);
-  bool readOccurs(DataEntry& entry);
-  bool readOccurrences(DataEntry& entry);
-  bool readOccursPhrases(DataEntry& entry);
   bool readReference(DataEntry& entry, NameReference::Kind kind);
   bool readRenames(DataEntry& entry);
   bool passOver(DataEntry& entry, const char* what);
-  void skipNames();
-  void skipValue();
+  void readValue(DataEntry& entry);
   bool bad(DataEntry& entry, const SourcePlace& place, const std::string& text);
-  bool isClause(const Word& word) const;
-
-  Index pictureOf(const std::string& written, const SourcePlace& place);
-  std::string withConstants(const std::string& picture) const;
 
   WordReader& words_;
   CobolProgram& program_;
   NameTable& names_;
   ConstantReader& constants_;
   EntryProblems& problems_;
-  std::unordered_map<std::string, Index> pictures_;
+  PictureTable pictures_;
+  OccursReader occurs_;
 };
-
-// The number of a level; negative when the word is no number of two digits at most.
-int levelOf(const Word& word);
 
 }  // namespace as::toolkit
 

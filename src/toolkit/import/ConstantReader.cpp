@@ -86,6 +86,15 @@ std::optional<std::int64_t> ConstantReader::takeOperand() {
     reference.names = takeName();
     return lengthOf_(reference);
   }
+  if (words_.peek().is(TokenKind::literal) && words_.peek().token.prefix == "H") {
+    const std::string digits = words_.take().token.text;
+    std::int64_t number = 0;
+    constexpr int base = 16;
+    const auto [stop, error] =
+        std::from_chars(digits.data(), digits.data() + digits.size(), number, base);
+    if (error != std::errc() || stop != digits.data() + digits.size()) return std::nullopt;
+    return number;
+  }
   return takeInteger();
 }
 
@@ -144,10 +153,20 @@ std::optional<std::int64_t> ConstantReader::takeSum() {
   return numbers.front();
 }
 
+std::optional<ConstantEntry> ConstantReader::takeDefinition() {
+  if (!words_.peek().is(TokenKind::word)) return std::nullopt;
+  const auto definition = words_.source().definition(words_.peek().token.text);
+  if (!definition) return std::nullopt;
+  words_.skip();
+  return ConstantEntry{definition->text,
+                       definition->isNumber ? readInteger(definition->text) : std::nullopt,
+                       definition->isNumber};
+}
+
 std::optional<ConstantEntry> ConstantReader::takeValue() {
   const Word& first = words_.peek();
   const bool isAlone = words_.peek(1).is(TokenKind::period) || words_.peek(1).is(TokenKind::end);
-  if (first.is(TokenKind::literal)) {
+  if (first.is(TokenKind::literal) && first.token.prefix != "H") {
     ConstantEntry constant{words_.take().token.text, std::nullopt, false};
     while (words_.acceptMark("&")) {
       if (!words_.peek().is(TokenKind::literal)) return std::nullopt;

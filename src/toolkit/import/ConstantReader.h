@@ -33,6 +33,9 @@ class ConstantReader {
   // What comes up to the end of the entry. Nothing when that cannot be worked out.
   std::optional<ConstantEntry> takeValue();
 
+  // What a directive defined under the name that comes next. Nothing when none did.
+  std::optional<ConstantEntry> takeDefinition();
+
   // A name with what qualifies it. Nothing is taken when no name comes next.
   std::vector<NameReference::Name> takeName();
 

@@ -408,6 +408,7 @@ void CopyExpander::include(const TextWord& name, const std::string& library,
   CopybookLibrary::Entry* const entry = canBeFile ? library_.find(text, library) : nullptr;
   if (entry == nullptr) {
     if (isOfSystem(text)) {
+      passedCopybooks_.push_back(place);
       report_.add(
           SourceRule::systemCopybook, place,
           "the copybook " + text + " comes with the system; it was not found and is passed over",

@@ -44,6 +44,13 @@ class CopyExpander : public TextWordSource {
   // Lines for debugging are code from here on.
   void setDebugging();
 
+  // Null when no directive defined the name.
+  const DirectiveValue* findDefinition(const std::string& name) const {
+    return directives_.find(name);
+  }
+  // Where copybooks of the system were passed over.
+  const std::vector<SourcePlace>& passedCopybooks() const { return passedCopybooks_; }
+
   // Tells what is to be told when all is read.
   void finish();
 
@@ -101,6 +108,7 @@ class CopyExpander : public TextWordSource {
     std::size_t count = 0;
   };
   std::map<std::string, Passed> passedExec_;
+  std::vector<SourcePlace> passedCopybooks_;
 };
 
 }  // namespace as::toolkit

@@ -4,6 +4,8 @@
 #include <optional>
 #include <utility>
 
+#include "toolkit/import/EntryWords.h"
+
 namespace as::toolkit {
 
 namespace {
@@ -135,9 +137,9 @@ void DataDivisionReader::readFile() {
 
 bool DataDivisionReader::isConstant() {
   if (!words_.peek().is(Keyword::constant)) return false;
+  // "CONSTANT RECORD" is a clause; AS may be left out.
   const Word& next = words_.peek(1);
-  return next.is(Keyword::as) || next.is(Keyword::from) || next.is(Keyword::isWord) ||
-         next.is(Keyword::global);
+  return !next.is(TokenKind::period) && !next.is(Keyword::record);
 }
 
 void DataDivisionReader::readEntry(const std::string& recordName) {
@@ -191,8 +193,9 @@ void DataDivisionReader::readConstant(const DataEntry& entry, bool isLevel78) {
     words_.accept(Keyword::as);
   }
   const SourcePlace place = words_.peek().token.place;
-  const std::optional<ConstantEntry> value = isFrom ? std::nullopt : constants_.takeValue();
-  const bool isWhole = words_.peek().is(TokenKind::period) || clauses_.isAtNextEntry();
+  const std::optional<ConstantEntry> value =
+      isFrom ? constants_.takeDefinition() : constants_.takeValue();
+  const bool isWhole = words_.peek().is(TokenKind::period) || isAtNextEntry(words_);
   if (entry.nameId != none && value && isWhole) {
     program_.constants[entry.nameId] = *value;
     clauses_.endEntry(entry);

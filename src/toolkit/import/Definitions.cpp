@@ -1,6 +1,10 @@
 #include "toolkit/import/Definitions.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "toolkit/import/ImportLimits.h"
@@ -111,6 +115,83 @@ std::optional<DirectiveValue> Definitions::valueOf(DirectiveText& text,
       break;
   }
   throw DirectiveError("a name or a literal is wanting");
+}
+
+namespace {
+
+// "+" to "/" as DEFINE writes them, with blanks around; 0 for anything else.
+char operatorOf(const DirectivePart& part) {
+  const bool isOne = part.kind == DirectivePart::Kind::word && part.text.size() == 1 &&
+                     std::string_view("+-*/").find(part.text.front()) != std::string_view::npos;
+  return isOne ? part.text.front() : '\0';
+}
+
+double applied(double one, char op, double other) {
+  switch (op) {
+    case '+':
+      return one + other;
+    case '-':
+      return one - other;
+    case '*':
+      return one * other;
+    default:
+      if (other == 0) throw DirectiveError("a number is divided by zero");
+      return std::trunc(one / other);
+  }
+}
+
+}  // namespace
+
+// Operators wait until one that binds no more comes, so that no function calls itself.
+std::optional<DirectiveValue> Definitions::resultOf(DirectiveText& text,
+                                                    const Undefined& undefined) const {
+  if (text.peek().kind != DirectivePart::Kind::mark) {
+    auto first = valueOf(text, undefined);
+    if (!first || !first->isNumber || operatorOf(text.peek()) == '\0') return first;
+    return sumBehind(*first, text, undefined);
+  }
+  return sumBehind(std::nullopt, text, undefined);
+}
+
+std::optional<DirectiveValue> Definitions::sumBehind(std::optional<DirectiveValue> first,
+                                                     DirectiveText& text,
+                                                     const Undefined& undefined) const {
+  std::vector<double> numbers;
+  std::vector<char> waiting;
+  const auto rankOf = [](char op) { return op == '(' ? 0 : op == '*' || op == '/' ? 2 : 1; };
+  const auto applyFrom = [&](int least) {
+    while (!waiting.empty() && rankOf(waiting.back()) >= least) {
+      const double last = numbers.back();
+      numbers.pop_back();
+      numbers.back() = applied(numbers.back(), waiting.back(), last);
+      waiting.pop_back();
+    }
+  };
+  while (true) {
+    while (!first && text.accept("(")) waiting.push_back('(');
+    const auto value = first ? std::exchange(first, std::nullopt) : valueOf(text, undefined);
+    if (!value) return std::nullopt;
+    if (!value->isNumber) throw DirectiveError(quoted(value->text) + " is no number");
+    numbers.push_back(value->number);
+    while (std::find(waiting.begin(), waiting.end(), '(') != waiting.end() && text.accept(")")) {
+      applyFrom(1);
+      waiting.pop_back();
+    }
+    const char op = operatorOf(text.peek());
+    if (op == '\0') break;
+    text.take();
+    applyFrom(rankOf(op));
+    waiting.push_back(op);
+  }
+  applyFrom(1);
+  if (!waiting.empty()) throw DirectiveError("a \"(\" has no \")\"");
+  constexpr double most = 1e15;
+  if (!(std::abs(numbers.front()) < most)) throw DirectiveError("the number is too large");
+  DirectiveValue result;
+  result.isNumber = true;
+  result.number = numbers.front();
+  result.text = std::to_string(static_cast<std::int64_t>(std::trunc(numbers.front())));
+  return result;
 }
 
 bool Definitions::simpleCondition(DirectiveText& text, const Undefined& undefined) const {

@@ -45,11 +45,17 @@ class Definitions {
   using Undefined = std::function<void(std::string_view name)>;
   std::optional<DirectiveValue> valueOf(DirectiveText& text, const Undefined& undefined) const;
 
+  // The same of what DEFINE gives a name: also sums and products of numbers with blanks between, in
+  // whole numbers.
+  std::optional<DirectiveValue> resultOf(DirectiveText& text, const Undefined& undefined) const;
+
   // Reads a condition: names that are [NOT] DEFINED (or SET), comparisons, NOT, AND, OR and
   // parentheses; a comparison with what is not defined is false. Throws DirectiveError.
   bool isTrue(DirectiveText& text, const Undefined& undefined) const;
 
  private:
+  std::optional<DirectiveValue> sumBehind(std::optional<DirectiveValue> first, DirectiveText& text,
+                                          const Undefined& undefined) const;
   bool simpleCondition(DirectiveText& text, const Undefined& undefined) const;
 
   std::unordered_map<std::string, DirectiveValue> values_;

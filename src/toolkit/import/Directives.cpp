@@ -163,7 +163,8 @@ void Directives::takeDefine(DirectiveText& text) {
     }
     return;
   }
-  const auto value = text.isAtEnd() ? DirectiveValue{} : definitions_.valueOf(text, tellUndefined_);
+  const auto value =
+      text.isAtEnd() ? DirectiveValue{} : definitions_.resultOf(text, tellUndefined_);
   const bool overrides = text.accept("OVERRIDE");
   if (!text.isAtEnd()) {
     throw DirectiveError("DEFINE takes one literal; " + quoted(text.peek().text) +

@@ -25,6 +25,9 @@ class Directives {
   // Whether a condition leaves out what stands here.
   bool isSkipping() const { return !branches_.empty() && !branches_.back().isActive; }
 
+  // Null when that name is not defined here.
+  const DirectiveValue* find(std::string_view name) const { return definitions_.find(name); }
+
   // Tells of conditions that do not end, once all is read.
   void finish();
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <utility>
 
-#include "toolkit/import/ClauseReader.h"
 #include "toolkit/import/ConstantReader.h"
+#include "toolkit/import/EntryWords.h"
 
 namespace as::toolkit {
 

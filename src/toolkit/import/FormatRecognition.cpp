@@ -5,6 +5,7 @@
 #include <string>
 
 #include "toolkit/import/Characters.h"
+#include "toolkit/import/QuoteState.h"
 #include "toolkit/import/SourceLines.h"
 #include "toolkit/import/Token.h"
 
@@ -110,9 +111,59 @@ bool setsFormat(std::string_view line) {
          (folded.find("SOURCE") != std::string::npos);
 }
 
+// Whether a line that goes on behind column 72 was written without a right margin: a literal that
+// is open there and is ended behind, text that stands behind column 80 with nothing where the
+// identification would be, or text that runs through the whole of it.
+enum class BehindMargin { nothing, ended, open };
+
+BehindMargin behindMargin(std::string_view line) {
+  constexpr std::size_t margin = 72;
+  constexpr std::size_t record = 80;
+  if (line.size() <= margin || line.find('\t') != std::string_view::npos) {
+    return BehindMargin::nothing;
+  }
+  const char mark = line[indicator];
+  if (mark == '*' || mark == '/' || mark == '$') return BehindMargin::nothing;
+  QuoteState quotes;
+  const bool hasComment =
+      quotes.read(line.substr(indicator + 1, margin - indicator - 1)) != std::string_view::npos;
+  if (hasComment) return BehindMargin::nothing;
+  if (quotes.isOpen()) {
+    return line.find(quotes.quote(), margin) == std::string_view::npos ? BehindMargin::nothing
+                                                                       : BehindMargin::open;
+  }
+  if (line.size() <= record) return BehindMargin::nothing;
+  const std::string_view identification = line.substr(margin, record - margin);
+  const bool isBlankThere = trimmed(identification).empty();
+  const bool runsThrough = isAll(line.substr(margin - 1, record - margin + 2), isWordCharacter);
+  const bool isMore = !trimmed(line.substr(record)).empty();
+  return isMore && (isBlankThere || runsThrough) ? BehindMargin::ended : BehindMargin::nothing;
+}
+
+bool isContinuation(std::string_view line) {
+  return line.size() > indicator && line[indicator] == '-';
+}
+
+// A literal that is open at the margin goes on there when no continuation follows.
+bool hasNoMargin(std::string_view text) {
+  bool isOpen = false;
+  for (std::size_t lines = 0; lines < mostLines && !text.empty(); lines++) {
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    const std::string_view line = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    if (trimmed(line).empty()) continue;
+    if (isOpen && !isContinuation(line)) return true;
+    const BehindMargin behind = behindMargin(line);
+    if (behind == BehindMargin::ended) return true;
+    isOpen = behind == BehindMargin::open;
+  }
+  return isOpen;
+}
+
 }  // namespace
 
 SourceFormat recognisedFormat(std::string_view text, SourceFormat otherwise) {
+  const std::string_view whole = text;
   int votes = 0;
   for (std::size_t lines = 0; lines < mostLines && !text.empty(); lines++) {
     const std::size_t end = std::min(text.find('\n'), text.size());
@@ -121,8 +172,10 @@ SourceFormat recognisedFormat(std::string_view text, SourceFormat otherwise) {
     if (setsFormat(line)) break;
     votes += voteOf(line);
   }
-  if (votes == 0) return otherwise;
-  return votes > 0 ? SourceFormat::fixed : SourceFormat::free;
+  const SourceFormat format = votes == 0  ? otherwise
+                              : votes > 0 ? SourceFormat::fixed
+                                          : SourceFormat::free;
+  return format == SourceFormat::fixed && hasNoMargin(whole) ? SourceFormat::variable : format;
 }
 
 }  // namespace as::toolkit

@@ -70,56 +70,20 @@ DictionaryProperties propertiesOf(const std::string& name, const ImportOptions& 
   return properties;
 }
 
-// Findings of the words are told with their places as text: "FILE:LINE:COLUMN, copied at ...".
-ImportFinding findingOf(const Finding& finding) {
-  ImportFinding result{finding.rule, finding.severity, {}, {}, finding.problem, finding.advice};
-  const auto locationOf = [](std::string text) {
-    SourceLocation location;
-    int numbers[2] = {0, 0};
-    for (int& number : numbers) {
-      const std::size_t colon = text.find_last_of(':');
-      if (colon == std::string::npos || colon + 1 == text.size()) break;
-      const std::string digits = text.substr(colon + 1);
-      if (!std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; }) ||
-          digits.size() > 9) {
-        break;
-      }
-      number = std::stoi(digits);
-      text.resize(colon);
-    }
-    location.file = text;
-    location.line = numbers[1] != 0 ? numbers[1] : numbers[0];
-    location.column = numbers[1] != 0 ? numbers[0] : 0;
-    return location;
-  };
-  constexpr std::string_view between = ", copied at ";
-  std::vector<SourceLocation> locations;
-  for (std::size_t from = 0;;) {
-    const std::size_t to = finding.place.find(between, from);
-    locations.push_back(locationOf(finding.place.substr(from, to - from)));
-    if (to == std::string::npos) break;
-    from = to + between.size();
-  }
-  result.location = locations.front();
-  result.copiedAt.assign(locations.begin() + 1, locations.end());
-  return result;
-}
-
 // Findings of the words and of the entries, one behind the other as they are told.
 class FindingMerger {
  public:
-  FindingMerger(const SourceMap& map, Findings& words, ImportFindings& all)
+  FindingMerger(const SourceMap& map, const SourceFindings& words, ImportFindings& all)
       : map_(map), words_(words), all_(all) {}
 
   void add(EntryRule rule, const SourcePlace& place, const std::string& text) {
     takeWords();
     const EntryRuleRow& row = rowOf(rule);
-    all_.push_back(
-        {row.id, row.severity, locationOf(map_, place), copiedAt(map_, place), text, ""});
+    put({row.id, row.severity, place, text, ""});
   }
 
   void takeWords() {
-    for (; taken_ < words_.size(); ++taken_) all_.push_back(findingOf(words_[taken_]));
+    for (; taken_ < words_.size(); ++taken_) put(words_[taken_]);
   }
 
   // Errors among those of the words.
@@ -131,8 +95,13 @@ class FindingMerger {
   }
 
  private:
+  void put(const SourceFinding& finding) {
+    all_.push_back({finding.rule, finding.severity, locationOf(map_, finding.place),
+                    copiedAt(map_, finding.place), finding.problem, finding.advice});
+  }
+
   const SourceMap& map_;
-  Findings& words_;
+  const SourceFindings& words_;
   ImportFindings& all_;
   std::size_t taken_ = 0;
   std::size_t counted_ = 0;
@@ -146,7 +115,7 @@ Imported importCobol(std::string source, const std::string& name, CopybookProvid
   const auto shared = std::make_shared<ImportedSource>();
   shared->dialect = dialectOf(options);
   Imported result;
-  Findings wordFindings;
+  SourceFindings wordFindings;
   SourceOptions sourceOptions;
   sourceOptions.format = options.format;
   sourceOptions.encoding = options.encoding;

@@ -12,24 +12,31 @@ namespace as::toolkit {
 
 class ImportBudget {
  public:
-  explicit ImportBudget(SourceReport& report) : report_(report) {}
+  // How much may be used; tests get by with less.
+  struct Most {
+    std::size_t inclusions = importLimits::inclusions;
+    std::size_t text = importLimits::copiedText;
+    std::size_t comparisons = importLimits::comparisons;
+  };
+
+  ImportBudget(const Most& most, SourceReport& report) : most_(most), report_(report) {}
 
   // Each takes what is used from now on, and ends the import when it is too much.
   void addInclusion(const SourcePlace& place) {
-    if (++inclusions_ > importLimits::inclusions) {
-      exhaust(place, std::to_string(importLimits::inclusions) + " copybooks");
+    if (++inclusions_ > most_.inclusions) {
+      exhaust(place, std::to_string(most_.inclusions) + " copybooks");
     }
   }
   void addText(std::size_t bytes, const SourcePlace& place) {
     text_ += bytes;
-    if (text_ > importLimits::copiedText) {
-      exhaust(place, std::to_string(importLimits::copiedText) + " bytes of copybooks");
+    if (text_ > most_.text) {
+      exhaust(place, std::to_string(most_.text) + " bytes of copybooks");
     }
   }
   void addComparisons(std::size_t number, const SourcePlace& place) {
     comparisons_ += number;
-    if (comparisons_ > importLimits::comparisons) {
-      exhaust(place, std::to_string(importLimits::comparisons) + " words compared to replace some");
+    if (comparisons_ > most_.comparisons) {
+      exhaust(place, std::to_string(most_.comparisons) + " words compared to replace some");
     }
   }
 
@@ -44,6 +51,7 @@ class ImportBudget {
                 "the source comes to more than " + most + "; what follows is not read");
   }
 
+  const Most most_;
   SourceReport& report_;
   std::size_t inclusions_ = 0;
   std::size_t text_ = 0;

@@ -66,6 +66,7 @@ ImportedFile importCobolFile(const DocumentSource& source, const std::string& ou
   ImportedFile result;
   result.imported =
       importCobol(source.text ? *source.text : contentOf(file), file, &copybooks, options);
+  if (output.empty()) return result;
   const fs::path first = output;
   std::set<std::string> taken;
   for (std::size_t i = 0; i < result.imported.programs.size(); ++i) {

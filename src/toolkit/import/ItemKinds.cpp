@@ -35,6 +35,9 @@ const Picture* pictureOf(const CobolProgram& program, const DataEntry& entry) {
 
 void ItemKinds::lookAt(Index index) {
   DataEntry& entry = program_.entries[static_cast<std::size_t>(index)];
+  // A record that is looked at while it is open may have got members since.
+  if (entry.hasImpliedPicture) entry.picture = none;
+  entry.hasImpliedPicture = false;
   handDown(index, entry);
   if (entry.hasMembers) {
     lookAtGroup(entry);
@@ -70,7 +73,21 @@ void ItemKinds::lookAtGroup(const DataEntry& entry) {
   }
 }
 
+// Gives an item without a PICTURE the one that its other clauses imply.
+void ItemKinds::implyPicture(DataEntry& entry) {
+  if (entry.picture != none || entry.impliedSize == 0 || entry.usage != Usage::display) return;
+  std::string text = entry.isImpliedNumeric ? "9" : "X";
+  if (entry.impliedSize > 1) text += "(" + std::to_string(entry.impliedSize) + ")";
+  program_.pictures.push_back({text, readPicture(text)});
+  entry.picture = static_cast<Index>(program_.pictures.size() - 1);
+  entry.hasImpliedPicture = true;
+  problems_.tell(
+      EntryRule::impliedPicture, entry.place,
+      entry.name + " has no PICTURE: the one that follows from its other clauses is " + text);
+}
+
 void ItemKinds::lookAtItem(DataEntry& entry) {
+  implyPicture(entry);
   const Picture* const picture = pictureOf(program_, entry);
   entry.length = 0;
   entry.boundary = 1;
@@ -82,6 +99,9 @@ void ItemKinds::lookAtItem(DataEntry& entry) {
     }
     if (picture->category == Category::dbcs && entry.usage == Usage::display) {
       entry.usage = Usage::display1;
+    }
+    if (picture->category == Category::utf8 && entry.usage == Usage::display) {
+      entry.usage = Usage::utf8;
     }
     if (picture->category == Category::externalFloat && entry.usage == Usage::display) {
       entry.usage = Usage::externalFloat;
@@ -167,7 +187,7 @@ bool ItemKinds::hasKnownSize(DataEntry& entry, const Picture* picture) {
     problems_.tell(EntryRule::manyDigits, entry.place,
                    entry.name + " has " + std::to_string(picture->digits) + " digits");
   }
-  entry.length = *bytes;
+  entry.length = entry.usage == Usage::utf8 && entry.byteLength != none ? entry.byteLength : *bytes;
   return true;
 }
 
@@ -215,6 +235,8 @@ ItemElement ItemKinds::elementOf(const DataEntry& entry, const Picture* picture)
     case Category::numericEdited:
       if (entry.usage != Usage::national) return ItemElement::numericEdited;
       return nearest("a number in national characters", ItemElement::national);
+    case Category::utf8:
+      return nearest("text in UTF-8", ItemElement::alphanumeric);
     case Category::boolean:
       return nearest("boolean", ItemElement::alphanumeric);
     default:

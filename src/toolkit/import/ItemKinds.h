@@ -21,6 +21,7 @@ class ItemKinds {
   void handDown(Index index, DataEntry& entry);
   void lookAtGroup(const DataEntry& entry);
   void lookAtItem(DataEntry& entry);
+  void implyPicture(DataEntry& entry);
   void lookAtSign(DataEntry& entry, const Picture& picture);
   bool hasKnownSize(DataEntry& entry, const Picture* picture);
   void compareDialects(const DataEntry& entry, const Picture* picture);

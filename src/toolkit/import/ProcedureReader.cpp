@@ -138,6 +138,7 @@ void ProcedureReader::readParameters(EntryPointEntry& entryPoint) {
       case Keyword::by:
       case Keyword::unsignedWord:
       case Keyword::any:
+      case Keyword::omitted:
         words_.skip();
         break;
       default:

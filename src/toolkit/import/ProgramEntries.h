@@ -67,6 +67,11 @@ struct DataEntry {
   bool isGlobal = false;
   bool isUnbounded = false;
   bool isDamaged = false;  // Something of it was not understood, and told.
+  // The size that an item without a PICTURE has by its VALUE, or by ANY LENGTH; 0 when by neither.
+  int impliedSize = 0;
+  bool isImpliedNumeric = false;   // ANY NUMERIC.
+  bool hasImpliedPicture = false;  // `picture` follows from these.
+  int byteLength = none;           // BYTE-LENGTH, of UTF-8 items.
   int minOccurs = none;
   int maxOccurs = none;
   // In CobolProgram::references.

@@ -1,11 +1,13 @@
 #include "toolkit/import/ProgramReader.h"
 
 #include <cstddef>
+#include <string>
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
-#include "toolkit/import/ClauseReader.h"
 #include "toolkit/import/DataDivisionReader.h"
+#include "toolkit/import/EntryWords.h"
 #include "toolkit/import/EnvironmentReader.h"
 #include "toolkit/import/ProcedureReader.h"
 
@@ -33,6 +35,11 @@ constexpr OtherUnit otherUnits[] = {
 
 constexpr std::size_t mostNested = 50;
 
+// The parameters that CICS gives a program without an entry for them.
+bool isOfCics(const std::string& name) {
+  return sameWord(name, "DFHEIBLK") || sameWord(name, "DFHCOMMAREA");
+}
+
 const OtherUnit* otherUnit(const Word& word) {
   if (word.meaning.keyword == Keyword::name) return nullptr;
   for (const OtherUnit& unit : otherUnits) {
@@ -51,7 +58,10 @@ std::vector<std::unique_ptr<CobolProgram>> ProgramReader::read() {
     readDivisions();
   }
   while (!open_.empty()) readEnd();
-  if (programs_.empty() && problems_.errors() == 0) {
+  if (programs_.empty() && problems_.wasNoted(EntryRule::passedProgram)) {
+    problems_.tell(EntryRule::nothingLeft, words_.peek().token.place,
+                   "the source holds no program: there is no dictionary of it");
+  } else if (programs_.empty() && problems_.errors() == 0) {
     problems_.tell(EntryRule::noProgram, words_.peek().token.place,
                    "the source holds neither a program nor data description entries");
   }
@@ -173,7 +183,7 @@ void ProgramReader::readProgramId() {
 void ProgramReader::readBody(CobolProgram& program, const std::string& entryName,
                              std::size_t errors) {
   EnvironmentReader(words_, program, names_).read();
-  RecordBuilder records(dialect_, program, problems_);
+  RecordBuilder records(dialect_, program, problems_, words_.source());
   DataDivisionReader(words_, program, names_, records, problems_)
       .read(program.isCopybook ? stem_ : std::string());
   if (words_.peek().is(Keyword::procedure)) {
@@ -193,10 +203,17 @@ void ProgramReader::findParameters(CobolProgram& program, RecordBuilder& records
     if (entry.nameId != none) byName.emplace(entry.nameId, record);
   }
   for (EntryPointEntry& entryPoint : program.entryPoints) {
+    std::vector<ParameterEntry> found;
     for (ParameterEntry& parameter : entryPoint.parameters) {
-      const auto found = byName.find(parameter.name.id);
-      if (found != byName.end()) {
-        parameter.item = found->second;
+      const auto item = byName.find(parameter.name.id);
+      if (item != byName.end()) {
+        parameter.item = item->second;
+        found.push_back(std::move(parameter));
+        continue;
+      }
+      if (isOfCics(parameter.name.text)) {
+        problems_.tell(EntryRule::systemParameter, parameter.place,
+                       parameter.name.text + " is what CICS hands over, and is left out");
         continue;
       }
       const Index member = records.find({parameter.name}).entry;
@@ -205,6 +222,7 @@ void ProgramReader::findParameters(CobolProgram& program, RecordBuilder& records
                      parameter.name.text + (member == none ? " is no item of the program"
                                                            : " is no item of level 01 or 77"));
     }
+    entryPoint.parameters = std::move(found);
   }
 }
 

@@ -58,11 +58,17 @@ void RecordBuilder::enterFile(FileEntry* file) {
 
 bool RecordBuilder::add(DataEntry entry) {
   const bool isRecord = entry.level == recordLevel || entry.level == noncontiguousLevel;
+  behind_ = entry.place;
   if (isRecord) closeRecord();
+  behind_ = {};
   if (isRecord ? section_ == DataSection::file && file_ == nullptr : record_ == none) {
-    problems_.tell(EntryRule::noRecord, entry.place,
-                   isRecord ? entry.name + " stands in no file"
-                            : "level " + levelText(entry.level) + " stands in no record");
+    if (!isLostTold_) {
+      problems_.tell(EntryRule::noRecord, entry.place,
+                     isRecord ? entry.name + " stands in no file; nor do those behind it"
+                              : "level " + levelText(entry.level) +
+                                    " stands in no record; nor do those behind it");
+    }
+    isLostTold_ = true;
     return false;
   }
   if (program_.entries.size() >= mostEntries) {
@@ -81,6 +87,7 @@ bool RecordBuilder::add(DataEntry entry) {
     return true;
   }
   isRenamingLast_ = false;
+  isLostTold_ = false;
   if (isRecord) {
     record_ = size();
     entry.parent = none;
@@ -129,6 +136,15 @@ void RecordBuilder::closeRecord() {
   if (!renamings_.empty()) at(record_).hasMembers = true;
   renamings_.clear();
   isRenamingLast_ = false;
+  if (isFilledBySystem(at(record_))) {
+    problems_.tell(
+        EntryRule::systemRecord, at(record_).place,
+        at(record_).name + " has nothing but what a copybook of the system holds, and is left out");
+    program_.entries.resize(static_cast<std::size_t>(record_));
+    record_ = none;
+    open_.clear();
+    return;
+  }
   placeRecord(problems_);
   for (Index entry = record_; entry < size(); ++entry) finder_.add(entry);
   findRenamed();
@@ -350,7 +366,7 @@ void RecordBuilder::findRenamed() {
     const NameReference* const reference = referenceOf(program_, entry, Kind::renames);
     if (reference == nullptr) continue;
     const auto find = [&](const std::vector<NameReference::Name>& names) {
-      const Index found = finder_.find(names, {record_ + 1, at(record_).end}).entry;
+      const Index found = finder_.find(names, {record_, at(record_).end}).entry;
       if (found != none && !at(found).isRenaming) return found;
       problems_.tell(EntryRule::lostRenamed, reference->place,
                      textOf(names) + " is no item of the record of " + entry.name);
@@ -389,6 +405,21 @@ void RecordBuilder::findRenamed() {
     entry.length = static_cast<int>(length);
     entry.isPlaced = true;
   }
+}
+
+// Whether a record is empty because the copybook of the system behind it was not found.
+bool RecordBuilder::isFilledBySystem(const DataEntry& record) const {
+  const bool isEmpty = size() == record_ + 1 && record.picture == none && !record.ownUsage &&
+                       record.type == none && !record.isDamaged;
+  if (!isEmpty) return false;
+  const auto isInFront = [](const SourcePlace& one, const SourcePlace& other) {
+    return one.line != other.line ? one.line < other.line : one.column < other.column;
+  };
+  const std::vector<SourcePlace>& passed = source_.passedCopybooks();
+  return std::any_of(passed.begin(), passed.end(), [&](const SourcePlace& place) {
+    return place.file == record.place.file && isInFront(record.place, place) &&
+           (behind_.line == 0 || behind_.file != place.file || isInFront(place, behind_));
+  });
 }
 
 void RecordBuilder::keepRecord() {

@@ -18,8 +18,14 @@ namespace as::toolkit {
 
 class RecordBuilder {
  public:
-  RecordBuilder(const Dialect& dialect, CobolProgram& program, EntryProblems& problems)
-      : dialect_(dialect), program_(program), problems_(problems), finder_(program) {}
+  // All must outlive it.
+  RecordBuilder(const Dialect& dialect, CobolProgram& program, EntryProblems& problems,
+                const TokenSource& source)
+      : dialect_(dialect),
+        program_(program),
+        problems_(problems),
+        source_(source),
+        finder_(program) {}
 
   // The sections that follow.
   void enter(DataSection section);
@@ -65,12 +71,14 @@ class RecordBuilder {
   void placeRecord(EntryProblems& problems);
   void findRenamed();
   void keepRecord();
+  bool isFilledBySystem(const DataEntry& record) const;
   static bool isOfCics(const NameReference& reference);
   void findDepending(DataEntry& entry);
 
   const Dialect& dialect_;
   CobolProgram& program_;
   EntryProblems& problems_;
+  const TokenSource& source_;
   EntryFinder finder_;
 
   DataSection section_ = DataSection::workingStorage;
@@ -80,9 +88,11 @@ class RecordBuilder {
   Index last_ = none;  // The last entry that was added, before those of its type.
   std::vector<Open> open_;
   std::vector<DataEntry> renamings_;
+  SourcePlace behind_;  // Where the entry behind the record stands, while that is closed.
   bool isRenamingLast_ = false;
   bool hasRedefinitions_ = false;
   bool isOverfull_ = false;
+  bool isLostTold_ = false;  // That entries stand in no record, since the last one.
   // Records that may be redefined.
   std::map<std::pair<DataSection, Index>, Index> recordsByName_;
   Index lastOriginal_ = none;  // The last record that is no redefinition.

@@ -115,7 +115,11 @@ bool SourceLines::layOddStart(std::string_view line, Laid& laid) {
 }
 
 SourceLines::Cut SourceLines::cut(std::string_view line) {
-  const std::size_t margin = format_ == SourceFormat::fixed ? lastColumn : std::string_view::npos;
+  // Nobody knows how wide the tabs of its writer were: what fits into the columns as it stands was
+  // meant to be code, wherever it comes to with these.
+  const bool isTabbed = !isPlain_ && line.size() <= lastColumn && line.find('\t') != line.npos;
+  const bool hasMargin = format_ == SourceFormat::fixed && !isTabbed;
+  const std::size_t margin = hasMargin ? lastColumn : std::string_view::npos;
   Cut result;
   result.column = static_cast<std::int32_t>(firstColumn);
   result.isPlain = isPlain_ || isAsciiWithoutTabs(line.substr(0, margin));
@@ -123,7 +127,8 @@ SourceLines::Cut SourceLines::cut(std::string_view line) {
   std::string expanded;
   if (!result.isPlain) {
     // Up to the right margin, or to the first column of the code, tabs become blanks.
-    const std::size_t expandTo = margin == std::string_view::npos ? indicatorColumn : margin;
+    const std::size_t expandTo =
+        margin != std::string_view::npos || isTabbed ? margin : indicatorColumn;
     std::size_t column = 0;
     afterSequence = line.size();
     std::size_t i = 0;
@@ -167,7 +172,17 @@ SourceLines::Cut SourceLines::cut(std::string_view line) {
   return result;
 }
 
+// A line of stars or dashes from the first column on, as some draw them: no number of a sequence,
+// and no continuation.
+bool SourceLines::isDrawn(std::string_view line) {
+  if (line.size() <= indicatorColumn || line.front() != '*') return false;
+  const std::string_view start = line.substr(1, indicatorColumn - 1);
+  return (start.front() == '*' || start.front() == '-' || start.front() == '=') &&
+         start.find_first_not_of(start.front()) == std::string_view::npos;
+}
+
 void SourceLines::layColumns(std::string_view line, Laid& laid) {
+  if (isDrawn(line)) return;
   const Cut parts = cut(line);
   laid.isPlain = parts.isPlain;
   if (line.size() > recordLength && format_ == SourceFormat::fixed) tellWide(line, laid);
@@ -232,7 +247,19 @@ void SourceLines::tellWide(std::string_view line, const Laid& laid) {
               "name the format of the source if it is not fixed");
 }
 
+// A directive behind what stands in the columns of sequence numbers, so that it is one in fixed
+// format, too.
+std::string_view SourceLines::withoutMark(std::string_view line) {
+  const std::size_t directive = line.find(">>");
+  if (directive == 0 || directive == std::string_view::npos || directive > firstColumn) return line;
+  const std::string_view mark = withoutBlanksBehind(line.substr(0, directive));
+  const bool isMark = mark.size() < indicatorColumn && mark.find(' ') == std::string_view::npos &&
+                      std::all_of(mark.begin(), mark.end(), isWordCharacter);
+  return isMark ? line.substr(directive) : line;
+}
+
 void SourceLines::layFree(std::string_view line, Laid& laid) {
+  line = withoutMark(line);
   laid.isPlain = isPlain_ || isAsciiWithoutTabs(line);
   laid.room = 0;
   laid.areaA = false;

@@ -85,6 +85,8 @@ class SourceLines {
 
   bool layNext(Laid& laid);
   void lay(std::string_view line, Laid& laid);
+  static bool isDrawn(std::string_view line);
+  static std::string_view withoutMark(std::string_view line);
   void layColumns(std::string_view line, Laid& laid);
   void tellWide(std::string_view line, const Laid& laid);
   void layFree(std::string_view line, Laid& laid);

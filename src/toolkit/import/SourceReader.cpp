@@ -14,10 +14,10 @@ namespace as::toolkit {
 class SourceReader::Impl {
  public:
   Impl(std::string bytes, const std::string& name, SourceOptions options,
-       CopybookProvider* copybooks, SourceMap& map, Findings& findings)
+       CopybookProvider* copybooks, SourceMap& map, SourceFindings& findings)
       : options_(std::move(options)),
-        report_(findings, map),
-        budget_(report_),
+        report_(findings),
+        budget_(options_.most, report_),
         expander_(options_, copybooks, map, arena_, budget_, report_),
         replaced_(expander_, arena_, budget_, report_),
         tokens_(replaced_, arena_) {
@@ -38,6 +38,7 @@ class SourceReader::Impl {
   }
 
   SourceFormat format() const { return expander_.format(); }
+  const CopyExpander& expander() const { return expander_; }
   bool decimalPointIsComma() const { return tokens_.decimalPointIsComma(); }
 
  private:
@@ -53,12 +54,22 @@ class SourceReader::Impl {
 };
 
 SourceReader::SourceReader(std::string bytes, const std::string& name, const SourceOptions& options,
-                           CopybookProvider* copybooks, SourceMap& map, Findings& findings)
+                           CopybookProvider* copybooks, SourceMap& map, SourceFindings& findings)
     : impl_(std::make_unique<Impl>(std::move(bytes), name, options, copybooks, map, findings)) {}
 
 SourceReader::~SourceReader() = default;
 
 void SourceReader::read(Token& token) { impl_->read(token); }
+
+std::optional<TokenSource::Definition> SourceReader::definition(const std::string& name) const {
+  const DirectiveValue* const value = impl_->expander().findDefinition(name);
+  if (value == nullptr) return std::nullopt;
+  return Definition{value->text, value->isNumber};
+}
+
+const std::vector<SourcePlace>& SourceReader::passedCopybooks() const {
+  return impl_->expander().passedCopybooks();
+}
 
 SourceFormat SourceReader::format() const { return impl_->format(); }
 

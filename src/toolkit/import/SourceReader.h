@@ -5,13 +5,15 @@
 #define TOOLKIT_IMPORT_SOURCEREADER_H_
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "as/toolkit/Copybooks.h"
-#include "as/toolkit/Finding.h"
 #include "as/toolkit/SourceFormat.h"
+#include "toolkit/import/ImportBudget.h"
 #include "toolkit/import/SourceMap.h"
+#include "toolkit/import/SourceReport.h"
 #include "toolkit/import/Token.h"
 
 namespace as::toolkit {
@@ -29,6 +31,8 @@ struct SourceOptions {
     std::string value;
   };
   std::vector<Definition> definitions;
+
+  ImportBudget::Most most;
 };
 
 class SourceReader : public TokenSource {
@@ -36,12 +40,14 @@ class SourceReader : public TokenSource {
   // The source with these bytes, which messages call `name`. Copybooks come from `copybooks`, if
   // there are any. What is found goes to the end of `findings`. All references must outlive it.
   SourceReader(std::string bytes, const std::string& name, const SourceOptions& options,
-               CopybookProvider* copybooks, SourceMap& map, Findings& findings);
+               CopybookProvider* copybooks, SourceMap& map, SourceFindings& findings);
   ~SourceReader() override;
   SourceReader(const SourceReader&) = delete;
   SourceReader& operator=(const SourceReader&) = delete;
 
   void read(Token& token) override;
+  std::optional<Definition> definition(const std::string& name) const override;
+  const std::vector<SourcePlace>& passedCopybooks() const override;
 
   // The format that the source begins with: the one that was told, or recognised.
   SourceFormat format() const;

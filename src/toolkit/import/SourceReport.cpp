@@ -24,8 +24,7 @@ void SourceReport::add(SourceRule rule, const SourcePlace& place, const std::str
   const auto number = static_cast<std::size_t>(rule);
   counts_[number]++;
   if (counts_[number] > importLimits::findings) return;
-  findings_.push_back(
-      {rules[number].id, rules[number].severity, map_.textOf(place), problem, advice});
+  findings_.push_back({rules[number].id, rules[number].severity, place, problem, advice});
 }
 
 void SourceReport::finish() {

@@ -6,9 +6,10 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "as/toolkit/Finding.h"
-#include "toolkit/import/SourceMap.h"
+#include "toolkit/import/Token.h"
 
 namespace as::toolkit {
 
@@ -18,10 +19,21 @@ enum class SourceRule {
 #include "toolkit/import/SourceRules.def"
 };
 
-// Adds findings to the end of a list, which must outlive it, as must the map.
+struct SourceFinding {
+  const char* rule = "";  // Of static duration.
+  Severity severity = Severity::error;
+  SourcePlace place;
+  std::string problem;
+  std::string advice;
+};
+
+// In the order in which they were found.
+using SourceFindings = std::vector<SourceFinding>;
+
+// Adds findings to the end of a list, which must outlive it.
 class SourceReport {
  public:
-  SourceReport(Findings& findings, const SourceMap& map) : findings_(findings), map_(map) {}
+  explicit SourceReport(SourceFindings& findings) : findings_(findings) {}
 
   // Findings of a rule beyond the limit are counted, not told.
   void add(SourceRule rule, const SourcePlace& place, const std::string& problem,
@@ -36,8 +48,7 @@ class SourceReport {
 #include "toolkit/import/SourceRules.def"
       ;
 
-  Findings& findings_;
-  const SourceMap& map_;
+  SourceFindings& findings_;
   std::array<std::size_t, ruleCount> counts_{};
 };
 

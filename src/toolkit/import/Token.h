@@ -4,8 +4,10 @@
 #define TOOLKIT_IMPORT_TOKEN_H_
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace as::toolkit {
 
@@ -51,6 +53,21 @@ class TokenSource {
   // Makes `token` the next one; its strings are reused, so that a long source costs no allocation
   // for each word.
   virtual void read(Token& token) = 0;
+
+  // What a directive defined under that name; nothing when none did.
+  struct Definition {
+    std::string text;
+    bool isNumber = false;
+  };
+  virtual std::optional<Definition> definition(const std::string& /*name*/) const {
+    return std::nullopt;
+  }
+
+  // Where copybooks that come with a system were copied, but were not found.
+  virtual const std::vector<SourcePlace>& passedCopybooks() const {
+    static const std::vector<SourcePlace> nothing;
+    return nothing;
+  }
 
   Token next() {
     Token token;

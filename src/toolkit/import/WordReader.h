@@ -40,6 +40,8 @@ class WordReader {
   // Takes what comes up to the end of the sentence, with its period.
   void skipSentence();
 
+  const TokenSource& source() const { return source_; }
+
   bool atEnd() { return peek().is(TokenKind::end); }
 
  private:

@@ -206,7 +206,7 @@ class NumberReader {
       case debit:
         return isLast;
       case currency:
-        return isFirst ||
+        return isFirst || isLast ||
                (at_ == 1 && (runs_.front().symbol == '+' || runs_.front().symbol == '-'));
       default:
         return true;
@@ -302,6 +302,14 @@ std::optional<Picture> readPicture(std::string_view text, const PictureRules& ru
   const std::optional<std::vector<Run>> runs = SymbolReader(text, rules).read();
   if (!runs || runs->empty()) return std::nullopt;
   const Counts counts(*runs);
+  // Where no currency symbol is known, U would be taken for one.
+  if (capital(text.front()) == 'U' && runs->size() == 1 &&
+      rules.currencySymbol != text.substr(0, 1)) {
+    Picture picture;
+    picture.category = Category::utf8;
+    picture.characters = static_cast<int>(runs->front().times);
+    return picture;
+  }
   if (counts.has("E")) return readExternalFloat(*runs);
   if (counts.has("N")) {
     return textOf(counts, "N", "B0/", Category::national, Category::nationalEdited);

@@ -76,10 +76,15 @@ std::optional<int> characterBytes(Usage usage, int bytes, const Picture& picture
   const bool isText = category == Category::alphabetic || category == Category::alphanumeric ||
                       category == Category::alphanumericEdited;
   if (usage == Usage::national && (isText || isDbcs)) return std::nullopt;
+  const bool isUtf8 = category == Category::utf8;
+  if (isUtf8 ? usage != Usage::utf8 && usage != Usage::display : usage == Usage::utf8) {
+    return std::nullopt;
+  }
   if (usage == Usage::display1 && !isNational && !isDbcs) return std::nullopt;
   if (usage == Usage::externalFloat && category != Category::externalFloat) return std::nullopt;
   // N and G say what they need without a USAGE clause, too.
   if (isNational || isDbcs) bytes = 2;
+  if (isUtf8) bytes = 4;
   const bool isLonger = category == Category::numeric && hasSeparateSign;
   return bytes * (picture.characters + (isLonger ? 1 : 0));
 }
@@ -128,7 +133,9 @@ std::optional<int> bytesOf(const Dialect& dialect, Usage usage,
     if (category != Picture::Category::boolean) return std::nullopt;
     return picture->characters / 8 + (picture->characters % 8 == 0 ? 0 : 1);
   }
-  if (row.form == Form::native && category == Picture::Category::alphanumeric) {
+  // X(4) COMP-5 and X(4) COMP-X are binary items of so many bytes.
+  const bool isNative = row.form == Form::native || row.form == Form::allBits;
+  if (isNative && category == Picture::Category::alphanumeric) {
     return picture->characters;
   }
   if (category != Picture::Category::numeric) return std::nullopt;

@@ -1,0 +1,67 @@
+#include "toolkit/import/PictureTable.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstddef>
+#include <optional>
+#include <utility>
+
+namespace as::toolkit {
+
+// Names of constants in parentheses are as good as numbers.
+std::string PictureTable::withConstants(const std::string& picture) const {
+  std::string result;
+  for (std::size_t at = 0; at < picture.size(); ++at) {
+    result += picture[at];
+    if (picture[at] != '(') continue;
+    const std::size_t close = picture.find(')', at);
+    if (close == std::string::npos) continue;
+    const std::string name = picture.substr(at + 1, close - at - 1);
+    const bool isName =
+        std::any_of(name.begin(), name.end(), [](unsigned char c) { return std::isalpha(c) != 0; });
+    const ConstantEntry* const constant = isName ? constants_.find(name) : nullptr;
+    result += constant != nullptr && constant->number ? std::to_string(*constant->number) : name;
+    at = close - 1;
+  }
+  return result;
+}
+
+std::optional<Picture> PictureTable::read(const std::string& text, const std::string& written,
+                                          const SourcePlace& place) {
+  PictureRules rules;
+  rules.isDecimalPointComma = program_.isDecimalPointComma;
+  for (const CobolProgram::Currency& currency : program_.currencies) {
+    const bool isFirst = &currency == &program_.currencies.front();
+    if (!isFirst && written.find(currency.symbol) == std::string::npos) continue;
+    rules.currencySymbol = currency.symbol;
+    rules.currencyCharacters = currency.characters;
+  }
+  std::optional<Picture> picture = readPicture(text, rules);
+  if (picture || !program_.isCopybook || rules.isDecimalPointComma) return picture;
+  // A copybook does not say what its programs say of the decimal point; its pictures may.
+  rules.isDecimalPointComma = true;
+  picture = readPicture(text, rules);
+  if (picture) {
+    problems_.tell(EntryRule::commaAssumed, place,
+                   text + " is a PICTURE only where DECIMAL-POINT IS COMMA: so it is read");
+  }
+  return picture;
+}
+
+Index PictureTable::indexOf(const std::string& written, const SourcePlace& place) {
+  const auto known = known_.find(written);
+  if (known != known_.end() && program_.pictures[static_cast<std::size_t>(known->second)].picture) {
+    return known->second;
+  }
+  PictureEntry entry{withConstants(written), std::nullopt};
+  entry.picture = read(entry.text, written, place);
+  if (!entry.picture) {
+    problems_.tell(EntryRule::badPicture, place, entry.text + " is no PICTURE that can be read");
+  }
+  program_.pictures.push_back(std::move(entry));
+  const auto index = static_cast<Index>(program_.pictures.size() - 1);
+  known_[written] = index;
+  return index;
+}
+
+}  // namespace as::toolkit
