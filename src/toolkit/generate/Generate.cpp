@@ -74,6 +74,7 @@ Generated makeOfService(const gen::Generator& generator, as::IService& service,
     for (Finding& reason : reasons) reason.severity = Severity::error;
     return {{}, std::move(reasons)};
   }
+  model.findings = lintFindings;
   return make(generator, model, options, std::move(reasons));
 }
 

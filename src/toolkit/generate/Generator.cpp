@@ -75,20 +75,20 @@ std::string Job::fileStem() const {
 }
 
 std::string commentText(std::string_view text) {
-  std::string result;
-  result.reserve(text.size());
-  for (const char byte : text) {
-    const bool isControl = static_cast<unsigned char>(byte) < 0x20 || byte == 0x7F;
-    const char next = isControl ? ' ' : byte;
-    const char last = result.empty() ? ' ' : result.back();
-    if ((last == '*' && next == '/') || (last == '/' && next == '*') ||
-        (last == '-' && next == '-')) {
-      result += ' ';
-    }
+  std::u32string result;
+  for (const char32_t character : charactersOf(text)) {
+    const bool endsLine = character < 0x20 || (character >= 0x7F && character < 0xA0) ||
+                          character == 0x2028 || character == 0x2029;
     // An escape in a comment counts in some languages (\u000a in Java).
-    result += next == '\\' ? '/' : next;
+    const char32_t next = endsLine ? U' ' : character == U'\\' ? U'/' : character;
+    const char32_t last = result.empty() ? U' ' : result.back();
+    if ((last == U'*' && next == U'/') || (last == U'/' && next == U'*') ||
+        (last == U'-' && next == U'-')) {
+      result += U' ';
+    }
+    result += next;
   }
-  return result;
+  return utf8Of(result);
 }
 
 }  // namespace as::toolkit::gen

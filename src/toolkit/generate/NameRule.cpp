@@ -22,15 +22,9 @@ char32_t smallOf(char32_t character) {
   return character >= U'A' && character <= U'Z' ? character - U'A' + U'a' : character;
 }
 
-std::string smallText(std::string_view text) {
-  std::u32string characters = charactersOf(text);
-  std::transform(characters.begin(), characters.end(), characters.begin(), smallOf);
-  return utf8Of(characters);
-}
-
 bool isReserved(const NameRule& rule, const std::string& name) {
   if (rule.reserved == nullptr) return false;
-  return rule.reserved->contains(rule.isReservedInAnyCase ? smallText(name) : name);
+  return rule.reserved->contains(rule.isReservedInAnyCase ? inSmallLetters(name) : name);
 }
 
 // Step 2 for underscores: each run of forbidden characters is one.
@@ -73,7 +67,7 @@ std::u32string withHumps(const NameRule& rule, const std::u32string& name) {
 
 // What makes two names one.
 std::string keyOf(const NameRule& rule, const std::string& name) {
-  return rule.tellsCases ? name : smallText(name);
+  return rule.tellsCases ? name : inSmallLetters(name);
 }
 
 }  // namespace
@@ -143,6 +137,12 @@ bool isXmlNameCharacter(char32_t character) {
   return isXmlNameStart(character) || isDigit(character) || character == U'-' || character == U'.';
 }
 
+std::string inSmallLetters(std::string_view text) {
+  std::u32string characters = charactersOf(text);
+  std::transform(characters.begin(), characters.end(), characters.begin(), smallOf);
+  return utf8Of(characters);
+}
+
 std::string digitsOfText(std::string_view text) {
   // FNV-1a.
   std::uint32_t hash = 2166136261U;
@@ -187,11 +187,11 @@ std::string legalName(const NameRule& rule, std::string_view name) {
     changed = charactersOf(rule.prefix) + changed;
   }
   std::string result = utf8Of(changed);
-  if (isReserved(rule, result)) result += '_';
   if (changed.size() > rule.mostCharacters) {
     changed.resize(rule.mostCharacters - 9);
     result = utf8Of(changed) + "_" + digitsOfText(name);
   }
+  while (isReserved(rule, result)) result += '_';
   return result;
 }
 

@@ -6,8 +6,8 @@
 //    are written in humps, the letter behind becomes a capital one, else a "_" stands in their
 //    place. A name that could not start so gets a "_" in front (or the language's own prefix), as
 //    does one that is empty.
-// 3. A reserved word gets a "_" behind it.
-// 4. Names that are too long are cut, and end with eight digits made of the whole name.
+// 3. Names that are too long are cut, and end with eight digits made of the whole name.
+// 4. A reserved word gets a "_" behind it, as many as it takes to be none.
 // 5. Of names in one scope that are the same then, or differ in case only where the language or its
 //    files do not tell cases apart, one keeps it: one that needed no change before one that did, of
 //    these the first in the order of characters. The others get "_" and eight digits made of the
@@ -95,6 +95,9 @@ class NameGiver {
 // Unicode code points of UTF-8 text; what is no UTF-8 counts as U+FFFD.
 std::u32string charactersOf(std::string_view text);
 std::string utf8Of(std::u32string_view text);
+
+// With letters of ASCII in their small form.
+std::string inSmallLetters(std::string_view text);
 
 // Letters of ASCII, digits, and what XML 1.0 takes in names (without the colon).
 bool isAsciiLetter(char32_t character);

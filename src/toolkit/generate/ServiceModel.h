@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "as/toolkit/Finding.h"
 #include "as/toolkit/Flavours.h"
 #include "toolkit/flavour/Capacity.h"
 
@@ -179,6 +180,7 @@ struct ServiceModel {
   std::vector<Operation> operations;
   // Whether every reference leads to a declared type.
   bool isWhole = true;
+  Findings findings;  // What lint says of it.
 
   const Item* itemOf(const Field& field) const {
     return field.item == none ? nullptr : &items[field.item];

@@ -20,7 +20,12 @@ std::string wordsOf(const TypeRow& row) {
     case Kind::decimal:
       return (capacity.digits == 0 ? std::string("decimal numbers")
                                    : "decimal numbers of " + digits + " digits") +
-             (capacity.places == 0 ? ", integers only" : "");
+             (capacity.whole == 0
+                  ? ""
+                  : " of " + std::to_string(capacity.whole) + " digits before the point") +
+             (capacity.places == 0  ? ", integers only"
+              : capacity.places < 0 ? ""
+                                    : ", " + std::to_string(capacity.places) + " behind it");
     case Kind::text:
       return "text";
     case Kind::bytes:
