@@ -1,0 +1,50 @@
+#include "toolkit/generate/CodeText.h"
+
+#include "toolkit/generate/NameRule.h"
+
+namespace as::toolkit::gen {
+
+namespace {
+
+// Ends a line for some compiler, or is nothing that XML holds.
+bool isNoText(char32_t character) {
+  return character < 0x20 || (character >= 0x7F && character < 0xA0) || character == 0x2028 ||
+         character == 0x2029 || character == 0xFFFE || character == 0xFFFF;
+}
+
+bool hasMeaning(char32_t character, char32_t last) {
+  // A backslash starts an escape of Java even inside of a comment.
+  constexpr std::u32string_view always = U"&<>\"@{}\\";
+  return always.find(character) != std::u32string_view::npos || (character == U'/' && last == U'*');
+}
+
+}  // namespace
+
+std::string docText(std::string_view text) {
+  std::u32string result;
+  char32_t last = U' ';
+  for (const char32_t character : charactersOf(text)) {
+    if (isNoText(character)) {
+      result += U' ';
+    } else if (hasMeaning(character, last)) {
+      result += U"&#";
+      for (const char digit : std::to_string(static_cast<unsigned>(character))) {
+        result += static_cast<char32_t>(digit);
+      }
+      result += U';';
+    } else {
+      result += character;
+    }
+    last = character;
+  }
+  return utf8Of(result);
+}
+
+std::string capitalized(std::string name) {
+  if (!name.empty() && name[0] >= 'a' && name[0] <= 'z') {
+    name[0] = static_cast<char>(name[0] - 'a' + 'A');
+  }
+  return name;
+}
+
+}  // namespace as::toolkit::gen

@@ -1,0 +1,19 @@
+// Text of documents inside of source code.
+#ifndef TOOLKIT_GENERATE_CODETEXT_H_
+#define TOOLKIT_GENERATE_CODETEXT_H_
+
+#include <string>
+#include <string_view>
+
+namespace as::toolkit::gen {
+
+// `text` as it stands in comments of which documentation is made, as HTML or XML has it, on one
+// line. Nothing in it ends the comment, or means something to javadoc or to a compiler.
+std::string docText(std::string_view text);
+
+// `name` with a capital letter in front.
+std::string capitalized(std::string name);
+
+}  // namespace as::toolkit::gen
+
+#endif  // TOOLKIT_GENERATE_CODETEXT_H_
