@@ -16,6 +16,12 @@ class ReportCommand : public Command {
  public:
   ReportCommand() : Command("report", "Make a site for looking at dictionaries and services") {}
 
+  std::vector<Example> examples() const override {
+    return {
+        {"report MOTPREM.xml quotes.xml -o site", "pages of a program and of its service"},
+        {"report dictionaries/*.xml --source sources -o site", "with the lines of the sources"}};
+  }
+
   void declare(Arguments& arguments) override {
     arguments.required("FILE", files_, "Dictionaries and services");
     arguments.requiredOption("-o,--output", output_,
