@@ -12,7 +12,6 @@
 
 using xercesc::DOMAttr;
 using xercesc::DOMDocumentImpl;
-using xercesc::DOMElement;
 using xercesc::DOMNode;
 using xercesc::XMLString;
 
