@@ -80,7 +80,7 @@ class ByteMap {
       const times = Math.max(item.max || 0, 1);
       if (times === 1) return one(i, shift, occurrence);
       if (!this.isUnfolded) {
-        one(i, shift, occurrence.concat(1));
+        one(i, shift, occurrence);
         const rest = {i, start: start + item.l, end: start + item.l * times, kind: "rest", times: times - 1, lane: this.lanes.get(i)};
         if (rest.end > from && rest.start < to) blocks.push(rest);
         return;

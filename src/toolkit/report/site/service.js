@@ -13,8 +13,10 @@ function findingNode(finding) {
     " ", el("code.quiet", {}, finding.rule));
 }
 
+// What is "no" goes without saying.
 function attributeChips(attributes) {
-  return (attributes || []).map(([name, value]) => el("span.chip", {}, clip(name, 40) + " " + clip(value, 80)));
+  return (attributes || []).filter(([, value]) => value !== "no").map(([name, value]) =>
+    el("span.chip", {}, clip(name, 40) + (value === "yes" ? "" : " " + clip(value, 80))));
 }
 
 class ServicePage {
