@@ -34,6 +34,7 @@ const browser = await puppeteer.launch({
   args: ["--no-sandbox", "--force-color-profile=srgb", "--hide-scrollbars"],
 });
 const page = await browser.newPage();
+page.setDefaultTimeout(120000);
 page.on("pageerror", (failure) => check(false, "a script failed: " + failure.message));
 page.on("console", (message) => {
   if (message.type() === "error") check(false, "the console says: " + message.text());
