@@ -101,6 +101,13 @@ await page.emulateMediaFeatures([{ name: "prefers-color-scheme", value: "light" 
 for (const [name, address] of views.filter(([name]) => name === "record" || name === "service")) {
   await open(address);
   await page.pdf({ path: pictures + "/" + name + "-print.pdf", format: "A4", printBackground: true });
+  // As a picture, too: how it is laid out for a sheet.
+  await page.emulateMediaType("print");
+  await page.setViewport({ width: 794, height: 1123 });
+  await page.evaluate(() => dispatchEvent(new Event("beforeprint")));
+  await settle();
+  await page.screenshot({ path: pictures + "/" + name + "-print.png" });
+  await page.emulateMediaType(null);
 }
 
 console.log("keyboard");
