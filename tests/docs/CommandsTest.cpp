@@ -7,7 +7,9 @@
 #include <cstdio>
 #include <filesystem>
 #include <memory>
+#include <regex>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "docs/Page.h"
@@ -57,6 +59,25 @@ TEST_P(GuidePageTest, ItsCommandsSayWhatIsShown) {
   }
   ::setenv("PATH", path.c_str(), 1);
   if (docs::Page::isUpdated()) page.write();
+}
+
+// The README's picture: each line of it is a text, the first one the command.
+TEST(Picture, ShowsWhatTheCommandPrints) {
+  std::string picture = test::contentOf(docs::guide() / "../show.svg");
+  const test::CurrentDirectory directory;
+  fs::copy(AS_EXAMPLES_DIR, "examples", fs::copy_options::recursive);
+  const std::regex line("<text [^>]*>([^<]*)</text>");
+  std::string shown;
+  for (std::sregex_iterator i(picture.begin(), picture.end(), line), end; i != end; ++i) {
+    shown += (*i)[1].str() + "\n";
+  }
+  for (const auto& [coded, plain] : {std::pair("&lt;", "<"), {"&gt;", ">"}, {"&amp;", "&"}}) {
+    shown = std::regex_replace(shown, std::regex(coded), plain);
+  }
+  const std::string path = std::getenv("PATH");
+  ::setenv("PATH", (fs::path(AS_TOOL).parent_path().string() + ":" + path).c_str(), 1);
+  EXPECT_EQ(shown, replayed(shown.substr(0, shown.find('\n') + 1)));
+  ::setenv("PATH", path.c_str(), 1);
 }
 
 // Where a file of examples/cpp is shown in full or in part, it is shown as it is.
