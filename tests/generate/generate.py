@@ -15,6 +15,7 @@ from typing import Callable, Dict, List
 
 import growth
 import hostile
+import languages
 import made
 import soap
 
@@ -189,6 +190,8 @@ def main() -> int:
         run('guide', prove_guide)
         run('hostile names and values', prove_hostile)
         run('made of random data divisions', prove_made)
+        failed = not languages.prove(arguments.tool, folder / 'languages', arguments.seed,
+                                     arguments.programs) or failed
         failed = not growth.prove(arguments.tool, folder / 'growth') or failed
     finally:
         if not arguments.keep:
