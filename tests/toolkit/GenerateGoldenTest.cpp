@@ -71,13 +71,19 @@ TEST_P(GenerateGolden, IsAsItWas) {
 
 INSTANTIATE_TEST_SUITE_P(
     Examples, GenerateGolden,
-    testing::Values(Row{"wsdl", "DEPINT01-ws"}, Row{"wsdl", "MOTPREM-ws"},
-                    Row{"wsdl", "PAYSLIP-ws"}, Row{"wsdl", "WHSLOTS-ws"},
-                    Row{"xsd", "DEPINT01-com"}, Row{"xsd", "MOTPREM-java"},
-                    Row{"xsd", "PAYSLIP-dotnet"}, Row{"xsd", "WHSLOTS-ws"}, Row{"xsd", "PAYSLIP"},
-                    Row{"jsonschema", "DEPINT01-java"}, Row{"jsonschema", "MOTPREM-dotnet"},
-                    Row{"jsonschema", "PAYSLIP-ws"}, Row{"jsonschema", "WHSLOTS-com"},
-                    Row{"openapi", "DEPINT01-dotnet"}, Row{"openapi", "MOTPREM-ws"},
-                    Row{"openapi", "PAYSLIP-java"}, Row{"openapi", "WHSLOTS-com"}));
+    testing::Values(
+        Row{"wsdl", "DEPINT01-ws"}, Row{"wsdl", "MOTPREM-ws"}, Row{"wsdl", "PAYSLIP-ws"},
+        Row{"wsdl", "WHSLOTS-ws"}, Row{"xsd", "DEPINT01-com"}, Row{"xsd", "MOTPREM-java"},
+        Row{"xsd", "PAYSLIP-dotnet"}, Row{"xsd", "WHSLOTS-ws"}, Row{"xsd", "PAYSLIP"},
+        Row{"jsonschema", "DEPINT01-java"}, Row{"jsonschema", "MOTPREM-dotnet"},
+        Row{"jsonschema", "PAYSLIP-ws"}, Row{"jsonschema", "WHSLOTS-com"},
+        Row{"openapi", "DEPINT01-dotnet"}, Row{"openapi", "MOTPREM-ws"},
+        Row{"openapi", "PAYSLIP-java"}, Row{"openapi", "WHSLOTS-com"}, Row{"java", "DEPINT01-java"},
+        Row{"java", "MOTPREM-java"}, Row{"java", "PAYSLIP-java"}, Row{"java", "WHSLOTS-java"},
+        Row{"csharp", "DEPINT01-dotnet"}, Row{"csharp", "MOTPREM-dotnet"},
+        Row{"csharp", "PAYSLIP-dotnet"}, Row{"csharp", "WHSLOTS-dotnet"},
+        Row{"idl", "DEPINT01-com"}, Row{"idl", "MOTPREM-com"}, Row{"idl", "PAYSLIP-com"},
+        Row{"idl", "WHSLOTS-com"}, Row{"markdown", "DEPINT01-ws"}, Row{"markdown", "MOTPREM-ws"},
+        Row{"markdown", "PAYSLIP-ws"}, Row{"markdown", "WHSLOTS-ws"}));
 
 }  // namespace

@@ -1,0 +1,160 @@
+// Tests of the interfaces that generators make of services: which parameters go where, what
+// languages cannot say, and what users choose.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+#include "support/Documents.h"
+#include "support/Generated.h"
+
+namespace {
+
+namespace toolkit = as::toolkit;
+using test::textsOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+const char* const program =
+    "IDENTIFICATION DIVISION.\nPROGRAM-ID. T.\nDATA DIVISION.\nLINKAGE SECTION.\n"
+    "01 R.\n 05 AMOUNT PIC S9(13)V99 COMP-3.\n 05 NAME PIC X(8).\n"
+    "PROCEDURE DIVISION USING R.\nGOBACK.\n";
+
+std::string parameter(const std::string& attributes, const std::string& item = "R.NAME") {
+  return "<parameter " + attributes + "><mappings><mapping item='" + item +
+         "'/></mappings></parameter>";
+}
+
+class GenerateInterface : public test::GenerateTest {
+ protected:
+  // Of a service with one operation.
+  toolkit::Generated made(const std::string& kind, const std::string& parameters,
+                          const std::string& types = "",
+                          const toolkit::GenerateOptions& options = {},
+                          const std::string& properties = "") const {
+    const std::string flavour = toolkit::findGeneratorKind(kind)->flavours.front();
+    const toolkit::Flavour& of = *toolkit::findFlavour(flavour);
+    write("p.xml", test::dictionaryOf(test::importOf(program)));
+    write("s.xml",
+          test::element("service",
+                        "<properties>" + properties + "</properties><parameterTypeDefs>" + types +
+                            "</parameterTypeDefs><operations><operation name='do-it' "
+                            "entryPoint='T'><hiddenParameters/><parameters>" +
+                            parameters + "</parameters></operation></operations>",
+                        test::declarations(of.documents.uri) + " name='Tests' implementation='" +
+                            flavour + "' programName='T' dataDictFilename='p.xml'"));
+    const toolkit::ServiceDocument document = reader().readServiceWithProgram("s.xml");
+    return toolkit::generate(*toolkit::findGeneratorKind(kind), *document.service, options);
+  }
+
+  std::string text(const std::string& kind, const std::string& parameters,
+                   const std::string& types = "") const {
+    return textOf(made(kind, parameters, types));
+  }
+};
+
+const std::string in = parameter("name='a' byType='in' dataType='String'");
+const std::string out = parameter("name='b' byType='out' dataType='String'");
+const std::string both = parameter("name='c' byType='io' dataType='String'");
+
+TEST_F(GenerateInterface, JavaAnswersWhatComesOut) {
+  EXPECT_THAT(text("java", in + out), HasSubstr("String doIt(String a);"));
+}
+
+TEST_F(GenerateInterface, JavaAnswersARecordOfSeveral) {
+  const std::string java = text("java", out + both);
+  EXPECT_THAT(java, HasSubstr("DoItResult doIt(String c);"));
+  EXPECT_THAT(java, HasSubstr("record DoItResult(\n      String b,\n      String c) {}"));
+}
+
+TEST_F(GenerateInterface, JavaAnswersNothing) {
+  EXPECT_THAT(text("java", in), HasSubstr("void doIt(String a);"));
+}
+
+TEST_F(GenerateInterface, JavaTellsTheTransactionType) {
+  EXPECT_THAT(text("java", in), HasSubstr("@Transaction(TransactionType.NEVER)\n  void"));
+}
+
+TEST_F(GenerateInterface, CSharpAnswersWhatComesOutAlone) {
+  EXPECT_THAT(text("csharp", in + out), HasSubstr("string DoIt(string a);"));
+}
+
+TEST_F(GenerateInterface, CSharpHasParametersForSeveral) {
+  EXPECT_THAT(text("csharp", out + both), HasSubstr("void DoIt(out string b, ref string c);"));
+}
+
+TEST_F(GenerateInterface, IdlReturnsWhatTheDocumentSays) {
+  const std::string idl =
+      text("idl", parameter("name='a' byType='out' dataType='string' returnParameter='1'") +
+                      parameter("name='b' byType='out' dataType='string'"));
+  EXPECT_THAT(idl, HasSubstr("[out] BSTR *b,"));
+  EXPECT_THAT(idl, HasSubstr("[out, retval] BSTR *a);"));
+}
+
+TEST_F(GenerateInterface, IdlReturnsNothingThatGoesIn) {
+  const toolkit::Generated idl =
+      made("idl", parameter("name='a' byType='io' dataType='string' returnParameter='1'"));
+  EXPECT_THAT(textOf(idl), HasSubstr("[in, out] BSTR *a);"));
+  EXPECT_EQ(idl.findings.back().rule, std::string("not-returned"));
+}
+
+TEST_F(GenerateInterface, DecimalNumbersAreNoFloatingPointOnes) {
+  const toolkit::Generated java =
+      made("java", parameter("name='a' byType='in' dataType='double'", "R.AMOUNT"));
+  EXPECT_THAT(textOf(java), HasSubstr("void doIt(BigDecimal a);"));
+  EXPECT_EQ(java.findings.back().rule, std::string("inexact-type"));
+}
+
+TEST_F(GenerateInterface, IdlEndsWhatStandsInItself) {
+  const toolkit::Generated idl =
+      made("idl", "<parameter name='p' byType='in' ref='Node'/>",
+           "<parameter name='Node'><mappings/><field name='next' ref='Node'/></parameter>");
+  EXPECT_THAT(textOf(idl), HasSubstr("VARIANT next;"));
+  EXPECT_EQ(idl.findings.back().rule, std::string("recursive-type"));
+}
+
+TEST_F(GenerateInterface, JavaKeepsWhatStandsInItself) {
+  EXPECT_THAT(text("java", "<parameter name='p' byType='in' ref='Node'/>",
+                   "<parameter name='Node'><mappings/><field name='next' ref='Node'/></parameter>"),
+              HasSubstr("record Node(Node next) {}"));
+}
+
+TEST_F(GenerateInterface, IdlTakesIdentifiersOfTheDocument) {
+  EXPECT_THAT(textOf(made("idl", "", "", {},
+                          "<property name='iid' value='{E01B3295-3B29-5706-99FA-193C6E82C6D2}'/>")),
+              HasSubstr("uuid(e01b3295-3b29-5706-99fa-193c6e82c6d2)"));
+}
+
+TEST_F(GenerateInterface, IdlTellsWrongIdentifiers) {
+  const toolkit::Generated idl = made("idl", "", "", {}, "<property name='iid' value='mine'/>");
+  EXPECT_EQ(idl.findings.back().rule, std::string("no-uuid"));
+}
+
+TEST_F(GenerateInterface, PackagesAreNames) {
+  toolkit::GenerateOptions options;
+  options.values["package"] = "com.class";
+  const toolkit::Generated java = made("java", in, "", options);
+  EXPECT_THAT(java.files, IsEmpty());
+  EXPECT_THAT(textsOf(java.findings).back(),
+              HasSubstr("option package: 'class' is no name in Java"));
+}
+
+TEST_F(GenerateInterface, NamesAreChosen) {
+  toolkit::GenerateOptions options;
+  options.names["do-it"] = "perform";
+  EXPECT_THAT(textOf(made("java", in, "", options)), HasSubstr("void perform(String a);"));
+}
+
+TEST_F(GenerateInterface, LargeStructuresAreNoRecords) {
+  std::string entries = "01 R.\n";
+  for (int i = 0; i < 300; ++i) entries += " 05 F" + std::to_string(i) + " PIC 9(04).\n";
+  const std::string java = textOf(generated("java", entries));
+  EXPECT_THAT(java, HasSubstr("final class R {"));
+  EXPECT_THAT(java, HasSubstr("public short F299() {"));
+  EXPECT_THAT(java, Not(HasSubstr("record")));
+}
+
+}  // namespace
