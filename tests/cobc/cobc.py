@@ -11,9 +11,9 @@ from collections import Counter
 from pathlib import Path
 from typing import Dict, FrozenSet, List, NamedTuple, Tuple
 
-from compiler import Compiler, Told
+from compiler import TOO_LONG, Compiler, Told
 from comparison import Difference, differences_of, pairs_of
-from differences import known
+from differences import known, known_refusal
 from entries import Program, items_of
 from generator import has_variable, program_of
 from importer import Importer
@@ -127,8 +127,9 @@ def smallest(trial: Trial, program: Program, difference: Difference) -> Program:
 def compare(pairing: Pairing, arguments: argparse.Namespace, folder: Path) -> bool:
     trial = Trial(folder / pairing.dialect, pairing, arguments.tool)
     began = time.monotonic()
-    items = compiled = 0
+    items = compiled = hung = 0
     reasons: Counter = Counter()
+    refusals: Counter = Counter()
     kinds: Counter = Counter()
     failures: List[Tuple[Program, Difference]] = []
     not_compiled: List[str] = []
@@ -138,6 +139,13 @@ def compare(pairing: Pairing, arguments: argparse.Namespace, folder: Path) -> bo
         results = trial.run(programs)
         for program in programs:
             told, compared, left, known_ones = results[program.name]
+            if told.error == TOO_LONG:
+                hung += 1
+                continue
+            refusal = known_refusal(told.error) if told.error else None
+            if refusal is not None:
+                refusals[refusal.reason] += 1
+                continue
             if told.error:
                 not_compiled.append(f'{program.name}: {told.error.splitlines()[0]}')
                 continue
@@ -150,6 +158,10 @@ def compare(pairing: Pairing, arguments: argparse.Namespace, folder: Path) -> bo
     print(f'{pairing.dialect}: {compiled} programs with {items} items compared in '
           f'{time.monotonic() - began:.0f} s, {len(failures)} of them differ, '
           f'{len(not_compiled)} do not compile')
+    if hung:
+        print(f'  {hung:6} programs that the compiler hangs on are left out')
+    for reason, count in refusals.most_common():
+        print(f'  {count:6} programs are left out: the compiler {reason}')
     for reason, count in reasons.most_common():
         print(f'  {count:6} known: the compiler {reason}')
     for line in not_compiled[:3]:

@@ -15,7 +15,9 @@ COMMAND = ['cobc', '-w', '-C', '-fdump=ALL',
            # These allow more, and change no place.
            '-findirect-redefines', '-flarger-redefines-ok', '-frelax-level-hierarchy']
 BATCH = 50
-SECONDS = 60
+SECONDS = 60  # For a batch of programs; what takes longer hangs, and each of them is asked for alone
+SECONDS_ALONE = 10
+TOO_LONG = 'takes too long'
 
 ATTRIBUTE = re.compile(r'cob_field_attr (a_\d+) =\s*\{(\w+),\s*(\d+),\s*(-?\d+), (\w+),')
 FIELD = re.compile(r'cob_field (f_\d+)\s*= \{(.*), (.*), &(a_\d+)\};')
@@ -181,9 +183,10 @@ class Compiler:
         try:
             result = subprocess.run([*COMMAND, *self.options, *further, *(f'{name}.cob' for name in names)],
                                     cwd=folder, capture_output=True, text=True, errors='replace',
-                                    timeout=SECONDS if len(names) > 1 else 3, check=False)
+                                    timeout=SECONDS if len(names) > 1 else SECONDS_ALONE,
+                                    check=False)
         except subprocess.TimeoutExpired:
-            return 'takes too long'
+            return TOO_LONG
         return '' if result.returncode == 0 else (result.stderr.strip() or 'fails')
 
     @staticmethod

@@ -14,6 +14,23 @@ class Known(NamedTuple):
     explains: Callable[[Difference, List[Pair]], bool]
 
 
+class Refusal(NamedTuple):
+    """An error of the compiler that says nothing against the program."""
+    reason: str
+    error: str
+
+
+# What the compiler cannot do though the program is right: such programs are counted and not compared.
+REFUSALS = [
+    Refusal('forgets which record it is in at a CONSTANT behind an item that is the same as a group',
+            'level number must begin with 01 or 77'),
+]
+
+
+def known_refusal(error: str) -> Optional[Refusal]:
+    return next((row for row in REFUSALS if row.error in error), None)
+
+
 def picture_category(item: Item) -> str:
     entry = item.entry
     while entry.like is not None:
@@ -51,6 +68,31 @@ def is_behind_slack(difference: Difference, pairs: List[Pair]) -> bool:
     return False
 
 
+def is_behind_aligned_group(difference: Difference, pairs: List[Pair]) -> bool:
+    """Whether an item stands in, around or behind a group that says USAGE and SYNCHRONIZED."""
+    if difference.what not in ('offset', 'length') or difference.item is None:
+        return False
+    of_record = [pair.item for pair in pairs if pair.item.record() is difference.item.record()
+                 and pair.item.entry.kind == 'item']
+    return any(group.entry.sync and group.entry.usage and group.entry.members and
+               (group is difference.item or group in above(difference.item) or
+                difference.item in above(group) or
+                of_record.index(group) < of_record.index(difference.item))
+               for group in of_record if difference.item in of_record)
+
+
+def is_blank_with_point(difference: Difference, pairs: List[Pair]) -> bool:
+    """Whether an item is, contains or follows a number with V and BLANK WHEN ZERO."""
+    if difference.what not in ('offset', 'length') or difference.item is None:
+        return False
+    of_record = [pair.item for pair in pairs if pair.item.record() is difference.item.record()]
+    return any(item.entry.blank and item.entry.picture is not None and
+               'V' in item.entry.picture.text.upper() and
+               (item is difference.item or difference.item in above(item) or
+                of_record.index(item) < of_record.index(difference.item))
+               for item in of_record if difference.item in of_record)
+
+
 def is_sliding(difference: Difference, pairs: List[Pair]) -> bool:
     """Whether an item stands around or behind a table of no fixed size that something follows."""
     if difference.what not in ('offset', 'length') or difference.item is None:
@@ -81,6 +123,10 @@ KNOWN = [
           picture_category(difference.item) == 'edited' and difference.ours == difference.theirs + 1),
     Known('puts the slack bytes behind the last item of a table\'s occurrence in front of it, or leaves '
           'them out when a group comes last', is_behind_slack),
+    Known('aligns a group that says USAGE and SYNCHRONIZED as an item of the group\'s own size',
+          is_behind_aligned_group),
+    Known('has a byte for the assumed point of a number with BLANK WHEN ZERO, and a digit too many in it',
+          is_blank_with_point),
     Known('counts as many digits for a binary item without a PICTURE as are never lost, '
           'dictionaries those of the largest value',
           lambda difference, _: difference.what == 'digits' and
