@@ -69,12 +69,13 @@ def is_behind_slack(difference: Difference, pairs: List[Pair]) -> bool:
 
 
 def is_behind_aligned_group(difference: Difference, pairs: List[Pair]) -> bool:
-    """Whether an item stands in, around or behind a group that says USAGE and SYNCHRONIZED."""
+    """Whether an item stands in, around or behind a group of a USAGE that says SYNCHRONIZED."""
     if difference.what not in ('offset', 'length') or difference.item is None:
         return False
     of_record = [pair.item for pair in pairs if pair.item.record() is difference.item.record()
                  and pair.item.entry.kind == 'item']
-    return any(group.entry.sync and group.entry.usage and group.entry.members and
+    return any(group.entry.sync and group.entry.members and
+               any(one.entry.usage for one in above(group)) and
                (group is difference.item or group in above(difference.item) or
                 difference.item in above(group) or
                 of_record.index(group) < of_record.index(difference.item))
@@ -123,7 +124,7 @@ KNOWN = [
           picture_category(difference.item) == 'edited' and difference.ours == difference.theirs + 1),
     Known('puts the slack bytes behind the last item of a table\'s occurrence in front of it, or leaves '
           'them out when a group comes last', is_behind_slack),
-    Known('aligns a group that says USAGE and SYNCHRONIZED as an item of the group\'s own size',
+    Known('aligns a group of a USAGE that says SYNCHRONIZED as an item of the group\'s own size',
           is_behind_aligned_group),
     Known('has a byte for the assumed point of a number with BLANK WHEN ZERO, and a digit too many in it',
           is_blank_with_point),

@@ -62,6 +62,7 @@ const Row rows[] = {
     {"DollarDirectiveEndsTheLook", "      $SET SOURCEFORMAT\"FREE\"\n      * A\n", unknown},
     {"OtherDirectivesDoNot", ">>DEFINE A 1\n$SET ANS85\n      * A\n", fixed},
     {"DebuggingLine", "      D A\n", unknown},
+    {"WordWithADInColumn7", "    7 DATE-OF PIC X.\n", free},
     {"LiteralThatEndsBehindTheMargin", star + literal(60) + " y'.\n       A.\n", variable},
     {"LiteralThatIsContinued", star + literal(60) + " y'.\n      -    'z'.\n", fixed},
     {"LiteralThatEndsNowhere", star + literal(60) + "\n       A.\n", fixed},

@@ -15,11 +15,14 @@ namespace {
 
 constexpr std::int64_t mostByteLength = 1'000'000'000;
 
-// In characters of UTF-8, as far as a PICTURE can count.
+// Nobody writes longer literals, and what several come to is a number.
+constexpr int mostImplied = 1'000'000;
+
+// In characters of UTF-8.
 int lengthOf(const std::string& text) {
-  constexpr std::ptrdiff_t most = 1'000'000;
-  return static_cast<int>(std::min(
-      most, std::count_if(text.begin(), text.end(), [](char c) { return !isWithinCharacter(c); })));
+  const std::ptrdiff_t length =
+      std::count_if(text.begin(), text.end(), [](char c) { return !isWithinCharacter(c); });
+  return static_cast<int>(std::min<std::ptrdiff_t>(length, mostImplied));
 }
 
 bool isUnsignedUsage(const std::string& word) {
@@ -339,13 +342,17 @@ bool ClauseReader::readSign(DataEntry& entry) {
 void ClauseReader::readValue(DataEntry& entry) {
   words_.accept(Keyword::isWord);
   words_.accept(Keyword::are);
+  bool isTaken = false;
   if (words_.peek().is(TokenKind::literal)) entry.impliedSize = 0;
   while (words_.peek().is(TokenKind::literal)) {
     const Word literal = words_.take();
-    if (literal.token.prefix.empty()) entry.impliedSize += lengthOf(literal.token.text);
+    isTaken = true;
+    if (literal.token.prefix.empty()) {
+      entry.impliedSize = std::min(entry.impliedSize + lengthOf(literal.token.text), mostImplied);
+    }
     if (!words_.acceptMark("&")) break;
   }
-  if (!words_.peek().is(TokenKind::period) && !isClause(words_.peek())) words_.skip();
+  if (!isTaken && !words_.peek().is(TokenKind::period)) words_.skip();
   while (!words_.peek().is(TokenKind::period) && !words_.atEnd()) {
     const Word& word = words_.peek();
     if (isClause(word) || word.meaning.role == KeywordRole::filling) return;

@@ -88,6 +88,11 @@ int voteOf(std::string_view line) {
     return -2;
   }
   if (mark == '*' || mark == '/') return 1;
+  // "    7 DATE-OF PIC X": a word that begins there, behind a level.
+  if (mark != '-' && mark != ' ' && columns[indicator - 1] == ' ' &&
+      columns.size() > indicator + 1 && isWordCharacter(columns[indicator + 1])) {
+    return isLevel(trimmed(sequence)) ? -1 : 0;
+  }
   // A word across the border: "PROGRAM-ID", "WORKING-STORAGE".
   if (mark == '-' || mark == 'D' || mark == 'd') {
     return isWordCharacter(columns[indicator - 1]) && columns.size() > indicator + 1 &&

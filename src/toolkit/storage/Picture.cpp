@@ -206,7 +206,7 @@ class NumberReader {
       case debit:
         return isLast;
       case currency:
-        return isFirst || isLast ||
+        return isFirst ||
                (at_ == 1 && (runs_.front().symbol == '+' || runs_.front().symbol == '-'));
       default:
         return true;
@@ -296,20 +296,28 @@ std::optional<Picture> textOf(const Counts& counts, std::string_view symbols,
   return picture;
 }
 
+// Nothing but U, where that is no currency symbol.
+std::optional<Picture> readUtf8(std::string_view text, const PictureRules& rules) {
+  const std::string_view symbol = text.substr(0, 1);
+  if ((symbol != "U" && symbol != "u") || rules.currencySymbol == symbol) return std::nullopt;
+  PictureRules own = rules;
+  own.currencySymbol = symbol;
+  const std::optional<std::vector<Run>> runs = SymbolReader(text, own).read();
+  // Four bytes for each have to be a number, too.
+  if (!runs || runs->size() != 1 || runs->front().times > mostPositions / 2) return std::nullopt;
+  Picture picture;
+  picture.category = Category::utf8;
+  picture.characters = static_cast<int>(runs->front().times);
+  return picture;
+}
+
 }  // namespace
 
 std::optional<Picture> readPicture(std::string_view text, const PictureRules& rules) {
+  if (const std::optional<Picture> utf8 = readUtf8(text, rules)) return utf8;
   const std::optional<std::vector<Run>> runs = SymbolReader(text, rules).read();
   if (!runs || runs->empty()) return std::nullopt;
   const Counts counts(*runs);
-  // Where no currency symbol is known, U would be taken for one.
-  if (capital(text.front()) == 'U' && runs->size() == 1 &&
-      rules.currencySymbol != text.substr(0, 1)) {
-    Picture picture;
-    picture.category = Category::utf8;
-    picture.characters = static_cast<int>(runs->front().times);
-    return picture;
-  }
   if (counts.has("E")) return readExternalFloat(*runs);
   if (counts.has("N")) {
     return textOf(counts, "N", "B0/", Category::national, Category::nationalEdited);
