@@ -149,6 +149,7 @@ TEST(PictureRules, CurrencySymbolMayBeAnother) {
   PictureRules rules;
   rules.currencySymbol = "F";
   expectRow(readPicture("FFF9.99", rules), {"", Category::numericEdited, 7, 5, 2, 0, false});
+  expectRow(readPicture("fFF9.99", rules), {"", Category::numericEdited, 7, 5, 2, 0, false});
   EXPECT_FALSE(readPicture("$$$9.99", rules).has_value());
 }
 
@@ -172,6 +173,13 @@ TEST(PictureRules, AnUnknownCurrencySymbolIsWhatMeansNothingElse) {
             {"", Category::numericEdited, 7, 4, 2, 0, true});
   EXPECT_FALSE(readPicture("$F9", rules).has_value());
   EXPECT_FALSE(readPicture("8", rules).has_value());
+}
+
+TEST(Picture, OfUCountsCharacters) {
+  EXPECT_EQ(readPicture("U(5)")->category, Category::utf8);
+  EXPECT_EQ(readPicture("uu")->characters, 2);
+  EXPECT_FALSE(readPicture("U(500000001)").has_value());
+  EXPECT_FALSE(readPicture("UX").has_value());
 }
 
 TEST(Picture, TellsTheStoredDigits) {

@@ -64,7 +64,10 @@ class SymbolReader {
     const std::string_view character = rest_.substr(0, characterSize(rest_));
     const char letter = capital(character.front());
     const char next = rest_.size() < 2 ? '\0' : capital(rest_[1]);
-    const bool isCurrency = !currency_.empty() && rest_.substr(0, currency_.size()) == currency_;
+    // A letter that is one may be written small or large.
+    const bool isCurrency =
+        !currency_.empty() && (rest_.substr(0, currency_.size()) == currency_ ||
+                               (currency_.size() == 1 && capital(currency_.front()) == letter));
     if (isCurrency) {
       rest_.remove_prefix(currency_.size());
       return currency;
