@@ -168,17 +168,23 @@ if (large) {
     await page.waitForSelector(".tree .line.picked");
   });
   check(shown < 3000, "is shown after " + shown + " ms");
-  const scrolled = await page.evaluate(async () => {
-    const frames = [];
+  // What the machine does beside counts as little as it can: the middle one of many jumps, and the
+  // time that the page's own script takes.
+  const [jump, own] = await page.evaluate(async () => {
+    const jumps = [];
+    const owns = [];
     for (let i = 0; i < 60; ++i) {
       const start = performance.now();
       scrollTo(0, (document.documentElement.scrollHeight * i) / 60);
+      LazyRows.updateAll();
+      owns.push(performance.now() - start);
       await new Promise((done) => requestAnimationFrame(() => setTimeout(done)));
-      frames.push(performance.now() - start);
+      jumps.push(performance.now() - start);
     }
-    return Math.round(Math.max(...frames));
+    const middle = (numbers) => Math.round(10 * numbers.sort((a, b) => a - b)[30]) / 10;
+    return [middle(jumps), middle(owns)];
   });
-  check(scrolled < 250, "the slowest of 60 jumps through it takes " + scrolled + " ms");
+  check(jump < 150, "a jump through it is shown after " + jump + " ms, " + own + " of them script");
   const rows = await page.evaluate(() => document.querySelectorAll(".line, .block").length);
   check(rows < 2500, rows + " rows and blocks are made at a time");
   await page.evaluate(() => scrollTo(0, 0));
