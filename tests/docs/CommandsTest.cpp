@@ -61,6 +61,23 @@ TEST_P(GuidePageTest, ItsCommandsSayWhatIsShown) {
   if (docs::Page::isUpdated()) page.write();
 }
 
+// Those that help lists: a name at the start of a line behind "Subcommands:".
+TEST(CommandsPage, HasEveryCommand) {
+  std::string headings;
+  for (const std::string& heading : docs::Page(docs::guide() / "commands.md").headings()) {
+    headings += ", " + heading;
+  }
+  std::string help = outputOf(std::string(AS_TOOL) + " --help");
+  help.erase(0, help.find("Subcommands:"));
+  const std::regex command("\n  ([a-z]+) ");
+  int found = 0;
+  for (std::sregex_iterator i(help.begin(), help.end(), command), end; i != end; ++i) {
+    found++;
+    EXPECT_NE((headings + ",").find(", " + (*i)[1].str() + ","), std::string::npos) << (*i)[1];
+  }
+  EXPECT_GT(found, 8);
+}
+
 // The README's picture: each line of it is a text, the first one the command.
 TEST(Picture, ShowsWhatTheCommandPrints) {
   std::string picture = test::contentOf(docs::guide() / "../show.svg");
