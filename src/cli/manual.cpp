@@ -71,7 +71,7 @@ std::string textOf(const Argument& argument) {
 std::string optionsText(const std::vector<Argument>& arguments) {
   std::string text = ".SH OPTIONS\n";
   for (const Argument& argument : arguments) text += entry(termOf(argument), textOf(argument));
-  return text + entry("\\fB\\-h\\fR, \\fB\\-\\-help\\fR", "Print help and end.");
+  return text + entry(R"(\fB\-h\fR, \fB\-\-help\fR)", "Print help and end.");
 }
 
 std::string exitStatus() {
@@ -91,7 +91,7 @@ std::string pageOf(const CommandTable& table) {
                   std::string(row.command->summary()) + ".");
   }
   text += optionsText(table.arguments);
-  text += entry("\\fB\\-\\-version\\fR", "Print the versions of tool, library and parser and end.");
+  text += entry(R"(\fB\-\-version\fR)", "Print the versions of tool, library and parser and end.");
   text += exitStatus() + ".SH SEE ALSO\n";
   const char* between = "";
   for (const CommandEntry& row : table.commands) {
