@@ -1,4 +1,4 @@
-// Made by AgentServices 1.0.0 from DEPINT01-dotnet.xml
+// Made by AgentServices VERSION from DEPINT01-dotnet.xml
 
 namespace SavingsDeposits
 {

@@ -1,4 +1,4 @@
-// Made by AgentServices 1.0.0 from DEPINT01-java.xml
+// Made by AgentServices VERSION from DEPINT01-java.xml
 
 /** Savings deposits: what program DEPINT01 does for its callers. */
 public interface SavingsDeposits {

@@ -1,4 +1,4 @@
-// Made by AgentServices 1.0.0 from MOTPREM-dotnet.xml
+// Made by AgentServices VERSION from MOTPREM-dotnet.xml
 
 namespace KfzPrämie
 {

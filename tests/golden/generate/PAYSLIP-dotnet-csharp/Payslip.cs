@@ -1,4 +1,4 @@
-// Made by AgentServices 1.0.0 from PAYSLIP-dotnet.xml
+// Made by AgentServices VERSION from PAYSLIP-dotnet.xml
 
 namespace Payslip
 {

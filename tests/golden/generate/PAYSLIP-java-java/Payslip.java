@@ -1,4 +1,4 @@
-// Made by AgentServices 1.0.0 from PAYSLIP-java.xml
+// Made by AgentServices VERSION from PAYSLIP-java.xml
 
 /** Payslip: what program PAYSLIP does for its callers. */
 public interface Payslip {

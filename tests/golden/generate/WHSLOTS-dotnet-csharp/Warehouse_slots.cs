@@ -1,4 +1,4 @@
-// Made by AgentServices 1.0.0 from WHSLOTS-dotnet.xml
+// Made by AgentServices VERSION from WHSLOTS-dotnet.xml
 
 namespace WarehouseSlots
 {

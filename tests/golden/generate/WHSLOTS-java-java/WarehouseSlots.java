@@ -1,4 +1,4 @@
-// Made by AgentServices 1.0.0 from WHSLOTS-java.xml
+// Made by AgentServices VERSION from WHSLOTS-java.xml
 
 import java.math.BigDecimal;
 import java.util.List;
