@@ -26,6 +26,32 @@ install(DIRECTORY schema/ DESTINATION ${AS_SCHEMA_INSTALL_DIR} COMPONENT Schemas
         FILES_MATCHING PATTERN "*.xsd")
 install(DIRECTORY include/as DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development)
 
+# The tool's manual pages and completions: it makes them itself. (What is counted is what tests run.)
+if(NOT AS_COVERAGE)
+  set(made ${CMAKE_CURRENT_BINARY_DIR}/tool)
+  if(AS_PACKAGE)
+    set(compress gzip --best --no-name ${made}/man1/*.1)
+    set(zsh_completions ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
+  else()
+    set(compress true)
+    set(zsh_completions ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
+  endif()
+  add_custom_command(OUTPUT ${made}/made
+      COMMAND ${CMAKE_COMMAND} -E rm -rf ${made}
+      COMMAND ${CMAKE_COMMAND} -E make_directory ${made}
+      COMMAND agentservices-tool manual -o ${made}/man1
+      COMMAND ${compress}
+      COMMAND agentservices-tool completion bash > ${made}/agentservices
+      COMMAND agentservices-tool completion zsh > ${made}/_agentservices
+      COMMAND ${CMAKE_COMMAND} -E touch ${made}/made
+      DEPENDS agentservices-tool COMMENT "Making the tool's manual pages and completions")
+  add_custom_target(tool_texts ALL DEPENDS ${made}/made)
+  install(DIRECTORY ${made}/man1 DESTINATION ${CMAKE_INSTALL_MANDIR} COMPONENT Tool)
+  install(FILES ${made}/agentservices
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT Tool)
+  install(FILES ${made}/_agentservices DESTINATION ${zsh_completions} COMPONENT Tool)
+endif()
+
 # For find_package(AgentServices [COMPONENTS Toolkit Tool]). The tool's part comes with the tool:
 # whoever develops need not have it.
 foreach(part "" Toolkit)

@@ -64,7 +64,8 @@ TEST_P(GuidePageTest, ItsCommandsSayWhatIsShown) {
 // Those that help lists: a name at the start of a line behind "Subcommands:".
 TEST(CommandsPage, HasEveryCommand) {
   std::string headings;
-  for (const std::string& heading : docs::Page(docs::guide() / "commands.md").headings()) {
+  const docs::Page page(docs::guide() / "commands.md");
+  for (const std::string& heading : page.headings()) {
     headings += ", " + heading;
   }
   std::string help = outputOf(std::string(AS_TOOL) + " --help");

@@ -33,6 +33,12 @@ endforeach()
 # Without --schemas: the tool finds the schemas that were installed with it.
 file(READ ${WORK}/build/tool tool)
 run(${tool} validate ${EXAMPLES}/MOTPREM.xml)
+foreach(file man/man1/agentservices.1 man/man1/agentservices-lint.1
+        bash-completion/completions/agentservices zsh/site-functions/_agentservices)
+  if(NOT EXISTS ${WORK}/prefix/share/${file})
+    message(FATAL_ERROR "share/${file} was not installed")
+  endif()
+endforeach()
 
 # The same client by pkg-config.
 set(ENV{PKG_CONFIG_PATH} ${WORK}/prefix/${LIBDIR}/pkgconfig)
