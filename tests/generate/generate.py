@@ -23,6 +23,8 @@ HERE = Path(__file__).resolve().parent
 EXAMPLES = HERE.parent.parent / 'examples'
 FLAVOURS = ['ws', 'com', 'dotnet', 'java']
 CHANGED = re.compile(r": '([^\n]*)' is no name in XML, or taken: '([^\n]*)' stands for it\n")
+# How the tool shows control characters.
+CONTROL = re.compile(r'\\u(00(?:[0189][0-9A-F]|7F))')
 COMPILED = 20  # One in so many of the services that are made up goes through gsoap.
 
 
@@ -43,7 +45,8 @@ class Prover:
                                 capture_output=True, text=True, errors='replace', check=False)
         if result.returncode != 0:
             raise soap.Failure(f'{kind} of {source}: {result.stdout[-500:]}{result.stderr[-500:]}')
-        self.renamed = {told[1]: told[2] for told in CHANGED.finditer(result.stdout)}
+        self.renamed = {CONTROL.sub(lambda told: chr(int(told[1], 16)), told[1]): told[2]
+                        for told in CHANGED.finditer(result.stdout)}
         return sorted(folder.iterdir())
 
     def attempt(self, what: str, work: Callable[[], None]) -> None:
