@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ImportRow{"01 A VALUE 'ABC'.", "1:1 implied-picture"},
                     ImportRow{"01 A VALUE SPACES.", "1:1 no-picture"},
                     ImportRow{"01 G VALUE 'AB'. 05 A PIC X(2).", ""},
-                    ImportRow{"01 A PIC U BYTE-LENGTH B.", "1:12 bad-clause"}));
+                    ImportRow{"01 A PIC U BYTE-LENGTH B.", "1:12 bad-clause, 1:1 other-kind"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Items, ImportProblemTest,
@@ -163,9 +163,9 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"PROGRAM-ID. T. DATA DIVISION. WORKING-STORAGE SECTION.\n01 A.\n"
                   "01 B. COPY CMQODV.",
                   "3:7 system-copybook, 2:1 no-picture, 3:1 system-record"},
-        ImportRow{"01 A PIC ZZZ.ZZ9,99.", "1:1 copybook, 1:10 comma-assumed"},
+        ImportRow{"01 A PIC ZZ.ZZZ.ZZ9,99.", "1:1 copybook, 1:10 comma-assumed"},
         ImportRow{"FUNCTION-ID. F.\nPROCEDURE DIVISION.\nEND FUNCTION F.",
-                  "1:1 passed-over-program, 3:16 nothing-to-import"}));
+                  "1:1 passed-over-program, 3:15 nothing-to-import"}));
 
 // What a note says counts everywhere: it is told once a source.
 TEST(ImportNotes, AreToldOnceASource) {

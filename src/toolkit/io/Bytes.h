@@ -6,7 +6,8 @@
 
 namespace as::toolkit {
 
-// What a descriptor gives to its end. False, with errno, when that fails or is more than 2^30 bytes.
+// What a descriptor gives to its end. False, with errno, when that fails or is more than 2^30
+// bytes.
 bool readAll(int descriptor, std::string& bytes);
 
 // What a regular file holds. False for whatever else it is, and when it cannot be read.
