@@ -106,6 +106,25 @@ TEST_F(GenerateTest, OtherFlavoursAreRefused) {
   EXPECT_FALSE(fs::exists("out"));
 }
 
+TEST_F(GenerateTest, NamespacesThatAreNoUrisAreRefused) {
+  std::string text = contentOf(AS_EXAMPLES_DIR "/MOTPREM-ws.xml");
+  const std::string good = "urn:mi:motor:answer";
+  for (std::size_t at = text.find(good); at != std::string::npos; at = text.find(good, at + 1)) {
+    text.replace(at, good.size(), "urn:mi motor");
+  }
+  write("MOTPREM.xml", contentOf(AS_EXAMPLES_DIR "/MOTPREM.xml"));
+  write("service.xml", text);
+  for (const char* const kind : {"xsd", "wsdl"}) {
+    const toolkit::GeneratedOutput made = make(kind, "service.xml", "out/");
+    EXPECT_THAT(textsOf(made.findings), Contains(HasSubstr("'urn:mi motor' is no URI"))) << kind;
+    EXPECT_FALSE(fs::exists("out")) << kind;
+  }
+  toolkit::GenerateOptions options;
+  options.values = {{"namespace", "a|b"}};
+  EXPECT_THAT(textsOf(make("xsd", example, "out/", options).findings),
+              Contains(HasSubstr("'a|b' is no URI")));
+}
+
 TEST_F(GenerateTest, FilesThatHoldTheSameAreLeftAlone) {
   const toolkit::GeneratedOutput first = make("xsd", example, "out/");
   EXPECT_EQ(first.written, first.files);

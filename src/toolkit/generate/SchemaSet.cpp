@@ -5,6 +5,7 @@
 
 #include "toolkit/generate/Facets.h"
 #include "toolkit/generate/XsdTypes.h"
+#include "toolkit/text/Phrases.h"
 
 namespace as::toolkit::gen {
 
@@ -25,6 +26,22 @@ std::string occurrences(const Field& field) {
 }
 
 Form said(Form own, Form around) { return own == Form::unsaid ? around : own; }
+
+// Whether a namespace can be that of a schema: letters of any language may stand in a URI (RFC
+// 3987), blanks and these may not.
+bool isUri(std::string_view text) {
+  return std::none_of(text.begin(), text.end(), [](char byte) {
+    const auto code = static_cast<unsigned char>(byte);
+    return code <= 0x20 || code == 0x7F ||
+           std::string_view("<>\"{}|\\^`").find(byte) != std::string_view::npos;
+  });
+}
+
+void refuseUnlessUri(const Job& job, const std::string& text) {
+  if (isUri(text)) return;
+  job.refuse("no-uri", "service", "namespace " + quote(text) + " is no URI",
+             "leave out blanks and <>\"{}|\\^`");
+}
 
 // What a namespace may hold stays; blanks and what is no text of a URI are written as %20.
 std::string uriText(std::string_view text) {
@@ -55,6 +72,7 @@ SchemaSet::SchemaSet(const Job& job)
     target_ = uriText("urn:agentservices:" + (program.empty() ? job.model.name : program));
   }
   prefixes_[target_] = "tns";
+  refuseUnlessUri(job_, target_);
   partOf(target_);
   readTypes();
 }
@@ -311,7 +329,9 @@ bool SchemaSet::isNamed(const Field& field) const {
 
 std::string SchemaSet::prefixOf(const std::string& uri) {
   const auto [found, isNew] = prefixes_.try_emplace(uri);
-  if (isNew) found->second = "ns" + std::to_string(prefixes_.size() - 1);
+  if (!isNew) return found->second;
+  found->second = "ns" + std::to_string(prefixes_.size() - 1);
+  refuseUnlessUri(job_, uri);
   return found->second;
 }
 
