@@ -1,4 +1,5 @@
-# Fails, naming them, when a source includes from a folder that its layer may not know.
+# Fails, naming them, when a source includes from a folder that its layer may not know, or when two
+# headers of a layer have one name: they hold classes of that name, which a program takes for one.
 #
 #   cmake -DSOURCE=. -P cmake/CheckLayers.cmake
 #
@@ -38,6 +39,15 @@ foreach(layer IN LISTS AS_LAYERS)
     message(FATAL_ERROR "src/layers.txt: there is no folder src/${layer}")
   endif()
   check(src/${layer} "${layer};${AS_LAYER_INCLUDES_${layer}}")
+  file(GLOB_RECURSE headers ${SOURCE}/src/${layer}/*.h)
+  set(names "")
+  foreach(header IN LISTS headers)
+    get_filename_component(name "${header}" NAME)
+    if(name IN_LIST names)
+      string(APPEND wrong "  src/${layer} has several headers ${name}\n")
+    endif()
+    list(APPEND names "${name}")
+  endforeach()
 endforeach()
 file(GLOB folders RELATIVE ${SOURCE}/src ${SOURCE}/src/*)
 foreach(folder IN LISTS folders)

@@ -11,8 +11,8 @@
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Lint.h"
 #include "toolkit/report/ReportData.h"
+#include "toolkit/report/ReportSource.h"
 #include "toolkit/report/SiteFiles.h"
-#include "toolkit/report/SourceText.h"
 
 namespace as::toolkit {
 
@@ -75,7 +75,7 @@ class ReportMaker {
     dictionary.facts = std::make_unique<DictionaryFacts>(program, file);
     dictionary.paths = std::make_unique<ItemPaths>(*dictionary.facts);
     const DictionaryFacts& facts = *dictionary.facts;
-    const std::optional<SourceText> source = sourceOf(facts, file);
+    const std::optional<ReportSource> source = sourceOf(facts, file);
     ordered_json data = dataOf(facts, SourceLineCheck(source.has_value() ? &*source : nullptr));
     data["file"] = nameOf(file);
     if (source) {
@@ -108,7 +108,8 @@ class ReportMaker {
   // Files are told without the folders of the machine that the report is made on.
   static std::string nameOf(const std::string& file) { return fs::path(file).filename().string(); }
 
-  std::optional<SourceText> sourceOf(const DictionaryFacts& facts, const std::string& file) const {
+  std::optional<ReportSource> sourceOf(const DictionaryFacts& facts,
+                                       const std::string& file) const {
     std::vector<std::string> folders = options_.sourceFolders;
     const fs::path folder = fs::path(file).parent_path();
     folders.push_back(folder.empty() ? "." : folder.string());

@@ -10,7 +10,7 @@
 #include "toolkit/facts/DictionaryFacts.h"
 #include "toolkit/facts/ItemPaths.h"
 #include "toolkit/facts/ServiceFacts.h"
-#include "toolkit/report/SourceText.h"
+#include "toolkit/report/ReportSource.h"
 
 namespace as::toolkit {
 

@@ -1,6 +1,6 @@
 // The sources of programs for looking at.
-#ifndef TOOLKIT_REPORT_SOURCETEXT_H_
-#define TOOLKIT_REPORT_SOURCETEXT_H_
+#ifndef TOOLKIT_REPORT_REPORTSOURCE_H_
+#define TOOLKIT_REPORT_REPORTSOURCE_H_
 
 #include <optional>
 #include <string>
@@ -10,27 +10,27 @@
 
 namespace as::toolkit {
 
-struct SourceText {
+struct ReportSource {
   std::string name;
   std::vector<std::string> lines;  // UTF-8; other bytes count as those of ISO 8859-1.
 };
 
 // The source named `name`, without the folders in that name, in the first of `folders` that has it.
 // Only regular files of a size that a browser can do with.
-std::optional<SourceText> findSource(const std::string& name,
-                                     const std::vector<std::string>& folders);
+std::optional<ReportSource> findSource(const std::string& name,
+                                       const std::vector<std::string>& folders);
 
 // Whether the line that a dictionary tells of an item is that of the source: the line of an item
 // from a copybook is the copybook's.
 class SourceLineCheck {
  public:
-  explicit SourceLineCheck(const SourceText* source) : source_(source) {}
+  explicit SourceLineCheck(const ReportSource* source) : source_(source) {}
   bool isOf(const ItemFacts& item) const;
 
  private:
-  const SourceText* source_;  // Null for none.
+  const ReportSource* source_;  // Null for none.
 };
 
 }  // namespace as::toolkit
 
-#endif  // TOOLKIT_REPORT_SOURCETEXT_H_
+#endif  // TOOLKIT_REPORT_REPORTSOURCE_H_

@@ -1,4 +1,4 @@
-#include "toolkit/report/SourceText.h"
+#include "toolkit/report/ReportSource.h"
 
 #include <algorithm>
 #include <cctype>
@@ -72,8 +72,8 @@ std::string inCapitals(std::string text) {
 
 }  // namespace
 
-std::optional<SourceText> findSource(const std::string& name,
-                                     const std::vector<std::string>& folders) {
+std::optional<ReportSource> findSource(const std::string& name,
+                                       const std::vector<std::string>& folders) {
   const fs::path file = fs::path(name).filename();
   if (file.empty() || file == "." || file == "..") return std::nullopt;
   for (const std::string& folder : folders) {
@@ -86,7 +86,7 @@ std::optional<SourceText> findSource(const std::string& name,
     if (!in) continue;
     std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
     if (!isUtf8(text)) text = fromLatin1(text);
-    return SourceText{file.string(), linesOf(text)};
+    return ReportSource{file.string(), linesOf(text)};
   }
   return std::nullopt;
 }
