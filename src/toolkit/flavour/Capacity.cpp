@@ -8,6 +8,7 @@
 #include "as/INumeric.h"
 #include "as/INumericEdited.h"
 #include "as/toolkit/Storage.h"
+#include "toolkit/storage/AnyPicture.h"
 #include "toolkit/text/Phrases.h"
 #include "toolkit/text/Words.h"
 
@@ -30,16 +31,6 @@ struct Number {
 int limited(int number) {
   constexpr int most = 1'000'000'000;
   return std::clamp(number, -most, most);
-}
-
-// What a picture says whose program's currency symbol and decimal point are unknown.
-std::optional<Picture> readAnyPicture(const std::string& text) {
-  PictureRules rules;
-  rules.currencySymbol = "";
-  const std::optional<Picture> picture = readPicture(text, rules);
-  if (picture) return picture;
-  rules.isDecimalPointComma = true;
-  return readPicture(text, rules);
 }
 
 Number numberIn(as::INumeric& item) {

@@ -22,6 +22,18 @@ std::string Job::option(std::string_view name) const {
   return "";
 }
 
+std::vector<const Operation*> Job::wantedOperations() const {
+  const std::string wanted = option("operation");
+  std::vector<const Operation*> operations;
+  for (const Operation& operation : model.operations) {
+    if (wanted.empty() || operation.name == wanted) operations.push_back(&operation);
+  }
+  if (operations.empty() && !wanted.empty()) {
+    refuse("no-operation", "service", "there is no operation '" + wanted + "'", "name another one");
+  }
+  return operations;
+}
+
 void Job::note(const char* rule, const std::string& place, const std::string& text) const {
   out.findings.push_back({rule, Severity::note, place, text, ""});
 }

@@ -29,6 +29,10 @@ struct Job {
     return option(name) == value;
   }
 
+  // The operations with the name that option "operation" tells, all where it tells none; refuses a
+  // name that there is not.
+  std::vector<const Operation*> wantedOperations() const;
+
   NameGiver namesBy(const NameRule& rule) const { return {rule, options.names, out.findings}; }
 
   void add(std::string name, std::string content) const {

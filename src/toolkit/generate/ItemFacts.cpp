@@ -13,6 +13,7 @@
 #include "as/INumericEdited.h"
 #include "as/toolkit/Picture.h"
 #include "as/toolkit/Storage.h"
+#include "toolkit/storage/AnyPicture.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/TreeWalk.h"
 
@@ -21,16 +22,6 @@ namespace as::toolkit::gen {
 namespace {
 
 using Kind = Item::Kind;
-
-// What a picture says whose program's currency symbol and decimal point are unknown.
-std::optional<Picture> readAnyPicture(const std::string& text) {
-  PictureRules rules;
-  rules.currencySymbol = "";
-  const std::optional<Picture> picture = readPicture(text, rules);
-  if (picture) return picture;
-  rules.isDecimalPointComma = true;
-  return readPicture(text, rules);
-}
 
 Kind kindOfItem(as::IDataItem& item) {
   if (isObject(item)) return Kind::object;

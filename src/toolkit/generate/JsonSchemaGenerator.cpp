@@ -25,16 +25,8 @@ class JsonSchemaGenerator : public Generator {
     const ServiceModel& model = job.model;
     job.tellValues(jsonTypes());
     JsonSchemas schemas(job, "#/$defs/");
-    const std::string wanted = job.option("operation");
-    bool isFound = wanted.empty();
-    for (const Operation& operation : model.operations) {
-      if (!wanted.empty() && operation.name != wanted) continue;
-      isFound = true;
-      addOperation(model, operation, schemas);
-    }
-    if (!isFound) {
-      job.refuse("no-operation", "service", "there is no operation '" + wanted + "'",
-                 "name another one");
+    for (const Operation* const operation : job.wantedOperations()) {
+      addOperation(model, *operation, schemas);
     }
     Json definitions = schemas.complete();
     Json root = {{"$schema", "https://json-schema.org/draft/2020-12/schema"},

@@ -45,18 +45,10 @@ class XsdGenerator : public Generator {
     const ServiceModel& model = job.model;
     job.tellValues(xsdTypes());
     SchemaSet schemas(job);
-    const std::string wanted = job.option("operation");
-    bool isFound = wanted.empty();
-    for (const Operation& operation : model.operations) {
-      if (!wanted.empty() && operation.name != wanted) continue;
-      isFound = true;
-      addOperation(model, operation, schemas);
+    for (const Operation* const operation : job.wantedOperations()) {
+      addOperation(model, *operation, schemas);
     }
-    if (!isFound) {
-      job.refuse("no-operation", "service", "there is no operation '" + wanted + "'",
-                 "name another one");
-    }
-    if (wanted.empty()) schemas.addDeclaredTypes();
+    if (job.option("operation").empty()) schemas.addDeclaredTypes();
     if (model.flavour == nullptr) {
       for (const Type& record : model.types) {
         if (record.isDeclared) {
