@@ -125,6 +125,31 @@ TEST_F(GenerateTest, NamespacesThatAreNoUrisAreRefused) {
               Contains(HasSubstr("'a|b' is no URI")));
 }
 
+TEST_F(GenerateTest, OneOperationIsMadeWhereItIsAskedFor) {
+  toolkit::GenerateOptions options;
+  options.values = {{"operation", "instalments"}};
+  for (const char* const kind : {"xsd", "jsonschema"}) {
+    std::string text;
+    for (const std::string& name : make(kind, example, "out/", options).files) {
+      text += contentOf(name);
+    }
+    EXPECT_THAT(text, HasSubstr("instalments")) << kind;
+    EXPECT_THAT(text, Not(HasSubstr("discount"))) << kind;
+    fs::remove_all("out");
+  }
+}
+
+TEST_F(GenerateTest, AnOperationThatThereIsNotIsRefused) {
+  toolkit::GenerateOptions options;
+  options.values = {{"operation", "nothing"}};
+  for (const char* const kind : {"xsd", "jsonschema"}) {
+    const toolkit::GeneratedOutput made = make(kind, example, "out/", options);
+    EXPECT_THAT(textsOf(made.findings), Contains(HasSubstr("there is no operation 'nothing'")))
+        << kind;
+    EXPECT_THAT(made.files, IsEmpty()) << kind;
+  }
+}
+
 TEST_F(GenerateTest, FilesThatHoldTheSameAreLeftAlone) {
   const toolkit::GeneratedOutput first = make("xsd", example, "out/");
   EXPECT_EQ(first.written, first.files);
