@@ -149,6 +149,40 @@ TEST_F(DiffTest, FilesThatComeAndGoAreTold) {
               ElementsAre("file-removed", "file-added"));
 }
 
+// The first of a name is the other document's first, and so on.
+TEST_F(DiffTest, WhatHasTheSameNameIsComparedOneByOne) {
+  const char* const conditions =
+      "<dataItems><numeric name='N' picture='9' usage='display'>"
+      "<numericCondition name='C'><numericConstant value='1'/></numericCondition>"
+      "<numericCondition name='C'><numericConstant value='%'/></numericCondition>"
+      "</numeric></dataItems>";
+  const char* const files =
+      "<fileSection><fd name='F' organization='sequential'/>"
+      "<fd name='F' organization='%'/></fileSection>";
+  const struct {
+    const char* content;
+    const char* before;
+    const char* after;
+    const char* kind;
+  } rows[] = {
+      {conditions, "2", "3", "condition-values-changed"},
+      {files, "indexed", "relative", "file-organization-changed"},
+  };
+  for (const auto& row : rows) {
+    const auto dictionaryOf = [&](const char* value) {
+      std::string content = row.content;
+      return test::dictionary(content.replace(content.find('%'), 1, value));
+    };
+    write("old.xml", dictionaryOf(row.before));
+    write("new.xml", dictionaryOf(row.after));
+    EXPECT_THAT(kindsOf(toolkit::diffFiles(reader(), "old.xml", "old.xml")), IsEmpty()) << row.kind;
+    const toolkit::Diff diff = toolkit::diffFiles(reader(), "old.xml", "new.xml");
+    ASSERT_THAT(kindsOf(diff), ElementsAre(row.kind));
+    EXPECT_EQ(diff.changes[0].oldValue, row.before);
+    EXPECT_EQ(diff.changes[0].newValue, row.after);
+  }
+}
+
 TEST_F(DiffTest, AMovedItemIsFoundByItsNameAndOneThatIsGoneIsNot) {
   dictionary("old.xml", "01 R. 05 A PIC X. 05 B PIC X. 05 C PIC X.");
   dictionary("new.xml", "01 R. 05 A PIC X(2). 05 B PIC X.");

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "toolkit/diff/NameMatch.h"
 #include "toolkit/diff/Sequence.h"
 #include "toolkit/diff/ServiceImpact.h"
 
@@ -65,24 +66,24 @@ void DictionaryDiff::compareService(as::IService& service, const std::string& fi
 }
 
 void DictionaryDiff::compareFiles() {
-  std::unordered_map<std::string_view, const SectionFacts*> news;
-  for (const SectionFacts* const file : filesOf(after_)) news.emplace(file->file, file);
+  const std::vector<const SectionFacts*> olds = filesOf(before_);
+  const std::vector<const SectionFacts*> news = filesOf(after_);
+  const std::vector<std::size_t> partners = matchNamesOf(
+      olds, news, [](const SectionFacts* file) -> const std::string& { return file->file; });
   std::unordered_set<const SectionFacts*> taken;
-  std::vector<const SectionFacts*> left;
-  for (const SectionFacts* const file : filesOf(before_)) {
-    const auto found = news.find(file->file);
-    if (found != news.end() && taken.insert(found->second).second) {
-      compareFile(*file, *found->second);
-    } else {
-      left.push_back(file);
-    }
+  for (std::size_t i = 0; i < olds.size(); ++i) {
+    if (partners[i] == noPartner) continue;
+    taken.insert(news[partners[i]]);
+    compareFile(*olds[i], *news[partners[i]]);
   }
-  for (const SectionFacts* const file : left) {
+  for (std::size_t i = 0; i < olds.size(); ++i) {
+    if (partners[i] != noPartner) continue;
+    const SectionFacts* const file = olds[i];
     // One that has the first record of another is that file.
     const ItemNumber partner = file->records.empty() ? noItem : match_.newOf(file->records.front());
     const SectionFacts* renamed = nullptr;
-    for (const SectionFacts* const candidate : filesOf(after_)) {
-      if (partner == noItem || candidate->records.empty() || taken.count(candidate) > 0) continue;
+    for (const SectionFacts* const candidate : news) {
+      if (partner == noItem || candidate->records.empty() || taken.contains(candidate)) continue;
       if (candidate->records.front() == partner) renamed = candidate;
     }
     if (renamed == nullptr) {
@@ -93,8 +94,8 @@ void DictionaryDiff::compareFiles() {
     changes_.add("file-renamed", {file->title(), renamed->title()}, file->file, renamed->file);
     compareFile(*file, *renamed);
   }
-  for (const SectionFacts* const file : filesOf(after_)) {
-    if (taken.count(file) == 0) changes_.add("file-added", {"", file->title()});
+  for (const SectionFacts* const file : news) {
+    if (!taken.contains(file)) changes_.add("file-added", {"", file->title()});
   }
 }
 
@@ -136,7 +137,7 @@ void DictionaryDiff::compareEntryPoints() {
     }
     const EntryPointFacts* renamed = nullptr;
     for (const EntryPointFacts& candidate : after_.entryPoints()) {
-      const bool isFree = taken.count(&candidate) == 0 && olds.count(candidate.name) == 0;
+      const bool isFree = !taken.contains(&candidate) && !olds.contains(candidate.name);
       if (renamed == nullptr && isFree && entry.convention == candidate.convention &&
           haveSameParameters(entry, candidate)) {
         renamed = &candidate;
@@ -154,7 +155,7 @@ void DictionaryDiff::compareEntryPoints() {
                                 isProgram ? programRenamed_ : noChange));
   }
   for (const EntryPointFacts& entry : after_.entryPoints()) {
-    if (taken.insert(&entry).second && olds.count(entry.name) == 0) {
+    if (taken.insert(&entry).second && !olds.contains(entry.name)) {
       changes_.add("entry-point-added", {"", "entry point " + entry.name});
     }
   }

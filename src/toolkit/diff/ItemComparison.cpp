@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "toolkit/diff/ItemTraits.h"
+#include "toolkit/diff/NameMatch.h"
 #include "toolkit/diff/Sequence.h"
 #include "toolkit/text/Phrases.h"
 
@@ -38,6 +39,15 @@ std::string valuesOf(const ConditionFacts& condition) {
   return text;
 }
 
+// The same for the same values in the same order, and for nothing else.
+std::string keyOf(const ConditionFacts& condition) {
+  std::string key;
+  for (const std::string& value : condition.values) {
+    key += std::to_string(value.size()) + " " + value;
+  }
+  return key;
+}
+
 // What happened to the values; null for nothing.
 const char* valuesKind(const std::vector<std::string>& before,
                        const std::vector<std::string>& after) {
@@ -52,6 +62,23 @@ const char* valuesKind(const std::vector<std::string>& before,
   return std::includes(olds.begin(), olds.end(), news.begin(), news.end())
              ? "condition-values-removed"
              : "condition-values-changed";
+}
+
+// Of conditions that have no partner yet, one of the same values is a renamed one.
+void joinRenamed(const std::vector<ConditionFacts>& olds, const std::vector<ConditionFacts>& news,
+                 std::vector<std::size_t>& partners) {
+  std::unordered_map<std::string, std::vector<std::size_t>> byValues;
+  const std::vector<std::size_t> left = withoutPartner(partners, news.size());
+  for (auto at = left.rbegin(); at != left.rend(); ++at) {
+    byValues[keyOf(news[*at])].push_back(*at);
+  }
+  for (std::size_t i = 0; i < olds.size(); ++i) {
+    if (partners[i] != noPartner) continue;
+    const auto alike = byValues.find(keyOf(olds[i]));
+    if (alike == byValues.end() || alike->second.empty()) continue;
+    partners[i] = alike->second.back();
+    alike->second.pop_back();
+  }
 }
 
 }  // namespace
@@ -308,43 +335,29 @@ void ItemComparison::compareConditions(ItemNumber old, ItemNumber added) {
   const std::vector<ConditionFacts>& olds = before_[old].conditions;
   const std::vector<ConditionFacts>& news = after_[added].conditions;
   if (olds.empty() && news.empty()) return;
-  std::unordered_map<std::string_view, const ConditionFacts*> known;
-  for (const ConditionFacts& condition : news) known.emplace(condition.name, &condition);
-  std::unordered_map<std::string_view, const ConditionFacts*> gone;
-  for (const ConditionFacts& condition : olds) gone.emplace(condition.name, &condition);
   const std::string oldPath = before_.pathOf(old) + ".";
   const std::string newPath = after_.pathOf(added) + ".";
   const bool mayBreak = isSeen(old, added);
-  // The old ones by their values: one of the same values is a renamed one.
-  std::unordered_map<std::string, std::vector<const ConditionFacts*>> byValues;
-  for (auto at = news.rbegin(); at != news.rend(); ++at) {
-    if (gone.count(at->name) == 0) byValues[valuesOf(*at)].push_back(&*at);
-  }
-  std::unordered_map<std::string_view, bool> isTold;
-  for (const ConditionFacts& condition : olds) {
-    const auto found = known.find(condition.name);
-    if (found != known.end()) {
-      if (const char* const kind = valuesKind(condition.values, found->second->values)) {
-        changes_.add(kind, {oldPath + condition.name, newPath + condition.name},
-                     valuesOf(condition), valuesOf(*found->second), mayBreak);
-      }
+  std::vector<std::size_t> partners = matchNamesOf(
+      olds, news,
+      [](const ConditionFacts& condition) -> const std::string& { return condition.name; });
+  joinRenamed(olds, news, partners);
+  for (std::size_t i = 0; i < olds.size(); ++i) {
+    const ConditionFacts& condition = olds[i];
+    const std::string place = oldPath + condition.name;
+    if (partners[i] == noPartner) {
+      changes_.add("condition-removed", {place, ""}, valuesOf(condition), "", mayBreak);
       continue;
     }
-    std::vector<const ConditionFacts*>& alike = byValues[valuesOf(condition)];
-    if (alike.empty()) {
-      changes_.add("condition-removed", {oldPath + condition.name, ""}, valuesOf(condition), "",
-                   mayBreak);
-      continue;
+    const ConditionFacts& partner = news[partners[i]];
+    const ChangeList::Place places = {place, newPath + partner.name};
+    changes_.addIfDifferent("condition-renamed", places, condition.name, partner.name, mayBreak);
+    if (const char* const kind = valuesKind(condition.values, partner.values)) {
+      changes_.add(kind, places, valuesOf(condition), valuesOf(partner), mayBreak);
     }
-    isTold[alike.back()->name] = true;
-    changes_.add("condition-renamed", {oldPath + condition.name, newPath + alike.back()->name},
-                 condition.name, alike.back()->name, mayBreak);
-    alike.pop_back();
   }
-  for (const ConditionFacts& condition : news) {
-    if (gone.count(condition.name) > 0 || isTold.count(condition.name) > 0) continue;
-    changes_.add("condition-added", {"", newPath + condition.name}, "", valuesOf(condition),
-                 mayBreak);
+  for (const std::size_t i : withoutPartner(partners, news.size())) {
+    changes_.add("condition-added", {"", newPath + news[i].name}, "", valuesOf(news[i]), mayBreak);
   }
 }
 

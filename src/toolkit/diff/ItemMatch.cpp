@@ -5,6 +5,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "toolkit/diff/NameMatch.h"
 #include "toolkit/diff/Sequence.h"
 
 namespace as::toolkit {
@@ -71,24 +72,27 @@ void ItemMatch::join(ItemNumber old, ItemNumber added) {
 }
 
 void ItemMatch::matchSections() {
-  std::unordered_map<std::string, const SectionFacts*> sections;
-  for (const SectionFacts& section : after_.sections()) sections.emplace(section.title(), &section);
+  const std::vector<std::size_t> partners =
+      matchNamesOf(before_.sections(), after_.sections(),
+                   [](const SectionFacts& section) { return section.title(); });
+  const auto forEachPair = [&](const auto& visit) {
+    for (std::size_t i = 0; i < partners.size(); ++i) {
+      if (partners[i] == noPartner) continue;
+      visit(before_.sections()[i].records, after_.sections()[partners[i]].records);
+    }
+  };
+  forEachPair([this](const Items& old, const Items& added) { matchNames(old, added); });
   Items oldRecords;
   Items newRecords;
   for (const SectionFacts& section : before_.sections()) {
     oldRecords.insert(oldRecords.end(), section.records.begin(), section.records.end());
-    const auto found = sections.find(section.title());
-    if (found != sections.end()) matchNames(section.records, found->second->records);
   }
   for (const SectionFacts& section : after_.sections()) {
     newRecords.insert(newRecords.end(), section.records.begin(), section.records.end());
   }
   // Records that went to another section.
   matchNames(oldRecords, newRecords);
-  for (const SectionFacts& section : before_.sections()) {
-    const auto found = sections.find(section.title());
-    if (found != sections.end()) matchRenamed(section.records, found->second->records);
-  }
+  forEachPair([this](const Items& old, const Items& added) { matchRenamed(old, added); });
   // Those of files that were renamed.
   if (before_.sections().size() == after_.sections().size()) {
     for (std::size_t i = 0; i < before_.sections().size(); ++i) {
