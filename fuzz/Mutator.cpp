@@ -894,6 +894,7 @@ void Mutator::changeFiles(Document& document) {
 
 void Mutator::addFile(Document& document) {
   Node& root = *document.root();
+  if (shape_.files == Shape::Files::copies) return addCopy(document);
   if (shape_.files == Shape::Files::dictionaries) {
     root.setAttribute("dataDictFilename", "own.xml");
     document.nodes.push_back(instruction("file", std::string("own.xml ") + smallDictionary));
@@ -908,6 +909,19 @@ void Mutator::addFile(Document& document) {
   root.setAttribute("xmlns:xsi", xsiUri);
   root.setAttribute("xsi:schemaLocation", location);
   document.nodes.push_back(instruction("file", file + " " + ownSchema()));
+}
+
+// Takes the place of the copy that there is.
+void Mutator::addCopy(Document& document) {
+  document.nodes.erase(std::remove_if(document.nodes.begin(), document.nodes.end(),
+                                      [](const Node& node) {
+                                        return node.kind == Node::Kind::instruction &&
+                                               node.name == "file";
+                                      }),
+                       document.nodes.end());
+  Document copy;
+  copy.nodes = {*document.root()};
+  document.nodes.push_back(instruction("file", copyName + (" " + printTree(copy))));
 }
 
 // A schema that lets in what ours do not.

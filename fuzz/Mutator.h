@@ -19,10 +19,12 @@ struct Shape {
   // Documents carry an instruction <?edits ...?>, whose text drives what is done with the model.
   bool hasEdits = false;
   // Documents carry files of that kind that stand beside them, each an instruction
-  // <?file NAME CONTENT?>.
-  enum class Files { none, schemas, dictionaries };
+  // <?file NAME CONTENT?>: one called copyName for copies, which change by themselves.
+  enum class Files { none, schemas, dictionaries, copies };
   Files files = Files::none;
 };
+
+constexpr char copyName[] = "copy.xml";
 
 // Each target tells its own.
 extern const Shape shape;
@@ -93,6 +95,7 @@ class Mutator {
   void changeEdits(Document& document);
   void changeFiles(Document& document);
   void addFile(Document& document);
+  static void addCopy(Document& document);
   std::string ownSchema();
 
   Random& random_;

@@ -9,15 +9,17 @@
 #include <string>
 #include <string_view>
 
-#include "InputFiles.h"
 #include "Mutator.h"
 #include "Report.h"
+#include "ToolkitRequests.h"
 #include "XmlTree.h"
 #include "as/AgentServices.h"
 #include "as/toolkit/Toolkit.h"
 #include "support/ModelText.h"
 
 namespace toolkit = as::toolkit;
+using fuzz::reader;
+using fuzz::require;
 
 const fuzz::Shape fuzz::shape = {
     {as::namespaces::dd.uri, as::namespaces::ws.uri, as::namespaces::com.uri,
@@ -27,34 +29,11 @@ const fuzz::Shape fuzz::shape = {
 
 namespace {
 
-void require(bool condition) {
-  if (!condition) std::abort();
-}
-
-const toolkit::DocumentReader& reader() {
-  static const toolkit::DocumentReader made(fuzz::schemaDirectory());
-  return made;
-}
-
-// Runs `action`, which may refuse the document, or fail to write.
-template <class Action>
-bool unlessRefused(const Action& action) {
-  try {
-    action();
-    return true;
-  } catch (const toolkit::RefusedDocument& refused) {
-    require(!refused.refusal().text.empty());
-    return false;
-  } catch (const toolkit::FileError&) {
-    return false;
-  }
-}
-
 template <class Model>
 void render(Model& model) {
   std::ostringstream text;
   toolkit::renderText(text, model);
-  for (const char c : text.str()) require(c == '\n' || static_cast<unsigned char>(c) >= ' ');
+  fuzz::requirePlain(text.str());
   std::ostringstream json;
   toolkit::renderJson(json, model);
   require(nlohmann::json::accept(json.str()));
@@ -105,14 +84,14 @@ void lookAtDictionary(std::unique_ptr<as::IProgram> program, std::string_view in
 void convert(as::IService& service, const std::string& file, std::string_view input,
              const toolkit::Flavour& flavour) {
   toolkit::ServiceDocument withProgram;
-  unlessRefused([&] { withProgram = reader().readServiceWithProgram(file); });
+  fuzz::succeeds([&] { withProgram = reader().readServiceWithProgram(file); });
   as::IProgram* program = nullptr;
   if (withProgram.service) {
     look(*withProgram.service);
     program = withProgram.service->getProgram();
   }
   const std::string before = test::modelText(service);
-  unlessRefused([&] {
+  fuzz::succeeds([&] {
     const toolkit::ConvertedService converted =
         toolkit::convertService(reader(), service, file, flavour, program);
     require(&toolkit::flavourOf(*converted.service) == &flavour);
@@ -132,7 +111,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::size_t choice = std::hash<std::string_view>()(input);
   const toolkit::Flavour& flavour = toolkit::flavours()[choice % toolkit::flavours().size()];
   const bool toConvert = choice / toolkit::flavours().size() % 2 == 0;
-  unlessRefused([&] {
+  fuzz::succeeds([&] {
     toolkit::Document document = reader().read(file);
     require((document.dictionary == nullptr) != (document.service == nullptr));
     fuzz::countModel();
