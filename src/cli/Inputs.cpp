@@ -46,7 +46,11 @@ void tell(const Input& input, const WorkOutcome& outcome, const Inputs::Tellers&
     case Ending::done:
       return tellers.done(input, parcel);
     case Ending::refused: {
-      const Refusal refusal = parcel.refusal();
+      Refusal refusal = parcel.refusal();
+      std::error_code ignored;
+      if (refusal.hint.empty() && std::filesystem::is_directory(input.source.name, ignored)) {
+        refusal.hint = "search it with --recursive";
+      }
       if (input.isSearched && refusal.isOfAnotherKind) return tellers.passedOver();
       return tellers.refused(input, refusal);
     }
@@ -57,9 +61,13 @@ void tell(const Input& input, const WorkOutcome& outcome, const Inputs::Tellers&
 
 }  // namespace
 
-void Inputs::declare(Arguments& arguments, const char* name) {
+void Inputs::declareNames(Arguments& arguments, const char* name) {
   arguments.required(name, names_, "Files, folders with --recursive, - for standard input");
   arguments.flag("-r,--recursive", isRecursive_, "Search folders for documents *.xml");
+}
+
+void Inputs::declare(Arguments& arguments, const char* name) {
+  declareNames(arguments, name);
   arguments.option("--jobs", jobs_, "Work in so many processes; 1 unless told");
 }
 

@@ -22,7 +22,8 @@ struct Input {
 
 class Inputs {
  public:
-  // `name` is what help calls them.
+  // `name` is what help calls them. What is to be worked through takes a number of processes, too.
+  void declareNames(Arguments& arguments, const char* name);
   void declare(Arguments& arguments, const char* name);
 
   // Finds them, and tells what cannot be found. False when there was something like that; the

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace cli {
 
@@ -39,6 +40,22 @@ void Parcel::put(const as::toolkit::Refusal& refusal) {
   put(std::size_t{refusal.isOfAnotherKind ? 1U : 0U});
 }
 
+void Parcel::put(const as::toolkit::Diff& diff) {
+  put(std::size_t{diff.isOfServices ? 1U : 0U});
+  put(diff.changes.size());
+  for (const as::toolkit::Change& change : diff.changes) {
+    put(change.kind);
+    put(change.oldPlace);
+    put(change.newPlace);
+    put(change.oldValue);
+    put(change.newValue);
+    put(std::size_t{change.breaks ? 1U : 0U});
+    put(std::size_t{change.isAllowed ? 1U : 0U});
+    put(change.cause ? *change.cause + 1 : 0);
+    put(change.service);
+  }
+}
+
 std::size_t OpenedParcel::number() {
   std::size_t number = 0;
   if (bytes_.size() - at_ < sizeof number) return 0;
@@ -74,6 +91,26 @@ as::toolkit::Refusal OpenedParcel::refusal() {
   refusal.hint = text();
   refusal.isOfAnotherKind = number() != 0;
   return refusal;
+}
+
+as::toolkit::Diff OpenedParcel::diff() {
+  as::toolkit::Diff diff;
+  diff.isOfServices = number() != 0;
+  for (std::size_t left = number(); left > 0; --left) {
+    as::toolkit::Change change;
+    change.kind = text();
+    change.oldPlace = text();
+    change.newPlace = text();
+    change.oldValue = text();
+    change.newValue = text();
+    change.breaks = number() != 0;
+    change.isAllowed = number() != 0;
+    const std::size_t cause = number();
+    if (cause > 0) change.cause = cause - 1;
+    change.service = text();
+    diff.changes.push_back(std::move(change));
+  }
+  return diff;
 }
 
 }  // namespace cli

@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "as/toolkit/Diff.h"
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Finding.h"
 
@@ -17,6 +18,7 @@ class Parcel {
   void put(const std::string& text);
   void put(const as::toolkit::Finding& finding);
   void put(const as::toolkit::Refusal& refusal);
+  void put(const as::toolkit::Diff& diff);
 
   std::string take() { return std::move(bytes_); }
 
@@ -33,6 +35,7 @@ class OpenedParcel {
   std::string text();
   as::toolkit::Finding finding();
   as::toolkit::Refusal refusal();
+  as::toolkit::Diff diff();
 
  private:
   const std::string& bytes_;

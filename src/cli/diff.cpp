@@ -1,6 +1,11 @@
-// agentservices diff: tells what changed between two documents, and whether that breaks callers.
+// agentservices diff: tells what changed between two documents or folders of them, and whether that
+// breaks callers.
 #include "as/toolkit/Diff.h"
 
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -9,7 +14,10 @@
 #include "as/toolkit/Text.h"
 #include "cli/Command.h"
 #include "cli/Messages.h"
+#include "cli/Parcel.h"
+#include "cli/Progress.h"
 #include "cli/SchemaDirectory.h"
+#include "cli/Workers.h"
 
 namespace cli {
 
@@ -23,6 +31,18 @@ void printKinds() {
   }
 }
 
+// False, with a message, when it is about no kind of change.
+bool isRule(const std::string& rule) {
+  const std::string kind = rule.substr(0, rule.find(':'));
+  if (kind == "*" || toolkit::findChangeKind(kind) != nullptr) return true;
+  std::vector<std::string> ids;
+  for (const toolkit::ChangeKind& known : toolkit::changeKinds()) ids.emplace_back(known.id);
+  const std::string near = toolkit::nearestName(kind, ids);
+  printError("there is no kind of change '" + kind + "'; " +
+             (near.empty() ? "--kinds lists them" : "did you mean '" + near + "'?"));
+  return false;
+}
+
 class DiffCommand : public Command {
  public:
   DiffCommand() : Command("diff", "Tell what changed between two dictionaries or services") {}
@@ -32,12 +52,13 @@ class DiffCommand : public Command {
         {"diff old/MOTPREM.xml MOTPREM.xml", "what became of a program"},
         {"diff old.xml new.xml --service quotes.xml", "and which mappings of a service it touches"},
         {"diff old.xml new.xml --allow condition-added", "take what is meant for granted"},
+        {"diff --jobs 4 old new", "the documents of two folders, by their names"},
         {"diff --kinds", "which changes there are, and why they break callers"}};
   }
 
   void declare(Arguments& arguments) override {
-    arguments.required("OLD", old_, "A dictionary or a service");
-    arguments.required("NEW", new_, "Another one of the same kind");
+    arguments.required("OLD", old_, "A dictionary or a service, a folder of them, or -");
+    arguments.required("NEW", new_, "Another one of the same kind; a folder, if OLD is one");
     arguments.list("--service", services_, "FILE,...",
                    "Services for the program of OLD: what becomes of their mappings");
     arguments.list("--allow", rules_, "KIND[:PLACE],...",
@@ -45,6 +66,8 @@ class DiffCommand : public Command {
     arguments.list("--allow-file", ruleFiles_, "FILE,...",
                    "The same from files, one a line; # begins a remark");
     arguments.option("--format", format_, {"text", "json"}, "How to print; text unless told");
+    arguments.option("--jobs", jobs_, "Compare folders in so many processes; 1 unless told");
+    arguments.flag("-q,--quiet", isQuiet_, "Print nothing but what is wrong; the exit code tells");
     arguments.insteadOf({"OLD", "NEW"}, "--kinds", kinds_,
                         "Print the kinds of changes and why they break callers");
   }
@@ -66,19 +89,85 @@ class DiffCommand : public Command {
  private:
   int compare(const toolkit::DocumentReader& reader) {
     if (!readRules()) return exitUsage;
-    toolkit::Diff diff = toolkit::diffFiles(reader, old_, new_, services_);
-    for (const std::string& rule : rules_) {
-      if (toolkit::allow(diff, rule)) continue;
-      printError("there is no kind of change '" + rule.substr(0, rule.find(':')) +
-                 "'; --kinds lists them");
+    std::error_code ignored;
+    const bool isOldFolder = std::filesystem::is_directory(old_, ignored);
+    if (isOldFolder != std::filesystem::is_directory(new_, ignored)) {
+      printError("a folder is compared with a folder: " + (isOldFolder ? new_ : old_) + " is none");
       return exitUsage;
     }
-    if (format_ == "json") {
-      toolkit::renderJson(std::cout, diff);
-    } else {
-      toolkit::renderText(std::cout, diff);
+    if (isOldFolder) return compareFolders(reader);
+    if (old_ == "-" && new_ == "-") {
+      printError("standard input gives one document: name OLD or NEW");
+      return exitUsage;
     }
+    toolkit::Diff diff = toolkit::diffDocuments(reader, sourceOf(old_), sourceOf(new_), services_);
+    accept(diff);
+    print(diff);
     return toolkit::breaksCallers(diff) ? exitRefused : exitFine;
+  }
+
+  // Of one or of many.
+  template <class Result>
+  void print(const Result& result) const {
+    if (isQuiet_) return;
+    if (format_ == "json") {
+      toolkit::renderJson(std::cout, result);
+    } else {
+      toolkit::renderText(std::cout, result);
+    }
+  }
+
+  static toolkit::DocumentSource sourceOf(const std::string& name) {
+    return name == "-" ? toolkit::documentFrom(STDIN_FILENO, name) : toolkit::DocumentSource{name};
+  }
+
+  // Pairs that cannot be compared are told; the others are compared all the same.
+  int compareFolders(const toolkit::DocumentReader& reader) {
+    const std::vector<toolkit::DocumentPair> pairs = toolkit::pairsIn(old_, new_);
+    std::vector<toolkit::DocumentDiff> diffs;
+    bool isComplete = true;
+    const Progress progress(pairs.size(), isQuiet_);
+    workThrough(
+        pairs.size(), jobs_, [&](std::size_t i) { return comparePair(reader, pairs[i]); },
+        [&](std::size_t i, const WorkOutcome& outcome) {
+          progress.clear();
+          OpenedParcel parcel(outcome.results);
+          if (outcome.isFine) {
+            diffs.push_back({pairs[i].name, parcel.diff()});
+          } else {
+            isComplete = false;
+            printRefusal(
+                outcome.results.empty()
+                    ? toolkit::Refusal{pairs[i].name, 0, 0, "the work at it came to no end", ""}
+                    : parcel.refusal());
+          }
+          progress.show(i + 1);
+        });
+    print(diffs);
+    if (!isComplete) return exitUsage;
+    const bool breaks =
+        std::any_of(diffs.begin(), diffs.end(), [](const toolkit::DocumentDiff& document) {
+          return toolkit::breaksCallers(document.diff);
+        });
+    return breaks ? exitRefused : exitFine;
+  }
+
+  WorkOutcome comparePair(const toolkit::DocumentReader& reader,
+                          const toolkit::DocumentPair& pair) const {
+    Parcel parcel;
+    try {
+      toolkit::Diff diff = toolkit::diffPair(reader, pair, services_);
+      accept(diff);
+      parcel.put(diff);
+      return {true, "", parcel.take()};
+    } catch (const toolkit::RefusedDocument& refused) {
+      parcel.put(refused.refusal());
+      return {false, "", parcel.take()};
+    }
+  }
+
+  void accept(toolkit::Diff& diff) const {
+    for (const std::string& rule : rules_) toolkit::allow(diff, rule);
   }
 
   bool readRules() {
@@ -92,7 +181,7 @@ class DiffCommand : public Command {
       const std::vector<std::string> rules = toolkit::allowRulesIn(text);
       rules_.insert(rules_.end(), rules.begin(), rules.end());
     }
-    return true;
+    return std::all_of(rules_.begin(), rules_.end(), isRule);
   }
 
   std::string old_;
@@ -101,6 +190,8 @@ class DiffCommand : public Command {
   std::vector<std::string> rules_;
   std::vector<std::string> ruleFiles_;
   std::string format_ = "text";
+  std::size_t jobs_ = 1;
+  bool isQuiet_ = false;
   bool kinds_ = false;
 };
 

@@ -6,6 +6,7 @@
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Text.h"
 #include "cli/Command.h"
+#include "cli/Inputs.h"
 #include "cli/Messages.h"
 
 namespace cli {
@@ -17,13 +18,13 @@ class ReportCommand : public Command {
   ReportCommand() : Command("report", "Make a site for looking at dictionaries and services") {}
 
   std::vector<Example> examples() const override {
-    return {
-        {"report MOTPREM.xml quotes.xml -o site", "pages of a program and of its service"},
-        {"report dictionaries/*.xml --source sources -o site", "with the lines of the sources"}};
+    return {{"report MOTPREM.xml quotes.xml -o site", "pages of a program and of its service"},
+            {"report -r dictionaries --source sources -o site",
+             "of a folder, with the lines of the sources"}};
   }
 
   void declare(Arguments& arguments) override {
-    arguments.required("FILE", files_, "Dictionaries and services");
+    inputs_.declareNames(arguments, "FILE");
     arguments.requiredOption("-o,--output", output_,
                              "The folder of the site; open its index.html in a browser");
     arguments.list("--source", options_.sourceFolders, "DIR,...",
@@ -33,7 +34,10 @@ class ReportCommand : public Command {
   // A refused document is told; the others are shown all the same.
   int run(const std::optional<std::string>& schemas) override {
     return withReader(schemas, [this](const toolkit::DocumentReader& reader) {
-      const toolkit::Report report = toolkit::makeReport(reader, files_, options_);
+      const bool isFound = inputs_.find();
+      std::vector<toolkit::DocumentSource> sources;
+      for (const Input& input : inputs_.all()) sources.push_back(input.source);
+      const toolkit::Report report = toolkit::makeReport(reader, sources, options_);
       for (const toolkit::Refusal& refusal : report.refusals) printRefusal(refusal);
       if (report.programs + report.services == 0) return exitRefused;
       toolkit::writeReport(report, output_);
@@ -41,12 +45,12 @@ class ReportCommand : public Command {
                 << "/index.html: " << toolkit::count(report.programs, "program") << ", "
                 << toolkit::count(report.services, "service") << ", "
                 << toolkit::count(report.findings, "finding") << "\n";
-      return report.refusals.empty() ? exitFine : exitRefused;
+      return report.refusals.empty() && isFound ? exitFine : exitRefused;
     });
   }
 
  private:
-  std::vector<std::string> files_;
+  Inputs inputs_;
   std::string output_;
   toolkit::ReportOptions options_;
 };

@@ -67,6 +67,62 @@ TEST_F(ToolDiffTest, ARefusedDocumentIsNoAnswer) {
   EXPECT_THAT(outcome.err, StartsWith("none.xml: error: cannot be read"));
 }
 
+TEST_F(ToolDiffTest, ANearKindIsSuggested) {
+  const test::ToolOutcome outcome = run({"diff", "old.xml", "new.xml", "--allow", "picture-wide"});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_THAT(outcome.err, HasSubstr("did you mean 'picture-widened'?"));
+}
+
+TEST_F(ToolDiffTest, QuietLeavesTheAnswerToTheExitCode) {
+  const test::ToolOutcome outcome = run({"diff", "-q", "old.xml", "new.xml"});
+  EXPECT_THAT(outcome.out, IsEmpty());
+  EXPECT_EQ(outcome.exitCode, 1);
+}
+
+TEST_F(ToolDiffTest, FoldersAreTheSameInAnyNumberOfProcesses) {
+  for (const char* const folder : {"old", "new"}) {
+    std::filesystem::create_directory(pathOf(folder));
+    for (const char* const name : {"a.xml", "b.xml", "c.xml"}) {
+      write(std::string(folder) + "/" + name,
+            test::contentOf(pathOf(std::string(folder) + ".xml")));
+    }
+  }
+  const test::ToolOutcome one = run({"diff", "old", "new"});
+  EXPECT_THAT(one.out, HasSubstr("\n3 documents, 3 of them changed, 3 breaking callers\n"));
+  EXPECT_EQ(one.exitCode, 1);
+  const test::ToolOutcome two = run({"diff", "old", "new", "--jobs", "2"});
+  EXPECT_EQ(two.out, one.out);
+  EXPECT_EQ(two.exitCode, 1);
+  EXPECT_EQ(run({"diff", "old", "new", "--allow", "*"}).exitCode, 0);
+}
+
+TEST_F(ToolDiffTest, ARefusedDocumentOfAFolderLeavesTheOthers) {
+  for (const char* const folder : {"old", "new"}) {
+    std::filesystem::create_directory(pathOf(folder));
+    write(std::string(folder) + "/a.xml", test::contentOf(pathOf(std::string(folder) + ".xml")));
+    write(std::string(folder) + "/b.xml", "<broken");
+  }
+  const test::ToolOutcome outcome = run({"diff", "old", "new"});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_THAT(outcome.err, StartsWith("old/b.xml:"));
+  EXPECT_THAT(outcome.out, HasSubstr("1 document, 1 of them changed"));
+}
+
+TEST_F(ToolDiffTest, AFolderIsNotComparedWithAFile) {
+  std::filesystem::create_directory(pathOf("old"));
+  const test::ToolOutcome outcome = run({"diff", "old", "new.xml"});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_THAT(outcome.err, HasSubstr("new.xml is none"));
+}
+
+TEST_F(ToolDiffTest, StandardInputIsOneOfTheTwo) {
+  const test::StandardInput in(open(pathOf("old.xml").c_str(), O_RDONLY));
+  const test::ToolOutcome outcome = run({"diff", "-", "new.xml"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.out, HasSubstr("picture-widened"));
+  EXPECT_EQ(run({"diff", "-", "-"}).exitCode, 2);
+}
+
 TEST_F(ToolDiffTest, PrintsJson) {
   const test::ToolOutcome outcome = run({"diff", "old.xml", "new.xml", "--format", "json"});
   EXPECT_THAT(outcome.out, StartsWith("{\n  \"of\": \"dictionaries\",\n  \"breaks\": true,"));

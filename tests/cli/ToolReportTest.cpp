@@ -34,6 +34,15 @@ TEST_F(ToolReportTest, ShowsWhatIsGoodAndTellsWhatIsNot) {
   EXPECT_EQ(outcome.exitCode, 1);
 }
 
+TEST_F(ToolReportTest, FoldersAreSearched) {
+  std::filesystem::create_directories(directory() / "all" / "deep");
+  write("all/PAY.xml", test::payProgram());
+  write("all/deep/PAY.xml", test::payProgram());
+  const test::ToolOutcome outcome = run({"report", "--recursive", "all", "-o", "site"});
+  EXPECT_EQ(outcome.out, "site/index.html: 2 programs, 0 services, 0 findings\n");
+  EXPECT_EQ(outcome.exitCode, 0);
+}
+
 TEST_F(ToolReportTest, NothingGoodIsNoSite) {
   EXPECT_EQ(run({"report", "none.xml", "-o", "site"}).exitCode, 1);
   EXPECT_FALSE(std::filesystem::exists(directory() / "site"));

@@ -226,7 +226,9 @@ TEST_F(ToolTest, AMissingFileIsNamed) {
 TEST_F(ToolTest, ADirectoryIsNoDocument) {
   const test::ToolOutcome outcome = run({"validate", directory().string()});
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_EQ(outcome.err, directory().string() + ": error: is a directory, not a document\n");
+  EXPECT_EQ(outcome.err,
+            directory().string() +
+                ": error: is a directory, not a document\nhint: search it with --recursive\n");
 }
 
 // The schema directory

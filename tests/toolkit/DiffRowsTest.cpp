@@ -419,7 +419,9 @@ TEST(DiffRowTableTest, EveryKindHasARow) {
                                 "entry-point-lost",
                                 "entry-point-changed",
                                 "type-definition-added",
-                                "type-definition-removed"};
+                                "type-definition-removed",
+                                "document-added",
+                                "document-removed"};
   for (const DiffRow& row : rows) {
     std::istringstream lines(row.expected);
     for (std::string line; std::getline(lines, line);) {

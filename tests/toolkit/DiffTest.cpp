@@ -245,6 +245,97 @@ TEST_F(DiffTest, DocumentsOfTwoKindsAreRefused) {
 }
 
 // Many items of one name, many that moved: neither takes time beyond measure.
+TEST_F(DiffTest, ConditionsOfOneNameHaveTheirPartnersByTheirValues) {
+  const auto item = [](const std::string& last) {
+    return "01 R.\n05 A PIC X.\n88 C VALUE 'A'.\n88 C VALUE '" + last + "'.";
+  };
+  const toolkit::Diff diff = diffOf(item("B"), item("X"));
+  ASSERT_EQ(kindsOf(diff), std::vector<std::string>{"condition-values-changed"});
+  EXPECT_EQ(diff.changes[0].oldValue, "B");
+  EXPECT_EQ(diff.changes[0].newValue, "X");
+}
+
+// Of several that could be renamed, one is; which one does not depend on the direction.
+TEST_F(DiffTest, WhatWasRenamedIsTheSameInBothDirections) {
+  const std::string before =
+      dictionary("old.xml", "01 R.\n05 A PIC 9(4) COMP.\n05 B PIC 9(4) COMP.");
+  const std::string after =
+      dictionary("new.xml", "01 R.\n05 X PIC X(7).\n05 C PIC S9(4) COMP.\n05 D PIC X.");
+  for (const auto& [old, added] : {std::pair(before, after), std::pair(after, before)}) {
+    const toolkit::Diff diff = toolkit::diffFiles(reader(), old, added);
+    std::string renamed;
+    for (const toolkit::Change& change : diff.changes) {
+      if (change.kind != "item-renamed") continue;
+      renamed += old == before ? change.oldValue : change.newValue;
+      renamed += old == before ? change.newValue : change.oldValue;
+    }
+    EXPECT_EQ(renamed, "AC") << old;
+  }
+}
+
+TEST_F(DiffTest, DocumentsOfFoldersAreComparedByTheirNames) {
+  for (const char* const folder : {"old", "new", "new/deep"}) {
+    std::filesystem::create_directory(folder);
+  }
+  dictionary("old/gone.xml", "01 R PIC X.");
+  dictionary("old/kept.xml", "01 R PIC X.");
+  dictionary("new/kept.xml", "01 R PIC X(2).");
+  dictionary("new/deep/fresh.xml", "01 R PIC X.");
+  std::vector<toolkit::DocumentDiff> diffs;
+  for (const toolkit::DocumentPair& pair : toolkit::pairsIn("old", "new")) {
+    diffs.push_back({pair.name, toolkit::diffPair(reader(), pair)});
+  }
+  std::ostringstream out;
+  toolkit::renderText(out, diffs);
+  EXPECT_EQ(out.str(),
+            "deep/fresh.xml\n"
+            "          deep/fresh.xml: document added  [document-added]\n"
+            "\n1 change, 0 of them breaking callers\n\n"
+            "gone.xml\n"
+            "BREAKS    gone.xml: document removed  [document-removed]\n"
+            "\n1 change, 1 of them breaking callers\n\n"
+            "kept.xml\n"
+            "BREAKS    R: PICTURE widened from X to X(2)  [picture-widened]\n"
+            "            1 item becomes 1 byte longer\n"
+            "\n1 change, 1 of them breaking callers; 1 other follows\n\n"
+            "3 documents, 3 of them changed, 2 breaking callers\n");
+}
+
+// A service is for one program: mappings of others lead elsewhere.
+TEST_F(DiffTest, ServicesOfFoldersCountForTheirPrograms) {
+  const toolkit::DocumentPair pair = {"MOTPREM.xml", example("MOTPREM.xml"),
+                                      example("MOTPREM.xml")};
+  const toolkit::DocumentPair other = {"PAYSLIP.xml", example("PAYSLIP.xml"),
+                                       example("WHSLOTS.xml")};
+  const std::vector<std::string> services = {example("MOTPREM-java.xml")};
+  EXPECT_THAT(toolkit::diffPair(reader(), pair, services).changes, IsEmpty());
+  for (const toolkit::Change& change : toolkit::diffPair(reader(), other, services).changes) {
+    EXPECT_EQ(change.service, "") << change.kind;
+  }
+}
+
+TEST_F(DiffTest, JsonOfFoldersHoldsAllDocuments) {
+  const toolkit::Diff breaking = diffOf("01 R PIC X.", "01 R PIC X(2).");
+  std::ostringstream out;
+  toolkit::renderJson(out, std::vector<toolkit::DocumentDiff>{{"a.xml", {}}, {"b.xml", breaking}});
+  const nlohmann::json json = nlohmann::json::parse(out.str());
+  EXPECT_EQ(json["of"], "folders");
+  EXPECT_EQ(json["breaks"], true);
+  EXPECT_EQ(json["documents"][0]["name"], "a.xml");
+  EXPECT_EQ(json["documents"][0]["breaks"], false);
+  EXPECT_EQ(json["documents"][1]["changes"][0]["kind"], "picture-widened");
+}
+
+// Conditions of text are no part of the model: they come from the document, wherever that is.
+TEST_F(DiffTest, DocumentsNeedNotBeFiles) {
+  const std::string entries = "01 R PIC X.\n88 C VALUE ";
+  const std::string old = test::contentOf(dictionary("old.xml", entries + "'A'."));
+  const toolkit::Diff diff =
+      toolkit::diffDocuments(reader(), toolkit::DocumentSource{"-", old},
+                             toolkit::DocumentSource{dictionary("new.xml", entries + "'B'.")});
+  EXPECT_EQ(kindsOf(diff), std::vector<std::string>{"condition-values-changed"});
+}
+
 TEST_F(DiffTest, LargeDictionariesAreNoMatter) {
   const auto entries = [](const char* first) {
     std::string text = std::string("01 R. 05 ") + first + " PIC X(8).";

@@ -100,7 +100,7 @@ TEST_F(ReportTest, EveryDocumentIsInTheIndexAndHasItsData) {
   for (const nlohmann::json& document : index["documents"]) {
     const std::string id = document["id"];
     EXPECT_EQ(dataOf(report, id)["name"], document["name"]);
-    EXPECT_THAT(index["names"][id], Not(IsEmpty()));
+    EXPECT_THAT(dataOf(report, "names")[id], Not(IsEmpty()));
   }
 }
 
@@ -189,6 +189,27 @@ TEST_F(ReportTest, ALongNameIsCutInTheIndexOnly) {
   const toolkit::Report report = reportOf({"l.xml"});
   EXPECT_EQ(dataOf(report, "d1")["items"][0]["n"].get<std::string>().size(), name.size());
   EXPECT_LT(contentOf(report, "data/index.js").size(), 2000U);
+  EXPECT_LT(contentOf(report, "data/names.js").size(), 2000U);
+}
+
+// The first page waits for the index: what it takes is told of documents, not of their names.
+TEST_F(ReportTest, NamesAreNoPartOfTheIndex) {
+  std::string items;
+  for (int i = 0; i < 2000; ++i) {
+    items += "<alphanumeric name='N" + std::to_string(i) + "' offset='0' length='4'/>";
+  }
+  write("many.xml", test::dictionaryOf(items));
+  const toolkit::Report report = reportOf({"many.xml"});
+  EXPECT_GE(dataOf(report, "names")["d1"].size(), 2000U);
+  EXPECT_LT(contentOf(report, "data/index.js").size(), 1000U);
+}
+
+TEST_F(ReportTest, DocumentsNeedNotBeFiles) {
+  const std::string text = test::dictionaryOf("<alphanumeric name='N' offset='0' length='4'/>");
+  const toolkit::Report report =
+      toolkit::makeReport(reader(), std::vector<toolkit::DocumentSource>{{"-", text}});
+  EXPECT_THAT(report.refusals, IsEmpty());
+  EXPECT_EQ(dataOf(report, "d1")["items"][0]["n"], "N");
 }
 
 TEST_F(ReportTest, SourcesAreFoundBesideTheDictionary) {

@@ -32,7 +32,7 @@ AS_EXPORT const ChangeKind* findChangeKind(const std::string& id);
 
 // One change. All text is UTF-8 and may hold whatever the documents hold.
 struct Change {
-  std::string kind;
+  std::string kind;  // Its id; see changeKinds().
   // Where it is in the terms of the documents: "RECORD.GROUP.ITEM", "fd FILE", "entry point NAME",
   // "quote.serial", "type Address.street". Empty where there is no such place.
   std::string oldPlace;
@@ -50,8 +50,10 @@ struct Change {
   std::string service;  // The file of the service that it touches; empty for the documents' own.
 };
 
+// What changed between two documents.
 struct Diff {
   bool isOfServices = false;  // Or of dictionaries.
+  // In the order in which they were found, which is nearly that of the documents.
   std::vector<Change> changes;
 };
 
@@ -65,6 +67,33 @@ AS_EXPORT Diff diff(as::IService& before, as::IService& after);
 // RefusedDocument, also for two documents of different kinds.
 AS_EXPORT Diff diffFiles(const DocumentReader& reader, const std::string& before,
                          const std::string& after, const std::vector<std::string>& services = {});
+
+// The same of documents that need not be files.
+AS_EXPORT Diff diffDocuments(const DocumentReader& reader, const DocumentSource& before,
+                             const DocumentSource& after,
+                             const std::vector<std::string>& services = {});
+
+// Two documents to compare; the name of one that is not there is empty.
+struct DocumentPair {
+  std::string name;    // As seen from the folders.
+  std::string before;  // The old file,
+  std::string after;   // and the new one.
+};
+
+// The documents *.xml in two folders and those below, by their names, sorted. Throws
+// RefusedDocument for a folder that cannot be read.
+AS_EXPORT std::vector<DocumentPair> pairsIn(const std::string& before, const std::string& after);
+
+// What became of one of them; of `services`, those count whose program it is the dictionary of.
+// Throws RefusedDocument.
+AS_EXPORT Diff diffPair(const DocumentReader& reader, const DocumentPair& pair,
+                        const std::vector<std::string>& services = {});
+
+// What became of one document of many.
+struct DocumentDiff {
+  std::string name;  // That of the pair.
+  Diff diff;         // See diffPair().
+};
 
 // Accepts what `rule` says, "KIND" or "KIND:PLACE", with "*" for every kind; a place stands for
 // what is below it, too. What follows from an accepted change is accepted with it. False when there
@@ -84,9 +113,15 @@ AS_EXPORT std::string textOf(const Change& change);
 // it summed up below; then services; then a line that counts. Nothing but that for no change.
 AS_EXPORT void renderText(std::ostream& out, const Diff& diff);
 
+// The same of many: those with changes, with their names in front, then a line that counts.
+AS_EXPORT void renderText(std::ostream& out, const std::vector<DocumentDiff>& diffs);
+
 // For programs: all changes, one object each; "follows" is the index of the change that one follows
 // from, or null.
 AS_EXPORT void renderJson(std::ostream& out, const Diff& diff);
+
+// The same of many, those without changes too: "documents" holds an object for each, with its name.
+AS_EXPORT void renderJson(std::ostream& out, const std::vector<DocumentDiff>& diffs);
 
 }  // namespace as::toolkit
 

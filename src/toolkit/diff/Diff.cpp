@@ -31,11 +31,16 @@ Diff diff(as::IService& before, as::IService& after) {
 
 Diff diffFiles(const DocumentReader& reader, const std::string& before, const std::string& after,
                const std::vector<std::string>& services) {
+  return diffDocuments(reader, DocumentSource{before}, DocumentSource{after}, services);
+}
+
+Diff diffDocuments(const DocumentReader& reader, const DocumentSource& before,
+                   const DocumentSource& after, const std::vector<std::string>& services) {
   const Document old = reader.read(before);
   const Document added = reader.read(after);
   if ((old.dictionary == nullptr) != (added.dictionary == nullptr)) {
     const bool isDictionary = added.dictionary != nullptr;
-    throw RefusedDocument({after, 0, 0,
+    throw RefusedDocument({after.name, 0, 0,
                            std::string("is a ") + (isDictionary ? "dictionary" : "service") +
                                ", which cannot be compared with a " +
                                (isDictionary ? "service" : "dictionary"),
@@ -43,7 +48,7 @@ Diff diffFiles(const DocumentReader& reader, const std::string& before, const st
   }
   if (old.service) {
     if (!services.empty()) {
-      throw RefusedDocument({before, 0, 0, "is a service",
+      throw RefusedDocument({before.name, 0, 0, "is a service",
                              "name two dictionaries to learn what becomes of services"});
     }
     return diff(*old.service, *added.service);

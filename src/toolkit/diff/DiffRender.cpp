@@ -177,9 +177,25 @@ std::string textOf(const Change& change) {
 
 void renderText(std::ostream& out, const Diff& diff) { DiffPrinter(out, diff).print(); }
 
-void renderJson(std::ostream& out, const Diff& diff) {
-  JsonWriter writer(out);
-  writer.beginObject();
+void renderText(std::ostream& out, const std::vector<DocumentDiff>& diffs) {
+  std::size_t changed = 0;
+  std::size_t breaking = 0;
+  for (const DocumentDiff& document : diffs) {
+    if (document.diff.changes.empty()) continue;
+    ++changed;
+    if (breaksCallers(document.diff)) ++breaking;
+    out << printable(document.name) << "\n";
+    renderText(out, document.diff);
+    out << "\n";
+  }
+  out << count(diffs.size(), "document") << ", " << changed << " of them changed, " << breaking
+      << " breaking callers\n";
+}
+
+namespace {
+
+// Into an object that was begun.
+void writeDiff(JsonWriter& writer, const Diff& diff) {
   writer.member("of", diff.isOfServices ? "services" : "dictionaries");
   writer.member("breaks", breaksCallers(diff));
   writer.key("changes");
@@ -203,6 +219,34 @@ void renderJson(std::ostream& out, const Diff& diff) {
     const ChangeKind* const kind = findChangeKind(change.kind);
     writer.member("text", textOf(change));
     writer.member("why", kind == nullptr ? "" : kind->why);
+    writer.end();
+  }
+  writer.end();
+}
+
+}  // namespace
+
+void renderJson(std::ostream& out, const Diff& diff) {
+  JsonWriter writer(out);
+  writer.beginObject();
+  writeDiff(writer, diff);
+  writer.end();
+}
+
+void renderJson(std::ostream& out, const std::vector<DocumentDiff>& diffs) {
+  const bool breaks = std::any_of(diffs.begin(), diffs.end(), [](const DocumentDiff& document) {
+    return breaksCallers(document.diff);
+  });
+  JsonWriter writer(out);
+  writer.beginObject();
+  writer.member("of", "folders");
+  writer.member("breaks", breaks);
+  writer.key("documents");
+  writer.beginArray();
+  for (const DocumentDiff& document : diffs) {
+    writer.beginObject();
+    writer.member("name", document.name);
+    writeDiff(writer, document.diff);
     writer.end();
   }
   writer.end();

@@ -4,8 +4,8 @@
 #include <unordered_map>
 #include <utility>
 
+#include "toolkit/diff/ConditionMatch.h"
 #include "toolkit/diff/ItemTraits.h"
-#include "toolkit/diff/NameMatch.h"
 #include "toolkit/diff/Sequence.h"
 #include "toolkit/text/Phrases.h"
 
@@ -39,15 +39,6 @@ std::string valuesOf(const ConditionFacts& condition) {
   return text;
 }
 
-// The same for the same values in the same order, and for nothing else.
-std::string keyOf(const ConditionFacts& condition) {
-  std::string key;
-  for (const std::string& value : condition.values) {
-    key += std::to_string(value.size()) + " " + value;
-  }
-  return key;
-}
-
 // What happened to the values; null for nothing.
 const char* valuesKind(const std::vector<std::string>& before,
                        const std::vector<std::string>& after) {
@@ -62,23 +53,6 @@ const char* valuesKind(const std::vector<std::string>& before,
   return std::includes(olds.begin(), olds.end(), news.begin(), news.end())
              ? "condition-values-removed"
              : "condition-values-changed";
-}
-
-// Of conditions that have no partner yet, one of the same values is a renamed one.
-void joinRenamed(const std::vector<ConditionFacts>& olds, const std::vector<ConditionFacts>& news,
-                 std::vector<std::size_t>& partners) {
-  std::unordered_map<std::string, std::vector<std::size_t>> byValues;
-  const std::vector<std::size_t> left = withoutPartner(partners, news.size());
-  for (auto at = left.rbegin(); at != left.rend(); ++at) {
-    byValues[keyOf(news[*at])].push_back(*at);
-  }
-  for (std::size_t i = 0; i < olds.size(); ++i) {
-    if (partners[i] != noPartner) continue;
-    const auto alike = byValues.find(keyOf(olds[i]));
-    if (alike == byValues.end() || alike->second.empty()) continue;
-    partners[i] = alike->second.back();
-    alike->second.pop_back();
-  }
 }
 
 }  // namespace
@@ -332,32 +306,26 @@ void ItemComparison::compareRedefinition(ItemNumber old, ItemNumber added,
 }
 
 void ItemComparison::compareConditions(ItemNumber old, ItemNumber added) {
-  const std::vector<ConditionFacts>& olds = before_[old].conditions;
-  const std::vector<ConditionFacts>& news = after_[added].conditions;
-  if (olds.empty() && news.empty()) return;
   const std::string oldPath = before_.pathOf(old) + ".";
   const std::string newPath = after_.pathOf(added) + ".";
   const bool mayBreak = isSeen(old, added);
-  std::vector<std::size_t> partners = matchNamesOf(
-      olds, news,
-      [](const ConditionFacts& condition) -> const std::string& { return condition.name; });
-  joinRenamed(olds, news, partners);
-  for (std::size_t i = 0; i < olds.size(); ++i) {
-    const ConditionFacts& condition = olds[i];
-    const std::string place = oldPath + condition.name;
-    if (partners[i] == noPartner) {
-      changes_.add("condition-removed", {place, ""}, valuesOf(condition), "", mayBreak);
+  for (const auto& [before, after] :
+       matchConditions(before_[old].conditions, after_[added].conditions)) {
+    if (after == nullptr) {
+      changes_.add("condition-removed", {oldPath + before->name, ""}, valuesOf(*before), "",
+                   mayBreak);
       continue;
     }
-    const ConditionFacts& partner = news[partners[i]];
-    const ChangeList::Place places = {place, newPath + partner.name};
-    changes_.addIfDifferent("condition-renamed", places, condition.name, partner.name, mayBreak);
-    if (const char* const kind = valuesKind(condition.values, partner.values)) {
-      changes_.add(kind, places, valuesOf(condition), valuesOf(partner), mayBreak);
+    if (before == nullptr) {
+      changes_.add("condition-added", {"", newPath + after->name}, "", valuesOf(*after), mayBreak);
+      continue;
     }
-  }
-  for (const std::size_t i : withoutPartner(partners, news.size())) {
-    changes_.add("condition-added", {"", newPath + news[i].name}, "", valuesOf(news[i]), mayBreak);
+    const ChangeList::Place place = {oldPath + before->name, newPath + after->name};
+    if (before->name != after->name) {
+      changes_.add("condition-renamed", place, before->name, after->name, mayBreak);
+    } else if (const char* const kind = valuesKind(before->values, after->values)) {
+      changes_.add(kind, place, valuesOf(*before), valuesOf(*after), mayBreak);
+    }
   }
 }
 

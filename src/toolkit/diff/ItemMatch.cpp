@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <string_view>
+#include <tuple>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 #include "toolkit/diff/NameMatch.h"
 #include "toolkit/diff/Sequence.h"
@@ -55,15 +57,35 @@ void forEachBelow(const DictionaryFacts& facts, const std::vector<ItemNumber>& r
   }
 }
 
+// An order of all dictionaries that hold different items.
+bool comesBefore(const DictionaryFacts& left, const DictionaryFacts& right) {
+  const auto& lefts = left.items();
+  const auto& rights = right.items();
+  if (lefts.size() != rights.size()) return lefts.size() < rights.size();
+  const auto keyOf = [](const ItemFacts& item) {
+    return std::tie(item.name, item.parent, item.category, item.length, item.offset);
+  };
+  for (std::size_t i = 0; i < lefts.size(); ++i) {
+    if (keyOf(lefts[i]) != keyOf(rights[i])) return keyOf(lefts[i]) < keyOf(rights[i]);
+  }
+  return false;
+}
+
 }  // namespace
 
 ItemMatch::ItemMatch(const DictionaryFacts& before, const DictionaryFacts& after)
-    : before_(before),
-      after_(after),
-      newOf_(before.items().size(), noItem),
-      oldOf_(after.items().size(), noItem) {
+    : ItemMatch(before, after, comesBefore(after, before)) {}
+
+// Where several partners would do, the first is taken from the dictionary that is looked through:
+// it is always the same one of the two.
+ItemMatch::ItemMatch(const DictionaryFacts& before, const DictionaryFacts& after, bool isTurned)
+    : before_(isTurned ? after : before),
+      after_(isTurned ? before : after),
+      newOf_(before_.items().size(), noItem),
+      oldOf_(after_.items().size(), noItem) {
   matchSections();
   matchRegrouped();
+  if (isTurned) std::swap(newOf_, oldOf_);
 }
 
 void ItemMatch::join(ItemNumber old, ItemNumber added) {

@@ -10,8 +10,8 @@ namespace as::toolkit {
 
 // By names first: those of siblings, then those of records in all sections. Of what is left, items
 // of the same size and kind in the same place are renamed ones; then, within a record, items of a
-// name that only one old and one new item have, stand in another group. Grows with the number of
-// items.
+// name that only one old and one new item have, stand in another group. Who is whose partner does
+// not depend on which dictionary is the old one. Grows with the number of items.
 class ItemMatch {
  public:
   ItemMatch(const DictionaryFacts& before, const DictionaryFacts& after);
@@ -22,6 +22,8 @@ class ItemMatch {
 
  private:
   using Items = std::vector<ItemNumber>;
+
+  ItemMatch(const DictionaryFacts& before, const DictionaryFacts& after, bool isTurned);
 
   void join(ItemNumber old, ItemNumber added);
   void matchSections();

@@ -113,9 +113,9 @@ DictionaryFacts::DictionaryFacts(as::IProgram& program) : name_(program.getName(
   addEntryPoints(program);
 }
 
-DictionaryFacts::DictionaryFacts(as::IProgram& program, const std::string& file)
+DictionaryFacts::DictionaryFacts(as::IProgram& program, const DocumentSource& source)
     : DictionaryFacts(program) {
-  DocumentConditions conditions(file);
+  DocumentConditions conditions(source);
   if (conditions.itemCount() != items_.size()) return;
   for (ItemNumber i = 0; i < items_.size(); ++i) items_[i].conditions = conditions.takeOf(i);
 }

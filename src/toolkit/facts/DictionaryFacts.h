@@ -10,6 +10,7 @@
 
 #include "as/IDataItem.h"
 #include "as/IProgram.h"
+#include "as/toolkit/DocumentReader.h"
 
 namespace as::toolkit {
 
@@ -86,8 +87,8 @@ class DictionaryFacts {
  public:
   // Conditions are those that the model tells, ...
   explicit DictionaryFacts(as::IProgram& program);
-  // ... or all those of the document in `file`, which the program was read from.
-  DictionaryFacts(as::IProgram& program, const std::string& file);
+  // ... or all those of the document that the program was read from.
+  DictionaryFacts(as::IProgram& program, const DocumentSource& source);
 
   const std::string& name() const { return name_; }
   const std::vector<std::pair<std::string, std::string>>& properties() const { return properties_; }

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string_view>
 #include <xercesc/framework/LocalFileInputSource.hpp>
+#include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/sax2/Attributes.hpp>
 #include <xercesc/sax2/DefaultHandler.hpp>
 #include <xercesc/sax2/SAX2XMLReader.hpp>
@@ -88,7 +89,7 @@ class ConditionHandler : public xml::DefaultHandler {
 
 }  // namespace
 
-DocumentConditions::DocumentConditions(const std::string& file) {
+DocumentConditions::DocumentConditions(const DocumentSource& source) {
   ConditionHandler handler(conditions_);
   try {
     const std::unique_ptr<xml::SAX2XMLReader> reader(xml::XMLReaderFactory::createXMLReader());
@@ -103,7 +104,12 @@ DocumentConditions::DocumentConditions(const std::string& file) {
     reader->setContentHandler(&handler);
     reader->setErrorHandler(&handler);
     reader->setEntityResolver(&handler);
-    reader->parse(xml::LocalFileInputSource(wide(file).c_str()));
+    if (source.text) {
+      reader->parse(xml::MemBufInputSource(reinterpret_cast<const XMLByte*>(source.text->data()),
+                                           source.text->size(), "document"));
+    } else {
+      reader->parse(xml::LocalFileInputSource(wide(source.name).c_str()));
+    }
   } catch (const xml::XMLException&) {
     conditions_.clear();
   } catch (const xml::SAXException&) {

@@ -1,4 +1,5 @@
-// The condition names of a dictionary's file, those of text values too, which the model leaves out.
+// The condition names of a dictionary's document, those of text values too, which the model leaves
+// out.
 #ifndef TOOLKIT_FACTS_DOCUMENTCONDITIONS_H_
 #define TOOLKIT_FACTS_DOCUMENTCONDITIONS_H_
 
@@ -7,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "as/toolkit/DocumentReader.h"
 #include "toolkit/facts/DictionaryFacts.h"
 
 namespace as::toolkit {
@@ -15,7 +17,7 @@ namespace as::toolkit {
 // when the document has changed since.
 class DocumentConditions {
  public:
-  explicit DocumentConditions(const std::string& file);
+  explicit DocumentConditions(const DocumentSource& source);
 
   // How many data items the document has.
   std::size_t itemCount() const { return conditions_.size(); }

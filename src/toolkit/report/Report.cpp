@@ -26,30 +26,31 @@ class ReportMaker {
   ReportMaker(const DocumentReader& reader, const ReportOptions& options)
       : reader_(reader), options_(options) {}
 
-  Report make(const std::vector<std::string>& files) {
+  Report make(const std::vector<DocumentSource>& sources) {
     for (const SiteFile& file : embeddedSite()) {
       report_.files.push_back({std::string(file.name), std::string(file.content)});
     }
     std::stable_partition(report_.files.begin(), report_.files.end(),
                           [](const ReportFile& file) { return file.name == "index.html"; });
-    std::vector<std::pair<std::string, std::unique_ptr<as::IService>>> services;
-    for (const std::string& file : files) {
+    std::vector<std::pair<const DocumentSource*, std::unique_ptr<as::IService>>> services;
+    for (const DocumentSource& source : sources) {
       try {
-        Document document = reader_.read(file);
+        Document document = reader_.read(source);
         if (document.dictionary) {
-          addDictionary(*document.dictionary, file);
+          addDictionary(*document.dictionary, source);
         } else {
-          services.emplace_back(file, std::move(document.service));
+          services.emplace_back(&source, std::move(document.service));
         }
       } catch (const RefusedDocument& refused) {
         report_.refusals.push_back(refused.refusal());
       }
     }
-    for (const auto& [file, service] : services) addService(*service, file);
+    for (const auto& [source, service] : services) addService(*service, *source);
     ordered_json index;
     index["documents"] = std::move(documents_);
-    index["names"] = std::move(names_);
     report_.files.push_back({"data/index.js", scriptOf("index", index)});
+    // By themselves: they are many, and only a search needs them.
+    report_.files.push_back({"data/names.js", scriptOf("names", names_)});
     for (ReportFile& file : data_) report_.files.push_back(std::move(file));
     return std::move(report_);
   }
@@ -67,12 +68,13 @@ class ReportMaker {
     return failure ? file : path.string();
   }
 
-  const Dictionary& addDictionary(as::IProgram& program, const std::string& file) {
+  const Dictionary& addDictionary(as::IProgram& program, const DocumentSource& origin) {
+    const std::string& file = origin.name;
     const auto [at, isNew] = dictionaries_.try_emplace(keyOf(file));
     Dictionary& dictionary = at->second;
     if (!isNew) return dictionary;
     dictionary.id = "d" + std::to_string(++report_.programs);
-    dictionary.facts = std::make_unique<DictionaryFacts>(program, file);
+    dictionary.facts = std::make_unique<DictionaryFacts>(program, origin);
     dictionary.paths = std::make_unique<ItemPaths>(*dictionary.facts);
     const DictionaryFacts& facts = *dictionary.facts;
     const std::optional<ReportSource> source = sourceOf(facts, file);
@@ -119,14 +121,15 @@ class ReportMaker {
     return std::nullopt;
   }
 
-  void addService(as::IService& service, const std::string& file) {
+  void addService(as::IService& service, const DocumentSource& origin) {
+    const std::string& file = origin.name;
     const std::string id = "s" + std::to_string(++report_.services);
     const ServiceFacts facts(service);
     const Dictionary* dictionary = nullptr;
     if (!facts.dictionary.empty()) dictionary = findDictionary(besideFile(file, facts.dictionary));
     Findings findings;
     try {
-      findings = lintFile(reader_, file);
+      findings = lintDocument(reader_, origin);
     } catch (const RefusedDocument& refused) {
       report_.refusals.push_back(refused.refusal());
     }
@@ -157,7 +160,7 @@ class ReportMaker {
     const auto found = dictionaries_.find(keyOf(file));
     if (found != dictionaries_.end()) return &found->second;
     try {
-      return &addDictionary(*reader_.readDictionary(file), file);
+      return &addDictionary(*reader_.readDictionary(file), DocumentSource{file});
     } catch (const RefusedDocument&) {
       return nullptr;
     }
@@ -177,7 +180,14 @@ class ReportMaker {
 
 Report makeReport(const DocumentReader& reader, const std::vector<std::string>& files,
                   const ReportOptions& options) {
-  return ReportMaker(reader, options).make(files);
+  std::vector<DocumentSource> sources;
+  for (const std::string& file : files) sources.push_back({file});
+  return makeReport(reader, sources, options);
+}
+
+Report makeReport(const DocumentReader& reader, const std::vector<DocumentSource>& sources,
+                  const ReportOptions& options) {
+  return ReportMaker(reader, options).make(sources);
 }
 
 void writeReport(const Report& report, const std::string& folder) {

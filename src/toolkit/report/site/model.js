@@ -4,6 +4,7 @@
 
 const asReport = {
   waiting: new Map(),
+  loading: new Map(),
   known: new Map(),
 
   add(id, data) {
@@ -15,11 +16,14 @@ const asReport = {
 
   load(id) {
     if (this.known.has(id)) return Promise.resolve(this.known.get(id));
-    return new Promise((resolve, reject) => {
-      this.waiting.set(id, resolve);
-      document.head.append(
-        el("script", {src: "data/" + id + ".js", onerror: () => reject(new Error("data/" + id + ".js is missing"))}));
-    });
+    if (!this.loading.has(id)) {
+      this.loading.set(id, new Promise((resolve, reject) => {
+        this.waiting.set(id, resolve);
+        document.head.append(
+          el("script", {src: "data/" + id + ".js", onerror: () => reject(new Error("data/" + id + ".js is missing"))}));
+      }));
+    }
+    return this.loading.get(id);
   },
 
   get index() {

@@ -11,7 +11,7 @@ class Search {
     this.found = [];
     this.chosen = -1;
     input.addEventListener("input", () => this.search());
-    input.addEventListener("focus", () => this.search());
+    input.addEventListener("focus", () => this.prepare());
     input.addEventListener("blur", () => setTimeout(() => this.close(), 150));
     input.addEventListener("keydown", (event) => this.onKey(event));
     document.addEventListener("keydown", (event) => {
@@ -23,22 +23,26 @@ class Search {
     });
   }
 
-  // All names in lower case, once.
-  prepare() {
+  // All names in lower case, once: they are loaded when somebody begins to search.
+  async prepare() {
+    if (this.entries !== null) return this.search();
+    const names = await asReport.load("names");
+    if (this.entries !== null) return;
     this.entries = [];
     for (const {id, name: title, kind} of asReport.index.documents) {
-      for (const [sort, place, name, around] of asReport.index.names[id]) {
+      for (const [sort, place, name, around] of names[id]) {
         const href = kind === "program" ? (sort === "item" || sort === "condition" ? "#/" + id + "/" + place : "#/" + id)
           : sort === "service" ? "#/" + id : "#/" + id + "/" + place;
         this.entries.push({sort, name, low: name.toLowerCase(), href, around: [title, around].filter(Boolean).join(" \u203a ")});
       }
     }
+    this.search();
   }
 
   search() {
     const text = this.input.value.trim().toLowerCase();
     if (text === "") return this.close();
-    if (this.entries === null) this.prepare();
+    if (this.entries === null) return this.prepare();
     // What begins so comes before what only holds it.
     const ranks = [[], [], []];
     for (const entry of this.entries) {
