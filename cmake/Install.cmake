@@ -5,7 +5,8 @@
 #   Schemas        the schemas of the documents, which all others read at run time
 #   Tool           the command agentservices
 #   Development    headers, the names that linkers look for, CMake's and pkg-config's descriptions
-#   Documentation  the guide and the reference, where ./run docs has built them
+#   Documentation  the guide, the reference and the examples, where ./run docs has built the site and
+#                  AS_DOCS tells its folder
 include(CMakePackageConfigHelpers)
 
 set(AS_CMAKE_INSTALL_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/AgentServices)
@@ -25,6 +26,13 @@ install(TARGETS agentservices-tool EXPORT AgentServicesToolTargets RUNTIME COMPO
 install(DIRECTORY schema/ DESTINATION ${AS_SCHEMA_INSTALL_DIR} COMPONENT Schemas
         FILES_MATCHING PATTERN "*.xsd")
 install(DIRECTORY include/as DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development)
+
+set(AS_DOCS "" CACHE PATH "The folder of the site of documents, to install it")
+if(AS_DOCS)
+  set(documents ${CMAKE_INSTALL_DATADIR}/doc/libagentservices-doc)
+  install(DIRECTORY ${AS_DOCS}/ DESTINATION ${documents}/html COMPONENT Documentation)
+  install(DIRECTORY examples DESTINATION ${documents} COMPONENT Documentation)
+endif()
 
 # The tool's manual pages and completions: it makes them itself. (What is counted is what tests run.)
 if(NOT AS_COVERAGE)

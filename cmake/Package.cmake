@@ -105,6 +105,15 @@ This package holds what is needed to write programs that use the libraries.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${libagentservicestoolkit} (= ${version}), \
 ${libagentservices} (= ${version}), agentservices-schemas (= ${version})")
 
+as_package(Documentation libagentservices-doc all doc
+    "object model over documents about COBOL programs (documentation)" "${about}
+.
+This package holds the guide, the reference of the libraries, and examples.")
+install(FILES packaging/libagentservices-doc DESTINATION ${CMAKE_INSTALL_DATADIR}/doc-base
+        COMPONENT Documentation)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "libagentservices-doc (= ${version})")
+set(CPACK_DEBIAN_TOOL_PACKAGE_SUGGESTS "libagentservices-doc (= ${version})")
+
 # The first lines of the descriptions above are their summaries.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 include(CPack)

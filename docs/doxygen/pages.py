@@ -7,7 +7,8 @@ import sys
 
 PAGES = {"index.md", "five-minutes.md", "commands.md", "model.md", "dictionary.md", "services.md",
          "lifetime.md", "errors.md", "safety.md", "formats.md", "lint.md", "import.md", "design.md",
-         "tool.md", "diff.md", "report.md", "generate.md",
+         "tool.md", "diff.md", "report.md", "generate.md", "generate-csharp.md",
+         "generate-idl.md", "generate-java.md", "generate-markdown.md",
          "CONTRIBUTING.md", "SECURITY.md"}
 
 

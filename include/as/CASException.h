@@ -11,7 +11,10 @@ namespace as {
 // A plain value. It derives from nothing, the standard exceptions included: catch it by this type.
 class AS_EXPORT CASException {
  public:
+  // Of that text, in UTF-8.
   explicit CASException(std::string text);
+
+  // A copy has a text of its own.
   CASException(const CASException& other);
   CASException& operator=(const CASException& other);
   ~CASException();

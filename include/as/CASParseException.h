@@ -11,8 +11,11 @@ namespace as {
 // A plain value. It derives from nothing, the standard exceptions included: catch it by this type.
 class AS_EXPORT CASParseException {
  public:
+  // Of what the operations below answer.
   CASParseException(int errorCode, int lineNum, int colNum, std::string errorText,
                     std::string publicId, std::string systemId);
+
+  // A copy has texts of its own.
   CASParseException(const CASParseException& other);
   CASParseException& operator=(const CASParseException& other);
   ~CASParseException();

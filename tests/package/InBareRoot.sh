@@ -50,6 +50,11 @@ case $(ldd ./by-pkg-config) in
 esac
 echo "pkg-config: clients of the library and of the toolkit"
 
+documents=/usr/share/doc/libagentservices-doc
+grep -q AgentServices "$documents/html/index.html"
+agentservices validate "$documents"/examples/*.xml > /dev/null
+echo "the guide and the examples are where they are looked for"
+
 cat > CMakeLists.txt <<'TEXT'
 cmake_minimum_required(VERSION 3.25)
 project(Client LANGUAGES CXX)

@@ -26,6 +26,7 @@ class AS_EXPORT Baseline {
   // Adds what `file` holds. Throws RefusedDocument when that cannot be read or is no baseline.
   void read();
 
+  // Once more, when it is there already.
   void add(const std::string& document, const Finding& finding);
 
   // Whether it holds the finding; once for each time that it was added.

@@ -14,6 +14,7 @@
 
 namespace as::toolkit {
 
+// What became of a service that was converted.
 struct ConvertedService {
   std::unique_ptr<as::IService> service;  // Without a program.
   const Flavour* from = nullptr;          // What it was; never null.

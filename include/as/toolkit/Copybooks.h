@@ -11,6 +11,7 @@
 
 namespace as::toolkit {
 
+// A text for COPY.
 struct Copybook {
   std::string name;  // What messages call it, in UTF-8; one text has one name.
   std::string text;  // Its bytes as they are stored, in any encoding that sources may have.
@@ -20,6 +21,8 @@ struct Copybook {
 class AS_EXPORT CopybookError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
+
+  // A copy says the same.
   CopybookError(const CopybookError& other);
   CopybookError& operator=(const CopybookError& other);
   ~CopybookError() override;
@@ -47,6 +50,7 @@ class AS_EXPORT CopybookProvider {
 // are files that are not to be read. Threads may share one.
 class AS_EXPORT FolderCopybooks : public CopybookProvider {
  public:
+  // None of the folders has to be there.
   FolderCopybooks(std::vector<std::string> folders, const std::string& source);
   ~FolderCopybooks() override;
 

@@ -19,8 +19,8 @@ namespace as::toolkit {
 struct Refusal {
   std::string file;  // As the caller named it; or the schema file that the problem is in.
   int line = 0;      // Counted from 1; 0 when the problem has no place in the file.
-  int column = 0;
-  std::string text;
+  int column = 0;    // Likewise, in characters.
+  std::string text;  // Why, without a full stop.
   std::string hint;  // What to do about it; may be empty.
   // Whether it is a document of another kind than was asked for: there may be nothing wrong with
   // it.
@@ -34,11 +34,15 @@ AS_EXPORT std::string textOf(const Refusal& refusal);
 // what() is textOf() of the refusal.
 class AS_EXPORT RefusedDocument : public std::runtime_error {
  public:
+  // For that reason.
   explicit RefusedDocument(Refusal refusal);
+
+  // A copy says the same.
   RefusedDocument(const RefusedDocument& other);
   RefusedDocument& operator=(const RefusedDocument& other);
   ~RefusedDocument() override;
 
+  // Why, in its parts.
   const Refusal& refusal() const noexcept { return refusal_; }
 
  private:
@@ -48,8 +52,8 @@ class AS_EXPORT RefusedDocument : public std::runtime_error {
 // Where a document is read from: the file `name`, or else `text`, its bytes, which messages call
 // so.
 struct DocumentSource {
-  std::string name;
-  std::optional<std::string> text{};
+  std::string name;                   // What messages call it.
+  std::optional<std::string> text{};  // In any encoding that a document may have.
 };
 
 // What a stream of bytes from the descriptor holds to its end, called `name`: standard input, a
@@ -58,8 +62,8 @@ AS_EXPORT DocumentSource documentFrom(int descriptor, const std::string& name);
 
 // A document of either kind: exactly one of the two is set.
 struct Document {
-  std::unique_ptr<as::IProgram> dictionary;
-  std::unique_ptr<as::IService> service;
+  std::unique_ptr<as::IProgram> dictionary;  // Null for a service.
+  std::unique_ptr<as::IService> service;     // Without its program; null for a dictionary.
 };
 
 // A service with its program, and what its document says of that. Attaching a program writes the

@@ -16,6 +16,8 @@ namespace as::toolkit {
 class AS_EXPORT FileError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
+
+  // A copy says the same.
   FileError(const FileError& other);
   FileError& operator=(const FileError& other);
   ~FileError() override;
@@ -27,9 +29,10 @@ class AS_EXPORT FileError : public std::runtime_error {
 // written to as it is. Throws FileError.
 AS_EXPORT void replaceFile(const std::string& file, const std::string& content);
 
+// What a file is to hold.
 struct FileContent {
-  std::string file;
-  std::string content;
+  std::string file;     // Its name.
+  std::string content;  // Its bytes.
 };
 
 // The same for several files: all of them get what they are to hold or, when one of them cannot,
@@ -41,6 +44,7 @@ AS_EXPORT std::vector<std::string> replaceFiles(const std::vector<FileContent>& 
 // nest too deep, a name holds control characters), and FileError.
 AS_EXPORT void writeService(as::IService& service, const std::string& file);
 
+// What a search came to.
 struct FoundFiles {
   std::vector<std::string> files;  // As seen from the folder, sorted.
   std::vector<Refusal> refusals;   // The folders that could not be read, sorted.

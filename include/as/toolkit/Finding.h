@@ -10,6 +10,7 @@
 
 namespace as::toolkit {
 
+// How bad something is.
 enum class Severity {
   error,    // The document does not do what it says.
   warning,  // It does, but hardly what its author means.

@@ -16,8 +16,8 @@ namespace as::toolkit {
 
 // A rule as reports describe it: its findings carry the id.
 struct RuleDescription {
-  std::string id;
-  Severity severity = Severity::error;
+  std::string id;                       // "lost-data-item"
+  Severity severity = Severity::error;  // That of its findings, unless the user wants another.
   std::string summary;  // One line: what the rule wants ("a mapping leads to a data item").
   std::string help;     // Whatever else is to be known; may be empty.
 };
@@ -25,7 +25,7 @@ struct RuleDescription {
 // A finding with the file that it is about.
 struct FileFinding {
   std::string file;  // As the user named it.
-  Finding finding;
+  Finding finding;   // With its place in that file.
   // Places that have to do with it: where the copybook was copied that it stands in.
   std::vector<SourceLocation> copiedAt{};
 };
@@ -47,6 +47,7 @@ class AS_EXPORT FindingsWriter {
   FindingsWriter(const FindingsWriter&) = delete;
   FindingsWriter& operator=(const FindingsWriter&) = delete;
 
+  // Writes one; reports keep their order.
   virtual void add(const FileFinding& finding) = 0;
 
   // Completes what was written; to be called once, behind the last finding.
@@ -57,6 +58,7 @@ class AS_EXPORT FindingsWriter {
 struct FindingsFormat {
   const char* word;     // As in --format: "sarif".
   const char* summary;  // One line.
+  // A writer of it; never null.
   std::unique_ptr<FindingsWriter> (*makeWriter)(std::ostream& out, const FindingsOptions& options);
 };
 

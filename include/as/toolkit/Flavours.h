@@ -15,8 +15,8 @@ namespace as::toolkit {
 struct Flavour {
   const char* word;  // The word of attribute "implementation", which names the flavour: "java".
   const char* name;  // As it is called in texts: "Java".
-  as::IService::TYPE implementation;
-  as::Namespace documents;  // The namespace of its documents.
+  as::IService::TYPE implementation;  // What services of it answer.
+  as::Namespace documents;            // The namespace of its documents.
 };
 
 // All of them, sorted by their words.

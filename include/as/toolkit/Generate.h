@@ -18,19 +18,19 @@ namespace as::toolkit {
 
 // Something that a kind lets its user choose. Text of static duration.
 struct GeneratorOption {
-  const char* name;    // "schema"
-  const char* values;  // The words it takes, with "|" between, the first of them unless told;
-                       // empty for any text.
-  const char* summary;
+  const char* name;     // "schema"
+  const char* values;   // The words it takes, with "|" between, the first of them unless told;
+                        // empty for any text.
+  const char* summary;  // What it is for.
 };
 
 // A kind of output. Text of static duration.
 struct GeneratorKind {
-  const char* word;                   // Names it: "xsd".
-  const char* summary;                // What it makes.
-  std::vector<const char*> flavours;  // The words of the flavours of services it takes.
-  bool takesDictionaries = false;     // Whether it also makes something of a record.
-  std::vector<GeneratorOption> options;
+  const char* word;                      // Names it: "xsd".
+  const char* summary;                   // What it makes.
+  std::vector<const char*> flavours;     // The words of the flavours of services it takes.
+  bool takesDictionaries = false;        // Whether it also makes something of a record.
+  std::vector<GeneratorOption> options;  // Of its own.
 };
 
 // All of them, in the order in which they are documented; words are unique.
@@ -48,10 +48,11 @@ using ChosenNames = std::map<std::string, std::string, std::less<>>;
 // Throws RefusedDocument, which calls the text `file`.
 AS_EXPORT ChosenNames readChosenNames(const std::string& text, const std::string& file);
 
+// What is to be made, and what things are to be called in it.
 struct GenerateOptions {
   // Values of the kind's options by their names.
   std::map<std::string, std::string, std::less<>> values;
-  ChosenNames names;
+  ChosenNames names;  // Empty for those that the rule of the language makes.
   // What the output calls the document that it was made of; empty for the service's or program's
   // name.
   std::string source;
@@ -59,11 +60,13 @@ struct GenerateOptions {
   std::string record;
 };
 
+// A file of the output.
 struct GeneratedFile {
   std::string name;     // Without a folder.
   std::string content;  // Its bytes.
 };
 
+// What was made.
 struct Generated {
   // None when there are errors among the findings.
   std::vector<GeneratedFile> files;
@@ -86,10 +89,11 @@ AS_EXPORT Generated generate(const GeneratorKind& kind, as::IProgram& program,
 // Empty when nothing is.
 AS_EXPORT std::string wrongOption(const GeneratorKind& kind, const GenerateOptions& options);
 
+// What was made and written.
 struct GeneratedOutput {
   std::vector<std::string> files;    // All of the output, by their whole names.
   std::vector<std::string> written;  // Those of them that were not there, or held something else.
-  Findings findings;
+  Findings findings;                 // As in Generated.
 };
 
 // The same from a file, a service (with the program of `dictionary`, or else of the one it names)

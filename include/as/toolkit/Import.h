@@ -39,15 +39,17 @@ AS_EXPORT std::size_t countOf(const ImportFindings& findings, Severity severity)
 
 // A rule of import. Text of static duration.
 struct ImportRule {
-  const char* id;
-  Severity severity;
-  const char* summary;
+  const char* id;       // What findings carry.
+  Severity severity;    // That of its findings.
+  const char* summary;  // One line: what is the matter.
 };
 
 // All rules, those of reading a source first; ids are unique.
 AS_EXPORT const std::vector<ImportRule>& importRules();
 
+// How a source is read.
 struct ImportOptions {
+  // How its lines are laid out.
   SourceFormat format = SourceFormat::recognised;
 
   // The code page of source and copybooks: a name that iconv knows, or empty: recognised.
@@ -67,6 +69,7 @@ struct ImportOptions {
 
 class ImportDetails;
 
+// A program of a source.
 struct ImportedProgram {
   std::string name;  // The PROGRAM-ID.
   // The text of the dictionary, valid for its schema; empty when errors were found in the program:
@@ -76,12 +79,15 @@ struct ImportedProgram {
   // For explainItem().
   std::shared_ptr<const ImportDetails> details;
 
+  // Whether errors were found in it, so that there is no dictionary.
   bool isRefused() const { return dictionary.empty(); }
 };
 
+// What a source came to.
 struct Imported {
   // In the order in which they begin, contained ones too.
   std::vector<ImportedProgram> programs;
+  // Those of all programs.
   ImportFindings findings;
 };
 
@@ -96,8 +102,9 @@ AS_EXPORT Imported importCobol(std::string source, const std::string& name,
                                CopybookProvider* copybooks = nullptr,
                                const ImportOptions& options = {});
 
+// The same, with what was written of it.
 struct ImportedFile {
-  Imported imported;
+  Imported imported;                 // What the source came to.
   std::vector<std::string> written;  // The names of the dictionaries' files.
 };
 
@@ -120,14 +127,15 @@ AS_EXPORT std::vector<std::string> cobolSourcesIn(const std::string& folder);
 
 // How the size and the place of an item came about.
 struct ItemExplanation {
+  // One of the reasons.
   struct Step {
     SourceLocation location;  // Of the entry that is the reason.
     std::string text;         // "PICTURE S9(5)V99: 7 digits, 2 of them behind the point"
   };
-  std::string item;  // Its name, dotted from the record down.
-  int offset = 0;
-  int length = 0;
-  std::vector<Step> steps;
+  std::string item;         // Its name, dotted from the record down.
+  int offset = 0;           // Of its first byte in the record.
+  int length = 0;           // Its bytes; of a table's item, those of one element.
+  std::vector<Step> steps;  // In the order in which they count.
 };
 
 // Those of all items of that name: "COUNT", or as much of "RECORD.GROUP.COUNT" as tells which one,

@@ -47,9 +47,11 @@ AS_EXPORT const RuleSetting* findRuleSetting(std::string_view word);
 // By the ids of rules; those that are not named are as they are.
 using RuleSettings = std::map<std::string, RuleSetting, std::less<>>;
 
+// How services are looked at.
 struct LintOptions {
   // The dictionary to use in place of the one that the service names.
   std::optional<std::string> dictionary;
+  // What is to become of findings; empty for what the rules say.
   RuleSettings rules;
 };
 

@@ -15,16 +15,18 @@
 
 namespace as::toolkit {
 
+// What a new service is to have.
 struct MakeOptions {
   std::string name;                      // Of the service; empty for that of the program.
   std::vector<std::string> entryPoints;  // The ones to make operations of; empty for all.
 };
 
+// A new service, and what there is to tell of it.
 struct MadeService {
   std::unique_ptr<as::IService> service;  // Owns the program.
-  int operations = 0;
-  int mappings = 0;
-  Findings notes;  // What was left out, or needs a word.
+  int operations = 0;                     // How many it has.
+  int mappings = 0;                       // How many it has.
+  Findings notes;                         // What was left out, or needs a word.
 };
 
 // A new service of that flavour for `program`, which the service owns from then on: an operation

@@ -9,7 +9,9 @@
 
 namespace as::toolkit {
 
+// What a PICTURE says.
 struct Picture {
+  // What an item of it holds.
   enum class Category {
     alphabetic,          // A(5)
     alphanumeric,        // X(5), also mixed with A and 9
@@ -24,7 +26,7 @@ struct Picture {
     utf8,                // U(5)
   };
 
-  Category category = Category::alphanumeric;
+  Category category = Category::alphanumeric;  // Told from its symbols.
   // How many character positions it describes: V, P and the S of an operational sign are none, CR
   // and DB are two.
   int characters = 0;

@@ -4,6 +4,7 @@
 
 namespace as::toolkit {
 
+// Where in its lines a source has code.
 enum class SourceFormat {
   recognised,  // Told from the text, for each file by itself.
   fixed,       // Code in columns 8 to 72, an indicator in column 7.

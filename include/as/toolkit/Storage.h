@@ -84,21 +84,21 @@ enum class GroupSync {
 
 // How compilers of a family lay items out. All text is of static duration.
 struct Dialect {
-  const char* word;      // Names it: "ibm".
-  const char* summary;   // Which compilers and platforms that is.
-  BinarySizes comp;      // COMP, COMP-4 and BINARY.
-  BinarySizes comp5;     // COMP-5.
-  int index;             // Bytes of an index data item,
-  int pointer;           // of pointers to data,
-  int procedurePointer;  // to programs,
-  int functionPointer;   // to functions, and
-  int objectReference;   // of references to objects.
-  int binaryBoundary;    // The greatest multiple that SYNCHRONIZED lets binary items start on,
-  int nativeBoundary;    // items of usage COMP-X and COMP-N,
-  int floatingBoundary;  // floating-point items, and
-  int addressBoundary;   // index items, pointers and references to objects.
-  SlackPlace slackPlace;
-  GroupSync groupSync;
+  const char* word;       // Names it: "ibm".
+  const char* summary;    // Which compilers and platforms that is.
+  BinarySizes comp;       // COMP, COMP-4 and BINARY.
+  BinarySizes comp5;      // COMP-5.
+  int index;              // Bytes of an index data item,
+  int pointer;            // of pointers to data,
+  int procedurePointer;   // to programs,
+  int functionPointer;    // to functions, and
+  int objectReference;    // of references to objects.
+  int binaryBoundary;     // The greatest multiple that SYNCHRONIZED lets binary items start on,
+  int nativeBoundary;     // items of usage COMP-X and COMP-N,
+  int floatingBoundary;   // floating-point items, and
+  int addressBoundary;    // index items, pointers and references to objects.
+  SlackPlace slackPlace;  // Where the bytes between items go.
+  GroupSync groupSync;    // What SYNCHRONIZED at a group means.
 };
 
 // All of them, in the order in which they are documented; words are unique.
