@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 #include <iostream>
+#include <iterator>
 #include <string>
 
 #include "cli/CommandTable.h"
@@ -65,8 +66,9 @@ void bashValues(const std::string& command, const std::vector<Argument>& argumen
   for (const Argument& argument : arguments) {
     if (!argument.isOption() || argument.value.empty()) continue;
     std::vector<std::string> cases;
-    for (const std::string& name : namesOf(argument))
-      cases.push_back('"' + command + ' ' + name + '"');
+    for (const std::string& name : namesOf(argument)) {
+      cases.push_back(std::string("\"").append(command).append(" ").append(name).append("\""));
+    }
     std::cout << "    " << joined(cases, "|") << ") words=" << quoted(joined(argument.words, " "))
               << "; isValue=1 ;;\n";
   }
@@ -204,6 +206,7 @@ class Completion : public Command {
 
   void declare(Arguments& arguments) override {
     std::vector<std::string> names;
+    names.reserve(std::size(shells));
     for (const Shell& shell : shells) names.emplace_back(shell.name);
     arguments.required("SHELL", shell_, names, "The shell");
   }

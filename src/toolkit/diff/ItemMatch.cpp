@@ -133,8 +133,11 @@ void ItemMatch::matchNames(const Items& old, const Items& added) {
     waiting.pop_back();
     // The items of a name that are still to be found, from the last to the first.
     std::unordered_map<std::string_view, Items> known;
-    for (auto at = news->rbegin(); at != news->rend(); ++at) {
-      if (oldOf_[*at] == noItem && !after_[*at].isUnnamed()) known[after_[*at].name].push_back(*at);
+    for (std::size_t i = news->size(); i-- > 0;) {
+      const ItemNumber number = (*news)[i];
+      if (oldOf_[number] == noItem && !after_[number].isUnnamed()) {
+        known[after_[number].name].push_back(number);
+      }
     }
     for (const ItemNumber number : *olds) {
       if (newOf_[number] != noItem) continue;
@@ -210,7 +213,7 @@ bool ItemMatch::isRenamed(const ItemFacts& old, const ItemFacts& added) const {
     const bool isPlaced = i < added.children.size() &&
                           after_[added.children[i]].category == child.category &&
                           after_[added.children[i]].length == child.length;
-    if (isPlaced || names.count(child.name) > 0) ++same;
+    if (isPlaced || names.contains(child.name)) ++same;
   }
   return 2 * same >= std::max(old.children.size(), added.children.size());
 }
