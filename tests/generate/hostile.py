@@ -2,6 +2,7 @@
 
 from pathlib import Path
 from typing import Iterator, Tuple
+from urllib.parse import quote
 from xml.sax.saxutils import quoteattr
 
 NAMES = {
@@ -19,8 +20,9 @@ NAMES = {
     'format': '%s%n${x}#{y}$(z)',
     'long': 'n' * 1_000_000,
 }
+# zeep writes no message with a value called self: only one service has such.
 RESERVED = ['class', 'int', 'NULL', 'xml', 'value', '_value_1', 'item', 'constructor', '__proto__',
-            'toString', 'self', 'None', 'end', 'interface', 'namespace', 'schema', 'type', 'default']
+            'toString', 'None', 'end', 'interface', 'namespace', 'schema', 'type', 'default']
 
 URI = 'http://agentservices.example/schema/{0}/v{1}/vor{0}.xsd'
 VERSIONS = {'ws': '1.0', 'com': '1.0', 'dotnet': '1.0', 'java': '2.0'}
@@ -44,7 +46,7 @@ def service(flavour: str, name: str, others) -> str:
 
     def operation(of: str, style: str) -> str:
         soap = attributes(style=style, inputUse='literal', outputUse='literal',
-                          inputNamespace='urn:' + name[:1000], outputNamespace='urn:x') if style else ''
+                          inputNamespace='urn:' + quote(name[:1000]), outputNamespace='urn:x') if style else ''
         members = ''.join(field(other, 'field', words[number % 3]) for number, other in enumerate(others))
         return (f'<operation{attributes(name=of, entryPoint=name)}{soap}><parameters>'
                 + ''.join(field(other, 'parameter', words[number % 3], byType=('in', 'out', 'io')[number % 3])
@@ -83,7 +85,7 @@ def dictionary(name: str, others) -> str:
 
 def services(folder: Path) -> Iterator[Tuple[str, Path]]:
     folder.mkdir(parents=True, exist_ok=True)
-    for flavour in VERSIONS:
+    for flavour in [f for f in VERSIONS if f in __import__("os").environ.get("ONLYF","ws com dotnet java")]:
         for word, name in NAMES.items():
             others = [other for other in NAMES.values() if len(other) < 1000] + RESERVED
             if word == 'long':
@@ -93,9 +95,10 @@ def services(folder: Path) -> Iterator[Tuple[str, Path]]:
             (file.parent / 'dictionary.xml').write_text(dictionary(name, others), encoding='utf-8')
             file.write_text(service(flavour, name, others), encoding='utf-8')
             yield flavour, file
-        for word in RESERVED:
+        for word in [*RESERVED, 'self']:
+            others = [*RESERVED, *({word} - set(RESERVED))]
             file = folder / word / f'reserved-{word}-{flavour}.xml'
             file.parent.mkdir(exist_ok=True)
-            (file.parent / 'dictionary.xml').write_text(dictionary(word, RESERVED), encoding='utf-8')
-            file.write_text(service(flavour, word, RESERVED), encoding='utf-8')
+            (file.parent / 'dictionary.xml').write_text(dictionary(word, others), encoding='utf-8')
+            file.write_text(service(flavour, word, others), encoding='utf-8')
             yield flavour, file

@@ -10,6 +10,7 @@ from typing import Any, Dict, List
 
 import requests
 import xmlschema
+import xmlschema.namespaces
 import zeep
 import zeep.helpers
 from lxml import etree
@@ -26,6 +27,21 @@ SCHEMA_SCHEMA = xmlschema.XMLSchema10.meta_schema
 
 class Failure(Exception):
     pass
+
+
+def read_percents() -> None:
+    """xmlschema takes the % of a namespace for that of a format."""
+    view = xmlschema.namespaces.NamespaceView
+    init = view.__init__
+
+    def corrected(self, names, uri):
+        init(self, names, uri)
+        self._key_fmt = self._key_fmt[:-2].replace('%', '%%') + '%s'
+
+    view.__init__ = corrected
+
+
+read_percents()
 
 
 def first_error(schema, source: Any) -> None:
@@ -77,9 +93,6 @@ def for_zeep(value: Any, kind: Any, names: Dict[str, str]) -> Any:
 
 def is_same(expected: Any, found: Any) -> bool:
     """Whether a value was read back as it was; numbers count as such, not as their texts."""
-    if isinstance(expected, dict) and set(expected) == {'item'} and isinstance(found, list):
-        # zeep takes the only element of an answer for the answer.
-        return is_same(expected['item'], found)
     if isinstance(expected, dict):
         return isinstance(found, dict) and all(
             is_same(part, found.get(name)) for name, part in expected.items()) and all(
@@ -116,13 +129,19 @@ def lists(sample: Dict[str, Any], is_rpc: bool) -> Dict[str, Any]:
     return {name: {'item': value} if isinstance(value, list) else value for name, value in sample.items()}
 
 
-def plain(result: Any, names: List[str]) -> Dict[str, Any]:
-    """What zeep answers, by the names of what the operation answers: one that stands alone comes
-    without its name."""
-    result = zeep.helpers.serialize_object(result, dict)
-    if len(names) == 1 and not (isinstance(result, dict) and names[0] in result):
-        return {names[0]: result}
-    return result if isinstance(result, dict) else {}
+def as_told_by_zeep(answer: Any) -> List[Any]:
+    """What zeep may make of an answer: it leaves out the only element, and the only one in that."""
+    told = [answer]
+    while len(told) < 3 and isinstance(told[-1], dict) and len(told[-1]) == 1:
+        told.append(next(iter(told[-1].values())))
+    return told
+
+
+def holds(value: Any, name: str) -> bool:
+    """Whether something in the value is called so."""
+    if isinstance(value, dict):
+        return name in value or any(holds(part, name) for part in value.values())
+    return isinstance(value, list) and any(holds(part, name) for part in value)
 
 
 def prove(wsdl: Path, schema_file: Path, samples_file: Path, names: Dict[str, str]) -> int:
@@ -167,7 +186,8 @@ def prove_operation(schema, samples, transport, proxy, operation, names) -> int:
         raise Failure(f'{operation.name} is not described')
     request = described['requestBody']['content']['application/json'].get('example')
     answer = described['responses']['200']['content']['application/json'].get('example')
-    if request is None or answer is None:
+    # zeep hands values over by their names, and calls what it hands them to so itself.
+    if request is None or answer is None or holds([request, answer], 'self'):
         return 0
     is_rpc = operation.style == 'rpc'
     request, answer = lists(request, is_rpc), lists(answer, is_rpc)
@@ -184,7 +204,7 @@ def prove_operation(schema, samples, transport, proxy, operation, names) -> int:
     result = getattr(proxy, operation.name)(**arguments)
     # Headers that are encoded have no elements in a schema.
     check(schema, transport.sent, not is_rpc)
-    found = plain(result, list(answer))
-    if not is_same(answer, found):
+    found = zeep.helpers.serialize_object(result, dict)
+    if not any(is_same(told, found) for told in as_told_by_zeep(answer)):
         raise Failure(f'{operation.name}: {str(answer)[:300]} was read back as {str(found)[:300]}')
     return 2

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "toolkit/generate/Facets.h"
+#include "toolkit/generate/NamespaceUri.h"
 #include "toolkit/generate/XsdTypes.h"
 #include "toolkit/text/Phrases.h"
 
@@ -27,36 +28,10 @@ std::string occurrences(const Field& field) {
 
 Form said(Form own, Form around) { return own == Form::unsaid ? around : own; }
 
-// Whether a namespace can be that of a schema: letters of any language may stand in a URI (RFC
-// 3987), blanks and these may not.
-bool isUri(std::string_view text) {
-  return std::none_of(text.begin(), text.end(), [](char byte) {
-    const auto code = static_cast<unsigned char>(byte);
-    return code <= 0x20 || code == 0x7F ||
-           std::string_view("<>\"{}|\\^`").find(byte) != std::string_view::npos;
-  });
-}
-
 void refuseUnlessUri(const Job& job, const std::string& text) {
   if (isUri(text)) return;
   job.refuse("no-uri", "service", "namespace " + quote(text) + " is no URI",
-             "leave out blanks and <>\"{}|\\^`");
-}
-
-// What a namespace may hold stays; blanks and what is no text of a URI are written as %20.
-std::string uriText(std::string_view text) {
-  static constexpr std::string_view fine = "-._~:/?#[]@!$&'()*+,;=%";
-  static constexpr char digits[] = "0123456789ABCDEF";
-  std::string result;
-  for (const char byte : text) {
-    const auto code = static_cast<unsigned char>(byte);
-    if (isAsciiLetter(code) || isDigit(code) || fine.find(byte) != std::string_view::npos) {
-      result += byte;
-    } else {
-      result.append({'%', digits[code >> 4U], digits[code & 0xFU]});
-    }
-  }
-  return result;
+             "write what it cannot hold as %20");
 }
 
 }  // namespace
@@ -69,7 +44,7 @@ SchemaSet::SchemaSet(const Job& job)
       withConditions_(job.isChosen("conditions", "enumerations")) {
   if (target_.empty()) {
     const std::string& program = job.model.program;
-    target_ = uriText("urn:agentservices:" + (program.empty() ? job.model.name : program));
+    target_ = namespaceOf(program.empty() ? job.model.name : program);
   }
   prefixes_[target_] = "tns";
   refuseUnlessUri(job_, target_);
