@@ -170,7 +170,8 @@ auto CAgentServices::read(const Source& source, const Take& take) {
     source.parse(*parser, schemaDirectory_, handler, opened);
     return take(handler, std::move(parser));
   };
-  return schemas_ ? schemas_->run(schemaDirectory_, attempt) : attempt(nullptr);
+  return schemas_ ? schemas_->run(schemaDirectory_, attempt)
+                  : SchemaCache::runOnce(schemaDirectory_, attempt);
 }
 
 std::unique_ptr<as::IProgram> CAgentServices::readProgram(const Source& source, bool& isWhole) {

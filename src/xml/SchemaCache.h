@@ -10,6 +10,20 @@
 
 class SchemaCache {
  public:
+  // Calls attempt(schemas), which reads a document, with nothing but the schemas that are built in;
+  // where that does not do, again with null. Its answer, or what it throws.
+  template <class Attempt>
+  static auto runOnce(const std::string& directory, const Attempt& attempt) {
+    if (!directory.empty()) {
+      try {
+        return attempt(std::make_shared<SharedSchemas>(directory));
+      } catch (const SharedSchemas::NotShared&) {
+        // As if there were none.
+      }
+    }
+    return attempt(nullptr);
+  }
+
   // Calls attempt(schemas), which reads a document with what it is given, or by itself with null,
   // and may throw SharedSchemas::NotShared unless it is. Called again until it is content; its
   // last answer, or what it throws else, is that of this. Without a `directory` nothing is kept.

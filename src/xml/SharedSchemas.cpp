@@ -1,53 +1,21 @@
 #include "xml/SharedSchemas.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <memory>
+#include <string_view>
 #include <utility>
-#include <xercesc/framework/MemBufInputSource.hpp>
-#include <xercesc/parsers/XercesDOMParser.hpp>
-#include <xercesc/sax/HandlerBase.hpp>
-#include <xercesc/util/PlatformUtils.hpp>
-#include <xercesc/validators/schema/XMLSchemaDescriptionImpl.hpp>
+#include <xercesc/sax/InputSource.hpp>
 
-#include "xml/LocalFile.h"
+#include "xml/BuiltInSchemas.h"
+#include "xml/SchemaCompiler.h"
 #include "xml/XStr.h"
 
 using xercesc::Grammar;
 using xercesc::InputSource;
-using xercesc::MemBufInputSource;
-using xercesc::XMLPlatformUtils;
 
 namespace {
-
-// Thrown where the parser has something to tell of a schema, or asks for more than it.
-struct Unfit {};
-
-// Compiles one schema, as the parser of a document would.
-class SchemaCompiler final : public xercesc::XercesDOMParser {
- public:
-  explicit SchemaCompiler(xercesc::XMLGrammarPool* grammars)
-      : XercesDOMParser(nullptr, XMLPlatformUtils::fgMemoryManager, grammars) {
-    setValidationScheme(Val_Always);
-    setDoNamespaces(true);
-    setDoSchema(true);
-    // Without these it would call nobody.
-    setEntityResolver(&nobody_);
-    setErrorHandler(&nobody_);
-  }
-
-  void error(unsigned int /*code*/, const XMLCh* /*domain*/,
-             xercesc::XMLErrorReporter::ErrTypes /*type*/, const XMLCh* /*text*/,
-             const XMLCh* /*systemId*/, const XMLCh* /*publicId*/, XMLFileLoc /*line*/,
-             XMLFileLoc /*column*/) override {
-    throw Unfit();
-  }
-  InputSource* resolveEntity(xercesc::XMLResourceIdentifier* /*reference*/) override {
-    throw Unfit();
-  }
-
- private:
-  xercesc::HandlerBase nobody_;
-};
 
 std::string contentOf(const LocalFile& file) {
   constexpr std::size_t step = 65536;
@@ -61,10 +29,22 @@ std::string contentOf(const LocalFile& file) {
   return content;
 }
 
+// Whether that is what stands in the file.
+bool holds(const LocalFile& file, std::string_view text) {
+  // Larger than our schemas are.
+  std::array<char, 32768> read;  // NOLINT(cppcoreguidelines-pro-type-member-init)
+  for (std::size_t place = 0;; place += read.size()) {
+    const std::string_view got(read.data(), file.read(read.data(), read.size(), place));
+    if (got != text.substr(std::min(place, text.size()), read.size())) return false;
+    if (got.size() < read.size()) return true;
+  }
+}
+
 }  // namespace
 
 SharedSchemas::SharedSchemas(std::string directory) : directory_(std::move(directory)) {
   resolver_.setSchemaLocation(directory_.c_str());
+  numberNamespaces(*grammars_.getURIStringPool());
   // Whoever reads the schema by itself is told.
   memory_.whenFull([this] {
     spoil();
@@ -78,37 +58,45 @@ SharedSchemas::~SharedSchemas() {
 }
 
 void SharedSchemas::add(const XMLCh* uri) {
-  std::optional<std::string> text = textNow(uri);
-  Grammar* const grammar = text ? compile(uri, *text) : nullptr;
+  const std::unique_ptr<const LocalFile> file = fileOf(uri);
+  std::optional<std::string> text;
+  if (file != nullptr) text = contentOf(*file);
+  Grammar* const grammar = text ? compileSchema(uri, *text, grammars_) : nullptr;
   schemas_.emplace(uri, Schema{std::move(text), grammar});
 }
 
 Grammar* SharedSchemas::grammarFor(const XMLCh* uri, const XMLCh* place) {
   if (!VorEntityResolver::isPlaceOf(uri, place)) throw NotShared();
+  const std::unique_ptr<const LocalFile> file = fileOf(uri);
   const auto found = schemas_.find(uri);
-  if (found == schemas_.end() || textNow(uri) != found->second.text) throw NotShared{uri};
+  if (found == schemas_.end()) {
+    if (Grammar* const grammar = file ? builtIn(uri, *file) : nullptr) return grammar;
+    throw NotShared{uri};
+  }
+  const std::optional<std::string>& text = found->second.text;
+  const bool isSame = file ? text && holds(*file, *text) : !text;
+  if (!isSame) throw NotShared{uri};
   if (found->second.grammar == nullptr) throw NotShared();
   return found->second.grammar;
 }
 
-// What stands in the file of the schema.
-std::optional<std::string> SharedSchemas::textNow(const XMLCh* uri) {
+// The file of the schema; null when there is none to be read.
+std::unique_ptr<const LocalFile> SharedSchemas::fileOf(const XMLCh* uri) {
   const std::unique_ptr<InputSource> named(resolver_.resolveNamespace(uri));
-  if (named == nullptr) return std::nullopt;
-  const LocalFile file(CXStr(named->getSystemId(), false), LocalFile::Opening::regular);
-  if (file.kind() != LocalFile::Kind::regular) return std::nullopt;
-  return contentOf(file);
+  if (named == nullptr) return nullptr;
+  auto file = std::make_unique<const LocalFile>(CXStr(named->getSystemId(), false),
+                                                LocalFile::Opening::regular);
+  return file->kind() == LocalFile::Kind::regular ? std::move(file) : nullptr;
 }
 
-Grammar* SharedSchemas::compile(const XMLCh* uri, const std::string& text) {
-  const MemBufInputSource source(reinterpret_cast<const XMLByte*>(text.data()), text.size(), uri);
-  try {
-    SchemaCompiler compiler(&grammars_);
-    compiler.loadGrammar(source, Grammar::SchemaGrammarType, true);
-  } catch (const Unfit&) {
-    return nullptr;
-  }
-  // None when the schema is for another namespace.
-  xercesc::XMLSchemaDescriptionImpl description(uri, XMLPlatformUtils::fgMemoryManager);
-  return grammars_.retrieveGrammar(&description);
+// Adds no name to those that the parse numbers its own behind.
+Grammar* SharedSchemas::builtIn(const XMLCh* uri, const LocalFile& file) {
+  const BuiltInSchema* const schema = builtInSchema(uri);
+  if (schema == nullptr || !holds(file, schema->text)) return nullptr;
+  auto pool = readBuiltIn(*schema, &memory_);
+  if (pool == nullptr) return nullptr;
+  Grammar* const grammar = grammarIn(*pool, uri);
+  builtIn_.push_back(std::move(pool));
+  schemas_.emplace(uri, Schema{std::string(schema->text), grammar});
+  return grammar;
 }

@@ -3,13 +3,16 @@
 #define XML_SHAREDSCHEMAS_H_
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 #include <xercesc/framework/XMLGrammarPoolImpl.hpp>
 #include <xercesc/util/StringPool.hpp>
 #include <xercesc/validators/common/Grammar.hpp>
 
 #include "xml/GrammarMemory.h"
+#include "xml/LocalFile.h"
 #include "xml/VorEntityResolver.h"
 
 // Only what is in order is shared: a document that says where its schema is as it should, and a
@@ -40,8 +43,8 @@ class SharedSchemas {
   void add(const XMLCh* uri);
   bool knows(const XMLCh* uri) const { return schemas_.contains(uri); }
 
-  // The schema of `uri` for a document that says it is at `place`. Throws NotShared when there is
-  // none, or its file is another by now.
+  // The schema of `uri` for a document that says it is at `place`: one that is built in, or that
+  // was added. Throws NotShared when there is none, or its file is another by now.
   xercesc::Grammar* grammarFor(const XMLCh* uri, const XMLCh* place);
 
   // The names that the schemas are numbered by: those that a parse comes across are to be numbered
@@ -58,8 +61,8 @@ class SharedSchemas {
     xercesc::Grammar* grammar;        // Null for one that cannot be shared.
   };
 
-  std::optional<std::string> textNow(const XMLCh* uri);
-  xercesc::Grammar* compile(const XMLCh* uri, const std::string& text);
+  std::unique_ptr<const LocalFile> fileOf(const XMLCh* uri);
+  xercesc::Grammar* builtIn(const XMLCh* uri, const LocalFile& file);
 
   const std::string directory_;
   VorEntityResolver resolver_;
@@ -67,6 +70,7 @@ class SharedSchemas {
   std::map<std::basic_string<XMLCh>, Schema> schemas_;
   GrammarMemory memory_;
   xercesc::XMLGrammarPoolImpl grammars_{&memory_};
+  std::vector<std::unique_ptr<xercesc::XMLGrammarPoolImpl>> builtIn_;
 };
 
 #endif  // XML_SHAREDSCHEMAS_H_

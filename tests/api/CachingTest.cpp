@@ -1,5 +1,6 @@
 // Tests of the entry object that keeps schemas: whatever it has read before and whatever becomes of
-// the schema files, it answers what the plain one answers.
+// the schema files, it answers what the plain one answers; and that with schemas which are built in
+// what it answers with others that say the same.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -18,6 +19,7 @@
 #include "support/Labels.h"
 #include "support/ModelText.h"
 #include "support/Requests.h"
+#include "support/SchemaCopy.h"
 #include "support/TempDirectory.h"
 
 namespace {
@@ -80,6 +82,17 @@ std::unique_ptr<as::IAgentServices> with(const std::string& directory,
   return services;
 }
 
+// The same of a plain object with schemas that are not built in, as if those were the shipped ones.
+std::string compiledAnswers(const std::string& document, const std::string& id) {
+  static const test::SchemaCopy copy;
+  std::string text = answers(*with(copy.path(), plainServices()), document, id);
+  for (std::size_t at = text.find(copy.path()); at != std::string::npos;
+       at = text.find(copy.path())) {
+    text.replace(at, copy.path().size(), AS_SCHEMA_DIR);
+  }
+  return text;
+}
+
 // What the plain object answers that has read nothing before.
 std::string plainAnswers(const std::string& directory, const std::string& document,
                          const std::string& id = "document.xml") {
@@ -114,6 +127,13 @@ TEST(Caching, AnswersOfExamplesAndSeedsAsThePlainObject) {
       SCOPED_TRACE(file);
       expectAsPlain(*services, AS_SCHEMA_DIR, contentOf(file), file);
     }
+  }
+}
+
+TEST(BuiltInSchemas, AnswerOfExamplesAndSeedsWhatCompiledOnesDo) {
+  for (const std::string& file : files()) {
+    const std::string document = contentOf(file);
+    EXPECT_EQ(plainAnswers(AS_SCHEMA_DIR, document, file), compiledAnswers(document, file));
   }
 }
 
@@ -248,6 +268,7 @@ INSTANTIATE_TEST_SUITE_P(Documents, UnusualDocument, testing::ValuesIn(unusual()
 
 TEST_P(UnusualDocument, IsAnsweredAsByThePlainObject) {
   const std::string expected = plainAnswers(AS_SCHEMA_DIR, GetParam().text, id());
+  EXPECT_EQ(expected, compiledAnswers(GetParam().text, id())) << "compiled";
   const auto services = with(AS_SCHEMA_DIR, cachingServices());
   EXPECT_EQ(answers(*services, GetParam().text, id()), expected) << "first";
   EXPECT_EQ(answers(*services, GetParam().text, id()), expected) << "again";

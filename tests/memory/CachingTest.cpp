@@ -11,6 +11,7 @@
 #include "memory/Attempts.h"
 #include "memory/Models.h"
 #include "support/Labels.h"
+#include "support/SchemaCopy.h"
 #include "support/TempDirectory.h"
 
 namespace {
@@ -164,10 +165,11 @@ long givenBy(const Request& request) {
 }
 
 TEST(Caching, SparesLaterRequestsTheSchema) {
+  const test::SchemaCopy schemas;
   const auto plain = test::plainServices();
   const auto caching = test::cachingServices();
   for (as::IAgentServices* services : {plain.get(), caching.get()}) {
-    services->setSchemaLocation(AS_SCHEMA_DIR);
+    services->setSchemaLocation(schemas.path().c_str());
   }
   const auto parse = [](as::IAgentServices& services) {
     EXPECT_EQ(test::outcomeOf(services, test::payProgram()).result, test::Result::root);

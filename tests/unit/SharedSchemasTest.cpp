@@ -11,6 +11,7 @@
 
 #include "support/Documents.h"
 #include "support/Requests.h"
+#include "support/SchemaCopy.h"
 #include "support/TempDirectory.h"
 #include "xml/SchemaCache.h"
 #include "xml/SharedSchemas.h"
@@ -38,7 +39,8 @@ std::basic_string<XMLCh> missing(SharedSchemas& schemas, const XMLCh* uri, const
 }
 
 TEST(SharedSchemas, HasWhatWasAdded) {
-  SharedSchemas schemas(shipped);
+  const test::SchemaCopy copy;
+  SharedSchemas schemas(copy.path() + "/");
   EXPECT_EQ(missing(schemas, dd, dd), dd);
   EXPECT_FALSE(schemas.knows(dd));
   schemas.add(dd);
@@ -50,6 +52,32 @@ TEST(SharedSchemas, HasWhatWasAdded) {
   EXPECT_EQ(schemas.grammarFor(dd, dd), grammar);
   EXPECT_NE(schemas.grammarFor(XSDNS::wsURI, XSDNS::wsName), grammar);
   EXPECT_FALSE(schemas.isSpoilt());
+}
+
+TEST(SharedSchemas, HasWhatIsBuiltIn) {
+  SharedSchemas schemas(shipped);
+  const unsigned int names = schemas.names()->getStringCount();
+  xercesc::Grammar* const grammar = schemas.grammarFor(dd, dd);
+  ASSERT_NE(grammar, nullptr);
+  EXPECT_TRUE(schemas.knows(dd));
+  EXPECT_EQ(schemas.grammarFor(dd, XSDNS::ddName), grammar);
+  EXPECT_NE(schemas.grammarFor(XSDNS::wsURI, XSDNS::wsName), grammar);
+  // While a parse numbers its own behind them.
+  EXPECT_EQ(schemas.names()->getStringCount(), names);
+}
+
+TEST(SharedSchemas, HaveWhatIsBuiltInForTheSameFileAlone) {
+  const std::string text = test::contentOf(shipped + "vorcobol.xsd");
+  const std::string ws = test::contentOf(shipped + "vorws.xsd");
+  for (const std::string& other : {text + "\n", text.substr(0, text.size() - 1),
+                                   text.substr(0, 8192), "x" + text.substr(1), ws, std::string()}) {
+    const TempDirectory directory;
+    directory.write("vorcobol.xsd", other);
+    SharedSchemas schemas(directory.path() + "/");
+    EXPECT_EQ(missing(schemas, dd, dd), dd);
+    directory.write("vorcobol.xsd", text);
+    EXPECT_EQ(missing(schemas, dd, dd), u"none");
+  }
 }
 
 TEST(SharedSchemas, AreForTheirOwnPlacesOnly) {
@@ -149,6 +177,20 @@ TEST(SchemaCache, LetsGoOfWhatIsSpoilt) {
   cache.run(shipped, [&](const Schemas& schemas) { EXPECT_NE(schemas, first); });
 }
 
+TEST(SchemaCache, MakesTwoAttemptsWhereNothingIsKept) {
+  std::vector<Schemas> given;
+  const auto attempt = [&](const Schemas& schemas) {
+    given.push_back(schemas);
+    if (schemas != nullptr) throw NotShared{dd};
+  };
+  SchemaCache::runOnce(shipped, attempt);
+  ASSERT_EQ(given.size(), 2u);
+  EXPECT_NE(given[0], nullptr);
+  EXPECT_EQ(given[1], nullptr);
+  SchemaCache::runOnce("", attempt);
+  EXPECT_EQ(given.size(), 3u);
+}
+
 TEST(SchemaCache, EndsWithAnAttemptThatSharesNothing) {
   const std::vector<std::basic_string<XMLCh>> wishes = {u"", dd, u"urn:o"};
   for (const auto& wish : wishes) {
@@ -170,16 +212,24 @@ void parse(CXMLParser& parser, const std::string& document, const std::string& s
 }
 
 TEST(SharingParser, ReadsWithWhatIsThere) {
-  const auto schemas = std::make_shared<SharedSchemas>(shipped);
+  const test::SchemaCopy copy;
+  const std::string directory = copy.path() + "/";
+  const auto schemas = std::make_shared<SharedSchemas>(directory);
   {
     CXMLParser parser(schemas);
-    EXPECT_THROW(parse(parser, test::payProgram()), NotShared);
+    EXPECT_THROW(parse(parser, test::payProgram(), directory), NotShared);
   }
   schemas->add(dd);
   CXMLParser parser(schemas);
-  parse(parser, test::payProgram());
+  parse(parser, test::payProgram(), directory);
   EXPECT_NE(parser.getDocument(), nullptr);
   EXPECT_FALSE(schemas->isSpoilt());
+}
+
+TEST(SharingParser, ReadsWithWhatIsBuiltIn) {
+  CXMLParser parser(std::make_shared<SharedSchemas>(shipped));
+  parse(parser, test::payProgram());
+  EXPECT_NE(parser.getDocument(), nullptr);
 }
 
 TEST(SharingParser, HasWhatItRepeatsReadTheFileThatWasOpened) {
@@ -187,7 +237,7 @@ TEST(SharingParser, HasWhatItRepeatsReadTheFileThatWasOpened) {
   const std::string file = directory.write("d.xml", test::payProgram());
   CXStr name(file);
   std::shared_ptr<const LocalFile> opened;
-  CXMLParser sharing(std::make_shared<SharedSchemas>(shipped));
+  CXMLParser sharing(std::make_shared<SharedSchemas>("elsewhere/"));
   sharing.setSchemaLocation(shipped.c_str());
   EXPECT_THROW(sharing.parse(static_cast<const XMLCh*>(name), LocalFile::Opening::any, opened),
                NotShared);
