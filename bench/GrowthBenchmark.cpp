@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -310,6 +311,21 @@ class Files {
 
   std::string dictionary() const { return (folder_ / "dictionary.xml").string(); }
   std::string service() const { return (folder_ / "service.xml").string(); }
+  // A copy of `file` where every `what` has become `with`.
+  std::string changed(const std::string& file, const std::string& what,
+                      const std::string& with) const {
+    std::ifstream in(file);
+    std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    std::string made;
+    std::size_t from = 0;
+    for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, from)) {
+      made.append(text, from, at - from).append(with);
+      from = at + what.size();
+    }
+    const std::string name = (folder_ / "changed.xml").string();
+    std::ofstream(name) << made.append(text, from);
+    return name;
+  }
 
  private:
   fs::path folder_;
@@ -382,6 +398,29 @@ struct Use {
   Work (*prepare)(const std::shared_ptr<Files>& files);
 };
 
+// To a program whose every `what` has become `with`, and back.
+Work diffPrograms(const std::shared_ptr<Files>& files, const char* what, const char* with) {
+  const std::string other = files->changed(files->dictionary(), what, with);
+  return [before = readProgram(*files), after = Program(reader().readDictionary(other))] {
+    benchmark::DoNotOptimize(toolkit::diff(*before, *after).changes.size());
+    benchmark::DoNotOptimize(toolkit::diff(*after, *before).changes.size());
+  };
+}
+
+Work diffServices(const std::shared_ptr<Files>& files, const char* what, const char* with) {
+  const std::string other = files->changed(files->service(), what, with);
+  return [before = readService(*files), after = reader().readServiceWithProgram(other).service] {
+    benchmark::DoNotOptimize(toolkit::diff(*before, *after).changes.size());
+    benchmark::DoNotOptimize(toolkit::diff(*after, *before).changes.size());
+  };
+}
+
+Work reportOf(const std::vector<std::string>& files, const std::shared_ptr<Files>& kept) {
+  return [files, kept] {
+    benchmark::DoNotOptimize(toolkit::makeReport(reader(), files).files.size());
+  };
+}
+
 const Use programUses[] = {
     {"parse",
      [](const std::shared_ptr<Files>& files) -> Work {
@@ -409,6 +448,13 @@ const Use programUses[] = {
          toolkit::renderJson(out, *program);
        };
      }},
+    {"diff",
+     [](const std::shared_ptr<Files>& f) {
+       return diffPrograms(f, "digits=\"4\"", "digits=\"3\"");
+     }},
+    {"diffLost",
+     [](const std::shared_ptr<Files>& f) { return diffPrograms(f, "name=\"I", "name=\"J"); }},
+    {"report", [](const std::shared_ptr<Files>& f) { return reportOf({f->dictionary()}, f); }},
     {"make",
      [](const std::shared_ptr<Files>& files) -> Work {
        auto made = std::make_shared<toolkit::MadeService>();
@@ -445,6 +491,13 @@ Work convertTo(const char* flavour, const std::shared_ptr<Files>& files) {
           kept = std::make_shared<toolkit::ConvertedService>()] {
     *kept = toolkit::convertService(reader(), *service, files->service(),
                                     *toolkit::findFlavour(flavour), service->getProgram());
+  };
+}
+
+Work generate(const char* kind, const std::shared_ptr<Files>& files) {
+  return [service = readService(*files), kind] {
+    benchmark::DoNotOptimize(
+        toolkit::generate(*toolkit::findGeneratorKind(kind), *service).files.size());
   };
 }
 
@@ -497,6 +550,17 @@ const Use serviceUses[] = {
          toolkit::renderJson(out, service);
        });
      }},
+    {"diff",
+     [](const std::shared_ptr<Files>& f) { return diffServices(f, "\"int\"", "\"long\""); }},
+    {"diffLost",
+     [](const std::shared_ptr<Files>& f) { return diffServices(f, "name=\"p", "name=\"q"); }},
+    {"report",
+     [](const std::shared_ptr<Files>& f) {
+       return reportOf({f->dictionary(), f->service()}, f);
+     }},
+    {"generateXsd", [](const std::shared_ptr<Files>& f) { return generate("xsd", f); }},
+    {"generateMarkdown", [](const std::shared_ptr<Files>& f) { return generate("markdown", f); }},
+    {"generateJava", [](const std::shared_ptr<Files>& f) { return generate("java", f); }},
     {"convertToWeb", [](const std::shared_ptr<Files>& f) { return convertTo("ws", f); }},
     {"convertToCOM", [](const std::shared_ptr<Files>& f) { return convertTo("com", f); }},
 };
@@ -567,6 +631,31 @@ const Edit edits[] = {
 };
 // clang-format on
 
+// ---- Importing
+
+std::string cobol(const std::string& entries, const std::string& statements = "") {
+  return "       IDENTIFICATION DIVISION.\n       PROGRAM-ID. P.\n       DATA DIVISION.\n"
+         "       WORKING-STORAGE SECTION.\n" +
+         entries + "       PROCEDURE DIVISION.\n" + statements + "           GOBACK.\n";
+}
+
+struct Source {
+  const char* name;
+  std::string (*text)(int n);
+};
+
+// clang-format off
+const Source sources[] = {
+    {"items", [](int n) { return cobol(repeat(n, [](int i) { return "       01  I" + number(i) + " PIC S9(7)V99 COMP-3.\n"; })); }},
+    {"fields", [](int n) { return cobol("       01  G.\n" + repeat(n, [](int i) { return "           05  I" + number(i) + " PIC X(10) OCCURS 3.\n"; })); }},
+    {"conditions", [](int n) { return cobol("       01  I PIC 9(6).\n" + repeat(n, [](int i) { return "           88  C" + number(i) + " VALUE " + number(i) + ".\n"; })); }},
+    {"redefinitions", [](int n) { return cobol("       01  I0 PIC 9(6).\n" + repeat(n, [](int i) { return "       01  I" + number(i + 1) + " REDEFINES I" + number(i) + " PIC X(6).\n"; })); }},
+    {"comments", [](int n) { return cobol(repeat(n, [](int) { return "      * Nothing.\n"; }) + "       01  I PIC 9.\n"); }},
+    {"statements", [](int n) { return cobol("       01  I PIC 9.\n", repeat(n, [](int) { return "           MOVE 1 TO I.\n"; })); }},
+    {"mistakes", [](int n) { return cobol(repeat(n, [](int i) { return "       01  I" + number(i) + " PIC Q.\n"; })); }},
+};
+// clang-format on
+
 // ---- Measuring
 
 // The processor's time that the work takes, in milliseconds.
@@ -630,6 +719,13 @@ bool addAll() {
     } else {
       for (const Use& use : serviceUses) addUse(use);
     }
+  }
+  for (const Source& source : sources) {
+    add(std::string("import/") + source.name, 1 << 30, [&source](int n) -> Work {
+      return [text = source.text(n)] {
+        benchmark::DoNotOptimize(toolkit::importCobol(text, "P.cbl").programs.size());
+      };
+    });
   }
   for (const Edit& edit : edits) {
     add(std::string("edit/") + edit.name, edit.most, [&edit](int n) -> Work {
