@@ -146,7 +146,8 @@ class NumberReader {
     for (at_ = 0; at_ < runs_.size(); ++at_) {
       if (!take(runs_[at_])) return std::nullopt;
     }
-    if (digits_ == 0) return std::nullopt;
+    // "P" alone is the number zero, of no bytes.
+    if (digits_ == 0 && !counts_.hasOnly("P")) return std::nullopt;
     const bool isNumeric = counts_.hasOnly("9SVP");
     const long long scaling = counts_.of("P");
     if (counts_.has(currencyText)) characters_ += rules_.currencyCharacters - 1;
@@ -190,7 +191,7 @@ class NumberReader {
     switch (run.symbol) {
       case '9':
         hasNine_ = true;
-        return takeDigits(run.times);
+        return !hasFillerBehindPoint_ && takeDigits(run.times);
       case 'Z':
       case '*':
         return takeFiller(run);
@@ -218,6 +219,8 @@ class NumberReader {
 
   bool takeFiller(const Run& run) {
     if (hasNine_) return false;
+    // Where one is behind the point, all are.
+    hasFillerBehindPoint_ = hasPoint_;
     // The first of a string that moves is never a digit.
     const bool isOpening = isFloating(run.symbol) && !hasFloating_;
     hasFloating_ = hasFloating_ || isOpening;
@@ -251,6 +254,7 @@ class NumberReader {
   bool hasNine_ = false;
   bool hasFloating_ = false;
   bool hasPoint_ = false;
+  bool hasFillerBehindPoint_ = false;
   bool hasScaling_ = false;
   bool isScaledDown_ = false;  // P stand in front.
 };
