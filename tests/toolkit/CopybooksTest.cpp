@@ -38,6 +38,15 @@ const Row rows[] = {
     {"CapitalCopy", {"one/CUST.COPY"}, "CUST", "", "one/CUST.COPY"},
     {"Inc", {"one/CUST.inc"}, "CUST", "", "one/CUST.inc"},
     {"CapitalInc", {"one/CUST.INC"}, "CUST", "", "one/CUST.INC"},
+    {"Dcl", {"one/CUST.dcl"}, "CUST", "", "one/CUST.dcl"},
+    {"CapitalCpb", {"one/CUST.CPB"}, "CUST", "", "one/CUST.CPB"},
+    {"MixedNameInOtherLetters", {"one/cUST.Cpy"}, "Cust", "", "one/cUST.Cpy"},
+    {"CapitalNameInMixedLetters", {"one/Cust.cpy"}, "CUST", "", ""},
+    {"PathOfAnotherMachine", {"two/cust.cpy"}, "C:\\LIB\\CUST.CPY", "", "two/cust.cpy"},
+    {"PathThatLeadsOut", {"one/CUST.cpy"}, "../lib/CUST", "", "one/CUST.cpy"},
+    {"PathFromTheRoot", {"one/CUST.cpy"}, "/lib/CUST", "", "one/CUST.cpy"},
+    {"LibraryThatLeadsOut", {"one/CUST.cpy"}, "CUST", "../lib", "one/CUST.cpy"},
+    {"PathBeforeItsLastPart", {"one/CUST", "two/x/CUST"}, "x/CUST", "", "two/x/CUST"},
     {"OtherExtension", {"one/CUST.txt"}, "CUST", "", ""},
     {"SmallName", {"one/cust.cpy"}, "CUST", "", "one/cust.cpy"},
     {"CapitalName", {"one/CUST.cpy"}, "cust", "", "one/CUST.cpy"},
@@ -89,7 +98,8 @@ TEST_P(LeadingOut, IsAnError) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, LeadingOut,
-                         testing::Values("/etc/passwd", "../x", "a/../../x", "..\\x", "\\x"));
+                         testing::Values("/etc/passwd", "../x", "a/../../x", "..\\x", "\\x", "..",
+                                         "x/.."));
 
 TEST(FolderCopybooks, BinaryTextStaysAsItIs) {
   const test::TempDirectory directory;

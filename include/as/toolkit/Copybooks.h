@@ -44,10 +44,12 @@ class AS_EXPORT CopybookProvider {
 };
 
 // Finds copybooks in folders: in `folders`, one after the other, then in that of the file `source`.
-// In each the name as written is looked for, then with .cpy, .cbl, .cob, .copy and .inc, in small
-// and in capital letters. A library is a folder in these. Names may have folders in front, with
-// "/" or "\" between; those that lead out of the folder they are looked for in are errors, and so
-// are files that are not to be read. Threads may share one.
+// In each the name as written is looked for, then with .cpy, .cbl, .cob, .copy, .inc, .dcl and
+// .cpb, in small and in capital letters; one in mixed letters as whatever letters it has. A library
+// is a folder in these. Names may have folders in front, with "/" or "\" between; what is not found
+// there, or leads out of the folder it is looked for in
+// ("C:\LIB\CUST.CPY", "../lib/CUST"), is looked for by its last part. Names that lead out and are
+// not found so are errors, and so are files that are not to be read. Threads may share one.
 class AS_EXPORT FolderCopybooks : public CopybookProvider {
  public:
   // None of the folders has to be there.
@@ -57,6 +59,9 @@ class AS_EXPORT FolderCopybooks : public CopybookProvider {
   std::optional<Copybook> find(const std::string& name, const std::string& library) override;
 
  private:
+  std::optional<Copybook> findBelow(const std::string& before, const std::string& name,
+                                    const std::string& library) const;
+
   std::vector<std::string> folders_;
 };
 

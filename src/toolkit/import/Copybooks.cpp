@@ -42,19 +42,43 @@ std::vector<std::string> casesOf(const std::string& text) {
   return cases;
 }
 
-constexpr std::array<std::string_view, 11> extensions = {
-    "", ".cpy", ".CPY", ".cbl", ".CBL", ".cob", ".COB", ".copy", ".COPY", ".inc", ".INC"};
+constexpr std::array<std::string_view, 15> extensions = {"",     ".cpy", ".CPY",  ".cbl",  ".CBL",
+                                                         ".cob", ".COB", ".copy", ".COPY", ".inc",
+                                                         ".INC", ".dcl", ".DCL",  ".cpb",  ".CPB"};
 
-// With "/" between the folders, whose names stay as they are; throws for a name that leads out.
-std::string checkedName(std::string name) {
+// With "/" between the folders, whose names stay as they are.
+fs::path withSlashes(std::string name) {
   std::replace(name.begin(), name.end(), '\\', '/');
-  const fs::path path(name);
-  const bool climbs =
-      std::any_of(path.begin(), path.end(), [](const fs::path& part) { return part == ".."; });
-  if (path.is_absolute() || climbs) {
-    throw CopybookError("its name leads out of the folders of copybooks");
-  }
   return name;
+}
+
+bool leadsOut(const fs::path& path) {
+  return path.is_absolute() ||
+         std::any_of(path.begin(), path.end(), [](const fs::path& part) { return part == ".."; });
+}
+
+bool isFile(const fs::path& path) {
+  std::error_code error;
+  return fs::is_regular_file(path, error);
+}
+
+bool isMixed(const std::string& name) { return name != upperCase(name) && name != lowerCase(name); }
+
+// The file of that name, which is in small letters, in letters of any case; the first one by name.
+std::optional<fs::path> likeNamed(const fs::path& folder, const std::string& name) {
+  std::optional<fs::path> found;
+  std::error_code error;
+  for (fs::directory_iterator at(folder.empty() ? "." : folder, error), end; !error && at != end;
+       at.increment(error)) {
+    const std::string file = at->path().filename().string();
+    const bool isLike =
+        std::any_of(extensions.begin(), extensions.end(), [&](std::string_view extension) {
+          return file.size() == name.size() + extension.size() &&
+                 lowerCase(file) == name + lowerCase(std::string(extension));
+        });
+    if (isLike && isFile(at->path()) && (!found || at->path() < *found)) found = at->path();
+  }
+  return found;
 }
 
 std::string contentOf(const fs::path& file) {
@@ -71,11 +95,6 @@ std::string contentOf(const fs::path& file) {
   return text;
 }
 
-bool isFile(const fs::path& path) {
-  std::error_code error;
-  return fs::is_regular_file(path, error);
-}
-
 }  // namespace
 
 FolderCopybooks::FolderCopybooks(std::vector<std::string> folders, const std::string& source)
@@ -86,10 +105,25 @@ FolderCopybooks::FolderCopybooks(std::vector<std::string> folders, const std::st
 FolderCopybooks::~FolderCopybooks() = default;
 
 std::optional<Copybook> FolderCopybooks::find(const std::string& name, const std::string& library) {
-  const fs::path path(checkedName(name));
-  const fs::path before = path.parent_path();
-  const std::vector<std::string> libraries = casesOf(checkedName(library));
-  const std::vector<std::string> names = casesOf(path.filename().string());
+  const fs::path path = withSlashes(name);
+  const fs::path below = withSlashes(library);
+  const bool isElsewhere = leadsOut(path) || leadsOut(below);
+  if (!isElsewhere) {
+    if (auto found = findBelow(path.parent_path(), path.filename(), below)) return found;
+    if (!path.has_parent_path()) return std::nullopt;
+  }
+  // The folders of where it was written are none here.
+  const fs::path last = path.filename();
+  auto found = leadsOut(last) ? std::nullopt : findBelow({}, last, leadsOut(below) ? "" : below);
+  if (!found && isElsewhere) throw CopybookError("its name leads out of the folders of copybooks");
+  return found;
+}
+
+std::optional<Copybook> FolderCopybooks::findBelow(const std::string& before,
+                                                   const std::string& name,
+                                                   const std::string& library) const {
+  const std::vector<std::string> libraries = casesOf(library);
+  const std::vector<std::string> names = casesOf(name);
   for (const std::string& folder : folders_) {
     for (const std::string& below : libraries) {
       const fs::path place = fs::path(folder) / below / before;
@@ -98,6 +132,10 @@ std::optional<Copybook> FolderCopybooks::find(const std::string& name, const std
           const fs::path file = place / (base + std::string(extension));
           if (isFile(file)) return Copybook{file.string(), contentOf(file)};
         }
+      }
+      if (!isMixed(name)) continue;
+      if (const auto file = likeNamed(place, lowerCase(name))) {
+        return Copybook{file->string(), contentOf(*file)};
       }
     }
   }
