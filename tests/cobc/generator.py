@@ -126,6 +126,9 @@ class Generator:
             self.redefine_record(record, previous)
         if record.redefines is None and self.chance(0.08) and section.name != 'FILE':
             flag = self.rng.choice(('GLOBAL', 'BASED', 'EXTERNAL'))
+            # To be the same as another and BASED is wrong to the compiler.
+            if flag == 'BASED' and record.like is not None:
+                flag = 'GLOBAL'
             if section.name == 'WORKING-STORAGE' and record.name and \
                     not has_variable(record) and not record.is_table():
                 record.flags.append(flag)

@@ -71,6 +71,11 @@ INSTANTIATE_TEST_SUITE_P(
                   "alignment='0' offset='0' length='1'"},
         ImportRow{"PIC X IS SPECIAL-NAMES CRT STATUS",
                   "<alphanumeric name='A' picture='X' offset='0' length='1'"},
+        ImportRow{"PIC \\\\\\9",
+                  "<numericEdited name='A' picture='\\\\\\9' digits='3' alignment='0' offset='0' "
+                  "length='4'"},
+        ImportRow{"PIC X IS IDENTIFIED BY \"a\"",
+                  "<alphanumeric name='A' picture='X' offset='0' length='1'"},
         ImportRow{"PIC 1(8)", "<alphanumeric name='A' picture='1(8)' offset='0' length='8'"}));
 
 INSTANTIATE_TEST_SUITE_P(
@@ -114,6 +119,18 @@ INSTANTIATE_TEST_SUITE_P(
                               "<numeric name='A' usage='comp-2' sign='true' offset='0' length='8'"},
                     ImportRow{"FLOAT-LONG",
                               "<numeric name='A' usage='comp-2' sign='true' offset='0' length='8'"},
+                    ImportRow{"PIC S9(6) COMP-1",
+                              "<numeric name='A' usage='comp-5' sign='true' digits='5' "
+                              "alignment='0' offset='0' length='2'"},
+                    ImportRow{"PIC 9 COMP-1",
+                              "<numeric name='A' usage='comp-5' sign='false' digits='5' "
+                              "alignment='0' offset='0' length='2'"},
+                    ImportRow{"USAGE IS HANDLE OF FONT LARGE-FONT",
+                              "<numeric name='A' usage='comp-5' sign='true' digits='10' "
+                              "alignment='0' offset='0' length='4'"},
+                    ImportRow{"HANDLE",
+                              "<numeric name='A' usage='comp-5' sign='true' digits='10' "
+                              "alignment='0' offset='0' length='4'"},
                     ImportRow{"BINARY-LONG",
                               "<numeric name='A' usage='comp-5' sign='true' digits='10' "
                               "alignment='0' offset='0' length='4'"},

@@ -96,6 +96,32 @@ INSTANTIATE_TEST_SUITE_P(
                     LayoutRow{"ibm", "01 R. 05 A PIC X. 66 D RENAMES A. 05 B PIC X.",
                               "R 0+2, A 0+1, B 1+1, D 0+1"}));
 
+// What precompilers put in the place of an entry.
+INSTANTIATE_TEST_SUITE_P(
+    HostVariables, ImportLayoutTest,
+    testing::Values(
+        LayoutRow{"ibm", "01 A USAGE IS SQL TYPE IS CLOB(10). 01 B PIC X.",
+                  "A 0+14, A-LENGTH 0+4, A-DATA 4+10, B 0+1"},
+        LayoutRow{"ibm", "01 A SQL TYPE IS BLOB (2 K).", "A 0+2052, A-LENGTH 0+4, A-DATA 4+2048"},
+        LayoutRow{"ibm", "01 A SQL TYPE XML AS CLOB 1M.",
+                  "A 0+1048580, A-LENGTH 0+4, A-DATA 4+1048576"},
+        LayoutRow{"ibm", "01 A SQL CHARACTER LARGE OBJECT(5).", "A 0+9, A-LENGTH 0+4, A-DATA 4+5"},
+        LayoutRow{"ibm", "01 A SQL TYPE IS DBCLOB(10).", "A 0+24, A-LENGTH 0+4, A-DATA 4+20"},
+        LayoutRow{"ibm", "01 R. 10 A SQL TYPE IS BLOB_LOCATOR. 10 B USAGE SQL TYPE IS ROWID.",
+                  "R 0+46, A 0+4, B 4+42, B-LEN 4+2, B-DATA 6+40"},
+        LayoutRow{"ibm", "01 A SQL TYPE IS TABLE LIKE T AS LOCATOR.", "A 0+4"},
+        LayoutRow{"ibm", "01 A SQL TYPE IS RESULT-SET-LOCATOR VARYING.", "A 0+4"},
+        LayoutRow{"ibm", "01 A SQL TYPE IS CLOB-FILE.",
+                  "A 0+267, A-NAME-LENGTH 0+4, A-DATA-LENGTH 4+4, A-FILE-OPTIONS 8+4, "
+                  "A-NAME 12+255"},
+        LayoutRow{"ibm", "01 R. 49 A SQL TYPE IS VARBINARY(9). 49 B SQL TYPE IS BINARY(3).",
+                  "R 0+14, A 0+11, A-LEN 0+2, A-TEXT 2+9, B 11+3"},
+        LayoutRow{"ibm", "01 R. 05 A OCCURS 2 SQL TYPE IS BINARY VARYING(9).",
+                  "R 0+22, A 0+11*2, A-LEN 0+2, A-TEXT 2+9"},
+        LayoutRow{"ibm", "01 A SQL TYPE IS TIMESTAMP. 01 SQL PIC X.", "A 0+26, SQL 0+1"},
+        LayoutRow{"ibm", "01 R. 05 A PIC X(5) VARYING. 05 VARYING PIC X.",
+                  "R 0+8, A 0+7, A-LEN 0+2, A-ARR 2+5, VARYING 7+1"}));
+
 // The examples of IBM's manual, and the ones of a compiler that puts slack inside of groups.
 INSTANTIATE_TEST_SUITE_P(
     Synchronized, ImportLayoutTest,

@@ -78,6 +78,8 @@ const ReadingRow rows[] = {
     {"PanvaletInclude", {"++INCLUDE B\nA", {{"B", "D"}}}, "D A"},
     {"PanvaletIncludeOfNothing", {"++INCLUDE\nA"}, "A", "copy-syntax main:1:1"},
 
+    {"Resource", {"COPY RESOURCE \"A.BMP\". B"}, "B"},
+    {"ExecWithBars", {"EXEC SQL SELECT A || '|' | B END-EXEC. C"}, "C", "exec-statement main:1:1"},
     {"Exec", {"A. EXEC SQL SELECT 'x' FROM Y END-EXEC. B."}, "A . B .", "exec-statement main:1:4"},
     {"ExecWithinASentence",
      {"IF A EXEC CICS RETURN END-EXEC. B"},

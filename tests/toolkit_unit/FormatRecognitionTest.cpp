@@ -72,6 +72,11 @@ const Row rows[] = {
     {"CommentBehindTheMargin", star + "      * " + std::string(80, 'x') + "\n", fixed},
     {"InlineCommentBehindTheMargin", star + "       A. *> it's " + std::string(80, 'x') + "'\n",
      fixed},
+    {"UmlautsInALiteralAtTheMargin",
+     star + "       A '" + std::string(60, ' ').replace(0, 20, 20, '\xA4').append("' ") + "\n",
+     fixed},
+    {"RemarkFarBehindASentence", star + "       A." + std::string(75, ' ') + "B\n", fixed},
+    {"BarBehindTheMargin", star + "       A. | it's " + std::string(80, 'x') + "'\n", fixed},
     {"UmlautsAreOneColumn", "\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4* A\n", fixed},
 };
 

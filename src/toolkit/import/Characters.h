@@ -14,7 +14,8 @@ enum class CharacterClass : std::uint8_t {
   word,       // What words are made of: letters of any language, digits, "-", "_", "$", "#", "@".
   inRun,      // What stands in numbers and pictures beside those.
   separator,  // ".", ",", ";": only in front of a blank.
-  star,       // Begins comments.
+  star,       // Begins comments with the ">" behind it.
+  bar,        // Begins comments by itself.
   quote,
   mark,  // A word by itself.
 };
@@ -34,6 +35,7 @@ constexpr std::array<CharacterClass, 256> makeClasses() {
   set("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_$#@", CharacterClass::word);
   set(".,;", CharacterClass::separator);
   set("*", CharacterClass::star);
+  set("|", CharacterClass::bar);
   set("\"'", CharacterClass::quote);
   set("():&=<>", CharacterClass::mark);
   return classes;
@@ -57,6 +59,12 @@ constexpr bool isWordCharacter(char character) {
 // Whether it is a byte of a character that began before.
 constexpr bool isWithinCharacter(char character) {
   return (static_cast<unsigned char>(character) & 0xC0U) == 0x80U;
+}
+
+// Whether a bar begins a comment: no half of "||", and no byte of a character of an encoding that
+// was not known.
+constexpr bool isCommentBar(char before, char behind) {
+  return before != '|' && behind != '|' && static_cast<unsigned char>(before) < 0x80;
 }
 
 inline constexpr std::size_t tabWidth = 8;

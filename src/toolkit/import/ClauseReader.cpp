@@ -203,6 +203,20 @@ bool ClauseReader::readClause(DataEntry& entry) {
     case Keyword::based:
       words_.skip();
       return passOver(entry, "BASED");
+    case Keyword::handle:
+      return readHandle(entry);
+    case Keyword::varying:
+      hostVariables_.readVarying(entry);
+      return true;
+    case Keyword::sql:
+      if (hostVariables_.isAtType()) return hostVariables_.readType(entry);
+      break;
+    case Keyword::identified:
+      // The field of a form.
+      words_.skip();
+      words_.accept(Keyword::by);
+      words_.skip();
+      return true;
     case Keyword::volatileWord:
       words_.skip();
       return passOver(entry, "VOLATILE");
@@ -263,7 +277,9 @@ bool ClauseReader::readUsage(DataEntry& entry) {
   const SourcePlace place = words_.peek().token.place;
   if (words_.accept(Keyword::usage)) words_.accept(Keyword::isWord);
   if (entry.ownUsage) return bad(entry, place, "USAGE stands there twice");
+  if (hostVariables_.isAtType()) return hostVariables_.readType(entry);
   const Word& next = words_.peek();
+  if (next.is(Keyword::handle)) return readHandle(entry);
   if (next.is(TokenKind::word) && next.is(Keyword::name) && !next.meaning.usage) {
     return readReference(entry, NameReference::Kind::type);
   }
@@ -279,6 +295,18 @@ bool ClauseReader::readUsage(DataEntry& entry) {
   entry.ownUsage = usage;
   if (isUnsignedUsage(word.token.text)) entry.isUnsigned = true;
   readUsagePhrases(entry);
+  return true;
+}
+
+// "HANDLE OF FONT LARGE-FONT": what stands for a window, font, thread and the like, in four bytes.
+bool ClauseReader::readHandle(DataEntry& entry) {
+  if (entry.ownUsage) return bad(entry, words_.peek().token.place, "USAGE stands there twice");
+  words_.skip();
+  entry.ownUsage = Usage::binaryLong;
+  if (!words_.accept(Keyword::of)) return true;
+  while (words_.peek().is(TokenKind::word) && !isAtNextEntry(words_) && !isClause(words_.peek())) {
+    words_.skip();
+  }
   return true;
 }
 

@@ -3,9 +3,11 @@
 #define TOOLKIT_IMPORT_CLAUSEREADER_H_
 
 #include <string>
+#include <vector>
 
 #include "toolkit/import/ConstantReader.h"
 #include "toolkit/import/EntryProblems.h"
+#include "toolkit/import/HostVariables.h"
 #include "toolkit/import/OccursReader.h"
 #include "toolkit/import/PictureTable.h"
 #include "toolkit/import/ProgramEntries.h"
@@ -23,7 +25,8 @@ class ClauseReader {
         constants_(constants),
         problems_(problems),
         pictures_(program, constants, problems),
-        occurs_(words, program, constants, problems) {}
+        occurs_(words, program, constants, problems),
+        hostVariables_(words, names, constants, pictures_, problems) {}
 
   // The name that follows the level number, if there is one.
   void readName(DataEntry& entry);
@@ -32,12 +35,16 @@ class ClauseReader {
   // is told once, and the rest passed over.
   void readClauses(DataEntry& entry);
 
+  // The members that a precompiler gives the entry whose clauses were read.
+  std::vector<DataEntry> takeMembers(DataEntry& entry) { return hostVariables_.takeMembers(entry); }
+
   // Ends an entry: takes its period, or tells that there is none.
   void endEntry(const DataEntry& entry);
 
  private:
   bool readClause(DataEntry& entry);
   bool readUsage(DataEntry& entry);
+  bool readHandle(DataEntry& entry);
   void readUsagePhrases(DataEntry& entry);
   bool readPicture(DataEntry& entry);
   bool readSign(DataEntry& entry);
@@ -54,6 +61,7 @@ class ClauseReader {
   EntryProblems& problems_;
   PictureTable pictures_;
   OccursReader occurs_;
+  HostVariables hostVariables_;
 };
 
 }  // namespace as::toolkit

@@ -95,8 +95,10 @@ std::optional<std::string> ConditionReader::takeValue() {
     }
     if (what.meaning.role == KeywordRole::figurative) return words_.take().token.text;
   } else if (word.is(TokenKind::word)) {
-    if (word.meaning.role == KeywordRole::figurative || readInteger(word.token.text)) {
-      return words_.take().token.text;
+    if (word.meaning.role == KeywordRole::figurative) return words_.take().token.text;
+    if (const std::optional<std::int64_t> number = readInteger(word.token.text)) {
+      const std::string text = words_.take().token.text;
+      return text.find('#') == std::string::npos ? text : std::to_string(*number);
     }
     if (const ConstantEntry* const constant = constants_.find(word.token.text)) {
       words_.skip();

@@ -35,7 +35,38 @@ std::optional<std::int64_t> apply(char op, std::int64_t left, std::int64_t right
 
 }  // namespace
 
+namespace {
+
+// "X#1F", "H#1F", "B#101", "O#17": the number behind its base; nothing for what is none of these.
+std::optional<std::int64_t> readBased(const std::string& text) {
+  constexpr std::size_t lengthOfBase = 2;
+  if (text.size() <= lengthOfBase || text[1] != '#') return std::nullopt;
+  int base = 0;
+  switch (text.front() & ~0x20) {
+    case 'X':
+    case 'H':
+      base = 16;
+      break;
+    case 'O':
+      base = 8;
+      break;
+    case 'B':
+      base = 2;
+      break;
+    default:
+      return std::nullopt;
+  }
+  std::int64_t number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data() + lengthOfBase, end, number, base);
+  if (error != std::errc() || stop != end || text[lengthOfBase] == '-') return std::nullopt;
+  return number;
+}
+
+}  // namespace
+
 std::optional<std::int64_t> readInteger(const std::string& text) {
+  if (const std::optional<std::int64_t> based = readBased(text)) return based;
   const char* begin = text.data();
   const char* const end = begin + text.size();
   if (begin != end && *begin == '+') ++begin;
@@ -59,7 +90,11 @@ std::optional<std::int64_t> ConstantReader::takeInteger() {
   if (!word.is(TokenKind::word) && !word.is(TokenKind::number)) return std::nullopt;
   std::optional<std::int64_t> number = readInteger(word.token.text);
   if (!number && word.is(TokenKind::word)) {
-    if (const ConstantEntry* const constant = find(word.token.text)) number = constant->number;
+    const ConstantEntry* const constant = find(word.token.text);
+    const auto definition =
+        constant != nullptr ? std::nullopt : words_.source().definition(word.token.text);
+    if (constant != nullptr) number = constant->number;
+    if (definition && definition->isNumber) number = readInteger(definition->text);
   }
   if (number) words_.skip();
   return number;

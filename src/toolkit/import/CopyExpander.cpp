@@ -42,6 +42,15 @@ bool isOfSystem(std::string_view name) {
   return isAny(name, {"SQLCA", "SQLDA"}) || isAny(name.substr(0, 3), {"DFH", "CMQ"});
 }
 
+// Whether the folders in the name of a copybook are those that it was found in.
+bool standsWhereNamed(std::string name, const std::string& library, std::string found) {
+  if (library.find("..") != std::string::npos) return false;
+  std::replace(name.begin(), name.end(), '\\', '/');
+  std::replace(found.begin(), found.end(), '\\', '/');
+  const std::size_t end = name.find_last_of('/');
+  return end == std::string::npos || found.find(name.substr(0, end + 1)) != std::string::npos;
+}
+
 std::string nameOf(const TextWord& word) {
   return std::string(word.kind == TextWord::Kind::literal ? partsOf(word).content : word.text);
 }
@@ -286,6 +295,11 @@ bool CopyExpander::takeCopy(Frame& frame, const TextWord& word) {
   std::string library;
   TextWord next;
   frame.readOwn(next);
+  if (name.isRun("RESOURCE") && next.kind == TextWord::Kind::literal) {
+    // A picture or the like, which is put into the program's file.
+    skipPeriod(frame);
+    return true;
+  }
   if (next.isRun("OF") || next.isRun("IN")) {
     frame.readOwn(next);
     if (isName(next)) {
@@ -426,6 +440,10 @@ void CopyExpander::include(const TextWord& name, const std::string& library,
     report_.add(SourceRule::copybookUnreadable, place,
                 "the copybook " + quoted(text) + " cannot be read: " + entry->error);
     return;
+  }
+  if (!standsWhereNamed(text, library, entry->name)) {
+    report_.add(SourceRule::copybookElsewhere, place,
+                "the copybook " + quoted(text) + " is taken from " + entry->name);
   }
   if (isOpen(entry->name)) {
     report_.add(SourceRule::copybookCycle, place,

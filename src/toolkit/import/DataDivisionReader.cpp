@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "toolkit/import/EntryWords.h"
 
@@ -53,7 +54,8 @@ void DataDivisionReader::read(const std::string& recordName) {
   std::string wanted = recordName;
   while (!isAtEnd()) {
     const Word& word = words_.peek();
-    if (word.is(TokenKind::period)) {
+    const bool isLast = word.is(Keyword::end) && words_.peek(1).is(TokenKind::end);
+    if (word.is(TokenKind::period) || isLast) {
       words_.skip();
     } else if (word.is(Keyword::data) && words_.peek(1).is(Keyword::division)) {
       words_.skipSentence();
@@ -178,7 +180,9 @@ void DataDivisionReader::readEntry(const std::string& recordName) {
   if (entry.isRenaming && entry.reference == none && !entry.isDamaged) {
     problems_.tell(EntryRule::badClause, entry.place, entry.name + " renames nothing");
   }
-  records_.add(std::move(entry));
+  std::vector<DataEntry> members = clauses_.takeMembers(entry);
+  if (!records_.add(std::move(entry))) return;
+  for (DataEntry& member : members) records_.add(std::move(member));
 }
 
 void DataDivisionReader::readConstant(const DataEntry& entry, bool isLevel78) {

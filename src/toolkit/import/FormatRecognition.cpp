@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <string>
 
 #include "toolkit/import/Characters.h"
@@ -116,14 +117,26 @@ bool setsFormat(std::string_view line) {
          (folded.find("SOURCE") != std::string::npos);
 }
 
+// Each character as one byte.
+std::string oneByteEach(std::string_view line) {
+  std::string columns;
+  columns.reserve(line.size());
+  std::copy_if(line.begin(), line.end(), std::back_inserter(columns),
+               [](char character) { return !isWithinCharacter(character); });
+  return columns;
+}
+
 // Whether a line that goes on behind column 72 was written without a right margin: a literal that
 // is open there and is ended behind, text that stands behind column 80 with nothing where the
 // identification would be, or text that runs through the whole of it.
 enum class BehindMargin { nothing, ended, open };
 
-BehindMargin behindMargin(std::string_view line) {
+BehindMargin behindMargin(std::string_view text) {
   constexpr std::size_t margin = 72;
   constexpr std::size_t record = 80;
+  if (text.size() <= margin) return BehindMargin::nothing;
+  const std::string columns = oneByteEach(text);
+  const std::string_view line = columns;
   if (line.size() <= margin || line.find('\t') != std::string_view::npos) {
     return BehindMargin::nothing;
   }
@@ -139,7 +152,9 @@ BehindMargin behindMargin(std::string_view line) {
   }
   if (line.size() <= record) return BehindMargin::nothing;
   const std::string_view identification = line.substr(margin, record - margin);
-  const bool isBlankThere = trimmed(identification).empty();
+  // What stands far behind the end of a sentence is a remark.
+  const std::string_view code = trimmed(line.substr(indicator + 1, margin - indicator - 1));
+  const bool isBlankThere = trimmed(identification).empty() && (code.empty() || code.back() != '.');
   const bool runsThrough = isAll(line.substr(margin - 1, record - margin + 2), isWordCharacter);
   const bool isMore = !trimmed(line.substr(record)).empty();
   return isMore && (isBlankThere || runsThrough) ? BehindMargin::ended : BehindMargin::nothing;

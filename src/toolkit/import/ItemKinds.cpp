@@ -25,6 +25,12 @@ bool needsNoPicture(const Dialect& dialect, Usage usage) {
   return bytesOf(dialect, usage).has_value();
 }
 
+// ACUCOBOL's and RM/COBOL's COMP-1.
+bool isShortBinary(const DataEntry& entry, const Picture* picture) {
+  return entry.usage == Usage::comp1 && picture != nullptr &&
+         picture->category == Category::numeric && picture->scale == 0 && picture->scaling == 0;
+}
+
 }  // namespace
 
 const Picture* pictureOf(const CobolProgram& program, const DataEntry& entry) {
@@ -88,7 +94,7 @@ void ItemKinds::implyPicture(DataEntry& entry) {
 
 void ItemKinds::lookAtItem(DataEntry& entry) {
   implyPicture(entry);
-  const Picture* const picture = pictureOf(program_, entry);
+  const Picture* picture = pictureOf(program_, entry);
   entry.length = 0;
   entry.boundary = 1;
   if (picture != nullptr) {
@@ -109,6 +115,7 @@ void ItemKinds::lookAtItem(DataEntry& entry) {
     lookAtSign(entry, *picture);
   }
   if (!hasKnownSize(entry, picture)) return;
+  if (entry.picture == none) picture = nullptr;
   if (entry.isSync) entry.boundary = boundaryOf(dialect_, entry.usage, entry.length);
   if (!problems_.wasNoted(EntryRule::dialectDecides)) compareDialects(entry, picture);
   entry.element = elementOf(entry, picture);
@@ -151,6 +158,17 @@ void ItemKinds::compareDialects(const DataEntry& entry, const Picture* picture) 
 }
 
 bool ItemKinds::hasKnownSize(DataEntry& entry, const Picture* picture) {
+  if (isShortBinary(entry, picture)) {
+    problems_.tell(EntryRule::shortBinary, entry.place,
+                   entry.name +
+                       " has a PICTURE with COMP-1: taken for a binary number of two bytes, "
+                       "which it is to compilers that know no other COMP-1");
+    entry.ownUsage = entry.usage = Usage::binaryShort;
+    entry.isUnsigned = !picture->isSigned;
+    entry.picture = none;
+    entry.length = *bytesOf(dialect_, entry.usage);
+    return true;
+  }
   const bool hasOwnSize = needsNoPicture(dialect_, entry.usage);
   if (entry.picture == none && !hasOwnSize) {
     if (!entry.isDamaged) {

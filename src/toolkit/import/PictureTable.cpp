@@ -4,6 +4,7 @@
 #include <cctype>
 #include <cstddef>
 #include <optional>
+#include <string_view>
 #include <utility>
 
 namespace as::toolkit {
@@ -36,6 +37,10 @@ std::optional<Picture> PictureTable::read(const std::string& text, const std::st
     rules.currencySymbol = currency.symbol;
     rules.currencyCharacters = currency.characters;
   }
+  // Where code pages of Japan are used, it is the yen sign, and the symbol unless told otherwise.
+  constexpr std::string_view yen = "\\";
+  if (program_.currencies.empty() && text.find(yen) != std::string::npos)
+    rules.currencySymbol = yen;
   std::optional<Picture> picture = readPicture(text, rules);
   if (picture || !program_.isCopybook || rules.isDecimalPointComma) return picture;
   // A copybook does not say what its programs say of the decimal point; its pictures may.

@@ -37,7 +37,16 @@ void ProcedureReader::readHeader(const std::string& name) {
   entryPoint.name = name;
   entryPoint.place = words_.peek().token.place;
   words_.skip();
-  words_.skip();
+  const SourcePlace division = words_.take().token.place;
+  const Word& next = words_.peek();
+  const bool isParagraph = next.is(TokenKind::word) && next.meaning.keyword == Keyword::name &&
+                           next.token.place.line != division.line &&
+                           words_.peek(1).is(TokenKind::period);
+  if (isParagraph) {
+    problems_.tell(EntryRule::noPeriod, division, "there is no period behind PROCEDURE DIVISION");
+    program_.entryPoints.push_back(std::move(entryPoint));
+    return;
+  }
   readConvention(entryPoint);
   readParameters(entryPoint);
   if (words_.peek().is(TokenKind::period)) words_.skip();

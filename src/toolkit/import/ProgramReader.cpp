@@ -40,6 +40,10 @@ bool isOfCics(const std::string& name) {
   return sameWord(name, "DFHEIBLK") || sameWord(name, "DFHCOMMAREA");
 }
 
+bool isEnvironmentSection(const std::string& name) {
+  return sameWord(name, "CONFIGURATION") || sameWord(name, "INPUT-OUTPUT");
+}
+
 const OtherUnit* otherUnit(const Word& word) {
   if (word.meaning.keyword == Keyword::name) return nullptr;
   for (const OtherUnit& unit : otherUnits) {
@@ -52,6 +56,12 @@ const OtherUnit* otherUnit(const Word& word) {
 
 std::vector<std::unique_ptr<CobolProgram>> ProgramReader::read() {
   while (words_.peek().is(TokenKind::period)) words_.skip();
+  if (holdsStatements()) {
+    problems_.tell(EntryRule::statementsAlone, words_.peek().token.place,
+                   "the source begins with statements: there is no dictionary of it");
+    while (!words_.atEnd()) words_.skip();
+    return {};
+  }
   if (form_ == Form::copybook || isCopybook()) {
     readCopybook();
   } else {
@@ -66,6 +76,21 @@ std::vector<std::unique_ptr<CobolProgram>> ProgramReader::read() {
                    "the source holds neither a program nor data description entries");
   }
   return std::move(programs_);
+}
+
+// Whether the source is a copybook of the procedure division: it begins with a statement, a
+// paragraph or a section.
+bool ProgramReader::holdsStatements() {
+  const Word& word = words_.peek();
+  const Word& next = words_.peek(1);
+  if (!word.is(TokenKind::word) || levelOf(word) >= 0) return false;
+  if (word.meaning.role == KeywordRole::verb || word.meaning.usage == Usage::display) {
+    return !next.is(Keyword::division);
+  }
+  if (word.meaning.keyword != Keyword::name || word.meaning.usage) return false;
+  if (next.is(TokenKind::period)) return words_.peek(2).meaning.role == KeywordRole::verb;
+  // Sections of the data division have names that are known.
+  return next.is(Keyword::section) && !isEnvironmentSection(word.token.text);
 }
 
 // What begins with entries is a copybook.

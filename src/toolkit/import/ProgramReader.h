@@ -33,6 +33,7 @@ class ProgramReader {
   std::vector<std::unique_ptr<CobolProgram>> read();
 
  private:
+  bool holdsStatements();
   bool isCopybook();
   void readCopybook();
   void readProgramId();

@@ -19,7 +19,8 @@ std::size_t QuoteState::read(std::string_view part) {
       }
     } else if (isQuote(character)) {
       open(character);
-    } else if (character == '*' && following == '>') {
+    } else if ((character == '*' && following == '>') ||
+               (character == '|' && isCommentBar(i > 0 ? part[i - 1] : ' ', following))) {
       skipsFirst_ = false;
       return i;
     }

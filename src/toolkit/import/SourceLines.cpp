@@ -39,6 +39,19 @@ bool isOptionCard(std::string_view text) {
          (text.size() > 1 && text.front() == '@');
 }
 
+bool isEndOfProgram(std::string_view text) {
+  constexpr std::string_view end = "END";
+  return beginsWord(text, end) &&
+         beginsWord(withoutBlanksInFront(text.substr(end.size())), "PROGRAM");
+}
+
+bool endsInLiteral(std::string_view text) {
+  if (text.find_first_of("\"'") == std::string_view::npos) return false;
+  QuoteState quotes;
+  quotes.read(text);
+  return quotes.isOpen();
+}
+
 bool isAsciiWithoutTabs(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char character) {
     return static_cast<unsigned char>(character) < 0x80 && character != '\t';
@@ -305,13 +318,29 @@ bool SourceLines::next(SourceLine& line) {
   line.isDirective = current_.kind == Kind::directive;
   line.seams.clear();
   if (line.isDirective) return true;
-  codeSeen_ = true;
+  // Another program, with options of its own, may follow.
+  codeSeen_ = !isEndOfProgram(line.text);
   const bool endsInDash =
       line.text.size() > 1 && line.text.back() == '-' && isQuote(line.text[line.text.size() - 2]);
-  if (format_ == SourceFormat::free && !endsInDash) return true;
+  const bool canGoOn = format_ != SourceFormat::free || endsInDash || endsInLiteral(line.text);
+  if (!canGoOn) return true;
   findAhead();
+  if (format_ == SourceFormat::free && !endsInDash) continueAhead();
   if (hasAhead_ && (ahead_.kind == Kind::continuation || endsInDash)) join(line);
   return true;
+}
+
+// A dash in column 1 continues a literal where lines have an indicator there.
+void SourceLines::continueAhead() {
+  if (!hasAhead_ || ahead_.kind != Kind::code || ahead_.column != 1 || ahead_.text.front() != '-') {
+    return;
+  }
+  const std::string_view behind = withoutBlanksInFront(ahead_.whole.substr(1));
+  if (behind.empty()) return;
+  ahead_.column += static_cast<std::int32_t>(ahead_.whole.size() - behind.size());
+  ahead_.text = withoutBlanksBehind(behind);
+  ahead_.whole = behind;
+  ahead_.kind = Kind::continuation;
 }
 
 void SourceLines::join(SourceLine& line) {

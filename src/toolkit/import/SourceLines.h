@@ -94,6 +94,7 @@ class SourceLines {
   Cut cut(std::string_view line);
   void setText(Laid& laid, std::string_view code, std::int32_t column);
   void findAhead();
+  void continueAhead();
   bool isCode(const Laid& laid) const;
   void join(SourceLine& line);
 

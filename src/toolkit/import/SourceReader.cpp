@@ -6,6 +6,7 @@
 #include "toolkit/import/ImportBudget.h"
 #include "toolkit/import/ReplaceStage.h"
 #include "toolkit/import/SourceReport.h"
+#include "toolkit/import/TagWords.h"
 #include "toolkit/import/TextArena.h"
 #include "toolkit/import/TokenReader.h"
 
@@ -20,7 +21,8 @@ class SourceReader::Impl {
         budget_(options_.most, report_),
         expander_(options_, copybooks, map, arena_, budget_, report_),
         replaced_(expander_, arena_, budget_, report_),
-        tokens_(replaced_, arena_) {
+        tags_(replaced_, report_),
+        tokens_(tags_, arena_) {
     expander_.open(std::move(bytes), name);
   }
 
@@ -48,6 +50,7 @@ class SourceReader::Impl {
   ImportBudget budget_;
   CopyExpander expander_;
   ReplaceStage replaced_;
+  TagWords tags_;
   TokenReader tokens_;
   bool debugging_ = false;
   bool finished_ = false;

@@ -60,10 +60,21 @@ void WordScanner::setPlace(TextWord& word, const char* begin) {
   word.place = countedPlace_;
 }
 
-// Pseudo-text may end right behind the separator.
+// Pseudo-text may end right behind the separator, and a period may be one too many.
 bool WordScanner::isFollowedByBlank(const char* separator) const {
   const char* const next = separator + 1;
-  return next == end_ || isBlank(*next) || (end_ - next >= 2 && next[0] == '=' && next[1] == '=');
+  const auto isEnd = [this](const char* at) {
+    return at == end_ || isBlank(*at) || (*at == '|' && isComment(at)) ||
+           (end_ - at >= 2 && at[0] == '*' && at[1] == '>');
+  };
+  return isEnd(next) || (end_ - next >= 2 && next[0] == '=' && next[1] == '=') ||
+         (*separator == '.' && *next == '.' && isEnd(next + 1));
+}
+
+bool WordScanner::isComment(const char* bar) const {
+  const char before = bar == line_.text.data() ? ' ' : bar[-1];
+  const char behind = bar + 1 == end_ ? ' ' : bar[1];
+  return !lenient_ && isCommentBar(before, behind);
 }
 
 void WordScanner::read(TextWord& word) {
@@ -104,6 +115,12 @@ void WordScanner::read(TextWord& word) {
         break;
       case CharacterClass::star:
         if (end_ - at_ >= 2 && at_[1] == '>') {
+          at_ = end_;
+          continue;
+        }
+        break;
+      case CharacterClass::bar:
+        if (isComment(at_)) {
           at_ = end_;
           continue;
         }
@@ -155,6 +172,11 @@ void WordScanner::readRun(TextWord& word) {
         continue;
       case CharacterClass::star:
         if (end_ - at_ >= 2 && at_[1] == '>') break;
+        isSimple = false;
+        at_++;
+        continue;
+      case CharacterClass::bar:
+        if (at_ != begin && isComment(at_)) break;
         isSimple = false;
         at_++;
         continue;

@@ -40,6 +40,7 @@ class WordScanner : public TextWordSource {
   std::size_t left() const { return static_cast<std::size_t>(end_ - at_); }
   bool nextLine();
   bool isFollowedByBlank(const char* separator) const;
+  bool isComment(const char* bar) const;
   void setPlace(TextWord& word, const char* begin);
   void readLiteral(TextWord& word, const char* begin);
   void readRun(TextWord& word);
