@@ -63,6 +63,9 @@ class Generate : public Command {
     arguments.option("--names", names_, "FILE",
                      "Names to use in place of those that are made: KEY = NAME, one a line");
     arguments.list("--set", values_, "OPTION=VALUE,...", "Options of the kind");
+    arguments.flag("-v,--verbose", isVerbose_,
+                   "Tell of every name that the language wants changed");
+    arguments.flag("-q,--quiet", isQuiet_, "Say only what is wrong");
     arguments.insteadOf({"KIND", "SERVICE", "--output"}, "--kinds", kinds_,
                         "Print the kinds with their options, and make nothing");
   }
@@ -109,11 +112,12 @@ class Generate : public Command {
     try {
       const toolkit::GeneratedOutput made =
           toolkit::generateFiles(reader, kind, file_, output_, options_, dictionary_);
-      printFindings(file_, made.findings);
+      printFindings(file_, told(made.findings));
       if (countOf(made.findings, toolkit::Severity::error) > 0) {
         std::cout << toolkit::printable(file_) << ": nothing is made of it\n";
         return exitRefused;
       }
+      if (isQuiet_) return exitFine;
       for (const std::string& file : made.files) {
         const bool isWritten =
             std::find(made.written.begin(), made.written.end(), file) != made.written.end();
@@ -127,6 +131,26 @@ class Generate : public Command {
     }
   }
 
+  // Names of COBOL are none of most languages: a few are told, the others counted.
+  toolkit::Findings told(const toolkit::Findings& findings) const {
+    constexpr std::size_t mostNames = 3;
+    toolkit::Findings result;
+    std::size_t names = 0;
+    for (const toolkit::Finding& finding : findings) {
+      if (isQuiet_ && finding.severity == toolkit::Severity::note) continue;
+      const bool isName = finding.rule == "changed-name" && !isVerbose_;
+      if (!isName || ++names <= mostNames) result.push_back(finding);
+    }
+    if (names > mostNames) {
+      toolkit::Finding rest;
+      rest.severity = toolkit::Severity::note;
+      rest.problem = toolkit::count(names - mostNames, "more name") +
+                     " changed so; --verbose tells them, --names chooses others";
+      result.push_back(rest);
+    }
+    return result;
+  }
+
   std::string kind_;
   std::string file_;
   std::string output_;
@@ -134,6 +158,8 @@ class Generate : public Command {
   std::optional<std::string> record_;
   std::optional<std::string> names_;
   std::vector<std::string> values_;
+  bool isVerbose_ = false;
+  bool isQuiet_ = false;
   bool kinds_ = false;
   toolkit::GenerateOptions options_;
 };

@@ -66,17 +66,21 @@ class Import : public Command {
     if (const int wrong = findTasks(); wrong != exitFine) return wrong;
     options_.format = formatOf(format_);
     options_.pointerSize = pointerSize_.empty() ? 0 : pointerSize_ == "4" ? 4 : 8;
-    bool isFine = true;
+    std::size_t refused = 0;
     const Progress progress(tasks_.size(), isQuiet_);
     workThrough(
         tasks_.size(), jobs_, [this](std::size_t task) { return import(tasks_[task]); },
         [&](std::size_t task, const WorkOutcome& outcome) {
-          isFine = isFine && outcome.isFine;
+          if (!outcome.isFine) ++refused;
           progress.clear();
           tell(task, outcome);
           progress.show(task + 1);
         });
-    return isFine ? exitFine : exitRefused;
+    if (isFolder_ && !isQuiet_) {
+      std::cout << toolkit::count(tasks_.size(), "source") << ", " << refused
+                << " of them with errors\n";
+    }
+    return refused == 0 ? exitFine : exitRefused;
   }
 
  private:
@@ -150,9 +154,11 @@ class Import : public Command {
       }
       if (explained_) explain(file.imported, outcome);
     } catch (const toolkit::RefusedDocument& refused) {
-      outcome.messages = toolkit::printable(refused.what()) + "\n";
+      outcome.messages = toolkit::printable(refused.refusal().file) +
+                         ": error: " + toolkit::printable(refused.refusal().text) + "\n";
     } catch (const toolkit::FileError& failure) {
-      outcome.messages = toolkit::printable(failure.what()) + "\n";
+      outcome.messages =
+          std::string(toolName) + ": error: " + toolkit::printable(failure.what()) + "\n";
     }
     return outcome;
   }

@@ -46,14 +46,16 @@ std::string exitCodesText() {
   return text;
 }
 
-// What else is to be said when the command line is wrong: the command that may have been meant.
-void suggestCommand(int argc, char** argv, const CommandTable& table) {
+// False, with a message, when the first word is no command's name.
+bool isCommandKnown(int argc, char** argv, const CommandTable& table) {
+  if (argc < 2 || argv[1][0] == '-') return true;
   std::vector<std::string> names;
   for (const CommandEntry& entry : table.commands) names.emplace_back(entry.command->name());
-  if (argc < 2 || argv[1][0] == '-') return;
-  if (std::find(names.begin(), names.end(), argv[1]) != names.end()) return;
+  if (std::find(names.begin(), names.end(), argv[1]) != names.end()) return true;
   const std::string near = toolkit::nearestName(argv[1], names);
-  if (!near.empty()) std::cerr << "Did you mean '" << near << "'?\n";
+  printError("there is no command '" + std::string(argv[1]) + "'; " +
+             (near.empty() ? "--help lists them" : "did you mean '" + near + "'?"));
+  return false;
 }
 
 std::string versionText() {
@@ -87,12 +89,11 @@ int run(int argc, char** argv) {
     addSchemasOption(arguments, schemas);
     parts.push_back(part);
   }
+  if (!isCommandKnown(argc, argv, table)) return exitUsage;
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& failure) {
-    if (app.exit(failure) == 0) return exitFine;
-    suggestCommand(argc, argv, table);
-    return exitUsage;
+    return app.exit(failure) == 0 ? exitFine : exitUsage;
   }
   for (std::size_t i = 0; i < parts.size(); ++i) {
     if (parts[i]->parsed()) return table.commands[i].command->run(schemas);

@@ -39,6 +39,23 @@ TEST_F(ToolGenerateTest, TellsWhatItWrote) {
   EXPECT_EQ(generate("jsonschema", "PAYSLIP-java.xml").out, "out: as it was\n");
 }
 
+// Every name of COBOL's is none of Java's.
+TEST_F(ToolGenerateTest, ManyNamesAreCountedUnlessTheyAreAskedFor) {
+  ASSERT_EQ(
+      run({"new", "--flavour", "java", AS_EXAMPLES_DIR "/MOTPREM.xml", "-o", "s.xml"}).exitCode, 0);
+  const auto notesOf = [](const std::string& out) {
+    std::size_t notes = 0;
+    for (std::size_t at = 0; (at = out.find(": note: ", at)) != std::string::npos; ++at) ++notes;
+    return notes;
+  };
+  const std::string few = run({"generate", "java", "s.xml", "-o", "out.java"}).out;
+  EXPECT_EQ(notesOf(few), 4U);
+  EXPECT_THAT(few, HasSubstr(" more names changed so; --verbose tells them"));
+  const std::string all = run({"generate", "java", "s.xml", "-o", "out.java", "-v"}).out;
+  EXPECT_GT(notesOf(all), 100U);
+  EXPECT_EQ(run({"generate", "java", "s.xml", "-o", "out.java", "-q"}).out, "");
+}
+
 TEST_F(ToolGenerateTest, WhatLintRefusesIsNotMade) {
   const test::ToolOutcome outcome = generate("xsd", "broken/MOTPREM-java.xml");
   EXPECT_EQ(outcome.exitCode, 1);

@@ -133,7 +133,7 @@ TEST_F(ToolImportTest, WritesTheSourcesOfFolders) {
 TEST_F(ToolImportTest, RefusesWhatItCannotRead) {
   const test::ToolOutcome outcome = run({"import", "none.cbl", "-o", "a.xml"});
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.err, HasSubstr("none.cbl: it cannot be read"));
+  EXPECT_THAT(outcome.err, HasSubstr("none.cbl: error: it cannot be read"));
 }
 
 TEST_F(ToolImportTest, RefusesWrongUsage) {
