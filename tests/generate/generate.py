@@ -14,6 +14,7 @@ from pathlib import Path
 from typing import Callable, Dict, List
 
 import growth
+import guide
 import hostile
 import languages
 import made
@@ -25,7 +26,7 @@ FLAVOURS = ['ws', 'com', 'dotnet', 'java']
 CHANGED = re.compile(r": '([^\n]*)' is no name in XML, or taken: '([^\n]*)' stands for it\n")
 # How the tool shows control characters.
 CONTROL = re.compile(r'\\u(00(?:[0189][0-9A-F]|7F))')
-PARTS = ['examples', 'guide', 'hostile', 'made', 'languages', 'growth']
+PARTS = ['examples', 'guide', 'hostile', 'made', 'sources', 'languages', 'growth']
 COMPILED = 20  # One in so many of the services that are made up goes through gsoap.
 
 
@@ -70,7 +71,7 @@ class Prover:
 
     def prove_schemas(self, service: Path, folder: Path) -> None:
         self.generate('xsd', service, folder)
-        soap.read_schema(main_schema(folder))
+        soap.Schema(main_schema(folder))
         self.counts['schemas'] += 1
 
     def collect_json(self, service: Path, folder: Path) -> None:
@@ -85,7 +86,7 @@ class Prover:
         self.counts['messages'] += soap.prove(wsdl, main_schema(folder / 'xsd'), openapi, self.renamed)
         apart = folder / 'apart'
         self.generate('wsdl', service, apart, '--set', 'schema=separate')
-        soap.read_schema(main_schema(apart))
+        soap.Schema(main_schema(apart))
         self.counts['WSDL documents'] += 2
 
     def prove_gsoap(self, folder: Path) -> None:
@@ -139,6 +140,7 @@ def main() -> int:
     parser.add_argument('--modules', required=True, help=argparse.SUPPRESS)
     parser.add_argument('--seed', default='1', help='other programs for another seed')
     parser.add_argument('--keep', help='a folder for what is made, which stays')
+    parser.add_argument('--sources', type=Path, help='a folder with COBOL programs to make services of, too')
     parser.add_argument('--only', choices=PARTS, action='append', help='a part of it; all unless told')
     arguments = parser.parse_args()
     folder = Path(arguments.keep or tempfile.mkdtemp(prefix='generate-'))
@@ -165,22 +167,27 @@ def main() -> int:
                 source, prover.folder / 'made' / source.stem / 'xsd'))
 
     def prove_guide(prover: Prover) -> None:
-        guide = (HERE.parent.parent / 'docs' / 'generate.md').read_text()
-        code = guide.partition('<!-- caller -->')[2].partition('```python\n')[2].partition('```')[0]
-        prover.folder.mkdir(parents=True, exist_ok=True)
+        callers = list(guide.callers(HERE.parent.parent / 'docs'))
+        prover.failures += [f'no document has a caller of {kind}' for kind in guide.missing(callers)]
 
-        def call() -> None:
-            prover.generate('wsdl', EXAMPLES / 'PAYSLIP-ws.xml', prover.folder)
-            result = subprocess.run([sys.executable, '-c', code], cwd=prover.folder, capture_output=True,
-                                    text=True, check=False)
-            if 'return code 0' not in result.stdout or '4711</' not in result.stdout:
-                raise soap.Failure(result.stdout + result.stderr)
+        def call(caller: guide.Caller) -> None:
+            place = prover.folder / caller.kind
+            place.mkdir(parents=True)
+            prover.generate(caller.kind, EXAMPLES / caller.service, place)
+            guide.call(caller, place)
             prover.counts['callers'] += 1
 
-        prover.attempt('the caller of the guide', call)
+        for caller in callers:
+            prover.attempt(f'the caller of {caller.kind}', lambda one=caller: call(one))
 
     def prove_made(prover: Prover) -> None:
         services = made.services(arguments.tool, prover.folder, arguments.seed, arguments.programs, FLAVOURS)
+        for number, (flavour, service) in enumerate(services):
+            prover.prove(service, flavour, number // len(FLAVOURS) % COMPILED == 0)
+
+    def prove_sources(prover: Prover) -> None:
+        sources = made.programs_in(arguments.sources)[:arguments.programs]
+        services = made.services_of(arguments.tool, prover.folder, sources, FLAVOURS)
         for number, (flavour, service) in enumerate(services):
             prover.prove(service, flavour, number // len(FLAVOURS) % COMPILED == 0)
 
@@ -193,8 +200,9 @@ def main() -> int:
         'guide': lambda: run('guide', prove_guide),
         'hostile': lambda: run('hostile names and values', prove_hostile),
         'made': lambda: run('made of random data divisions', prove_made),
+        'sources': lambda: arguments.sources is None or run('programs of a folder', prove_sources),
         'languages': lambda: languages.prove(arguments.tool, folder / 'languages', arguments.seed,
-                                             arguments.programs),
+                                             arguments.programs, arguments.sources),
         'growth': lambda: growth.prove(arguments.tool, folder / 'growth'),
     }
     try:

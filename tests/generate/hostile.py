@@ -85,7 +85,7 @@ def dictionary(name: str, others) -> str:
 
 def services(folder: Path) -> Iterator[Tuple[str, Path]]:
     folder.mkdir(parents=True, exist_ok=True)
-    for flavour in [f for f in VERSIONS if f in __import__("os").environ.get("ONLYF","ws com dotnet java")]:
+    for flavour in VERSIONS:
         for word, name in NAMES.items():
             others = [other for other in NAMES.values() if len(other) < 1000] + RESERVED
             if word == 'long':

@@ -7,7 +7,7 @@ import sys
 import tempfile
 import time
 from pathlib import Path
-from typing import List, Tuple
+from typing import List, Optional, Tuple
 
 import harmful
 import made
@@ -99,7 +99,13 @@ def random_ones(tool: str, folder: Path, seed: str, programs: int) -> Documents:
     return services, sorted((folder / 'dictionaries').glob('*.xml'))
 
 
-def prove(tool: str, folder: Path, seed: str, programs: int, kinds=tuple(KINDS)) -> bool:
+def foreign_ones(tool: str, folder: Path, sources: Path, programs: int) -> Documents:
+    services = list(made.services_of(tool, folder, made.programs_in(sources)[:programs], FLAVOURS))
+    return services, sorted((folder / 'dictionaries').glob('*.xml'))
+
+
+def prove(tool: str, folder: Path, seed: str, programs: int, sources: Optional[Path] = None,
+          kinds=tuple(KINDS)) -> bool:
     """Whether everything is generated, and compiles."""
     is_fine = True
 
@@ -123,6 +129,9 @@ def prove(tool: str, folder: Path, seed: str, programs: int, kinds=tuple(KINDS))
     tell('hostile names and values', part('hostile'), hostile(folder / 'hostile'))
     if programs > 0:
         tell('random data divisions', part('random'), random_ones(tool, folder / 'random', seed, programs))
+    if sources:
+        tell('programs of a folder', part('foreign'),
+             foreign_ones(tool, folder / 'foreign', sources, programs))
     return is_fine
 
 
@@ -137,7 +146,7 @@ def main() -> int:
     kinds = [kind for kind in KINDS if arguments.kind in (None, kind.word)]
     with tempfile.TemporaryDirectory() as temporary:
         folder = Path(arguments.keep or temporary)
-        return 0 if prove(arguments.tool, folder, arguments.seed, arguments.programs, kinds) else 1
+        return 0 if prove(arguments.tool, folder, arguments.seed, arguments.programs, None, kinds) else 1
 
 
 if __name__ == '__main__':
