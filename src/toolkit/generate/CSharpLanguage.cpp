@@ -1,14 +1,10 @@
 #include "toolkit/generate/CSharpLanguage.h"
 
-#include <string_view>
-#include <unordered_set>
-
 namespace as::toolkit::gen {
 
 namespace {
 
 using Kind = Capacity::Kind;
-using Words = std::unordered_set<std::string_view>;
 
 // Keywords, those that only some places reserve, and what every object has.
 const Words& reserved() {

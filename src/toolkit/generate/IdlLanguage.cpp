@@ -1,14 +1,10 @@
 #include "toolkit/generate/IdlLanguage.h"
 
-#include <string_view>
-#include <unordered_set>
-
 namespace as::toolkit::gen {
 
 namespace {
 
 using Kind = Capacity::Kind;
-using Words = std::unordered_set<std::string_view>;
 
 // Words of the language itself, and those of C and C++ that headers made of it would trip over, in
 // small letters.
@@ -114,12 +110,6 @@ const Words& keywords() {
                               "while",
                               "xor"};
   return words;
-}
-
-Words with(const Words& words, const Words& more) {
-  Words all = words;
-  all.insert(more.begin(), more.end());
-  return all;
 }
 
 // Types that the platform's own definitions have, and those of Automation.

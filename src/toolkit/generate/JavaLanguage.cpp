@@ -1,14 +1,10 @@
 #include "toolkit/generate/JavaLanguage.h"
 
-#include <string_view>
-#include <unordered_set>
-
 namespace as::toolkit::gen {
 
 namespace {
 
 using Kind = Capacity::Kind;
-using Words = std::unordered_set<std::string_view>;
 
 // Keywords, literals, and words that some places of a program reserve.
 const Words& keywords() {
@@ -23,12 +19,6 @@ const Words& keywords() {
       "throw",    "throws",    "transient", "true",      "try",        "var",          "void",
       "volatile", "while",     "yield",     "non-sealed"};
   return words;
-}
-
-Words with(const Words& words, const Words& more) {
-  Words all = words;
-  all.insert(more.begin(), more.end());
-  return all;
 }
 
 // Types that the output itself makes use of, and the package that holds others of them.
@@ -90,7 +80,8 @@ const TypeTable& values() {
 
 const Language& javaLanguage() {
   static const Language language = {typeRule(70), typeRule(120), memberRule(), memberRule(),
-                                    values(),     "String",      "",           true};
+                                    values(),     "String",      "",           true,
+                                    false,        true};
   return language;
 }
 

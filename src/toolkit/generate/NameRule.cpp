@@ -70,7 +70,24 @@ std::string keyOf(const NameRule& rule, const std::string& name) {
   return rule.tellsCases ? name : inSmallLetters(name);
 }
 
+// Names that are the same still are told apart by their order.
+void count(const NameRule& rule, std::vector<std::string>& names) {
+  std::unordered_map<std::string, int> given;
+  for (std::string& name : names) {
+    const std::string base = name;
+    while (!given.try_emplace(keyOf(rule, name), 1).second) {
+      name = base + "_" + std::to_string(++given[keyOf(rule, base)]);
+    }
+  }
+}
+
 }  // namespace
+
+Words with(const Words& words, const Words& more) {
+  Words all = words;
+  all.insert(more.begin(), more.end());
+  return all;
+}
 
 std::u32string charactersOf(std::string_view text) {
   std::u32string characters;
@@ -227,28 +244,52 @@ void NameGiver::tellChange(const NameWish& wish, const std::string& name) {
                        ""});
 }
 
+std::string NameGiver::wantedName(const NameWish& wish, int& rank) {
+  const std::string* const chosen = chosenFor(wish);
+  if (chosen == nullptr) {
+    std::string name = legalName(rule_, wish.name);
+    rank = name == wish.name && !wish.isMade ? 1 : 2;
+    return name;
+  }
+  rank = 0;
+  if (!isLegal(rule_, *chosen)) {
+    findings_.push_back({"forbidden-name", Severity::error, wish.place,
+                         quote(*chosen) + " is no name in " + rule_.language,
+                         "choose another one"});
+  }
+  return *chosen;
+}
+
+// The first of them keeps the name.
+void NameGiver::tellApart(const std::vector<NameWish>& wishes, std::vector<Claim> claimants,
+                          std::vector<std::string>& names) {
+  std::stable_sort(claimants.begin(), claimants.end(), [&](const Claim& left, const Claim& right) {
+    return std::pair(left.rank, wishes[left.index].name) <
+           std::pair(right.rank, wishes[right.index].name);
+  });
+  for (std::size_t i = 1; i < claimants.size(); ++i) {
+    const std::size_t index = claimants[i].index;
+    if (claimants[i].rank == 0) {
+      findings_.push_back({"forbidden-name", Severity::error, wishes[index].place,
+                           quote(names[index]) + " is chosen for another one, too",
+                           "choose another one"});
+      continue;
+    }
+    const bool isSameWord = wishes[index].name == wishes[claimants.front().index].name;
+    names[index] += "_" + digitsOfText(isSameWord ? wishes[index].place : wishes[index].name);
+  }
+}
+
 std::vector<std::string> NameGiver::namesIn(const std::vector<NameWish>& wishes) {
-  struct Claim {
-    std::size_t index;
-    int rank;  // Chosen, as it was, changed.
-  };
   std::vector<std::string> names(wishes.size());
   std::unordered_map<std::string, std::vector<Claim>> claims;
   claims.reserve(wishes.size());
   bool areApart = true;
   for (std::size_t i = 0; i < wishes.size(); ++i) {
-    const std::string* const chosen = chosenFor(wishes[i]);
-    names[i] = chosen != nullptr ? *chosen : legalName(rule_, wishes[i].name);
-    if (chosen != nullptr && !isLegal(rule_, *chosen)) {
-      findings_.push_back({"forbidden-name", Severity::error, wishes[i].place,
-                           quote(*chosen) + " is no name in " + rule_.language,
-                           "choose another one"});
-    }
-    const int rank = chosen != nullptr                                 ? 0
-                     : names[i] == wishes[i].name && !wishes[i].isMade ? 1
-                                                                       : 2;
+    Claim claim{i};
+    names[i] = wantedName(wishes[i], claim.rank);
     std::vector<Claim>& claimants = claims[keyOf(rule_, names[i])];
-    claimants.push_back({i, rank});
+    claimants.push_back(claim);
     areApart = areApart && claimants.size() == 1;
   }
   for (std::size_t first = 0; first < wishes.size() && !areApart; ++first) {
@@ -257,32 +298,9 @@ std::vector<std::string> NameGiver::namesIn(const std::vector<NameWish>& wishes)
     if (found == claims.end() || found->second.size() == 1) continue;
     std::vector<Claim> claimants = std::move(found->second);
     claims.erase(found);
-    std::stable_sort(claimants.begin(), claimants.end(),
-                     [&](const Claim& left, const Claim& right) {
-                       return std::pair(left.rank, wishes[left.index].name) <
-                              std::pair(right.rank, wishes[right.index].name);
-                     });
-    for (std::size_t i = 1; i < claimants.size(); ++i) {
-      const std::size_t index = claimants[i].index;
-      if (claimants[i].rank == 0) {
-        findings_.push_back({"forbidden-name", Severity::error, wishes[index].place,
-                             quote(names[index]) + " is chosen for another one, too",
-                             "choose another one"});
-        continue;
-      }
-      const bool isSameWord = wishes[index].name == wishes[claimants.front().index].name;
-      names[index] += "_" + digitsOfText(isSameWord ? wishes[index].place : wishes[index].name);
-    }
+    tellApart(wishes, std::move(claimants), names);
   }
-  // Wishes that are the same word for word still collide: they are told apart by their order.
-  std::unordered_map<std::string, int> given;
-  for (std::string& name : names) {
-    if (areApart) break;
-    const std::string base = name;
-    while (!given.try_emplace(keyOf(rule_, name), 1).second) {
-      name = base + "_" + std::to_string(++given[keyOf(rule_, base)]);
-    }
-  }
+  if (!areApart) count(rule_, names);
   for (std::size_t i = 0; i < wishes.size(); ++i) {
     if (names[i] != wishes[i].name && chosenFor(wishes[i]) == nullptr) {
       tellChange(wishes[i], names[i]);

@@ -29,16 +29,20 @@
 
 namespace as::toolkit::gen {
 
+using Words = std::unordered_set<std::string_view>;
+
+Words with(const Words& words, const Words& more);
+
 // What a language lets names be.
 struct NameRule {
   enum class Change { toUnderscore, toHumps };
   // Humps: how the first letter of a changed name is written.
   enum class Start { asIs, small, capital };
 
-  const char* language;                                            // As findings call it.
-  std::function<bool(char32_t character)> mayStart;                // The first character;
-  std::function<bool(char32_t character)> mayFollow;               // the others.
-  const std::unordered_set<std::string_view>* reserved = nullptr;  // Null for none.
+  const char* language;                               // As findings call it.
+  std::function<bool(char32_t character)> mayStart;   // The first character;
+  std::function<bool(char32_t character)> mayFollow;  // the others.
+  const Words* reserved = nullptr;                    // Null for none.
   bool isReservedInAnyCase = false;
   Change change = Change::toUnderscore;
   Start start = Start::asIs;
@@ -83,6 +87,14 @@ class NameGiver {
   std::vector<std::string> namesIn(const std::vector<NameWish>& wishes);
 
  private:
+  struct Claim {
+    std::size_t index;  // Of a wish.
+    int rank = 0;       // Chosen, as it was, changed.
+  };
+
+  std::string wantedName(const NameWish& wish, int& rank);
+  void tellApart(const std::vector<NameWish>& wishes, std::vector<Claim> claimants,
+                 std::vector<std::string>& names);
   const std::string* chosenFor(const NameWish& wish) const;
   void tellChange(const NameWish& wish, const std::string& name);
 

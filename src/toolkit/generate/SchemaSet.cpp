@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "toolkit/generate/Facets.h"
 #include "toolkit/generate/NamespaceUri.h"
 #include "toolkit/generate/XsdTypes.h"
 #include "toolkit/text/Phrases.h"
@@ -11,22 +10,6 @@
 namespace as::toolkit::gen {
 
 namespace {
-
-constexpr std::string_view anyType = "xs:anyType";
-
-std::string attribute(std::string_view name, std::string_view value) {
-  return " " + std::string(name) + "=\"" + xmlText(value) + "\"";
-}
-
-std::string occurrences(const Field& field) {
-  std::string text;
-  const int most = std::max(field.occurs, 1);
-  if (field.least != 1) text += attribute("minOccurs", std::to_string(field.least));
-  if (most != 1) text += attribute("maxOccurs", std::to_string(most));
-  return text;
-}
-
-Form said(Form own, Form around) { return own == Form::unsaid ? around : own; }
 
 void refuseUnlessUri(const Job& job, const std::string& text) {
   if (isUri(text)) return;
@@ -48,7 +31,6 @@ SchemaSet::SchemaSet(const Job& job)
   }
   prefixes_[target_] = "tns";
   refuseUnlessUri(job_, target_);
-  partOf(target_);
   readTypes();
 }
 
@@ -224,11 +206,6 @@ SchemaSet::Handle SchemaSet::addGroup(const NameWish& name, const Members& membe
 void SchemaSet::complete() {
   useWaiting();
   giveNames();
-  for (std::size_t i = 0; i < types_.size(); ++i) {
-    if (types_[i].isUsed) writeType(i);
-  }
-  for (const NamedType& type : namedTypes_) writeNamedType(type);
-  for (const Element& element : elements_) writeElement(element);
 }
 
 // Types of all namespaces share one scope: so a name tells a type.
@@ -310,156 +287,9 @@ std::string SchemaSet::prefixOf(const std::string& uri) {
   return found->second;
 }
 
-SchemaSet::Part& SchemaSet::partOf(const std::string& uri) {
-  prefixOf(uri);
-  const auto [found, isNew] = parts_.try_emplace(uri);
-  if (isNew) found->second.text.indent();
-  return found->second;
-}
-
-std::string SchemaSet::qualified(Part& part, const std::string& uri, const std::string& name) {
-  part.imports[uri] = true;
-  return prefixOf(uri) + ":" + name;
-}
-
 std::string_view SchemaSet::builtIn(const Field& field) const {
   const TypeRow* const row = lookup_.rowFor(field);
   return row == nullptr ? anyType : row->type;
-}
-
-void SchemaSet::writeType(std::size_t number) {
-  const Type& type = job_.model.types[number];
-  const TypeFacts& facts = types_[number];
-  Part& part = partOf(facts.uri);
-  if (type.isDeclared && type.self.structure != number) {
-    writeSimpleType(part, type.self, facts.name);
-    return;
-  }
-  const Around around = aroundOf(number);
-  const bool isValue = type.fields.empty() && facts.value != nullptr &&
-                       !facts.value->dataType.empty() && builtIn(*facts.value) != anyType;
-  part.text.open("<xs:complexType" + attribute("name", facts.name) + ">");
-  if (isValue) {
-    part.text.open("<xs:simpleContent>");
-    part.text.open("<xs:extension" +
-                   attribute("base", hasFacets(*facts.value)
-                                         ? qualified(part, facts.uri, facts.valueName)
-                                         : std::string(builtIn(*facts.value))) +
-                   ">");
-    writeAttributes(part, type, around);
-    part.text.close("</xs:extension>");
-    part.text.close("</xs:simpleContent>");
-    part.text.close("</xs:complexType>");
-    if (!hasFacets(*facts.value)) return;
-    Field value = *facts.value;
-    value.structure = none;
-    value.reference = none;
-    writeSimpleType(part, value, facts.valueName);
-    return;
-  }
-  std::vector<const Field*> fields;
-  for (const Field& field : type.fields) fields.push_back(&field);
-  writeMembers(part, fields, namesOf(fields, job_.model.placeOf(type)), around);
-  writeAttributes(part, type, around);
-  part.text.close("</xs:complexType>");
-}
-
-void SchemaSet::writeElement(const Element& element) {
-  Part& part = partOf(element.uri);
-  if (element.field != nullptr) {
-    writeTyped(part, "element", attribute("name", element.name), *element.field);
-    return;
-  }
-  part.text.open("<xs:element" + attribute("name", element.name) + ">");
-  part.text.open("<xs:complexType>");
-  writeMembers(part, element.members->chosen(), memberNames(*element.members),
-               {element.uri, Form::unsaid, Form::unsaid, element.members->isPlain,
-                element.members->isPlain});
-  part.text.close("</xs:complexType>");
-  part.text.close("</xs:element>");
-}
-
-void SchemaSet::writeNamedType(const NamedType& type) {
-  if (type.field != nullptr && isNamed(*type.field)) return;
-  Part& part = partOf(target_);
-  const bool isTable = type.field != nullptr && type.field->isTable();
-  if (type.field != nullptr && !isTable) {
-    writeSimpleType(part, *type.field, type.name);
-    return;
-  }
-  part.text.open("<xs:complexType" + attribute("name", type.name) + ">");
-  if (isTable) {
-    writeOccurrences(part, *type.field);
-  } else {
-    writeMembers(
-        part, type.members->chosen(), memberNames(*type.members),
-        {target_, Form::unsaid, Form::unsaid, type.members->isPlain, type.members->isPlain});
-  }
-  part.text.close("</xs:complexType>");
-}
-
-void SchemaSet::writeMembers(Part& part, const std::vector<const Field*>& fields,
-                             const std::vector<std::string>& names, const Around& around) {
-  if (fields.empty()) {
-    part.text.line("<xs:sequence/>");
-    return;
-  }
-  part.text.open("<xs:sequence>");
-  for (std::size_t i = 0; i < fields.size(); ++i) writeMember(part, *fields[i], names[i], around);
-  part.text.close("</xs:sequence>");
-}
-
-void SchemaSet::writeMember(Part& part, const Field& field, const std::string& name,
-                            const Around& around) {
-  if (isReference(field, around)) {
-    const Handle handle = findElement(field.namespaceUri, field);
-    const std::string& uri = elements_[handle].uri;
-    part.text.line("<xs:element" + attribute("ref", qualified(part, uri, elements_[handle].name)) +
-                   occurrences(field) + "/>");
-    return;
-  }
-  if (around.hasLists && field.isTable()) {
-    part.text.open("<xs:element" + attribute("name", name) + R"( form="unqualified">)");
-    part.text.open("<xs:complexType>");
-    writeOccurrences(part, field);
-    part.text.close("</xs:complexType>");
-    part.text.close("</xs:element>");
-    return;
-  }
-  const bool isUnqualified =
-      around.isPlain || said(field.elementForm, around.elementForm) == Form::unqualified;
-  writeTyped(part, "element",
-             attribute("name", name) + (isUnqualified ? R"( form="unqualified")" : "") +
-                 occurrences(field),
-             field);
-}
-
-void SchemaSet::writeOccurrences(Part& part, const Field& field) {
-  part.text.open("<xs:sequence>");
-  writeMember(part, field, "item", {target_, Form::unsaid, Form::unsaid, true});
-  part.text.close("</xs:sequence>");
-}
-
-void SchemaSet::writeAttributes(Part& part, const Type& type, const Around& around) {
-  if (type.attributes.empty()) return;
-  std::vector<const Field*> fields;
-  for (const Field& field : type.attributes) fields.push_back(&field);
-  const std::string place = job_.model.placeOf(type);
-  const std::vector<std::string> names = namesOf(fields, place);
-  for (std::size_t i = 0; i < fields.size(); ++i) {
-    const Field& field = *fields[i];
-    if (field.isTable()) {
-      job_.warn("repeated-attribute", place + "." + field.name,
-                "an attribute has one value: that it occurs " + std::to_string(field.occurs) +
-                    " times is not said",
-                "make it a field");
-    }
-    const bool isQualified = around.attributeForm == Form::qualified;
-    writeTyped(part, "attribute",
-               attribute("name", names[i]) + (isQualified ? R"( form="qualified")" : "") +
-                   R"( use="required")",
-               field, true);
-  }
 }
 
 // What the built-in type does not say by itself.
@@ -479,153 +309,6 @@ bool SchemaSet::saysAnything(const Facets& facets) {
 
 bool SchemaSet::hasFacets(const Field& field) const {
   return builtIn(field) != anyType && saysAnything(facetsIn(field));
-}
-
-void SchemaSet::writeTyped(Part& part, const std::string& tag, const std::string& attributes,
-                           const Field& field, bool isAttribute) {
-  const std::vector<std::string> lines = linesAbout(job_.model, field);
-  std::string type;
-  Facets facets;
-  bool isAny = false;
-  const std::size_t own = field.reference != none ? field.reference : field.structure;
-  if (own != none) {
-    type = qualified(part, types_[own].uri, types_[own].name);
-  } else if (builtIn(field) == anyType) {
-    isAny = !isAttribute;
-    if (isAttribute) type = "xs:string";
-  } else {
-    facets = facetsIn(field);
-    if (!saysAnything(facets)) type = builtIn(field);
-  }
-  std::string start = "<xs:" + tag + attributes;
-  if (!type.empty()) start += attribute("type", type);
-  if (!type.empty() && lines.empty()) {
-    part.text.line(start + "/>");
-    return;
-  }
-  part.text.open(start + ">");
-  writeDocumentation(part, lines);
-  if (isAny) {
-    writeAny(part, "");
-  } else if (type.empty()) {
-    part.text.open("<xs:simpleType>");
-    writeRestriction(part, field, facets);
-    part.text.close("</xs:simpleType>");
-  }
-  part.text.close("</xs:" + tag + ">");
-}
-
-// Whatever XML there may be.
-void SchemaSet::writeAny(Part& part, const std::string& attributes) {
-  part.text.open("<xs:complexType" + attributes + R"( mixed="true">)");
-  part.text.open("<xs:sequence>");
-  part.text.line(R"(<xs:any minOccurs="0" maxOccurs="unbounded" processContents="lax"/>)");
-  part.text.close("</xs:sequence>");
-  part.text.close("</xs:complexType>");
-}
-
-// A restriction of a built-in type or, for what has no restriction, of one that is declared.
-void SchemaSet::writeSimpleType(Part& part, const Field& field, const std::string& name) {
-  const std::string named = name.empty() ? "" : attribute("name", name);
-  const std::size_t declared = field.reference != none ? field.reference : field.structure;
-  if (declared != none) {
-    // Of a structure, or of what another name stands for.
-    const TypeFacts& facts = types_[declared];
-    const std::string base = qualified(part, facts.uri, facts.name);
-    if (field.structure == none) {
-      part.text.open("<xs:simpleType" + named + ">");
-      part.text.line("<xs:restriction" + attribute("base", base) + "/>");
-      part.text.close("</xs:simpleType>");
-      return;
-    }
-    part.text.open("<xs:complexType" + named + ">");
-    part.text.open("<xs:complexContent>");
-    part.text.line("<xs:extension" + attribute("base", base) + "/>");
-    part.text.close("</xs:complexContent>");
-    part.text.close("</xs:complexType>");
-    return;
-  }
-  if (builtIn(field) == anyType) {
-    writeAny(part, named);
-    return;
-  }
-  part.text.open("<xs:simpleType" + named + ">");
-  writeDocumentation(part, linesAbout(job_.model, field));
-  writeRestriction(part, field, facetsIn(field));
-  part.text.close("</xs:simpleType>");
-}
-
-void SchemaSet::writeRestriction(Part& part, const Field& field, const Facets& facets) {
-  const std::string start = "<xs:restriction" + attribute("base", builtIn(field));
-  if (!saysAnything(facets)) {
-    part.text.line(start + "/>");
-    return;
-  }
-  part.text.open(start + ">");
-  const auto facet = [&part](const char* word, std::string_view value) {
-    part.text.line("<xs:" + std::string(word) + attribute("value", value) + "/>");
-  };
-  for (const std::string& value : facets.values) facet("enumeration", value);
-  if (!facets.pattern.empty()) facet("pattern", facets.pattern);
-  if (facets.longest >= 0) facet("maxLength", std::to_string(facets.longest));
-  if (facets.totalDigits > 0) facet("totalDigits", std::to_string(facets.totalDigits));
-  if (facets.fractionDigits > 0) facet("fractionDigits", std::to_string(facets.fractionDigits));
-  if (!facets.least.empty()) facet("minInclusive", facets.least);
-  if (!facets.most.empty()) facet("maxInclusive", facets.most);
-  part.text.close("</xs:restriction>");
-}
-
-void SchemaSet::writeDocumentation(Part& part, const std::vector<std::string>& lines) {
-  if (lines.empty()) return;
-  part.text.open("<xs:annotation>");
-  for (const std::string& line : lines) {
-    part.text.line("<xs:documentation>" + xmlText(line) + "</xs:documentation>");
-  }
-  part.text.close("</xs:annotation>");
-}
-
-std::string SchemaSet::fileOf(const std::string& uri) const {
-  if (uri == target_) return job_.fileStem() + ".xsd";
-  constexpr std::size_t longest = 80;
-  std::string name;
-  for (const char byte : uri) {
-    const auto code = static_cast<unsigned char>(byte);
-    name += isAsciiLetter(code) || isDigit(code) ? byte : '-';
-  }
-  if (name.size() > longest) name.resize(longest);
-  // Two that differ in other characters alone are two.
-  return job_.fileStem() + "-" + name + "-" + digitsOfText(uri) + ".xsd";
-}
-
-std::vector<SchemaSet::Schema> SchemaSet::schemas(bool areFiles) const {
-  std::vector<Schema> schemas;
-  for (const auto& [uri, part] : parts_) {
-    if (!areFiles && part.text.text().empty()) continue;
-    TextWriter text;
-    std::string start = R"(<xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema")";
-    for (const auto& [imported, isUsed] : part.imports) {
-      start += attribute("xmlns:" + prefixes_.at(imported), imported);
-    }
-    if (!part.imports.contains(uri)) start += attribute("xmlns:" + prefixes_.at(uri), uri);
-    text.open(start + attribute("targetNamespace", uri) +
-              R"( elementFormDefault="qualified" attributeFormDefault="unqualified">)");
-    std::map<std::string, bool> imports = part.imports;
-    if (areFiles && uri == target_) {
-      for (const auto& [other, otherPart] : parts_) imports[other] = true;
-    }
-    for (const auto& [imported, isUsed] : imports) {
-      if (imported == uri) continue;
-      text.line("<xs:import" + attribute("namespace", imported) +
-                (areFiles ? attribute("schemaLocation", fileOf(imported)) : "") + "/>");
-    }
-    Schema schema{uri, fileOf(uri), text.take() + part.text.text() + "</xs:schema>\n"};
-    if (uri == target_) {
-      schemas.insert(schemas.begin(), std::move(schema));
-    } else {
-      schemas.push_back(std::move(schema));
-    }
-  }
-  return schemas;
 }
 
 }  // namespace as::toolkit::gen

@@ -1,5 +1,5 @@
-// XML Schemas for the data of a service: a schema for each namespace, made in two steps. First all
-// elements and types are asked for, then they get their names and are written.
+// What the XML Schemas for the data of a service are to hold: elements and types are asked for,
+// then all of them get their names. SchemaWriter writes them.
 #ifndef TOOLKIT_GENERATE_SCHEMASET_H_
 #define TOOLKIT_GENERATE_SCHEMASET_H_
 
@@ -13,7 +13,6 @@
 
 #include "toolkit/generate/Facets.h"
 #include "toolkit/generate/Generator.h"
-#include "toolkit/generate/TextWriter.h"
 #include "toolkit/generate/TypeTable.h"
 
 namespace as::toolkit::gen {
@@ -55,7 +54,7 @@ class SchemaSet {
   // All declared types, whether they are used or not.
   void addDeclaredTypes();
 
-  // Gives names and writes. To be called once, before what follows.
+  // Gives names. To be called once, before what follows.
   void complete();
 
   // "ns1:quote"
@@ -66,20 +65,11 @@ class SchemaSet {
   // What gives out names, for those of other things in the same document.
   NameGiver& names() { return names_; }
 
-  struct Schema {
-    std::string uri;
-    std::string file;  // Its name, by itself.
-    std::string text;  // Without the XML declaration.
-  };
-  // The target's first. With `areFiles` imports say in which files the others are, and the target's
-  // imports all of them; else one that holds nothing is left out.
-  std::vector<Schema> schemas(bool areFiles) const;
-
   // The prefix of a namespace, made when it is new; and all of them.
   std::string prefixOf(const std::string& uri);
   const std::map<std::string, std::string>& prefixes() const { return prefixes_; }
 
- private:
+  // What the writer reads.
   struct Element {
     std::string uri;
     NameWish wish;
@@ -103,10 +93,6 @@ class SchemaSet {
     std::string name;
     std::string valueName;  // For the type of its value.
   };
-  struct Part {
-    TextWriter text;
-    std::map<std::string, bool> imports;
-  };
   // Where a field stands.
   struct Around {
     std::string uri;
@@ -116,45 +102,33 @@ class SchemaSet {
     bool hasLists = false;  // A table is one element, with its occurrences in it.
   };
 
+  const std::vector<Element>& elements() const { return elements_; }
+  const std::vector<NamedType>& namedTypes() const { return namedTypes_; }
+  // In the order of the model's types.
+  const std::vector<TypeFacts>& types() const { return types_; }
+  Around aroundOf(std::size_t type) const;
+  // Whether it is an element of another namespace, which findElement() tells.
+  bool isReference(const Field& field, const Around& around) const;
+  Handle findElement(const std::string& uri, const Field& field) const;
+  // Whether there is a type of that name without making one.
+  bool isNamed(const Field& field) const;
+  std::vector<std::string> namesOf(const std::vector<const Field*>& fields,
+                                   const std::string& place);
+  // The built-in type of a plain value, anyType for what has none; and what that does not say.
+  std::string_view builtIn(const Field& field) const;
+  Facets facetsIn(const Field& field) const;
+  bool hasFacets(const Field& field) const;
+  static bool saysAnything(const Facets& facets);
+
+ private:
   void readTypes();
   void inherit(const Field& field, const std::string& uri, Form elementForm, Form attributeForm);
   void use(const Field& field);
   void useFrom(const Field& field, const Around& around, const std::string& place);
   void useWaiting();
-  bool isReference(const Field& field, const Around& around) const;
-  Handle findElement(const std::string& uri, const Field& field) const;
   bool isSameShape(const Field& left, const Field& right) const;
-  Around aroundOf(std::size_t type) const;
-
   void giveNames();
   void giveElementNames();
-  std::vector<std::string> namesOf(const std::vector<const Field*>& fields,
-                                   const std::string& place);
-  void writeType(std::size_t type);
-  void writeElement(const Element& element);
-  void writeNamedType(const NamedType& type);
-  // Whether there is a type of that name without making one.
-  bool isNamed(const Field& field) const;
-  void writeMembers(Part& part, const std::vector<const Field*>& fields,
-                    const std::vector<std::string>& names, const Around& around);
-  void writeOccurrences(Part& part, const Field& field);
-  void writeAttributes(Part& part, const Type& type, const Around& around);
-  void writeMember(Part& part, const Field& field, const std::string& name, const Around& around);
-  // An element, attribute or other declaration of the field's type.
-  void writeTyped(Part& part, const std::string& tag, const std::string& attributes,
-                  const Field& field, bool isAttribute = false);
-  void writeSimpleType(Part& part, const Field& field, const std::string& name);
-  void writeAny(Part& part, const std::string& attributes);
-  void writeRestriction(Part& part, const Field& field, const Facets& facets);
-  static void writeDocumentation(Part& part, const std::vector<std::string>& lines);
-  Facets facetsIn(const Field& field) const;
-  bool hasFacets(const Field& field) const;
-  static bool saysAnything(const Facets& facets);
-  std::string_view builtIn(const Field& field) const;
-  // "tns:Claim", and the part's schema imports the namespace.
-  std::string qualified(Part& part, const std::string& uri, const std::string& name);
-  Part& partOf(const std::string& uri);
-  std::string fileOf(const std::string& uri) const;
 
   const Job& job_;
   NameGiver names_;
@@ -166,9 +140,14 @@ class SchemaSet {
   std::vector<Element> elements_;
   std::unordered_map<std::string, std::vector<Handle>> elementsByName_;
   std::vector<NamedType> namedTypes_;
-  std::map<std::string, Part> parts_;
   std::map<std::string, std::string> prefixes_;
 };
+
+// The form that is said, or else that of what it stands in.
+inline Form said(Form own, Form around) { return own == Form::unsaid ? around : own; }
+
+// The type of whatever there may be.
+inline constexpr std::string_view anyType = "xs:anyType";
 
 }  // namespace as::toolkit::gen
 

@@ -8,6 +8,8 @@
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/MessagePlan.h"
 #include "toolkit/generate/SchemaSet.h"
+#include "toolkit/generate/SchemaWriter.h"
+#include "toolkit/generate/TextWriter.h"
 #include "toolkit/generate/XsdTypes.h"
 #include "toolkit/text/Phrases.h"
 
@@ -28,10 +30,6 @@ constexpr Soap soaps[] = {
 };
 
 constexpr const char* http = "http://schemas.xmlsoap.org/soap/http";
-
-std::string attribute(std::string_view name, std::string_view value) {
-  return " " + std::string(name) + "=\"" + xmlText(value) + "\"";
-}
 
 // A part of a message: of an element, or of a type.
 struct Part {
@@ -68,13 +66,14 @@ class Wsdl {
     for (const Operation& operation : model_.operations) plan(operation);
     schemas_.addDeclaredTypes();
     schemas_.complete();
+    const SchemaWriter writer(job_, schemas_);
     giveNames();
     const bool isInline = job_.isChosen("schema", "inline");
-    const std::vector<SchemaSet::Schema> schemas = schemas_.schemas(!isInline);
+    const std::vector<SchemaWriter::Schema> schemas = writer.schemas(!isInline);
     write(schemas, isInline);
     job_.add(job_.fileStem() + ".wsdl", text_.take());
     if (isInline) return;
-    for (const SchemaSet::Schema& schema : schemas) {
+    for (const SchemaWriter::Schema& schema : schemas) {
       job_.add(schema.file, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!-- " + job_.banner() +
                                 " -->\n" + schema.text);
     }
@@ -215,17 +214,17 @@ class Wsdl {
     name_ = schemas_.names().namesIn({{model_.name, "service"}}).front();
   }
 
-  void write(const std::vector<SchemaSet::Schema>& schemas, bool isInline) {
+  void write(const std::vector<SchemaWriter::Schema>& schemas, bool isInline) {
     text_.line(R"(<?xml version="1.0" encoding="UTF-8"?>)");
     text_.line("<!-- " + job_.banner() + " -->");
-    std::string start = "<wsdl:definitions" + attribute("name", name_) +
-                        attribute("targetNamespace", schemas_.targetNamespace()) +
+    std::string start = "<wsdl:definitions" + xmlAttribute("name", name_) +
+                        xmlAttribute("targetNamespace", schemas_.targetNamespace()) +
                         R"( xmlns:wsdl="http://schemas.xmlsoap.org/wsdl/")"
                         R"( xmlns:soap="http://schemas.xmlsoap.org/wsdl/soap/")"
                         R"( xmlns:soap12="http://schemas.xmlsoap.org/wsdl/soap12/")"
                         R"( xmlns:xs="http://www.w3.org/2001/XMLSchema")";
     for (const auto& [uri, prefix] : schemas_.prefixes()) {
-      start += attribute("xmlns:" + prefix, uri);
+      start += xmlAttribute("xmlns:" + prefix, uri);
     }
     text_.open(start + ">");
     writeDocumentation();
@@ -246,10 +245,10 @@ class Wsdl {
     text_.close("</wsdl:documentation>");
   }
 
-  void writeTypes(const std::vector<SchemaSet::Schema>& schemas, bool isInline) {
+  void writeTypes(const std::vector<SchemaWriter::Schema>& schemas, bool isInline) {
     text_.open("<wsdl:types>");
     if (isInline) {
-      for (const SchemaSet::Schema& schema : schemas) {
+      for (const SchemaWriter::Schema& schema : schemas) {
         for (std::size_t from = 0; from < schema.text.size();) {
           const std::size_t to = schema.text.find('\n', from);
           text_.line(std::string_view(schema.text).substr(from, to - from));
@@ -258,9 +257,9 @@ class Wsdl {
       }
     } else {
       text_.open("<xs:schema>");
-      for (const SchemaSet::Schema& schema : schemas) {
-        text_.line("<xs:import" + attribute("namespace", schema.uri) +
-                   attribute("schemaLocation", schema.file) + "/>");
+      for (const SchemaWriter::Schema& schema : schemas) {
+        text_.line("<xs:import" + xmlAttribute("namespace", schema.uri) +
+                   xmlAttribute("schemaLocation", schema.file) + "/>");
       }
       text_.close("</xs:schema>");
     }
@@ -269,30 +268,30 @@ class Wsdl {
 
   void writeMessage(const WsdlMessage& message) {
     if (message.parts.empty()) {
-      text_.line("<wsdl:message" + attribute("name", message.name) + "/>");
+      text_.line("<wsdl:message" + xmlAttribute("name", message.name) + "/>");
       return;
     }
-    text_.open("<wsdl:message" + attribute("name", message.name) + ">");
+    text_.open("<wsdl:message" + xmlAttribute("name", message.name) + ">");
     for (const Part& part : message.parts) {
-      text_.line("<wsdl:part" + attribute("name", part.name) +
-                 (part.element ? attribute("element", schemas_.elementName(*part.element))
-                               : attribute("type", schemas_.typeName(*part.type))) +
+      text_.line("<wsdl:part" + xmlAttribute("name", part.name) +
+                 (part.element ? xmlAttribute("element", schemas_.elementName(*part.element))
+                               : xmlAttribute("type", schemas_.typeName(*part.type))) +
                  "/>");
     }
     text_.close("</wsdl:message>");
   }
 
   void writePortType() {
-    text_.open("<wsdl:portType" + attribute("name", name_) + ">");
+    text_.open("<wsdl:portType" + xmlAttribute("name", name_) + ">");
     for (const PlannedOperation& planned : operations_) {
-      text_.open("<wsdl:operation" + attribute("name", planned.name) + ">");
+      text_.open("<wsdl:operation" + xmlAttribute("name", planned.name) + ">");
       text_.line("<wsdl:documentation>" + xmlText("Entry point " + planned.operation.entryPoint) +
                  "</wsdl:documentation>");
       text_.line("<wsdl:input" + messageOf(planned.request) + "/>");
       text_.line("<wsdl:output" + messageOf(planned.answer) + "/>");
       for (const PlannedMessage& message : planned.messages) {
         if (message.message.kind != "fault") continue;
-        text_.line("<wsdl:fault" + attribute("name", messages_[message.number].name) +
+        text_.line("<wsdl:fault" + xmlAttribute("name", messages_[message.number].name) +
                    messageOf(message.number) + "/>");
       }
       text_.close("</wsdl:operation>");
@@ -301,26 +300,26 @@ class Wsdl {
   }
 
   std::string messageOf(std::size_t number) const {
-    return attribute("message", "tns:" + messages_[number].name);
+    return xmlAttribute("message", "tns:" + messages_[number].name);
   }
 
   void writeBinding(const Soap& soap) {
     const std::string prefix = std::string("<") + soap.prefix + ":";
-    text_.open("<wsdl:binding" + attribute("name", name_ + soap.suffix) +
-               attribute("type", "tns:" + name_) + ">");
-    text_.line(prefix + "binding" + attribute("transport", http) + R"( style="document"/>)");
+    text_.open("<wsdl:binding" + xmlAttribute("name", name_ + soap.suffix) +
+               xmlAttribute("type", "tns:" + name_) + ">");
+    text_.line(prefix + "binding" + xmlAttribute("transport", http) + R"( style="document"/>)");
     for (const PlannedOperation& planned : operations_) {
       const Operation& operation = planned.operation;
-      text_.open("<wsdl:operation" + attribute("name", planned.name) + ">");
+      text_.open("<wsdl:operation" + xmlAttribute("name", planned.name) + ">");
       text_.line(prefix + "operation" +
-                 attribute("soapAction", operation.inputNamespace + "#" + planned.name) +
-                 attribute("style", isRpc(operation) ? "rpc" : "document") + "/>");
+                 xmlAttribute("soapAction", operation.inputNamespace + "#" + planned.name) +
+                 xmlAttribute("style", isRpc(operation) ? "rpc" : "document") + "/>");
       writeBody(soap, planned, "input", operation.isInputEncoded, operation.inputNamespace, goesIn);
       writeBody(soap, planned, "output", operation.isOutputEncoded, operation.outputNamespace,
                 comesOut);
       for (const PlannedMessage& message : planned.messages) {
         if (message.message.kind != "fault") continue;
-        const std::string name = attribute("name", messages_[message.number].name);
+        const std::string name = xmlAttribute("name", messages_[message.number].name);
         text_.open("<wsdl:fault" + name + ">");
         text_.line(prefix + "fault" + name +
                    useOf(soap, message.message.isEncoded, message.message.namespaceUri,
@@ -341,7 +340,7 @@ class Wsdl {
     for (const PlannedMessage& message : planned.messages) {
       if (message.message.kind != "header" || !travels(message.message.direction)) continue;
       for (const Part& part : messages_[message.number].parts) {
-        text_.line(prefix + "header" + messageOf(message.number) + attribute("part", part.name) +
+        text_.line(prefix + "header" + messageOf(message.number) + xmlAttribute("part", part.name) +
                    useOf(soap, message.message.isEncoded, message.message.namespaceUri,
                          message.message.isEncoded) +
                    "/>");
@@ -352,9 +351,9 @@ class Wsdl {
 
   static std::string useOf(const Soap& soap, bool isEncoded, const std::string& uri,
                            bool hasNamespace) {
-    return attribute("use", isEncoded ? "encoded" : "literal") +
-           (hasNamespace ? attribute("namespace", uri) : "") +
-           (isEncoded ? attribute("encodingStyle", soap.encoding) : "");
+    return xmlAttribute("use", isEncoded ? "encoded" : "literal") +
+           (hasNamespace ? xmlAttribute("namespace", uri) : "") +
+           (isEncoded ? xmlAttribute("encodingStyle", soap.encoding) : "");
   }
 
   void writeService() {
@@ -365,12 +364,12 @@ class Wsdl {
                 "where it is served is not known: the address is " + quote(address) +
                     " unless told with option 'address'");
     }
-    text_.open("<wsdl:service" + attribute("name", name_) + ">");
+    text_.open("<wsdl:service" + xmlAttribute("name", name_) + ">");
     for (const Soap& soap : soaps) {
       const std::string name = name_ + soap.suffix;
-      text_.open("<wsdl:port" + attribute("name", name) + attribute("binding", "tns:" + name) +
-                 ">");
-      text_.line(std::string("<") + soap.prefix + ":address" + attribute("location", address) +
+      text_.open("<wsdl:port" + xmlAttribute("name", name) +
+                 xmlAttribute("binding", "tns:" + name) + ">");
+      text_.line(std::string("<") + soap.prefix + ":address" + xmlAttribute("location", address) +
                  "/>");
       text_.close("</wsdl:port>");
     }

@@ -3,6 +3,7 @@
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/MessagePlan.h"
 #include "toolkit/generate/SchemaSet.h"
+#include "toolkit/generate/SchemaWriter.h"
 #include "toolkit/generate/XsdTypes.h"
 
 namespace as::toolkit::gen {
@@ -57,7 +58,7 @@ class XsdGenerator : public Generator {
       }
     }
     schemas.complete();
-    for (const SchemaSet::Schema& schema : schemas.schemas(true)) {
+    for (const SchemaWriter::Schema& schema : SchemaWriter(job, schemas).schemas(true)) {
       job.add(schema.file, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!-- " + job.banner() +
                                " -->\n" + schema.text);
     }

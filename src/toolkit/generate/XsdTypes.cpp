@@ -73,4 +73,8 @@ std::string xmlText(std::string_view text) {
   return result;
 }
 
+std::string xmlAttribute(std::string_view name, std::string_view value) {
+  return " " + std::string(name) + "=\"" + xmlText(value) + "\"";
+}
+
 }  // namespace as::toolkit::gen

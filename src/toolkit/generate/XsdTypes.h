@@ -20,6 +20,9 @@ const NameRule& xmlNames();
 // hold become U+FFFD.
 std::string xmlText(std::string_view text);
 
+// ` name="value"`
+std::string xmlAttribute(std::string_view name, std::string_view value);
+
 }  // namespace as::toolkit::gen
 
 #endif  // TOOLKIT_GENERATE_XSDTYPES_H_
