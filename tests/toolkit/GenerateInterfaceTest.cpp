@@ -18,7 +18,7 @@ using testing::Not;
 
 const char* const program =
     "IDENTIFICATION DIVISION.\nPROGRAM-ID. T.\nDATA DIVISION.\nLINKAGE SECTION.\n"
-    "01 R.\n 05 AMOUNT PIC S9(13)V99 COMP-3.\n 05 NAME PIC X(8).\n"
+    "01 R.\n 05 AMOUNT PIC S9(13)V99 COMP-3.\n 05 NAME PIC X(8).\n 05 LK-NO PIC 9.\n"
     "PROCEDURE DIVISION USING R.\nGOBACK.\n";
 
 std::string parameter(const std::string& attributes, const std::string& item = "R.NAME") {
@@ -70,6 +70,24 @@ TEST_F(GenerateInterface, JavaAnswersARecordOfSeveral) {
 
 TEST_F(GenerateInterface, JavaAnswersNothing) {
   EXPECT_THAT(text("java", in), HasSubstr("void doIt(String a);"));
+}
+
+// As "new" makes them.
+TEST_F(GenerateInterface, JavaCallsTheOnlyOperationAsItsInterface) {
+  write("p.xml", test::dictionaryOf(test::importOf(program)));
+  toolkit::makeServiceFile(reader(), "p.xml", "s.xml", *toolkit::findFlavour("java"));
+  const std::string java =
+      textOf(toolkit::generateFrom(reader(), *toolkit::findGeneratorKind("java"), {"s.xml"}));
+  EXPECT_THAT(java, HasSubstr("public interface T {"));
+  EXPECT_THAT(java, HasSubstr(" T("));
+  EXPECT_THAT(java, Not(HasSubstr("T_(")));
+}
+
+TEST_F(GenerateInterface, WhatTheItemIsCalledIsToldOnce) {
+  const std::string item = parameter("name='LK-NO' byType='in' dataType='int'", "R.LK-NO");
+  EXPECT_THAT(text("java", item), HasSubstr("@param lkNo R.LK-NO, PIC 9\n"));
+  EXPECT_THAT(text("java", parameter("name='NO-OF' byType='in' dataType='int'", "R.LK-NO")),
+              HasSubstr("@param noOf called NO-OF; R.LK-NO, PIC 9\n"));
 }
 
 TEST_F(GenerateInterface, JavaTellsTheTransactionType) {

@@ -218,6 +218,16 @@ TEST_F(GenerateTest, PackedNumbersOfFifteenDigitsAreNoDoubles) {
               HasSubstr(R"("pattern": "^-?[0-9]{1,13}([.][0-9]{1,2})?$")"));
 }
 
+// Readers of 24 digits refuse limits of more.
+TEST_F(GenerateTest, VeryLongNumbersAreLimitedByAPattern) {
+  writeService(
+      "<numeric name='N' picture='9(26)V9' usage='comp-3' digits='27' alignment='1' "
+      "length='14'/>");
+  const std::string xsd = textOf("xsd", "s.xml");
+  EXPECT_THAT(xsd, HasSubstr(R"(<xs:pattern value="[0-9]{1,26}([.][0-9]{1,1})?"/>)"));
+  EXPECT_THAT(xsd, Not(HasSubstr("Inclusive")));
+}
+
 TEST_F(GenerateTest, ConditionsAreEnumerationsWhereTheyAreAskedFor) {
   writeService(
       "<numeric name='A' picture='9' digits='1' length='1'><numericCondition name='YES'>"

@@ -173,6 +173,33 @@ TEST(FacetsTest, NumbersOfConditionsAreWrittenAsNumbers) {
   EXPECT_THAT(Mapped(item, {Kind::decimal}).facets(true).values, ElementsAre("7.5", "-2"));
 }
 
+TEST(FacetsTest, ConditionsThatAreNeverTrueMakeNoValues) {
+  const struct {
+    Item item;
+    Capacity capacity;
+    const char* value;
+    bool fits;
+  } rows[] = {
+      {numberOf(2, 2, true), {Kind::decimal}, "2", false},
+      {numberOf(2, 2, true), {Kind::decimal}, "-0.25", true},
+      {numberOf(2, 2, true), {Kind::text}, "2", false},
+      {numberOf(2, 2, true), {Kind::text}, "0.20", true},
+      {numberOf(3, 0, false), {Kind::integer, 4, 16}, "-1", false},
+      {numberOf(3, 0, false), {Kind::integer, 4, 16}, "1000", false},
+      {numberOf(3, 0, false), {Kind::integer, 4, 16}, "999", true},
+      {numberOf(3, 1, false), {Kind::decimal}, "1.25", false},
+      {numberOf(3, 1, false), {Kind::decimal}, "1.20", true},
+      {numberOf(4, 0, true, 16), {Kind::integer, 9, 32}, "32768", false},
+      {numberOf(4, 0, true, 16), {Kind::integer, 9, 32}, "-32768", true},
+  };
+  for (const auto& row : rows) {
+    Item item = row.item;
+    item.conditions = {{"IS", {{row.value, "", false}}}};
+    EXPECT_EQ(Mapped(item, row.capacity).facets(true).values.size(), row.fits ? 1U : 0U)
+        << row.value << " of " << item.digits << " digits";
+  }
+}
+
 TEST(FacetsTest, RangesAndWordsMakeNoValues) {
   Item item = textOf(3);
   item.conditions = {{"IS", {{"A", "", false}, {"B", "D", true}}}};

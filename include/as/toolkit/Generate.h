@@ -89,6 +89,12 @@ AS_EXPORT Generated generate(const GeneratorKind& kind, as::IProgram& program,
 // Empty when nothing is.
 AS_EXPORT std::string wrongOption(const GeneratorKind& kind, const GenerateOptions& options);
 
+// The same from a document: a service, with the program of `dictionary` or else of the one that it
+// names, or a dictionary. Throws RefusedDocument.
+AS_EXPORT Generated generateFrom(const DocumentReader& reader, const GeneratorKind& kind,
+                                 const DocumentSource& source, const GenerateOptions& options = {},
+                                 const std::optional<std::string>& dictionary = std::nullopt);
+
 // What was made and written.
 struct GeneratedOutput {
   std::vector<std::string> files;    // All of the output, by their whole names.
@@ -96,10 +102,13 @@ struct GeneratedOutput {
   Findings findings;                 // As in Generated.
 };
 
-// The same from a file, a service (with the program of `dictionary`, or else of the one it names)
-// or a dictionary, to files: in the folder `output` when it is one or ends with "/", or when there
-// are several files; else in the file `output`. All of them are written or, when something fails,
-// none; those that hold the same already are left alone. Throws RefusedDocument and FileError.
+// The same to files: in the folder `output` when it is one or ends with "/", or when there are
+// several files; else in the file `output`. All of them are written or, when something fails, none;
+// those that hold the same already are left alone. Throws RefusedDocument and FileError.
+AS_EXPORT GeneratedOutput
+generateFiles(const DocumentReader& reader, const GeneratorKind& kind, const DocumentSource& source,
+              const std::string& output, const GenerateOptions& options = {},
+              const std::optional<std::string>& dictionary = std::nullopt);
 AS_EXPORT GeneratedOutput
 generateFiles(const DocumentReader& reader, const GeneratorKind& kind, const std::string& file,
               const std::string& output, const GenerateOptions& options = {},

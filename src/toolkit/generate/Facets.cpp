@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "as/toolkit/Storage.h"
 #include "as/toolkit/Text.h"
@@ -105,7 +106,7 @@ std::optional<std::string> numeralOf(std::string_view text) {
   if (text.front() == '-' || text.front() == '+') text.remove_prefix(1);
   const std::size_t point = text.find('.');
   std::string_view whole = text.substr(0, point);
-  const std::string_view fraction =
+  std::string_view fraction =
       point == std::string_view::npos ? std::string_view() : text.substr(point + 1);
   const auto isNumber = [](std::string_view part) {
     return part.find_first_not_of("0123456789") == std::string_view::npos;
@@ -114,9 +115,31 @@ std::optional<std::string> numeralOf(std::string_view text) {
     return std::nullopt;
   }
   while (whole.size() > 1 && whole.front() == '0') whole.remove_prefix(1);
+  while (!fraction.empty() && fraction.back() == '0') fraction.remove_suffix(1);
   result += whole.empty() ? std::string_view("0") : whole;
   if (!fraction.empty()) result.append(".").append(fraction);
   return result;
+}
+
+// Whether an item of these limits can have that value: programs may have conditions that are never
+// true.
+bool fits(std::string_view numeral, const Facets& facets) {
+  std::string_view limit = facets.most;
+  if (numeral.front() == '-') {
+    if (!facets.least.empty() && facets.least.front() != '-') return false;
+    limit = std::string_view(facets.least).substr(facets.least.empty() ? 0 : 1);
+    numeral.remove_prefix(1);
+  }
+  const std::size_t point = std::min(numeral.find('.'), numeral.size());
+  const std::string_view whole = numeral.substr(0, numeral.front() == '0' ? 0 : point);
+  const std::size_t behind = numeral.size() - std::min(point + 1, numeral.size());
+  const int fraction = std::max(facets.fractionDigits, 0);
+  if (facets.fractionDigits >= 0 && behind > static_cast<std::size_t>(fraction)) return false;
+  if (facets.totalDigits > 0) {
+    return whole.size() <= static_cast<std::size_t>(facets.totalDigits - fraction);
+  }
+  // The limit of so many bits.
+  return limit.empty() || std::pair(whole.size(), whole) <= std::pair(limit.size(), limit);
 }
 
 bool isWord(std::string_view text) {
@@ -130,16 +153,9 @@ bool isWord(std::string_view text) {
 std::optional<std::string> valueOf(const ConditionValue& value, const Capacity& capacity,
                                    const Facets& facets) {
   if (value.isRange || isWord(value.from)) return std::nullopt;
-  if (isExact(capacity)) {
+  if (isExact(capacity) || !facets.pattern.empty()) {
     std::optional<std::string> numeral = numeralOf(value.from);
-    // One of more digits than the item has is none.
-    if (numeral && facets.totalDigits > 0 &&
-        numeral->size() > static_cast<std::size_t>(facets.totalDigits) + 2) {
-      return std::nullopt;
-    }
-    if (numeral && numeral->find('.') != std::string::npos && facets.fractionDigits == 0) {
-      return std::nullopt;
-    }
+    if (numeral && !fits(*numeral, facets)) return std::nullopt;
     return numeral;
   }
   if (capacity.kind != CapacityKind::text) return std::nullopt;
@@ -155,9 +171,12 @@ std::optional<std::string> valueOf(const ConditionValue& value, const Capacity& 
 std::vector<std::string> valuesOf(const Item& item, const Capacity& capacity,
                                   const Facets& facets) {
   std::vector<std::string> values;
+  Facets limits = facets;
+  // Those of a number that is a text to callers.
+  if (!facets.pattern.empty()) limitDigits(item.digits, item.scale, item.isSigned, limits);
   for (const Condition& condition : item.conditions) {
     for (const ConditionValue& value : condition.values) {
-      std::optional<std::string> read = valueOf(value, capacity, facets);
+      std::optional<std::string> read = valueOf(value, capacity, limits);
       if (!read) return {};
       if (std::find(values.begin(), values.end(), *read) == values.end()) {
         values.push_back(std::move(*read));

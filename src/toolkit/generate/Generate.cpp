@@ -177,26 +177,30 @@ Generated generate(const GeneratorKind& kind, as::IProgram& program,
   return make(generatorOf(kind), model, options, std::move(findings));
 }
 
-GeneratedOutput generateFiles(const DocumentReader& reader, const GeneratorKind& kind,
-                              const std::string& file, const std::string& output,
-                              const GenerateOptions& options,
-                              const std::optional<std::string>& dictionary) {
+Generated generateFrom(const DocumentReader& reader, const GeneratorKind& kind,
+                       const DocumentSource& source, const GenerateOptions& options,
+                       const std::optional<std::string>& dictionary) {
   GenerateOptions named = options;
-  if (named.source.empty()) named.source = fs::path(file).filename().string();
-  const Document document = reader.read(file);
-  Generated made;
+  if (named.source.empty()) named.source = fs::path(source.name).filename().string();
+  const Document document = reader.read(source);
   if (document.dictionary) {
     if (!kind.takesDictionaries) {
-      throw RefusedDocument({file, 0, 0,
+      throw RefusedDocument({source.name, 0, 0,
                              std::string(kind.word) + " is made of services, this is a dictionary",
-                             "make a service of it with 'new'"});
+                             "make a service of it with 'new'", true});
     }
-    made = generate(kind, *document.dictionary, named);
-  } else {
-    const LintedService linted = lintRead(reader, *document.service, file, dictionary);
-    made = makeOfService(generatorOf(kind), *document.service, linted.program.get(),
-                         linted.findings, named);
+    return generate(kind, *document.dictionary, named);
   }
+  const LintedService linted = lintRead(reader, *document.service, source.name, dictionary);
+  return makeOfService(generatorOf(kind), *document.service, linted.program.get(), linted.findings,
+                       named);
+}
+
+GeneratedOutput generateFiles(const DocumentReader& reader, const GeneratorKind& kind,
+                              const DocumentSource& source, const std::string& output,
+                              const GenerateOptions& options,
+                              const std::optional<std::string>& dictionary) {
+  Generated made = generateFrom(reader, kind, source, options, dictionary);
   GeneratedOutput result;
   result.findings = std::move(made.findings);
   if (made.files.empty()) return result;
@@ -204,6 +208,13 @@ GeneratedOutput generateFiles(const DocumentReader& reader, const GeneratorKind&
   for (const FileContent& content : contents) result.files.push_back(content.file);
   result.written = replaceFiles(contents);
   return result;
+}
+
+GeneratedOutput generateFiles(const DocumentReader& reader, const GeneratorKind& kind,
+                              const std::string& file, const std::string& output,
+                              const GenerateOptions& options,
+                              const std::optional<std::string>& dictionary) {
+  return generateFiles(reader, kind, DocumentSource{file}, output, options, dictionary);
 }
 
 }  // namespace as::toolkit

@@ -92,7 +92,9 @@ class Planner {
     for (const Operation& operation : model_.operations) {
       methods.push_back({operation.name, model_.placeOf(operation)});
     }
-    const ReservingRule methodRule(language_.methods, {plan_.interface});
+    std::vector<std::string> taken;
+    if (!language_.tellsMethodsFromTypes) taken.push_back(plan_.interface);
+    const ReservingRule methodRule(language_.methods, std::move(taken));
     methodNames_ = job_.namesBy(methodRule.rule()).namesIn(methods);
   }
 
@@ -270,7 +272,9 @@ std::string textAbout(const ServiceModel& model, const Member& member) {
     if (!text.empty()) text += "; ";
     text += part;
   };
-  if (member.name != member.field->name) add("called " + member.field->name);
+  const Item* const item = model.itemOf(*member.field);
+  const bool isToldByItem = item != nullptr && item->name == member.field->name;
+  if (member.name != member.field->name && !isToldByItem) add("called " + member.field->name);
   for (const std::string& line : linesAbout(model, *member.field)) add(line);
   return text.empty() ? member.type : text;
 }

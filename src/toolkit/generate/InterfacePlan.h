@@ -24,6 +24,8 @@ struct Language {
   bool answersOne = false;
   // Whether a member may not be called as its structure is, nor as what reads or writes another.
   bool hasProperties = false;
+  // Whether a method may be called as its interface is.
+  bool tellsMethodsFromTypes = false;
 };
 
 // A member of a structure, or a parameter.
@@ -62,7 +64,8 @@ InterfacePlan planOf(const Job& job, const Language& language);
 // The option, names with periods between, where each is one in the language; else an error.
 std::string dottedOption(const Job& job, const char* option, const NameRule& rule);
 
-// What is known of a member, as one text for documentation: what it was called, its COBOL item.
+// What is known of a member, as one text for documentation: what it was called, unless its COBOL
+// item is called so, too, and that item.
 std::string textAbout(const ServiceModel& model, const Member& member);
 
 }  // namespace as::toolkit::gen

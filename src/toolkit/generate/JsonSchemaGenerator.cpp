@@ -29,14 +29,15 @@ class JsonSchemaGenerator : public Generator {
       addOperation(model, *operation, schemas);
     }
     Json definitions = schemas.complete();
-    Json root = {{"$schema", "https://json-schema.org/draft/2020-12/schema"},
-                 {"$comment", job.banner()},
-                 {"title", model.name}};
+    Json root = objectFor(5);
+    append(root, "$schema", "https://json-schema.org/draft/2020-12/schema");
+    append(root, "$comment", job.banner());
+    append(root, "title", model.name);
     // A single record is what the whole is about.
     if (model.flavour == nullptr && !job.options.record.empty()) {
-      root["$ref"] = "#/$defs/" + definitions.begin().key();
+      append(root, "$ref", "#/$defs/" + definitions.begin().key());
     }
-    root["$defs"] = std::move(definitions);
+    append(root, "$defs", std::move(definitions));
     job.add(job.fileStem() + ".schema.json", jsonText(root));
   }
 

@@ -67,6 +67,13 @@ const NameRule& jsonNames() {
   return rule;
 }
 
+nlohmann::ordered_json objectFor(std::size_t members) {
+  using Members = nlohmann::ordered_json::object_t;
+  nlohmann::ordered_json object = nlohmann::ordered_json::object();
+  static_cast<Members::Container&>(object.get_ref<Members&>()).reserve(members);
+  return object;
+}
+
 void append(nlohmann::ordered_json& object, const std::string& key, nlohmann::ordered_json value) {
   using Members = nlohmann::ordered_json::object_t;
   // The object's own way looks for the key first, from the first member on.
@@ -162,7 +169,7 @@ JsonSchemas::Json JsonSchemas::complete() {
   for (std::size_t i = 0; i < definitions_.size(); ++i) definitions_[i].name = names[types + i];
   names.resize(types);
   typeNames_ = std::move(names);
-  Json all = Json::object();
+  Json all = objectFor(types + definitions_.size());
   for (std::size_t i = 0; i < types; ++i) append(all, typeNames_[i], schemaOfType(i));
   for (const Definition& definition : definitions_) {
     append(all, definition.name,
@@ -188,15 +195,17 @@ JsonSchemas::Json JsonSchemas::schemaOfType(std::size_t number) const {
 
 JsonSchemas::Json JsonSchemas::objectOf(const std::vector<const Field*>& members,
                                         const std::vector<std::string>& names) const {
-  Json properties = Json::object();
+  Json properties = objectFor(members.size());
   Json required = Json::array();
   for (std::size_t i = 0; i < members.size(); ++i) {
     append(properties, names[i], schemaOf(*members[i]));
     if (members[i]->least > 0) required.push_back(names[i]);
   }
-  Json object = {{"type", "object"}, {"properties", std::move(properties)}};
-  if (!required.empty()) object["required"] = std::move(required);
-  object["additionalProperties"] = false;
+  Json object = objectFor(4);
+  append(object, "type", "object");
+  append(object, "properties", std::move(properties));
+  if (!required.empty()) append(object, "required", std::move(required));
+  append(object, "additionalProperties", false);
   return object;
 }
 
@@ -285,7 +294,7 @@ JsonSchemas::Json JsonSchemas::sampleOfOne(const Field& field) const {
 
 JsonSchemas::Json JsonSchemas::sampleOfObject(const std::vector<const Field*>& members,
                                               const std::vector<std::string>& names) const {
-  Json object = Json::object();
+  Json object = objectFor(members.size());
   for (std::size_t i = 0; i < members.size(); ++i) {
     if (SampleMaker::occurrencesOf(*members[i]) > 0) {
       append(object, names[i], sampleOf(*members[i]));

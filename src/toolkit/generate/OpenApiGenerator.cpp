@@ -61,7 +61,7 @@ class OpenApi {
   void make() {
     for (const Operation& operation : model_.operations) plan(operation);
     Json components = schemas_.complete();
-    Json paths = Json::object();
+    Json paths = objectFor(operations_.size());
     for (const Planned& planned : operations_) {
       append(paths, pathOf(planned.operation.name), {{"post", operationOf(planned)}});
     }
@@ -69,16 +69,17 @@ class OpenApi {
     for (const Property& property : model_.properties) {
       description += "\n" + property.name + ": " + property.value;
     }
-    Json root = {{"openapi", "3.1.0"},
-                 {"info",
-                  {{"title", model_.name},
-                   {"description", description},
-                   {"version", job_.option("version").empty() ? "1" : job_.option("version")},
-                   {"x-generator", job_.banner()}}}};
+    Json root = objectFor(5);
+    append(root, "openapi", "3.1.0");
+    append(root, "info",
+           {{"title", model_.name},
+            {"description", description},
+            {"version", job_.option("version").empty() ? "1" : job_.option("version")},
+            {"x-generator", job_.banner()}});
     const std::string server = job_.option("server");
     if (!server.empty()) root["servers"] = Json::array({{{"url", server}}});
-    root["paths"] = std::move(paths);
-    root["components"] = {{"schemas", std::move(components)}};
+    append(root, "paths", std::move(paths));
+    append(root, "components", {{"schemas", std::move(components)}});
     job_.add(job_.fileStem() + ".openapi.json", jsonText(root));
   }
 
@@ -109,16 +110,18 @@ class OpenApi {
 
   Json operationOf(const Planned& planned) {
     const Operation& operation = planned.operation;
-    Json made = {{"operationId", operation.name},
-                 {"summary", "Entry point " + operation.entryPoint}};
+    Json made = objectFor(6);
+    append(made, "operationId", operation.name);
+    append(made, "summary", "Entry point " + operation.entryPoint);
     if (!operation.transactionType.empty()) {
-      made["x-transaction-type"] = operation.transactionType;
+      append(made, "x-transaction-type", operation.transactionType);
     }
     Json parameters = headersOf(operation, true);
     if (!parameters.empty()) made["parameters"] = std::move(parameters);
     made["requestBody"] = {{"required", true},
                            {"content", contentOf(planned.request, operation, "request")}};
-    Json answer = {{"description", "What the program answers"}};
+    Json answer = objectFor(3);
+    append(answer, "description", "What the program answers");
     Json headers = headersOf(operation, false);
     if (!headers.empty()) answer["headers"] = std::move(headers);
     answer["content"] = contentOf(planned.answer, operation, "answer");
@@ -128,13 +131,14 @@ class OpenApi {
   }
 
   Json contentOf(std::size_t definition, const Operation& operation, const char* what) {
-    Json media = {{"schema", schemas_.referenceTo(definition)}};
+    Json media = objectFor(2);
+    append(media, "schema", schemas_.referenceTo(definition));
     const std::string examples = job_.option("examples");
     if (examples != "none") {
       std::optional<Json> sample =
           schemas_.sampleOf(definition, examples == "all" ? largeExample : smallExample);
       if (sample) {
-        media["example"] = std::move(*sample);
+        append(media, "example", std::move(*sample));
       } else {
         job_.note("large-example", model_.placeOf(operation),
                   std::string("an example of its ") + what +
