@@ -4,15 +4,19 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iomanip>
 #include <iostream>
 #include <iterator>
+#include <set>
 
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Text.h"
 #include "cli/Command.h"
+#include "cli/Inputs.h"
 #include "cli/Messages.h"
+#include "cli/Output.h"
 
 namespace cli {
 
@@ -46,15 +50,16 @@ class Generate : public Command {
     return {{"generate --kinds", "what can be made, and the options of each"},
             {"generate wsdl quotes.xml -o quotes.wsdl", "the interface of a Web service"},
             {"generate openapi quotes.xml -o quotes.json", "the same for callers by HTTP and JSON"},
-            {"generate xsd MOTPREM.xml --record LK-REQUEST -o request.xsd", "a record's data"}};
+            {"generate xsd MOTPREM.xml --record LK-REQUEST -o request.xsd", "a record's data"},
+            {"generate java -r services -o callers", "of those of a folder, a folder each"}};
   }
 
   void declare(Arguments& arguments) override {
     arguments.required("KIND", kind_, "What to make; --kinds lists the kinds");
-    arguments.required("SERVICE", file_, "The service; for some kinds also a data dictionary");
-    arguments.requiredOption("-o,--output", output_,
-                             "The file to write, or the folder; files that hold the same already "
-                             "are left alone");
+    inputs_.declare(arguments, "SERVICE");
+    arguments.requiredOption("-o,--output", target_,
+                             "The file to write, or the folder, in it one for each of several "
+                             "services; files that hold the same already are left alone");
     arguments.option(
         "--dictionary", dictionary_, "FILE",
         "The data dictionary of the program, in place of the one that the service names");
@@ -65,7 +70,7 @@ class Generate : public Command {
     arguments.list("--set", values_, "OPTION=VALUE,...", "Options of the kind");
     arguments.flag("-v,--verbose", isVerbose_,
                    "Tell of every name that the language wants changed");
-    arguments.flag("-q,--quiet", isQuiet_, "Say only what is wrong");
+    output_.declare(arguments);
     arguments.insteadOf({"KIND", "SERVICE", "--output"}, "--kinds", kinds_,
                         "Print the kinds with their options, and make nothing");
   }
@@ -108,26 +113,54 @@ class Generate : public Command {
     return true;
   }
 
-  int make(const toolkit::DocumentReader& reader, const toolkit::GeneratorKind& kind) const {
-    try {
-      const toolkit::GeneratedOutput made =
-          toolkit::generateFiles(reader, kind, file_, output_, options_, dictionary_);
-      printFindings(file_, told(made.findings));
-      if (countOf(made.findings, toolkit::Severity::error) > 0) {
-        std::cout << toolkit::printable(file_) << ": nothing is made of it\n";
-        return exitRefused;
-      }
-      if (isQuiet_) return exitFine;
+  int make(const toolkit::DocumentReader& reader, const toolkit::GeneratorKind& kind) {
+    bool isFine = inputs_.find();
+    const std::vector<std::string> targets = targetsOfInputs();
+    if (targets.size() != inputs_.all().size()) return exitRefused;
+    const auto work = [&](const Input& input, Parcel& parcel) {
+      const auto number = static_cast<std::size_t>(&input - inputs_.all().data());
+      const toolkit::GeneratedOutput made = toolkit::generateFiles(
+          reader, kind, input.source, targets[number], options_, dictionary_);
+      passOverOtherFlavours(input, made.findings);
+      parcel.put(made.findings.size());
+      for (const toolkit::Finding& finding : made.findings) parcel.put(finding);
+      parcel.put(made.files.size());
       for (const std::string& file : made.files) {
-        const bool isWritten =
-            std::find(made.written.begin(), made.written.end(), file) != made.written.end();
-        std::cout << toolkit::printable(file) << ": " << (isWritten ? "written" : "as it was")
-                  << "\n";
+        parcel.put(file);
+        parcel.put(std::count(made.written.begin(), made.written.end(), file) > 0 ? 1 : 0);
       }
-      return exitFine;
-    } catch (const toolkit::FileError& failure) {
-      printError(toolkit::printable(failure.what()));
-      return exitRefused;
+    };
+    inputs_.workThrough(
+        output_, work,
+        {[&](const Input& input, OpenedParcel& parcel) { isFine = tell(input, parcel) && isFine; },
+         [&](const Input&, const toolkit::Refusal& refusal) {
+           printRefusal(refusal);
+           isFine = false;
+         },
+         [] {}});
+    return isFine ? exitFine : exitRefused;
+  }
+
+  // What is made of one of several services goes to a folder that is called like its document.
+  // Empty, after a message, when two would be called the same.
+  std::vector<std::string> targetsOfInputs() const {
+    std::vector<std::string> targets = inputs_.targetsIn(target_);
+    if (targets.size() == 1 && targets.front() == target_) return targets;
+    std::set<std::string> taken;
+    for (std::string& target : targets) {
+      target = std::filesystem::path(target).replace_extension().string() + "/";
+      if (taken.insert(target).second) continue;
+      printError("two documents would be written to " + target);
+      return {};
+    }
+    return targets;
+  }
+
+  // A search finds services of all flavours.
+  static void passOverOtherFlavours(const Input& input, const toolkit::Findings& findings) {
+    for (const toolkit::Finding& finding : findings) {
+      if (!input.isSearched || finding.rule != "other-flavour") continue;
+      throw toolkit::RefusedDocument({input.source.name, 0, 0, finding.problem, "", true});
     }
   }
 
@@ -137,7 +170,7 @@ class Generate : public Command {
     toolkit::Findings result;
     std::size_t names = 0;
     for (const toolkit::Finding& finding : findings) {
-      if (isQuiet_ && finding.severity == toolkit::Severity::note) continue;
+      if (output_.isQuiet() && finding.severity == toolkit::Severity::note) continue;
       const bool isName = finding.rule == "changed-name" && !isVerbose_;
       if (!isName || ++names <= mostNames) result.push_back(finding);
     }
@@ -151,15 +184,37 @@ class Generate : public Command {
     return result;
   }
 
+  // Whether something was made.
+  bool tell(const Input& input, OpenedParcel& parcel) const {
+    const std::string& name = input.source.name;
+    toolkit::Findings findings;
+    for (std::size_t left = parcel.number(); left > 0; --left) {
+      findings.push_back(parcel.finding());
+    }
+    printFindings(name, told(findings));
+    if (countOf(findings, toolkit::Severity::error) > 0) {
+      std::cout << toolkit::printable(name) << ": nothing is made of it\n";
+      return false;
+    }
+    for (std::size_t left = parcel.number(); left > 0; --left) {
+      const std::string file = parcel.text();
+      const bool isWritten = parcel.number() > 0;
+      if (output_.isQuiet()) continue;
+      std::cout << toolkit::printable(file) << ": " << (isWritten ? "written" : "as it was")
+                << "\n";
+    }
+    return true;
+  }
+
   std::string kind_;
-  std::string file_;
-  std::string output_;
+  Inputs inputs_;
+  std::string target_;
+  Output output_;
   std::optional<std::string> dictionary_;
   std::optional<std::string> record_;
   std::optional<std::string> names_;
   std::vector<std::string> values_;
   bool isVerbose_ = false;
-  bool isQuiet_ = false;
   bool kinds_ = false;
   toolkit::GenerateOptions options_;
 };

@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "as/toolkit/Files.h"
+#include "as/toolkit/Generate.h"
 #include "as/toolkit/Text.h"
 #include "cli/Command.h"
 #include "cli/Inputs.h"
@@ -20,7 +21,8 @@ class ReportCommand : public Command {
   std::vector<Example> examples() const override {
     return {{"report MOTPREM.xml quotes.xml -o site", "pages of a program and of its service"},
             {"report -r dictionaries --source sources -o site",
-             "of a folder, with the lines of the sources"}};
+             "of a folder, with the lines of the sources"},
+            {"report quotes.xml --generate wsdl,markdown -o site", "with what its callers need"}};
   }
 
   void declare(Arguments& arguments) override {
@@ -29,10 +31,20 @@ class ReportCommand : public Command {
                              "The folder of the site; open its index.html in a browser");
     arguments.list("--source", options_.sourceFolders, "DIR,...",
                    "Folders of sources to show, before those of the dictionaries");
+    arguments.list(
+        "--generate", options_.kinds, "KIND,...",
+        "What to make of the services, and link from their pages; the kinds are those of "
+        "'generate', and what a service's flavour does not fit is left out");
   }
 
   // A refused document is told; the others are shown all the same.
   int run(const std::optional<std::string>& schemas) override {
+    for (const std::string& word : options_.kinds) {
+      if (toolkit::findGeneratorKind(word) != nullptr) continue;
+      printError("there is no kind '" + toolkit::printable(word) +
+                 "'; generate --kinds lists them");
+      return exitUsage;
+    }
     return withReader(schemas, [this](const toolkit::DocumentReader& reader) {
       const bool isFound = inputs_.find();
       std::vector<toolkit::DocumentSource> sources;
@@ -44,7 +56,11 @@ class ReportCommand : public Command {
       std::cout << toolkit::printable(output_)
                 << "/index.html: " << toolkit::count(report.programs, "program") << ", "
                 << toolkit::count(report.services, "service") << ", "
-                << toolkit::count(report.findings, "finding") << "\n";
+                << toolkit::count(report.findings, "finding");
+      if (!options_.kinds.empty()) {
+        std::cout << ", " << toolkit::count(report.made, "file") << " for callers";
+      }
+      std::cout << "\n";
       return report.refusals.empty() && isFound ? exitFine : exitRefused;
     });
   }

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@ namespace {
 
 using test::contentOf;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 class ToolGenerateTest : public test::ToolTest {
@@ -85,6 +87,59 @@ TEST_F(ToolGenerateTest, TakesNamesFromAFile) {
   EXPECT_EQ(generate("wsdl", "DEPINT01-ws.xml", {"-o", "out", "--names", "names"}).exitCode, 0);
   EXPECT_THAT(contentOf(pathOf("out")), HasSubstr("<wsdl:service name=\"Deposits\">"));
   EXPECT_EQ(generate("wsdl", "DEPINT01-ws.xml", {"-o", "out", "--names", "none"}).exitCode, 1);
+}
+
+TEST_F(ToolGenerateTest, WhatIsMadeOfSeveralGoesToFoldersCalledLikeThem) {
+  const auto make = [this](const std::string& out, const std::string& jobs) {
+    return run({"generate", "wsdl", AS_EXAMPLES_DIR "/PAYSLIP-ws.xml",
+                AS_EXAMPLES_DIR "/MOTPREM-ws.xml", "-o", out, "--jobs", jobs});
+  };
+  const test::ToolOutcome alone = make("out", "1");
+  EXPECT_EQ(alone.exitCode, 0);
+  EXPECT_TRUE(std::filesystem::exists(directory() / "out" / "PAYSLIP-ws" / "Payslip.wsdl"));
+  EXPECT_TRUE(std::filesystem::exists(directory() / "out" / "MOTPREM-ws"));
+  std::filesystem::rename(directory() / "out", directory() / "first");
+  // Whoever does the work, it is told in the order of the documents.
+  EXPECT_EQ(make("out", "2").out, alone.out);
+  EXPECT_EQ(contentOf(pathOf("out/PAYSLIP-ws/Payslip.wsdl")),
+            contentOf(pathOf("first/PAYSLIP-ws/Payslip.wsdl")));
+}
+
+TEST_F(ToolGenerateTest, OneThatIsRefusedKeepsNoneOfTheOthersBack) {
+  const test::ToolOutcome outcome = generate(
+      "java", "broken/MOTPREM-java.xml",
+      {AS_EXAMPLES_DIR "/PAYSLIP-java.xml", AS_EXAMPLES_DIR "/PAYSLIP-ws.xml", "-o", "out"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.out, HasSubstr("broken/MOTPREM-java.xml: nothing is made of it\n"));
+  EXPECT_THAT(outcome.out, HasSubstr("java is not made of Web services"));
+  EXPECT_THAT(outcome.out, HasSubstr("out/PAYSLIP-java/Payslip.java: written\n"));
+}
+
+TEST_F(ToolGenerateTest, FoldersAreSearchedForWhatTheKindIsMadeOf) {
+  for (const char* const name : {"PAYSLIP.xml", "PAYSLIP-java.xml", "PAYSLIP-ws.xml"}) {
+    write(std::string("all/below/") + name, contentOf(std::string(AS_EXAMPLES_DIR "/") + name));
+  }
+  const test::ToolOutcome outcome = run({"generate", "java", "-r", "all", "-o", "out"});
+  EXPECT_EQ(outcome.exitCode, 0) << outcome.out << outcome.err;
+  EXPECT_THAT(outcome.out, HasSubstr("out/below/PAYSLIP-java/Payslip.java: written\n"));
+  EXPECT_THAT(outcome.out, Not(HasSubstr("Web")));
+  EXPECT_FALSE(std::filesystem::exists(directory() / "out" / "below" / "PAYSLIP-ws"));
+}
+
+TEST_F(ToolGenerateTest, TwoThatWouldGoToOneFolderAreRefused) {
+  const test::ToolOutcome outcome =
+      generate("java", "PAYSLIP-java.xml", {"other/PAYSLIP-java.txt", "-o", "out"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("two documents would be written to out/PAYSLIP-java/"));
+  EXPECT_FALSE(std::filesystem::exists(directory() / "out"));
+}
+
+TEST_F(ToolGenerateTest, TakesStandardInputAndIsQuiet) {
+  const test::StandardInput redirected(open(AS_EXAMPLES_DIR "/PAYSLIP.xml", O_RDONLY));
+  const test::ToolOutcome outcome = run({"generate", "xsd", "-q", "-", "-o", "out.xsd"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_EQ(outcome.out + outcome.err, "");
+  EXPECT_THAT(contentOf(pathOf("out.xsd")), HasSubstr("<xs:schema"));
 }
 
 }  // namespace

@@ -50,4 +50,17 @@ TEST_F(ToolReportTest, NothingGoodIsNoSite) {
 
 TEST_F(ToolReportTest, NeedsAFolder) { EXPECT_EQ(run({"report", "PAY.xml"}).exitCode, 2); }
 
+TEST_F(ToolReportTest, MakesWhatCallersNeed) {
+  const test::ToolOutcome outcome =
+      run({"report", AS_EXAMPLES_DIR "/PAYSLIP-ws.xml", "--generate", "wsdl,java", "-o", "site"});
+  EXPECT_EQ(outcome.out, "site/index.html: 1 program, 1 service, 0 findings, 1 file for callers\n");
+  EXPECT_TRUE(std::filesystem::exists(directory() / "site" / "made/s1/wsdl/Payslip.wsdl"));
+}
+
+TEST_F(ToolReportTest, KindsThatThereAreNotAreTold) {
+  const test::ToolOutcome outcome = run({"report", "PAY.xml", "--generate", "wsld", "-o", "site"});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_THAT(outcome.err, HasSubstr("there is no kind 'wsld'"));
+}
+
 }  // namespace

@@ -257,4 +257,35 @@ TEST_F(ReportTest, AFolderThatCannotBeMadeIsTold) {
   EXPECT_THAT(test::fileErrorOf([&] { toolkit::writeReport(report, "site"); }), HasSubstr("site"));
 }
 
+TEST_F(ReportTest, WhatIsMadeForCallersStandsBesideTheServiceAndIsNamedByIt) {
+  toolkit::ReportOptions options;
+  options.kinds = {"wsdl", "java", "markdown", "nothing"};
+  const toolkit::Report report =
+      reportOf({example("PAYSLIP-ws.xml"), example("PAYSLIP-java.xml")}, options);
+  // WSDL is made of Web services alone, Java of Java services.
+  const nlohmann::json web = dataOf(report, "s1")["made"];
+  ASSERT_THAT(web, SizeIs(2));
+  EXPECT_EQ(web[0]["kind"], "wsdl");
+  EXPECT_EQ(web[0]["files"], nlohmann::json::array({"made/s1/wsdl/Payslip.wsdl"}));
+  EXPECT_EQ(web[1]["kind"], "markdown");
+  EXPECT_EQ(dataOf(report, "s2")["made"][0]["kind"], "java");
+  EXPECT_EQ(report.made, 4U);
+  EXPECT_EQ(contentOf(report, "made/s1/wsdl/Payslip.wsdl"),
+            toolkit::generateFrom(reader(), *toolkit::findGeneratorKind("wsdl"),
+                                  {example("PAYSLIP-ws.xml")})
+                .files.front()
+                .content);
+}
+
+TEST_F(ReportTest, WhyNothingIsMadeIsToldAndNothingIsUnlessItIsAskedFor) {
+  toolkit::ReportOptions options;
+  options.kinds = {"xsd"};
+  const toolkit::Report report = reportOf({example("broken/MOTPREM-java.xml")}, options);
+  const nlohmann::json made = dataOf(report, "s1")["made"];
+  ASSERT_THAT(made, SizeIs(1));
+  EXPECT_THAT(made[0]["files"], IsEmpty());
+  EXPECT_THAT(made[0]["problem"], Not(IsEmpty()));
+  EXPECT_THAT(dataOf(reportOf({example("PAYSLIP-ws.xml")}), "s1")["made"], IsEmpty());
+}
+
 }  // namespace

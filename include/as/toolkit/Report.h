@@ -16,6 +16,10 @@ struct ReportOptions {
   // Where the sources of programs are looked for, by the names that dictionaries give them, beside
   // the folder of each dictionary. Only their own names count, no folders in these.
   std::vector<std::string> sourceFolders;
+  // The kinds (see Generate.h) to make of each service whose flavour they take: their words. What
+  // is made goes to "made/", and the service's page links it. Words that name no kind count for
+  // nothing.
+  std::vector<std::string> kinds;
 };
 
 // A file of the site: its name, with "/" between, counted from the site's folder, and its bytes.
@@ -31,6 +35,7 @@ struct Report {
   std::size_t programs = 0;       // That have pages.
   std::size_t services = 0;       // That have pages.
   std::size_t findings = 0;       // Of lint, errors and warnings.
+  std::size_t made = 0;           // Files for callers.
 };
 
 // The site of the dictionaries and services in `files`, with the dictionaries that services name

@@ -5,10 +5,12 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
 #include "as/toolkit/Files.h"
+#include "as/toolkit/Generate.h"
 #include "as/toolkit/Lint.h"
 #include "toolkit/report/ReportData.h"
 #include "toolkit/report/ReportSource.h"
@@ -20,6 +22,11 @@ namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::ordered_json;
+
+bool isMadeOf(const GeneratorKind& kind, const Flavour& flavour) {
+  return std::any_of(kind.flavours.begin(), kind.flavours.end(),
+                     [&flavour](const std::string_view word) { return word == flavour.word; });
+}
 
 class ReportMaker {
  public:
@@ -140,6 +147,7 @@ class ReportMaker {
         dataOf(facts, dictionary == nullptr ? nullptr : dictionary->paths.get(), findings);
     data["file"] = nameOf(file);
     if (dictionary != nullptr) data["document"] = dictionary->id;
+    data["made"] = madeOf(file, id, flavourOf(service));
     documents_.push_back({{"id", id},
                           {"kind", "service"},
                           {"name", facts.name},
@@ -153,6 +161,36 @@ class ReportMaker {
                             {"type definitions", facts.definitions.size()}}}});
     names_[id] = namesOf(facts);
     data_.push_back({"data/" + id + ".js", scriptOf(id, data)});
+  }
+
+  // What callers of a service get: of each kind the files, or else why there are none.
+  ordered_json madeOf(const std::string& file, const std::string& id, const Flavour& flavour) {
+    ordered_json all = ordered_json::array();
+    for (const std::string& word : options_.kinds) {
+      const GeneratorKind* const kind = findGeneratorKind(word);
+      if (kind == nullptr || !isMadeOf(*kind, flavour)) continue;
+      ordered_json files = ordered_json::array();
+      std::string problem;
+      try {
+        Generated made = generateFrom(reader_, *kind, {file});
+        for (GeneratedFile& one : made.files) {
+          ReportFile placed{"made/" + id + "/" + word + "/" + one.name, std::move(one.content)};
+          files.push_back(placed.name);
+          data_.push_back(std::move(placed));
+        }
+        for (const Finding& finding : made.findings) {
+          if (finding.severity == Severity::error && problem.empty()) problem = finding.problem;
+        }
+      } catch (const RefusedDocument& refused) {
+        problem = refused.refusal().text;
+      }
+      report_.made += files.size();
+      all.push_back({{"kind", word},
+                     {"summary", kind->summary},
+                     {"files", std::move(files)},
+                     {"problem", problem}});
+    }
+    return all;
   }
 
   // The dictionary of a service; null when it cannot be read, which lint tells.

@@ -19,6 +19,17 @@ function attributeChips(attributes) {
     el("span.chip", {}, clip(name, 40) + (value === "yes" ? "" : " " + clip(value, 80))));
 }
 
+// What callers get, a kind a line: its files, or why there are none.
+function madeSection(made) {
+  if (made.length === 0) return null;
+  return el("section", {}, el("h2", {}, "For callers"), facts(made.map(({kind, summary, files, problem}) => [
+    el("span", {title: summary}, kind),
+    files.length === 0
+      ? el("span.quiet", {}, "nothing is made: " + clip(problem, 600))
+      : files.map((file, i) => [i === 0 ? null : ", ", el("a", {href: file}, file.split("/").pop())]),
+  ])));
+}
+
 class ServicePage {
   constructor(service, program, card) {
     this.service = service;
@@ -51,6 +62,7 @@ class ServicePage {
         ? el("p.clean", {}, "lint finds nothing: the service is clean")
         : el("p", {}, plural(service.findings.length, "finding") + (general.length < service.findings.length ? ", told in their places" : "")),
         general.length > 0 ? el("ul.findings", {}, general.map(findingNode)) : null),
+      madeSection(service.made || []),
       el("h2", {}, "Operations"), operations,
       types.length > 0 ? el("h2", {}, "Type definitions") : null, types,
     ];
