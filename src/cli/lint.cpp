@@ -39,11 +39,14 @@ std::vector<toolkit::RuleDescription> ruleDescriptions() {
   std::vector<toolkit::RuleDescription> all;
   for (const toolkit::LintRule& rule : toolkit::lintRules()) {
     const std::string id = rule.id;
-    all.push_back({id, rule.severity, rule.summary,
-                   "Wanted: " + std::string(rule.summary) +
-                       ". Where this is not meant, switch the rule off: for a run with --rule " +
-                       id + "=off, for an element by a comment in front of it, <!-- lint: off " +
-                       id + " -->."});
+    std::string help = "Wanted: ";
+    help += rule.summary;
+    help += ". Where this is not meant, switch the rule off: for a run with --rule ";
+    help += id;
+    help += "=off, for an element by a comment in front of it, <!-- lint: off ";
+    help += id;
+    help += " -->.";
+    all.push_back({id, rule.severity, rule.summary, std::move(help)});
   }
   return all;
 }

@@ -14,6 +14,7 @@ namespace {
 
 std::vector<AttributeFacts> attributesOf(const std::vector<Trait>& traits) {
   std::vector<AttributeFacts> attributes;
+  attributes.reserve(traits.size());
   for (const Trait& trait : traits) attributes.push_back({trait.attribute, trait.text});
   return attributes;
 }

@@ -84,6 +84,7 @@ std::vector<FileContent> placed(std::vector<GeneratedFile>& files, const std::st
   const bool isFolder = files.size() > 1 || output.empty() || output.back() == '/' ||
                         fs::is_directory(output, failure);
   std::vector<FileContent> contents;
+  contents.reserve(files.size());
   for (GeneratedFile& file : files) {
     contents.push_back(
         {isFolder ? (fs::path(output) / file.name).string() : output, std::move(file.content)});

@@ -64,7 +64,7 @@ class IdlText {
  private:
   // Of what the document has an identifier for, or else its names.
   std::string uuidOf(const std::string& part, std::string_view property) const {
-    const std::string made = uuidOfName(part + "/" + model_.program + "/" + model_.name);
+    std::string made = uuidOfName(part + "/" + model_.program + "/" + model_.name);
     const auto named =
         std::find_if(model_.properties.begin(), model_.properties.end(),
                      [property](const Property& other) { return other.name == property; });

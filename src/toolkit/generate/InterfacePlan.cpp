@@ -252,7 +252,7 @@ InterfacePlan planOf(const Job& job, const Language& language) {
 }
 
 std::string dottedOption(const Job& job, const char* option, const NameRule& rule) {
-  const std::string value = job.option(option);
+  std::string value = job.option(option);
   for (std::size_t from = 0; from <= value.size() && !value.empty();) {
     const std::size_t to = std::min(value.find('.', from), value.size());
     const std::string part = value.substr(from, to - from);

@@ -18,7 +18,7 @@ struct Language {
   NameRule methods;
   NameRule members;         // Of structures, and parameters of methods.
   const TypeTable& values;  // Of what has a value of its own.
-  const char* text;         // What holds the rest, as text.
+  const char* text = "";    // What holds the rest, as text.
   const char* interfacePrefix = "";
   // Whether a method answers one thing at most, so that several become members of a structure.
   bool answersOne = false;

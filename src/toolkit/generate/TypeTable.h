@@ -12,7 +12,7 @@
 namespace as::toolkit::gen {
 
 struct TypeRow {
-  const char* type;   // The target's name for it.
+  const char* type = "";  // The target's name for it.
   Capacity capacity;  // What it holds. Of kind open, with a word, for that word of a flavour alone.
   const char* word = "";  // "date", "object", "XML"
 };
