@@ -6,7 +6,7 @@ A difference that no row explains is a failure.
 from typing import Callable, List, NamedTuple, Optional
 
 from comparison import Difference, Pair
-from entries import Item
+from entries import Item, Program
 
 
 class Known(NamedTuple):
@@ -18,17 +18,28 @@ class Refusal(NamedTuple):
     """An error of the compiler that says nothing against the program."""
     reason: str
     error: str
+    is_of: Callable[[Program], bool]  # Whether the program has what the reason tells of.
+
+
+def has_constant_behind_like_group(program: Program) -> bool:
+    """Whether a CONSTANT follows a record whose last item is the same as a group, or of its type."""
+    for section in program.sections:
+        for record, behind in zip(section.records, section.records[1:]):
+            last = list(record.walk())[-1]
+            if behind.kind == 'constant' and last.like is not None and last.like.members:
+                return True
+    return False
 
 
 # What the compiler cannot do though the program is right: such programs are counted and not compared.
 REFUSALS = [
     Refusal('forgets which record it is in at a CONSTANT behind an item that is the same as a group',
-            'level number must begin with 01 or 77'),
+            'level number must begin with 01 or 77', has_constant_behind_like_group),
 ]
 
 
-def known_refusal(error: str) -> Optional[Refusal]:
-    return next((row for row in REFUSALS if row.error in error), None)
+def known_refusal(program: Program, error: str) -> Optional[Refusal]:
+    return next((row for row in REFUSALS if row.error in error and row.is_of(program)), None)
 
 
 def picture_category(item: Item) -> str:
@@ -111,6 +122,10 @@ def is_sliding(difference: Difference, pairs: List[Pair]) -> bool:
     return False
 
 
+def is_renamed(item: Item, pairs: List[Pair]) -> bool:
+    return any(item.entry in (pair.item.entry.renamed or ()) for pair in pairs)
+
+
 def above(item: Item) -> List[Item]:
     """An item and the groups that it is in."""
     return [item] + (above(item.parent) if item.parent is not None else [])
@@ -140,17 +155,20 @@ KNOWN = [
           lambda difference, _: difference.what == 'category' and
           picture_category(difference.item) == 'boolean' and
           (difference.ours, difference.theirs) in (('text', 'display'), ('text', 'bits'))),
-    Known('takes a number with BLANK WHEN ZERO for an edited one, unless it has condition names',
-          lambda difference, _: difference.what == 'category' and
+    Known('takes a number with BLANK WHEN ZERO for an edited one, unless it has condition names or '
+          'is renamed',
+          lambda difference, pairs: difference.what == 'category' and
           (difference.ours, difference.theirs) == ('edited', 'display') and
-          difference.item.entry.blank and difference.item.entry.conditions != []),
+          difference.item.entry.blank and
+          (difference.item.entry.conditions != [] or is_renamed(difference.item, pairs))),
     Known('knows decimal floating point, which dictionaries have no kind for',
           lambda difference, _: difference.what == 'category' and
           (difference.ours, difference.theirs) == ('text', 'decimal float')),
     Known('forgets that an item is an address when it is one by the USAGE of its group',
           lambda difference, _: difference.what == 'category' and
           (difference.ours, difference.theirs) == ('address', 'binary') and
-          not difference.item.entry.usage),
+          not difference.item.entry.usage and
+          any(one.entry.usage for one in above(difference.item))),
 ]
 
 
