@@ -96,6 +96,14 @@ INSTANTIATE_TEST_SUITE_P(
                     LayoutRow{"ibm", "01 R. 05 A PIC X. 66 D RENAMES A. 05 B PIC X.",
                               "R 0+2, A 0+1, B 1+1, D 0+1"}));
 
+// Longer and shorter than what an item is like.
+INSTANTIATE_TEST_SUITE_P(
+    Likes, ImportLayoutTest,
+    testing::Values(LayoutRow{"ibm", "01 A PIC X(5). 01 B LIKE A (+3). 01 C LIKE A (-2).",
+                              "A 0+5, B 0+8, C 0+3"},
+                    LayoutRow{"ibm", "01 A PIC S9(5)V99 COMP-3. 01 B LIKE A (4). 01 C LIKE A (-5).",
+                              "A 0+4, B 0+6, C 0+2"}));
+
 // What precompilers put in the place of an entry.
 INSTANTIATE_TEST_SUITE_P(
     HostVariables, ImportLayoutTest,

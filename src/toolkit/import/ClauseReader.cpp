@@ -405,15 +405,24 @@ bool ClauseReader::readReference(DataEntry& entry, NameReference::Kind kind) {
   reference.place = words_.peek().token.place;
   if (!isAtNextEntry(words_)) reference.names = constants_.takeName();
   if (reference.names.empty()) return bad(entry, reference.place, "a name is missing");
-  // LIKE X (+5) makes an item longer.
-  if (kind == NameReference::Kind::like && words_.peek().isMark("(")) {
-    return bad(entry, reference.place, "LIKE with another length is not known");
+  if (kind == NameReference::Kind::like && words_.peek().isMark("(") && !readLikeChange(entry)) {
+    return bad(entry, reference.place, "LIKE has no length in its parentheses that is known");
   }
   Index& slot = kind == NameReference::Kind::redefines ? entry.reference : entry.type;
   if (slot != none) return bad(entry, reference.place, "it has a type already");
   program_.references.push_back(std::move(reference));
   slot = static_cast<Index>(program_.references.size() - 1);
   return true;
+}
+
+// LIKE X (+5) makes an item longer, LIKE X (-5) shorter.
+bool ClauseReader::readLikeChange(DataEntry& entry) {
+  constexpr std::int64_t most = 1'000'000;
+  words_.skip();
+  const std::optional<std::int64_t> change = constants_.takeInteger();
+  if (!change || *change < -most || *change > most) return false;
+  entry.likeChange = static_cast<int>(*change);
+  return words_.acceptMark(")");
 }
 
 bool ClauseReader::readRenames(DataEntry& entry) {

@@ -49,6 +49,7 @@ class ClauseReader {
   bool readPicture(DataEntry& entry);
   bool readSign(DataEntry& entry);
   bool readReference(DataEntry& entry, NameReference::Kind kind);
+  bool readLikeChange(DataEntry& entry);
   bool readRenames(DataEntry& entry);
   bool passOver(DataEntry& entry, const char* what);
   void readValue(DataEntry& entry);

@@ -3,43 +3,20 @@
 #include <algorithm>
 #include <utility>
 
-#include "as/toolkit/Text.h"
 #include "toolkit/import/Characters.h"
 #include "toolkit/import/FormatRecognition.h"
+#include "toolkit/import/StatementWords.h"
 
 namespace as::toolkit {
 
 namespace {
 
-// The first word of `text`, without a period at its end.
-std::string_view firstWord(std::string_view text) {
-  const auto end = std::find_if(text.begin(), text.end(),
-                                [](char character) { return !isWordCharacter(character); });
-  return text.substr(0, static_cast<std::size_t>(end - text.begin()));
-}
-
-bool isAny(std::string_view word, std::initializer_list<std::string_view> words) {
-  return std::any_of(words.begin(), words.end(),
-                     [&](std::string_view one) { return sameWord(one, word); });
-}
-
-// Whether a paragraph that is a comment ends in front of that line.
-bool endsCommentEntry(const SourceLine& line) {
-  if (line.areaA) return true;
-  const std::string_view word = firstWord(line.text);
-  const std::string_view rest = trimmed(line.text.substr(word.size()));
-  if (isAny(word, {"PROGRAM-ID", "AUTHOR", "INSTALLATION", "DATE-WRITTEN", "DATE-COMPILED",
-                   "SECURITY", "REMARKS"})) {
-    return rest.substr(0, 1) == ".";
-  }
-  return isAny(word, {"IDENTIFICATION", "ID", "ENVIRONMENT", "DATA", "PROCEDURE"}) &&
-         sameWord(firstWord(rest), "DIVISION");
-}
-
 // Whether a copybook comes with a precompiler, with CICS or with MQ: such are rarely at hand where
 // sources are imported, and programs seldom hand on what is in them.
 bool isOfSystem(std::string_view name) {
-  return isAny(name, {"SQLCA", "SQLDA"}) || isAny(name.substr(0, 3), {"DFH", "CMQ"});
+  const std::string_view product = name.substr(0, 3);
+  return sameWord(name, "SQLCA") || sameWord(name, "SQLDA") || sameWord(product, "DFH") ||
+         sameWord(product, "CMQ");
 }
 
 // Whether the folders in the name of a copybook are those that it was found in.
@@ -113,7 +90,8 @@ CopyExpander::CopyExpander(const SourceOptions& options, CopybookProvider* copyb
       budget_(budget),
       report_(report),
       directives_(options.definitions, report),
-      library_(copybooks) {}
+      library_(copybooks),
+      exec_(report) {}
 
 CopyExpander::~CopyExpander() = default;
 
@@ -145,11 +123,7 @@ void CopyExpander::setDebugging() {
 
 void CopyExpander::finish() {
   directives_.finish();
-  for (const auto& [kind, passed] : passedExec_) {
-    report_.add(SourceRule::execBlock, passed.first,
-                count(passed.count, "statement") + " EXEC " + kind + " " +
-                    (passed.count == 1 ? "is" : "are") + " passed over, this is the first");
-  }
+  exec_.finish();
 }
 
 // Calls itself as deep as copybooks nest, of which there is a limit.
@@ -179,51 +153,6 @@ void CopyExpander::readRaw(std::size_t depth, TextWord& word) {
     sentenceOpen_ = word.kind != TextWord::Kind::period;
     return;
   }
-}
-
-CopyExpander::Statement CopyExpander::statementOf(const TextWord& word) {
-  struct Row {
-    std::string_view word;
-    Statement statement;
-    bool beginsLine;
-  };
-  static constexpr Row rows[] = {
-      {"COPY", Statement::copy, false},
-      {"EXEC", Statement::exec, false},
-      {"EXECUTE", Statement::exec, false},
-      {"EJECT", Statement::eject, true},
-      {"SKIP1", Statement::eject, true},
-      {"SKIP2", Statement::eject, true},
-      {"SKIP3", Statement::eject, true},
-      {"TITLE", Statement::title, true},
-      {"BASIS", Statement::basis, true},
-      {"INSERT", Statement::insert, true},
-      {"DELETE", Statement::insert, true},
-      {"++INCLUDE", Statement::include, true},
-      {"-INC", Statement::include, true},
-      {"ID", Statement::identification, true},
-      {"IDENTIFICATION", Statement::identification, true},
-      {"PROGRAM-ID", Statement::identification, true},
-      {"ENVIRONMENT", Statement::otherDivision, true},
-      {"DATA", Statement::otherDivision, true},
-      {"PROCEDURE", Statement::otherDivision, true},
-      {"AUTHOR", Statement::commentEntry, true},
-      {"INSTALLATION", Statement::commentEntry, true},
-      {"DATE-WRITTEN", Statement::commentEntry, true},
-      {"DATE-COMPILED", Statement::commentEntry, true},
-      {"SECURITY", Statement::commentEntry, true},
-      {"REMARKS", Statement::commentEntry, true},
-  };
-  // Most words begin with no letter that these begin with, or stand within their line.
-  const char first = static_cast<char>(word.text.front() & ~0x20);
-  if (!word.lineStart && first != 'C' && first != 'E') return Statement::none;
-  for (const Row& row : rows) {
-    if (row.word.size() == word.text.size() && (word.lineStart || !row.beginsLine) &&
-        sameWord(row.word, word.text)) {
-      return row.statement;
-    }
-  }
-  return Statement::none;
 }
 
 // Whether the word is done with; otherwise it is a word as any other.
@@ -352,40 +281,10 @@ void CopyExpander::skipPeriod(Frame& frame) const {
 
 bool CopyExpander::takeExec(Frame& frame, const TextWord& word) {
   const SourcePlace place = word.place;
-  frame.scanner.setLenient(true);
-  TextWord kind;
-  frame.readOwn(kind);
-  TextWord next = kind;
-  std::optional<TextWord> included;
-  std::size_t number = 0;
-  bool isInclude = false;
-  while (next.kind != TextWord::Kind::end && !next.isRun("END-EXEC")) {
-    if (number == 1) isInclude = kind.isRun("SQL") && next.isRun("INCLUDE");
-    if (number == 2 && isInclude && isName(next)) included = next;
-    number++;
-    frame.readOwn(next);
-  }
-  frame.scanner.setLenient(false);
-  if (next.kind == TextWord::Kind::end) {
-    report_.add(SourceRule::unterminatedText, place, "the EXEC statement does not end",
-                "end it with END-EXEC");
-    return true;
-  }
+  const ExecStatements::Read statement = exec_.read(frame.scanner, place);
+  if (!statement.isWhole) return true;
   skipPeriod(frame);
-  if (included) {
-    include(*included, "", place, {});
-  } else {
-    std::string name = kind.kind == TextWord::Kind::run ? std::string(kind.text.substr(0, 8)) : "";
-    std::transform(name.begin(), name.end(), name.begin(), [](char character) {
-      return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A')
-                                                  : character;
-    });
-    constexpr std::size_t most = 20;
-    if (passedExec_.size() < most || passedExec_.contains(name)) {
-      Passed& passed = passedExec_[name];
-      if (passed.count++ == 0) passed.first = place;
-    }
-  }
+  if (statement.included) include(*statement.included, "", place, {});
   return true;
 }
 

@@ -4,7 +4,6 @@
 #define TOOLKIT_IMPORT_COPYEXPANDER_H_
 
 #include <cstddef>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -12,11 +11,13 @@
 
 #include "toolkit/import/CopybookLibrary.h"
 #include "toolkit/import/Directives.h"
+#include "toolkit/import/ExecStatements.h"
 #include "toolkit/import/ImportBudget.h"
 #include "toolkit/import/Replacement.h"
 #include "toolkit/import/Replacer.h"
 #include "toolkit/import/SourceLines.h"
 #include "toolkit/import/SourceReader.h"
+#include "toolkit/import/StatementWords.h"
 #include "toolkit/import/TextArena.h"
 #include "toolkit/import/WordScanner.h"
 
@@ -57,24 +58,8 @@ class CopyExpander : public TextWordSource {
  private:
   class Frame;
 
-  // What may come in the place of a word; all but `none` are looked at closer.
-  enum class Statement {
-    none,
-    copy,
-    exec,
-    eject,
-    title,
-    basis,
-    insert,
-    include,
-    identification,
-    otherDivision,
-    commentEntry,
-  };
-
   void readFrame(std::size_t depth, TextWord& word);
   void readRaw(std::size_t depth, TextWord& word);
-  static Statement statementOf(const TextWord& word);
   bool takeStatement(Frame& frame, Statement statement, const TextWord& word);
   bool takeCopy(Frame& frame, const TextWord& word);
   bool takeExec(Frame& frame, const TextWord& word);
@@ -103,11 +88,7 @@ class CopyExpander : public TextWordSource {
   bool basisSeen_ = false;
   bool sentenceOpen_ = false;  // The last word was none that ends a sentence.
 
-  struct Passed {
-    SourcePlace first;
-    std::size_t count = 0;
-  };
-  std::map<std::string, Passed> passedExec_;
+  ExecStatements exec_;
   std::vector<SourcePlace> passedCopybooks_;
 };
 

@@ -72,6 +72,7 @@ struct DataEntry {
   bool isImpliedNumeric = false;   // ANY NUMERIC.
   bool hasImpliedPicture = false;  // `picture` follows from these.
   int byteLength = none;           // BYTE-LENGTH, of UTF-8 items.
+  int likeChange = 0;              // LIKE X (+5): how much longer it is than X.
   int minOccurs = none;
   int maxOccurs = none;
   // In CobolProgram::references.

@@ -1,10 +1,9 @@
-// Builds the records of a program out of its entries: nests them by their levels, puts types in,
-// and finds their places when a record is complete.
+// Builds the records of a program out of its entries: nests them by their levels, has types put in,
+// and has their places found when a record is complete.
 #ifndef TOOLKIT_IMPORT_RECORDBUILDER_H_
 #define TOOLKIT_IMPORT_RECORDBUILDER_H_
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -13,6 +12,8 @@
 #include "toolkit/import/EntryFinder.h"
 #include "toolkit/import/EntryProblems.h"
 #include "toolkit/import/ProgramEntries.h"
+#include "toolkit/import/SharedPlaces.h"
+#include "toolkit/import/TypeCopier.h"
 
 namespace as::toolkit {
 
@@ -25,7 +26,9 @@ class RecordBuilder {
         program_(program),
         problems_(problems),
         source_(source),
-        finder_(program) {}
+        finder_(program),
+        types_(program, finder_, problems),
+        places_(program, finder_) {}
 
   // The sections that follow.
   void enter(DataSection section);
@@ -60,16 +63,8 @@ class RecordBuilder {
   Index size() const { return static_cast<Index>(program_.entries.size()); }
 
   void nest(DataEntry& entry);
-  void putTypeIn(Index target);
-  bool isInGroupWithUsage(Index entry);
-  void copyMembers(const CobolProgram& from, Index source, Index target);
-  DataEntry brought(const CobolProgram& from, Index source);
-  static void takeDescription(const DataEntry& type, DataEntry& entry);
-  Index sourceOf(const NameReference& reference, const CobolProgram** from);
   void link();
-  void findOriginals(EntryProblems& problems);
   void placeRecord(EntryProblems& problems);
-  void findRenamed();
   void keepRecord();
   bool isFilledBySystem(const DataEntry& record) const;
   static bool isOfCics(const NameReference& reference);
@@ -80,6 +75,8 @@ class RecordBuilder {
   EntryProblems& problems_;
   const TokenSource& source_;
   EntryFinder finder_;
+  TypeCopier types_;
+  SharedPlaces places_;
 
   DataSection section_ = DataSection::workingStorage;
   FileEntry* file_ = nullptr;
@@ -93,9 +90,6 @@ class RecordBuilder {
   bool hasRedefinitions_ = false;
   bool isOverfull_ = false;
   bool isLostTold_ = false;  // That entries stand in no record, since the last one.
-  // Records that may be redefined.
-  std::map<std::pair<DataSection, Index>, Index> recordsByName_;
-  Index lastOriginal_ = none;  // The last record that is no redefinition.
   std::int64_t relaidEntries_ = 0;
 };
 
