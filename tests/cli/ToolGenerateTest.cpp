@@ -11,6 +11,7 @@
 namespace {
 
 using test::contentOf;
+using testing::AnyOf;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -138,7 +139,8 @@ TEST_F(ToolGenerateTest, TakesStandardInputAndIsQuiet) {
   const test::StandardInput redirected(open(AS_EXAMPLES_DIR "/PAYSLIP.xml", O_RDONLY));
   const test::ToolOutcome outcome = run({"generate", "xsd", "-q", "-", "-o", "out.xsd"});
   EXPECT_EQ(outcome.exitCode, 0);
-  EXPECT_EQ(outcome.out + outcome.err, "");
+  EXPECT_THAT(outcome.out, HasSubstr("-: warning: type SESSION.SES-FORM: there is no type for it"));
+  EXPECT_THAT(outcome.out + outcome.err, Not(AnyOf(HasSubstr("note:"), HasSubstr("written"))));
   EXPECT_THAT(contentOf(pathOf("out.xsd")), HasSubstr("<xs:schema"));
 }
 

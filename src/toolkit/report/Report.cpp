@@ -147,7 +147,7 @@ class ReportMaker {
         dataOf(facts, dictionary == nullptr ? nullptr : dictionary->paths.get(), findings);
     data["file"] = nameOf(file);
     if (dictionary != nullptr) data["document"] = dictionary->id;
-    data["made"] = madeOf(file, id, flavourOf(service));
+    data["made"] = madeOf(origin, id, flavourOf(service));
     documents_.push_back({{"id", id},
                           {"kind", "service"},
                           {"name", facts.name},
@@ -164,7 +164,7 @@ class ReportMaker {
   }
 
   // What callers of a service get: of each kind the files, or else why there are none.
-  ordered_json madeOf(const std::string& file, const std::string& id, const Flavour& flavour) {
+  ordered_json madeOf(const DocumentSource& origin, const std::string& id, const Flavour& flavour) {
     ordered_json all = ordered_json::array();
     for (const std::string& word : options_.kinds) {
       const GeneratorKind* const kind = findGeneratorKind(word);
@@ -172,7 +172,7 @@ class ReportMaker {
       ordered_json files = ordered_json::array();
       std::string problem;
       try {
-        Generated made = generateFrom(reader_, *kind, {file});
+        Generated made = generateFrom(reader_, *kind, origin);
         for (GeneratedFile& one : made.files) {
           ReportFile placed{"made/" + id + "/" + word + "/" + one.name, std::move(one.content)};
           files.push_back(placed.name);
