@@ -134,6 +134,14 @@ TEST(ImportPrograms, AreNamedByLiteralsToo) {
   EXPECT_EQ(entryPointsOf(imported.programs.front().dictionary), "c&amp;d");
 }
 
+TEST(ImportPrograms, AreCalledAsTheirDictionariesCallThem) {
+  const Imported imported = importOf("PROGRAM-ID. \"a\x01\xC3\xA4\".");
+  ASSERT_EQ(imported.programs.size(), 1U);
+  const std::string name = "a\xEF\xBF\xBD\xC3\xA4";
+  EXPECT_EQ(imported.programs.front().name, name);
+  EXPECT_THAT(imported.programs.front().dictionary, testing::HasSubstr("name=\"" + name + "\""));
+}
+
 TEST(ImportPrograms, HaveCopybooksWhereTold) {
   auto options = freeFormat();
   options.isCopybook = true;

@@ -71,7 +71,7 @@ class ImportDetails;
 
 // A program of a source.
 struct ImportedProgram {
-  std::string name;  // The PROGRAM-ID.
+  std::string name;  // The PROGRAM-ID, as the dictionary holds it.
   // The text of the dictionary, valid for its schema; empty when errors were found in the program:
   // where an entry is not understood, what stands behind it may stand elsewhere.
   std::string dictionary;

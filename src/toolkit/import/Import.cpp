@@ -11,6 +11,7 @@
 #include "toolkit/import/ImportDetails.h"
 #include "toolkit/import/ProgramReader.h"
 #include "toolkit/import/SourceReader.h"
+#include "toolkit/import/XmlText.h"
 #include "toolkit/text/Phrases.h"
 
 namespace as::toolkit {
@@ -131,7 +132,7 @@ Imported importCobol(std::string source, const std::string& name, CopybookProvid
                          .read();
   for (const std::unique_ptr<CobolProgram>& program : shared->programs) {
     ImportedProgram imported;
-    imported.name = program->name;
+    imported.name = XmlText::heldOf(program->name);
     if (!program->isRefused) {
       imported.dictionary = dictionaryText(
           *program, propertiesOf(name, options, words.format(), shared->dialect, *program),

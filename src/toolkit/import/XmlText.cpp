@@ -30,6 +30,9 @@ std::size_t characterSize(std::string_view text, std::size_t at) {
   return code < least[size] || isSurrogate || isNone ? 0 : size;
 }
 
+// Stands for what is no character that XML may hold.
+constexpr const char* replacement = "\xEF\xBF\xBD";
+
 // Whether the character stands for itself.
 bool isPlain(char c) {
   return c >= ' ' && c <= '~' && c != '&' && c != '<' && c != '>' && c != '"';
@@ -94,7 +97,7 @@ void XmlText::escape(std::string_view value) {
     const std::size_t size = characterSize(value, at);
     const char c = value[at];
     if (size == 0) {
-      text_ += "\xEF\xBF\xBD";
+      text_ += replacement;
       hasReplaced_ = true;
     } else if (c == '&') {
       text_ += "&amp;";
@@ -111,6 +114,16 @@ void XmlText::escape(std::string_view value) {
     }
     at += size == 0 ? 1 : size;
   }
+}
+
+std::string XmlText::heldOf(std::string_view value) {
+  std::string held;
+  for (std::size_t at = 0; at < value.size();) {
+    const std::size_t size = characterSize(value, at);
+    held += size == 0 ? std::string_view(replacement) : value.substr(at, size);
+    at += size == 0 ? 1 : size;
+  }
+  return held;
 }
 
 std::string XmlText::take() {

@@ -25,6 +25,9 @@ class XmlText {
 
   std::string take();
 
+  // `value` as a document holds it: with that character in their places.
+  static std::string heldOf(std::string_view value);
+
  private:
   void indent();
   void escape(std::string_view value);
