@@ -409,7 +409,8 @@ Work diffPrograms(const std::shared_ptr<Files>& files, const char* what, const c
 
 Work diffServices(const std::shared_ptr<Files>& files, const char* what, const char* with) {
   const std::string other = files->changed(files->service(), what, with);
-  return [before = readService(*files), after = reader().readServiceWithProgram(other).service] {
+  return [before = readService(*files),
+          after = Service(reader().readServiceWithProgram(other).service)] {
     benchmark::DoNotOptimize(toolkit::diff(*before, *after).changes.size());
     benchmark::DoNotOptimize(toolkit::diff(*after, *before).changes.size());
   };
