@@ -59,10 +59,12 @@ SharedSchemas::~SharedSchemas() {
 
 void SharedSchemas::add(const XMLCh* uri) {
   const std::unique_ptr<const LocalFile> file = fileOf(uri);
-  std::optional<std::string> text;
-  if (file != nullptr) text = contentOf(*file);
-  Grammar* const grammar = text ? compileSchema(uri, *text, grammars_) : nullptr;
-  schemas_.emplace(uri, Schema{std::move(text), grammar});
+  if (file == nullptr) {
+    schemas_.emplace(uri, Schema{std::nullopt, nullptr});
+    return;
+  }
+  const std::string& text = texts_.emplace_back(contentOf(*file));
+  schemas_.emplace(uri, Schema{text, compileSchema(uri, text, grammars_)});
 }
 
 Grammar* SharedSchemas::grammarFor(const XMLCh* uri, const XMLCh* place) {
@@ -73,7 +75,7 @@ Grammar* SharedSchemas::grammarFor(const XMLCh* uri, const XMLCh* place) {
     if (Grammar* const grammar = file ? builtIn(uri, *file) : nullptr) return grammar;
     throw NotShared{uri};
   }
-  const std::optional<std::string>& text = found->second.text;
+  const std::optional<std::string_view>& text = found->second.text;
   const bool isSame = file ? text && holds(*file, *text) : !text;
   if (!isSame) throw NotShared{uri};
   if (found->second.grammar == nullptr) throw NotShared();
@@ -97,6 +99,6 @@ Grammar* SharedSchemas::builtIn(const XMLCh* uri, const LocalFile& file) {
   if (pool == nullptr) return nullptr;
   Grammar* const grammar = grammarIn(*pool, uri);
   builtIn_.push_back(std::move(pool));
-  schemas_.emplace(uri, Schema{std::string(schema->text), grammar});
+  schemas_.emplace(uri, Schema{schema->text, grammar});
   return grammar;
 }

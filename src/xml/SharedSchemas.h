@@ -2,10 +2,12 @@
 #ifndef XML_SHAREDSCHEMAS_H_
 #define XML_SHAREDSCHEMAS_H_
 
+#include <deque>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 #include <xercesc/framework/XMLGrammarPoolImpl.hpp>
 #include <xercesc/util/StringPool.hpp>
@@ -57,8 +59,8 @@ class SharedSchemas {
 
  private:
   struct Schema {
-    std::optional<std::string> text;  // Of the file; none when there is no file to be read.
-    xercesc::Grammar* grammar;        // Null for one that cannot be shared.
+    std::optional<std::string_view> text;  // Of the file; none when there is no file to be read.
+    xercesc::Grammar* grammar;             // Null for one that cannot be shared.
   };
 
   std::unique_ptr<const LocalFile> fileOf(const XMLCh* uri);
@@ -68,9 +70,10 @@ class SharedSchemas {
   VorEntityResolver resolver_;
   bool isSpoilt_ = false;
   std::map<std::basic_string<XMLCh>, Schema> schemas_;
+  std::deque<std::string> texts_;  // Of those that were added.
   GrammarMemory memory_;
   xercesc::XMLGrammarPoolImpl grammars_{&memory_};
-  std::vector<std::unique_ptr<xercesc::XMLGrammarPoolImpl>> builtIn_;
+  std::vector<std::unique_ptr<xercesc::XMLGrammarPoolImpl>> builtIn_;  // A schema each.
 };
 
 #endif  // XML_SHAREDSCHEMAS_H_
