@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
 #include <cstring>
 #include <exception>
 #include <fstream>
@@ -114,6 +113,5 @@ int main(int count, char** arguments) {
     failed = 1;
   }
   xercesc::XMLPlatformUtils::Terminate();
-  if (failed != 0) std::remove(arguments[2]);
   return failed;
 }
