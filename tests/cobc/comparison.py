@@ -84,7 +84,9 @@ def fields_of(items: List[Item], source: Source, told: Told) -> Dict[int, Field]
         between = [told.dumped[one][2] for one in range(at + 1, next_at)]
         unnamed = [one for one in range(number + 1, next_number)
                    if not items[one].in_redefinition and items[one].section.name != 'FILE']
-        if len(between) == len(unnamed):
+        # Of files, the dump shows some that have no name, and some not.
+        is_beside_file = any(item.section.name == 'FILE' for item in items[number + 1:next_number])
+        if len(between) == len(unnamed) and not is_beside_file:
             for one, field in zip(unnamed, between):
                 fields.setdefault(one, field)
     return fields
