@@ -2,8 +2,8 @@
 """Hands a header to Doxygen: comments in front of declarations, and behind one, are their
 documentation.
 
-- The first comment of a file is that of the file, and of the class that the file is named after when
-  that has none of its own.
+- The first comment of a file is that of the file, and begins that of the class that the file is named
+  after.
 - A comment is about all declarations up to the next comment or blank line.
 """
 import os
@@ -50,6 +50,9 @@ def handed(lines, name):
                 about_file = text
                 result += ["/// \\file"] + documented(text, "") + [""]
                 continue
+            known = CLASS.match(lines[i]) if i < len(lines) else None
+            if known and known[1] == name:
+                result += documented(about_file + [""], "")
             end = declarations(lines, i)
             is_group = i < end and not OPENING.match(lines[i])
             result += ["///@{"] if is_group else []

@@ -37,8 +37,8 @@ struct Change {
   // "quote.serial", "type Address.street". Empty where there is no such place.
   std::string oldPlace;
   std::string newPlace;
-  std::string oldValue;
-  std::string newValue;
+  std::string oldValue;  // What it was,
+  std::string newValue;  // and what it is; both empty where the kind says all.
   // Whether it breaks callers, by itself or by what follows from it. What happens in working
   // storage breaks nobody, unless the program has no entry points (a copybook), nor do unnamed
   // items.

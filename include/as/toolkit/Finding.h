@@ -25,7 +25,7 @@ struct Finding {
   // The stable id of the rule that found it ("lost-data-item"); see lintRules() for those of lint.
   // Ids do not change from one version to the next; texts may.
   std::string rule;
-  Severity severity = Severity::error;
+  Severity severity = Severity::error;  // The rule's, unless the user wants another.
   // Where it is in the terms of the document ("quote.serial", "type Address.street", "service").
   std::string place;
   // What is the matter, without a full stop.

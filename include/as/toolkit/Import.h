@@ -19,8 +19,8 @@ namespace as::toolkit {
 struct ImportFinding {
   // The stable id of the rule that found it; see importRules().
   std::string rule;
-  Severity severity = Severity::error;
-  SourceLocation location;
+  Severity severity = Severity::error;  // The rule's.
+  SourceLocation location;              // In the source, or in a copybook.
   // Where the copybook was copied that holds the place, and so on up to the source.
   std::vector<SourceLocation> copiedAt;
   std::string problem;  // What is the matter, without a full stop.
