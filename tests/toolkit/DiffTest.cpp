@@ -255,12 +255,22 @@ TEST_F(DiffTest, ConditionsOfOneNameHaveTheirPartnersByTheirValues) {
   EXPECT_EQ(diff.changes[0].newValue, "X");
 }
 
+// Records have no place among each other: only one that stands for another between the same
+// neighbours is that one with a new name.
+TEST_F(DiffTest, ARecordWithoutMembersIsRenamedWhereNothingElseChanged) {
+  const std::string frame = "01 R PIC X.\n01 K PIC X(3).\n";
+  EXPECT_EQ(kindsOf(diffOf(frame + "01 A PIC 9(4).", frame + "01 B PIC 9(4).")),
+            std::vector<std::string>{"item-renamed"});
+  EXPECT_THAT(kindsOf(diffOf(frame + "01 A PIC 9(4).\n01 C PIC X(9).", frame + "01 B PIC 9(4).")),
+              testing::UnorderedElementsAre("item-removed", "item-removed", "item-added"));
+}
+
 // Of several that could be renamed, one is; which one does not depend on the direction.
 TEST_F(DiffTest, WhatWasRenamedIsTheSameInBothDirections) {
   const std::string before =
       dictionary("old.xml", "01 R.\n05 A PIC 9(4) COMP.\n05 B PIC 9(4) COMP.");
   const std::string after =
-      dictionary("new.xml", "01 R.\n05 X PIC X(7).\n05 C PIC S9(4) COMP.\n05 D PIC X.");
+      dictionary("new.xml", "01 R.\n05 X PIC X(7).\n05 C PIC 9(4) COMP.\n05 D PIC X.");
   for (const auto& [old, added] : {std::pair(before, after), std::pair(after, before)}) {
     const toolkit::Diff diff = toolkit::diffFiles(reader(), old, added);
     std::string renamed;

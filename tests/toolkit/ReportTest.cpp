@@ -204,6 +204,21 @@ TEST_F(ReportTest, NamesAreNoPartOfTheIndex) {
   EXPECT_LT(contentOf(report, "data/index.js").size(), 1000U);
 }
 
+// The model answers a data type for what has none.
+TEST_F(ReportTest, AStructureHasADataTypeOnlyWhereItIsWritten) {
+  const auto dataTypeOf = [this](const std::string& attribute) {
+    write("s.xml", test::javaService("name='S' implementation='java' programName='P'",
+                                     "<operations><operation name='o'><parameters><parameter "
+                                     "name='p' byType='in'" +
+                                         attribute +
+                                         "><field name='f' dataType='int'/>"
+                                         "</parameter></parameters></operation></operations>"));
+    return dataOf(reportOf({"s.xml"}), "s1")["operations"][0]["f"][0].value("t", "none");
+  };
+  EXPECT_EQ(dataTypeOf(""), "none");
+  EXPECT_EQ(dataTypeOf(" dataType='String'"), "String");
+}
+
 TEST_F(ReportTest, DocumentsNeedNotBeFiles) {
   const std::string text = test::dictionaryOf("<alphanumeric name='N' offset='0' length='4'/>");
   const toolkit::Report report =

@@ -1,6 +1,7 @@
 #include "toolkit/diff/ItemMatch.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <tuple>
 #include <unordered_map>
@@ -201,8 +202,8 @@ void ItemMatch::matchUnnamed(const Items& old, const Items& added) {
 bool ItemMatch::isRenamed(const ItemFacts& old, const ItemFacts& added) const {
   const bool isAlike = old.category == added.category && old.length == added.length &&
                        old.maxOccurs == added.maxOccurs && old.usage == added.usage &&
-                       old.scale == added.scale && old.redefines == added.redefines &&
-                       old.renames == added.renames;
+                       old.scale == added.scale && old.sign == added.sign &&
+                       old.redefines == added.redefines && old.renames == added.renames;
   if (!isAlike || !old.isGroup()) return isAlike;
   // A group is what it is made of: half of its members have their names or their places.
   std::unordered_set<std::string_view> names;
@@ -226,8 +227,18 @@ void ItemMatch::matchRenamed(const Items& old, const Items& added) {
 void ItemMatch::matchRun(const Items& old, const Items& added) {
   // How far what stands between is looked over: places are the same only near by.
   constexpr std::size_t farthest = 64;
+  // Records have addresses of their own: one without members is known by its neighbours alone.
+  Items left;
+  std::copy_if(added.begin(), added.end(), std::back_inserter(left),
+               [this](ItemNumber number) { return oldOf_[number] == noItem; });
+  const bool arePaired = std::equal(old.begin(), old.end(), left.begin(), left.end(),
+                                    [this](ItemNumber number, ItemNumber partner) {
+                                      return isRenamed(before_[number], after_[partner]);
+                                    });
   std::size_t next = 0;
   for (const ItemNumber number : old) {
+    const bool hasPlace = before_[number].parent != noItem || before_[number].isGroup();
+    if (!hasPlace && !arePaired) continue;
     const std::size_t end = std::min(added.size(), next + farthest);
     for (std::size_t i = next; i < end; ++i) {
       if (oldOf_[added[i]] != noItem || !isRenamed(before_[number], after_[added[i]])) continue;

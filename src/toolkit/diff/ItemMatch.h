@@ -9,7 +9,8 @@
 namespace as::toolkit {
 
 // By names first: those of siblings, then those of records in all sections. Of what is left, items
-// of the same size and kind in the same place are renamed ones; then, within a record, items of a
+// of the same size and kind in the same place are renamed ones (of records without members, those
+// that stand for as many others between the same neighbours); then, within a record, items of a
 // name that only one old and one new item have, stand in another group. Who is whose partner does
 // not depend on which dictionary is the old one. Grows with the number of items.
 class ItemMatch {

@@ -65,6 +65,7 @@ class Reader {
     if (!facts.reference.empty()) return facts;
     facts.occurs = field.getOccurs();
     facts.attributes = attributesOf(flavour_.traitsOf(field));
+    facts.hasDataType = !field.getAttributeValue("dataType").empty();
     if (const std::optional<int> type = flavour_.dataTypeOf(field)) {
       const DataType* const known = flavour_.findDataType(*type);
       facts.type = known == nullptr ? field.getAttributeValue("dataType") : known->word;

@@ -21,7 +21,8 @@ struct FieldFacts {
   std::string name;
   std::string direction;
   int occurs = 0;
-  std::string type;
+  std::string type;          // What the model answers,
+  bool hasDataType = false;  // and whether the document says so.
   std::string reference;
   std::vector<AttributeFacts> attributes;
   std::vector<std::string> mappings;  // "RECORD.ITEM(*)", with " as *" for subscripts of its own.

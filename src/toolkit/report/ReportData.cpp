@@ -93,7 +93,8 @@ ordered_json dataOf(const FieldFacts& field, const ItemPaths* paths) {
   data["n"] = field.name;
   put(data, "dir", field.direction);
   put(data, "occ", field.occurs);
-  put(data, "t", field.type);
+  // What is made of fields has a data type only where its document says so.
+  if (field.hasDataType || field.members.empty()) put(data, "t", field.type);
   put(data, "ref", field.reference);
   ordered_json attributes = dataOf(field.attributes);
   if (!attributes.empty()) data["a"] = std::move(attributes);

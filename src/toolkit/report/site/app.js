@@ -13,10 +13,15 @@ function documentCard(known) {
       : el("p.bad", {}, [known.errors && plural(known.errors, "error"), known.warnings && plural(known.warnings, "warning")].filter(Boolean).join(", ")));
 }
 
+// By their names: people look for them so.
+function documentsOf(kind) {
+  return asReport.index.documents.filter((known) => known.kind === kind)
+    .sort((left, right) => left.name.localeCompare(right.name));
+}
+
 function overview() {
-  const {documents} = asReport.index;
   const group = (title, kind) => {
-    const list = documents.filter((known) => known.kind === kind);
+    const list = documentsOf(kind);
     return list.length === 0 ? null : el("section", {}, el("h2", {}, title), el("ul.cards", {}, list.map(documentCard)));
   };
   return [
@@ -30,7 +35,7 @@ function navigation(current) {
   const entry = (known) => el("li", {}, el("a", {href: "#/" + known.id, "aria-current": known.id === current ? "page" : null}, clip(known.name, 60) || "(unnamed)",
     known.kind === "service" ? el("small", {}, known.flavour) : null));
   const list = (title, kind) => {
-    const some = asReport.index.documents.filter((known) => known.kind === kind);
+    const some = documentsOf(kind);
     return some.length === 0 ? [] : [el("h2", {}, title), el("ul", {}, some.slice(0, 200).map(entry))];
   };
   document.getElementById("nav").replaceChildren(
