@@ -76,21 +76,21 @@ void DictionaryDiff::compareFiles() {
     taken.insert(news[partners[i]]);
     compareFile(*olds[i], *news[partners[i]]);
   }
+  std::unordered_map<ItemNumber, const SectionFacts*> byRecord;
+  for (const SectionFacts* const file : news) {
+    if (!file->records.empty()) byRecord.emplace(file->records.front(), file);
+  }
   for (std::size_t i = 0; i < olds.size(); ++i) {
     if (partners[i] != noPartner) continue;
     const SectionFacts* const file = olds[i];
     // One that has the first record of another is that file.
-    const ItemNumber partner = file->records.empty() ? noItem : match_.newOf(file->records.front());
-    const SectionFacts* renamed = nullptr;
-    for (const SectionFacts* const candidate : news) {
-      if (partner == noItem || candidate->records.empty() || taken.contains(candidate)) continue;
-      if (candidate->records.front() == partner) renamed = candidate;
-    }
-    if (renamed == nullptr) {
+    const auto found =
+        file->records.empty() ? byRecord.end() : byRecord.find(match_.newOf(file->records.front()));
+    if (found == byRecord.end() || !taken.insert(found->second).second) {
       changes_.add("file-removed", {file->title(), ""});
       continue;
     }
-    taken.insert(renamed);
+    const SectionFacts* const renamed = found->second;
     changes_.add("file-renamed", {file->title(), renamed->title()}, file->file, renamed->file);
     compareFile(*file, *renamed);
   }
@@ -127,6 +127,13 @@ void DictionaryDiff::compareEntryPoints() {
   for (const EntryPointFacts& entry : after_.entryPoints()) news.emplace(entry.name, &entry);
   std::unordered_set<std::string_view> olds;
   for (const EntryPointFacts& entry : before_.entryPoints()) olds.insert(entry.name);
+  // Those that may be an old one with a new name: of many, only those near by.
+  constexpr std::size_t farthest = 64;
+  std::vector<const EntryPointFacts*> free;
+  for (const EntryPointFacts& entry : after_.entryPoints()) {
+    if (!olds.contains(entry.name)) free.push_back(&entry);
+  }
+  std::size_t next = 0;
   std::unordered_set<const EntryPointFacts*> taken;
   for (const EntryPointFacts& entry : before_.entryPoints()) {
     const std::string place = "entry point " + entry.name;
@@ -136,10 +143,11 @@ void DictionaryDiff::compareEntryPoints() {
       continue;
     }
     const EntryPointFacts* renamed = nullptr;
-    for (const EntryPointFacts& candidate : after_.entryPoints()) {
-      const bool isFree = !taken.contains(&candidate) && !olds.contains(candidate.name);
-      if (renamed == nullptr && isFree && entry.convention == candidate.convention &&
-          haveSameParameters(entry, candidate)) {
+    while (next < free.size() && taken.contains(free[next])) ++next;
+    for (std::size_t i = next; i < std::min(free.size(), next + farthest); ++i) {
+      const EntryPointFacts& candidate = *free[i];
+      if (renamed == nullptr && !taken.contains(&candidate) &&
+          entry.convention == candidate.convention && haveSameParameters(entry, candidate)) {
         renamed = &candidate;
       }
     }

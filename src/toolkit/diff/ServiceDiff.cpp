@@ -83,6 +83,31 @@ std::string firstName(const MessageFacts& message) {
   return message.parameters.empty() ? "" : message.parameters.front().name;
 }
 
+// Messages have no names: they are known by their first parameter, and then by their order.
+std::vector<std::size_t> messagePartners(const std::vector<MessageFacts>& before,
+                                         const std::vector<MessageFacts>& after) {
+  std::vector<std::size_t> partners = matchNamesOf(before, after, [](const MessageFacts& message) {
+    return std::string(message.kind) + " " + firstName(message);
+  });
+  std::vector<std::size_t> olds;
+  for (std::size_t i = 0; i < before.size(); ++i) {
+    if (partners[i] == noPartner) olds.push_back(i);
+  }
+  const std::vector<std::size_t> news = withoutPartner(partners, after.size());
+  std::vector<std::string> oldKinds;
+  std::vector<std::string> newKinds;
+  oldKinds.reserve(olds.size());
+  newKinds.reserve(news.size());
+  for (const std::size_t i : olds) oldKinds.emplace_back(before[i].kind);
+  for (const std::size_t j : news) newKinds.emplace_back(after[j].kind);
+  const std::vector<std::size_t> left = matchNamesOf(
+      oldKinds, newKinds, [](const std::string& kind) -> const std::string& { return kind; });
+  for (std::size_t i = 0; i < olds.size(); ++i) {
+    if (left[i] != noPartner) partners[olds[i]] = news[left[i]];
+  }
+  return partners;
+}
+
 }  // namespace
 
 ServiceDiff::ServiceDiff(const ServiceFacts& before, const ServiceFacts& after) {
@@ -150,19 +175,7 @@ void ServiceDiff::compareHidden(const Place& place, const Hidden& before, const 
 
 void ServiceDiff::compareMessages(const Place& place, const std::vector<MessageFacts>& before,
                                   const std::vector<MessageFacts>& after) {
-  std::vector<bool> taken(after.size(), false);
-  std::vector<std::size_t> partners(before.size(), noPartner);
-  // Messages have no names: they are known by their first parameter, and then by their order.
-  for (const bool byName : {true, false}) {
-    for (std::size_t i = 0; i < before.size(); ++i) {
-      for (std::size_t j = 0; j < after.size() && partners[i] == noPartner; ++j) {
-        if (taken[j] || before[i].kind != after[j].kind) continue;
-        if (byName && firstName(before[i]) != firstName(after[j])) continue;
-        partners[i] = j;
-        taken[j] = true;
-      }
-    }
-  }
+  const std::vector<std::size_t> partners = messagePartners(before, after);
   const auto placeOf = [](const std::string& around, const MessageFacts& message) {
     const std::string name = firstName(message);
     return around + " " + message.kind + (name.empty() ? "" : " of " + name);
@@ -179,8 +192,7 @@ void ServiceDiff::compareMessages(const Place& place, const std::vector<MessageF
     const Place inside = {place.before + " " + before[i].kind, place.after + " " + partner.kind};
     compareFields(inside, ".", Level::parameter, before[i].parameters, partner.parameters);
   }
-  for (std::size_t j = 0; j < after.size(); ++j) {
-    if (taken[j]) continue;
+  for (const std::size_t j : withoutPartner(partners, after.size())) {
     changes_.add(after[j].kind == "fault" ? "fault-added" : "header-added",
                  {"", placeOf(place.after, after[j])});
   }

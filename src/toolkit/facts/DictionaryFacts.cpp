@@ -77,7 +77,9 @@ ItemFacts factsOf(as::IDataItem& item) {
 
 long long ItemFacts::extent() const {
   if (redefines || renames) return 0;
-  return static_cast<long long>(std::max(length, 0)) * std::max(maxOccurs, 1);
+  // No item is as long; so many of them as a document can hold are no more than a number can hold.
+  constexpr long long most = 1LL << 38;
+  return std::min(static_cast<long long>(std::max(length, 0)) * std::max(maxOccurs, 1), most);
 }
 
 std::string SectionFacts::title() const {

@@ -95,9 +95,11 @@ bool SourceLineCheck::isOf(const ItemFacts& item) const {
   if (source_ == nullptr || item.line < 1) return false;
   const auto line = static_cast<std::size_t>(item.line) - 1;
   if (line >= source_->lines.size()) return false;
-  const std::string& text = source_->lines[line];
-  if (text.size() < item.name.size() && !item.isUnnamed()) return false;
-  return item.isUnnamed() || inCapitals(text).find(inCapitals(item.name)) != std::string::npos;
+  if (item.isUnnamed()) return true;
+  // No line of COBOL is as long; one that is may be that of all items.
+  constexpr std::size_t longest = 1000;
+  const std::string text = source_->lines[line].substr(0, longest);
+  return inCapitals(text).find(inCapitals(item.name)) != std::string::npos;
 }
 
 }  // namespace as::toolkit
