@@ -44,6 +44,9 @@ std::string joined(const std::vector<std::string>& lines) {
   return text;
 }
 
+// Of digits that are known to be some.
+long long numberOf(const std::string& digits) { return std::strtoll(digits.c_str(), nullptr, 10); }
+
 }  // namespace
 
 const TypeTable& jsonTypes() {
@@ -134,6 +137,7 @@ std::vector<const Field*> JsonSchemas::membersOf(std::size_t type) const {
 std::vector<std::string> JsonSchemas::namesOf(const std::vector<const Field*>& fields,
                                               const std::string& place) {
   std::vector<NameWish> wishes;
+  wishes.reserve(fields.size());
   for (const Field* const field : fields) {
     wishes.push_back({field->name, place + "." + field->name});
   }
@@ -143,6 +147,7 @@ std::vector<std::string> JsonSchemas::namesOf(const std::vector<const Field*>& f
 std::size_t JsonSchemas::addObject(const NameWish& wish, const std::vector<Field>& members,
                                    bool goIn, bool comeOut, const std::string& place) {
   std::vector<const Field*> all;
+  all.reserve(members.size());
   for (const Field& field : members) all.push_back(&field);
   const std::vector<std::string> names = namesOf(all, place);
   Definition definition{wish, nullptr};
@@ -237,8 +242,8 @@ JsonSchemas::Json JsonSchemas::schemaOfValue(const Field& field) const {
   const Facets facets = facetsOf(job_.model, field, withConditions_);
   Json schema = {{"type", type.starts_with("string") ? "string" : row->type}};
   if (type == "integer") {
-    if (!facets.least.empty()) schema["minimum"] = std::atoll(facets.least.c_str());
-    if (!facets.most.empty()) schema["maximum"] = std::atoll(facets.most.c_str());
+    if (!facets.least.empty()) schema["minimum"] = numberOf(facets.least);
+    if (!facets.most.empty()) schema["maximum"] = numberOf(facets.most);
   } else if (type == integerText || type == decimalText) {
     const bool isSigned = facets.least.empty() || facets.least.front() == '-';
     const int digits =
@@ -260,7 +265,7 @@ JsonSchemas::Json JsonSchemas::schemaOfValue(const Field& field) const {
   if (facets.values.empty()) return schema;
   Json values = Json::array();
   for (const std::string& value : facets.values) {
-    values.push_back(type == "integer" ? Json(std::atoll(value.c_str())) : Json(value));
+    values.push_back(type == "integer" ? Json(numberOf(value)) : Json(value));
   }
   schema["enum"] = std::move(values);
   return schema;
@@ -307,7 +312,7 @@ JsonSchemas::Json JsonSchemas::sampleOfValue(const Field& field) const {
   const TypeRow* const row = types_.rowFor(field);
   const std::string_view type = row == nullptr ? anything : row->type;
   const std::string value = samples_.valueOf(field);
-  if (type == "integer") return std::atoll(value.c_str());
+  if (type == "integer") return numberOf(value);
   if (type == "number") return std::strtod(value.c_str(), nullptr);
   return value;
 }

@@ -44,7 +44,7 @@ class JsonSchemas {
   Json schemaOf(const Field& field) const;
 
   // A sample of a definition; nothing for one of more than so many values.
-  std::optional<Json> sampleOf(std::size_t definition, std::size_t most);
+  std::optional<Json> sampleOf(std::size_t number, std::size_t most);
   Json sampleOf(const Field& field) const;
 
  private:
@@ -60,7 +60,7 @@ class JsonSchemas {
                                    const std::string& place);
   Json schemaOfOne(const Field& field) const;
   Json schemaOfValue(const Field& field) const;
-  Json schemaOfType(std::size_t type) const;
+  Json schemaOfType(std::size_t number) const;
   Json objectOf(const std::vector<const Field*>& members,
                 const std::vector<std::string>& names) const;
   Json sampleOfOne(const Field& field) const;
