@@ -46,6 +46,8 @@ class Show : public Command {
       inputs_.workThrough(output_,
                           [&](const Input& input, Parcel& parcel) {
                             std::ostringstream out;
+                            // Half of a document is none.
+                            out.exceptions(std::ios::badbit | std::ios::failbit);
                             show(reader, input, out);
                             parcel.put(out.str());
                           },

@@ -75,6 +75,8 @@ std::size_t Baseline::left() const {
 
 void Baseline::write() const {
   std::ostringstream out;
+  // Else it would keep half of the text, and tell nobody, when memory runs out.
+  out.exceptions(std::ios::badbit | std::ios::failbit);
   JsonWriter writer(out);
   writer.beginObject();
   writer.member("kind", kind);
@@ -95,9 +97,10 @@ void Baseline::write() const {
 
 Baseline::Key Baseline::keyOf(const std::string& document, const Finding& finding) {
   if (seen_.empty() || document != document_) {
-    document_ = document;
     // Standard input has no folder.
-    seen_ = document == "-" ? document : nameSeenFrom(file_, document);
+    std::string seen = document == "-" ? document : nameSeenFrom(file_, document);
+    document_ = document;
+    seen_ = std::move(seen);
   }
   return {seen_, finding.rule, finding.place};
 }
