@@ -12,6 +12,7 @@
 #include "as/IDataItem.h"
 #include "toolkit/convert/XmlDocument.h"
 #include "toolkit/findings/Report.h"
+#include "toolkit/io/ParserMemory.h"
 #include "toolkit/text/Names.h"
 #include "toolkit/text/Phrases.h"
 
@@ -275,9 +276,11 @@ class Conversion {
 
 std::string convertDocument(const std::string& document, const FlavourProfile& from,
                             const FlavourProfile& to, const ItemIndex* items, Findings& notes) {
-  XmlDocument xml(document);
-  Conversion(from, to, items, notes).convert(xml.root());
-  return xml.text();
+  return withBadAlloc([&] {
+    XmlDocument xml(document);
+    Conversion(from, to, items, notes).convert(xml.root());
+    return xml.text();
+  });
 }
 
 }  // namespace as::toolkit

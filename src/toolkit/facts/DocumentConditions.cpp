@@ -12,6 +12,8 @@
 #include <xercesc/util/TransService.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
+#include "toolkit/io/ParserMemory.h"
+
 namespace as::toolkit {
 
 namespace {
@@ -90,6 +92,10 @@ class ConditionHandler : public xml::DefaultHandler {
 }  // namespace
 
 DocumentConditions::DocumentConditions(const DocumentSource& source) {
+  withBadAlloc([&] { read(source); });
+}
+
+void DocumentConditions::read(const DocumentSource& source) {
   ConditionHandler handler(conditions_);
   try {
     const std::unique_ptr<xml::SAX2XMLReader> reader(xml::XMLReaderFactory::createXMLReader());

@@ -25,6 +25,8 @@ class DocumentConditions {
   std::vector<ConditionFacts> takeOf(ItemNumber number) { return std::move(conditions_[number]); }
 
  private:
+  void read(const DocumentSource& source);
+
   std::vector<std::vector<ConditionFacts>> conditions_;
 };
 
