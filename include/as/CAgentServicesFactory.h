@@ -28,9 +28,9 @@ class AS_EXPORT CAgentServicesFactory {
   static IAgentServices* CreateAgentServices();
 
   // The same, for those who read many documents: an entry object that keeps what the XML parser
-  // makes of the schemas, which a small document would otherwise spend much of its time on, and most
-  // where they are others than the shipped ones. Every request comes to the same as with the one
-  // above, model or refusal.
+  // makes of the schemas, which a small document would otherwise spend much of its time on, and
+  // most where they are others than the shipped ones. Every request comes to the same as with the
+  // one above, model or refusal.
   //
   // A schema is made by the first request whose document needs it, and kept until a request
   // finds that its file, which each looks at, is another by then or gone, or that another schema
