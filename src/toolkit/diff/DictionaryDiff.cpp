@@ -180,8 +180,10 @@ void DictionaryDiff::compareEntryPoint(const EntryPointFacts& before,
                                std::to_string(after.convention)));
   std::vector<std::size_t> partners(before.parameters.size(), noPartner);
   std::vector<bool> taken(after.parameters.size(), false);
+  std::size_t next = 0;  // None in front of it is free.
   for (std::size_t i = 0; i < before.parameters.size(); ++i) {
-    for (std::size_t j = 0; j < after.parameters.size(); ++j) {
+    while (next < taken.size() && taken[next]) ++next;
+    for (std::size_t j = next; j < after.parameters.size(); ++j) {
       if (taken[j] || !isSameItem(before.parameters[i], after.parameters[j])) continue;
       partners[i] = j;
       taken[j] = true;
