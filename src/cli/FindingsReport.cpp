@@ -15,25 +15,36 @@ constexpr char refusedDocument[] = "refused-document";
 
 }  // namespace
 
-void FindingsReport::declare(Arguments& arguments) {
+void FindingsReport::declare(Arguments& arguments, const char* option) {
   std::vector<std::string> words;
   for (const as::toolkit::FindingsFormat& format : as::toolkit::findingsFormats()) {
     words.emplace_back(format.word);
   }
-  arguments.option("--format", format_, words, "How findings are told; text unless told");
+  arguments.option(option, format_, words, "How findings are told; text unless told");
 }
 
 void FindingsReport::begin(const Output& output, std::vector<as::toolkit::RuleDescription> rules) {
   isQuiet_ = output.isQuiet();
+  begin(std::cout, output.isColored(), std::move(rules));
+}
+
+void FindingsReport::beginBesideResults(bool isQuiet,
+                                        std::vector<as::toolkit::RuleDescription> rules) {
+  isQuiet_ = isQuiet;
+  begin(isText() ? std::cerr : std::cout, false, std::move(rules));
+}
+
+void FindingsReport::begin(std::ostream& out, bool isColored,
+                           std::vector<as::toolkit::RuleDescription> rules) {
   rules.push_back({refusedDocument, Severity::error, "a document can be read and is valid",
                    "What the message tells has to be mended before anything else is looked at."});
   writer_ = as::toolkit::findFindingsFormat(format_)->makeWriter(
-      std::cout, {"agentservices", AS_TOOL_VERSION, std::move(rules), output.isColored()});
+      out, {"agentservices", AS_TOOL_VERSION, std::move(rules), isColored});
 }
 
-void FindingsReport::add(const std::string& file, const as::toolkit::Finding& finding) {
-  if (isQuiet_ && finding.severity == Severity::note) return;
-  writer_->add({file, finding});
+void FindingsReport::add(const as::toolkit::FileFinding& finding) {
+  if (isQuiet_ && finding.finding.severity == Severity::note) return;
+  writer_->add(finding);
 }
 
 void FindingsReport::add(const as::toolkit::Refusal& refusal) {

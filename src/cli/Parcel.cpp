@@ -31,6 +31,17 @@ void Parcel::put(const as::toolkit::Finding& finding) {
   put(unsignedOf(finding.column));
 }
 
+void Parcel::put(const as::toolkit::FileFinding& finding) {
+  put(finding.file);
+  put(finding.finding);
+  put(finding.copiedAt.size());
+  for (const as::toolkit::SourceLocation& location : finding.copiedAt) {
+    put(location.file);
+    put(unsignedOf(location.line));
+    put(unsignedOf(location.column));
+  }
+}
+
 void Parcel::put(const as::toolkit::Refusal& refusal) {
   put(refusal.file);
   put(unsignedOf(refusal.line));
@@ -80,6 +91,19 @@ as::toolkit::Finding OpenedParcel::finding() {
   finding.line = static_cast<int>(number());
   finding.column = static_cast<int>(number());
   return finding;
+}
+
+as::toolkit::FileFinding OpenedParcel::fileFinding() {
+  as::toolkit::FileFinding told;
+  told.file = text();
+  told.finding = finding();
+  for (std::size_t left = number(); left > 0; --left) {
+    as::toolkit::SourceLocation& location = told.copiedAt.emplace_back();
+    location.file = text();
+    location.line = static_cast<int>(number());
+    location.column = static_cast<int>(number());
+  }
+  return told;
 }
 
 as::toolkit::Refusal OpenedParcel::refusal() {

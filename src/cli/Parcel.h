@@ -9,6 +9,7 @@
 #include "as/toolkit/Diff.h"
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Finding.h"
+#include "as/toolkit/FindingsWriter.h"
 
 namespace cli {
 
@@ -17,6 +18,7 @@ class Parcel {
   void put(std::size_t number);
   void put(const std::string& text);
   void put(const as::toolkit::Finding& finding);
+  void put(const as::toolkit::FileFinding& finding);
   void put(const as::toolkit::Refusal& refusal);
   void put(const as::toolkit::Diff& diff);
 
@@ -34,6 +36,7 @@ class OpenedParcel {
   std::size_t number();
   std::string text();
   as::toolkit::Finding finding();
+  as::toolkit::FileFinding fileFinding();
   as::toolkit::Refusal refusal();
   as::toolkit::Diff diff();
 

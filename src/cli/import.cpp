@@ -12,7 +12,9 @@
 #include "as/toolkit/Storage.h"
 #include "as/toolkit/Text.h"
 #include "cli/Command.h"
+#include "cli/FindingsReport.h"
 #include "cli/Messages.h"
+#include "cli/Parcel.h"
 #include "cli/Progress.h"
 #include "cli/Workers.h"
 
@@ -22,6 +24,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::vector<toolkit::RuleDescription> ruleDescriptions() {
+  std::vector<toolkit::RuleDescription> all;
+  for (const toolkit::ImportRule& rule : toolkit::importRules()) {
+    all.push_back({rule.id, rule.severity, rule.summary, ""});
+  }
+  return all;
+}
+
 class Import : public Command {
  public:
   Import() : Command("import", "Make data dictionaries from COBOL sources") {}
@@ -29,6 +39,8 @@ class Import : public Command {
   std::vector<Example> examples() const override {
     return {{"import MOTPREM.cbl -o MOTPREM.xml", "make a dictionary of a source"},
             {"import -I copybooks --jobs 4 sources -o dictionaries", "make those of a folder"},
+            {"import --messages sarif sources -o dictionaries > import.sarif",
+             "tell what is found to code review and continuous integration"},
             {"import MOTPREM.cbl -o MOTPREM.xml --explain LK-PREMIUM",
              "tell how the size and place of an item came about"}};
   }
@@ -54,6 +66,7 @@ class Import : public Command {
                    "Read the sources as copybooks, each a program of its own name");
     arguments.option("--explain", explained_, "ITEM",
                      "Print how size and place of an item came about");
+    report_.declare(arguments, "--messages");
     arguments.option("--jobs", jobs_, "Work in so many processes; 1 unless told");
     arguments.flag("-q,--quiet", isQuiet_, "Say only what is wrong");
   }
@@ -63,10 +76,15 @@ class Import : public Command {
       printError("--output is required, unless an item is to be explained");
       return exitUsage;
     }
+    if (explained_ && !report_.isText()) {
+      printError("--explain prints what is no message: leave out --messages");
+      return exitUsage;
+    }
     if (const int wrong = findTasks(); wrong != exitFine) return wrong;
     options_.format = formatOf(format_);
     options_.pointerSize = pointerSize_.empty() ? 0 : pointerSize_ == "4" ? 4 : 8;
     std::size_t refused = 0;
+    report_.beginBesideResults(isQuiet_, ruleDescriptions());
     const Progress progress(tasks_.size(), isQuiet_);
     workThrough(
         tasks_.size(), jobs_, [this](std::size_t task) { return import(tasks_[task]); },
@@ -76,7 +94,8 @@ class Import : public Command {
           tell(task, outcome);
           progress.show(task + 1);
         });
-    if (isFolder_ && !isQuiet_) {
+    report_.end();
+    if (isFolder_ && !isQuiet_ && report_.isText()) {
       std::cout << toolkit::count(tasks_.size(), "source") << ", " << refused
                 << " of them with errors\n";
     }
@@ -139,39 +158,54 @@ class Import : public Command {
         {{(folder / source).string()}, output_.empty() ? std::string() : target.string()});
   }
 
+  // The outcome's results are a parcel: how many were refused, and the refusals; how many findings
+  // there are, and these; what is explained; and what else is the matter.
   WorkOutcome import(const Task& task) const {
     WorkOutcome outcome;
+    Parcel parcel;
     try {
       std::error_code failure;
       const fs::path folder = fs::path(task.output).parent_path();
       if (isFolder_ && !folder.empty()) fs::create_directories(folder, failure);
-      const toolkit::ImportedFile file =
-          toolkit::importCobolFile(task.source, task.output, folders_, options_);
-      outcome.isFine = countOf(file.imported.findings, toolkit::Severity::error) == 0;
-      for (const toolkit::ImportFinding& finding : file.imported.findings) {
-        if (isQuiet_ && finding.severity == toolkit::Severity::note) continue;
-        outcome.messages += lines(textOf(finding));
-      }
-      if (explained_) explain(file.imported, outcome);
+      const toolkit::Imported imported =
+          toolkit::importCobolFile(task.source, task.output, folders_, options_).imported;
+      outcome.isFine = countOf(imported.findings, toolkit::Severity::error) == 0;
+      parcel.put(std::size_t{0});
+      parcel.put(imported.findings.size());
+      for (const toolkit::ImportFinding& finding : imported.findings) parcel.put(told(finding));
+      const std::string explanation = explained_ ? explanationOf(imported) : std::string();
+      parcel.put(explanation);
+      const bool isLost = explained_ && explanation.empty();
+      outcome.isFine = outcome.isFine && !isLost;
+      parcel.put(isLost ? "there is no item " + *explained_ : std::string());
     } catch (const toolkit::RefusedDocument& refused) {
-      outcome.messages = toolkit::printable(refused.refusal().file) +
-                         ": error: " + toolkit::printable(refused.refusal().text) + "\n";
+      parcel.put(std::size_t{1});
+      parcel.put(refused.refusal());
     } catch (const toolkit::FileError& failure) {
-      outcome.messages =
-          std::string(toolName) + ": error: " + toolkit::printable(failure.what()) + "\n";
+      parcel.put(std::size_t{0});
+      parcel.put(std::size_t{0});
+      parcel.put(std::string());
+      parcel.put(std::string(failure.what()));
     }
+    outcome.results = parcel.take();
     return outcome;
   }
 
-  void explain(const toolkit::Imported& imported, WorkOutcome& outcome) const {
+  static toolkit::FileFinding told(const toolkit::ImportFinding& finding) {
+    return {finding.location.file,
+            {finding.rule, finding.severity, "", finding.problem, finding.advice,
+             finding.location.line, finding.location.column},
+            finding.copiedAt};
+  }
+
+  std::string explanationOf(const toolkit::Imported& imported) const {
+    std::string text;
     for (const toolkit::ImportedProgram& program : imported.programs) {
       for (const toolkit::ItemExplanation& item : explainItem(program, *explained_)) {
-        outcome.results += lines(textOf(item));
+        text += lines(textOf(item));
       }
     }
-    if (!outcome.results.empty()) return;
-    outcome.messages += "there is no item " + toolkit::printable(*explained_) + "\n";
-    outcome.isFine = false;
+    return text;
   }
 
   // Lines stay lines; other control characters are shown.
@@ -185,13 +219,23 @@ class Import : public Command {
     return result;
   }
 
-  void tell(std::size_t task, const WorkOutcome& outcome) const {
-    std::cerr << outcome.messages;
-    std::cout << outcome.results;
-    if (!outcome.isFine && outcome.messages.empty()) {
-      std::cerr << toolkit::printable(tasks_[task].source.name)
-                << ": error: the import came to no end\n";
+  void tell(std::size_t task, const WorkOutcome& outcome) {
+    if (outcome.results.empty()) {
+      toolkit::Refusal refusal;
+      refusal.file = tasks_[task].source.name;
+      refusal.text = "the import came to no end";
+      report_.add(refusal);
+      return;
     }
+    OpenedParcel parcel(outcome.results);
+    if (parcel.number() > 0) {
+      report_.add(parcel.refusal());
+      return;
+    }
+    for (std::size_t left = parcel.number(); left > 0; --left) report_.add(parcel.fileFinding());
+    std::cout << parcel.text();
+    const std::string trouble = parcel.text();
+    if (!trouble.empty()) printError(trouble);
   }
 
   std::vector<std::string> files_;
@@ -203,6 +247,7 @@ class Import : public Command {
   std::size_t jobs_ = 1;
   bool isQuiet_ = false;
   toolkit::ImportOptions options_;
+  FindingsReport report_;
   std::vector<Task> tasks_;
   bool isFolder_ = false;  // Whether the output is one.
 };

@@ -2,7 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <nlohmann/json.hpp>
 #include <string>
 
 #include "support/Requests.h"
@@ -109,6 +111,49 @@ TEST_F(ToolImportTest, WritesTheProgramsOfASourceToFilesOfTheirOwn) {
   EXPECT_THAT(contentOf(pathOf("x-B.xml")), HasSubstr("name=\"B\""));
 }
 
+// Copybooks with the places that they are copied at, whatever the number of processes.
+TEST_F(ToolImportTest, TellsProgramsWhatItFinds) {
+  write("REC.cpy", "       01 R PIC Q.\n");
+  write("a.cbl", program("A", "COPY REC."));
+  write("b.cbl", program("B", "01 S PIC X.") + "       REPORT SECTION.\n");
+  for (const char* const jobs : {"1", "2"}) {
+    const test::ToolOutcome outcome =
+        run({"import", "a.cbl", "b.cbl", "-o", "out", "--messages", "json", "--jobs", jobs});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.err, "");
+    const auto report = nlohmann::json::parse(outcome.out);
+    ASSERT_EQ(report["findings"].size(), 2U);
+    const auto& first = report["findings"][0];
+    EXPECT_EQ(first["rule"], "bad-picture");
+    EXPECT_EQ(first["file"], "REC.cpy");
+    EXPECT_EQ(first["line"], 1);
+    EXPECT_EQ(first["column"], 17);
+    EXPECT_EQ(first["copiedAt"][0]["file"], "a.cbl");
+    EXPECT_EQ(first["copiedAt"][0]["line"], 4);
+    EXPECT_EQ(report["findings"][1]["rule"], "passed-over-section");
+    EXPECT_EQ(report["errors"], 1);
+    EXPECT_EQ(report["notes"], 1);
+  }
+}
+
+TEST_F(ToolImportTest, TellsProgramsWhatItCannotRead) {
+  const test::ToolOutcome outcome =
+      run({"import", "none.cbl", "-o", "a.xml", "--messages", "sarif"});
+  const auto log = nlohmann::json::parse(outcome.out);
+  const auto& result = log["runs"][0]["results"][0];
+  EXPECT_EQ(result["ruleId"], "refused-document");
+  EXPECT_EQ(result["locations"][0]["physicalLocation"]["artifactLocation"]["uri"], "none.cbl");
+}
+
+TEST_F(ToolImportTest, DescribesItsRulesToPrograms) {
+  write("a.cbl", program("A", "01 R PIC X."));
+  const auto log =
+      nlohmann::json::parse(run({"import", "a.cbl", "-o", "a.xml", "--messages", "sarif"}).out);
+  const auto& rules = log["runs"][0]["tool"]["driver"]["rules"];
+  EXPECT_TRUE(std::any_of(rules.begin(), rules.end(),
+                          [](const auto& rule) { return rule["id"] == "copybook-not-found"; }));
+}
+
 // What is refused keeps nothing else from being written, whatever the number of processes.
 TEST_F(ToolImportTest, WritesTheSourcesOfFolders) {
   for (const char* const jobs : {"1", "3"}) {
@@ -140,6 +185,7 @@ TEST_F(ToolImportTest, RefusesWrongUsage) {
   EXPECT_EQ(run({"import", "a.cbl"}).exitCode, 2);
   EXPECT_EQ(run({"import", "a.cbl", "-o", "a.xml", "--dialect", "vax"}).exitCode, 2);
   EXPECT_EQ(run({"import", "a.cbl", "-o", "a.xml", "--jobs", "0"}).exitCode, 2);
+  EXPECT_EQ(run({"import", "a.cbl", "--explain", "A", "--messages", "json"}).exitCode, 2);
 }
 
 }  // namespace

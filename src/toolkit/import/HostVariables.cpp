@@ -138,31 +138,22 @@ void HostVariables::addMember(const DataEntry& entry, const char* suffix,
   members_.push_back(std::move(member));
 }
 
-bool HostVariables::readType(DataEntry& entry) {
-  const SourcePlace place = words_.peek().token.place;
-  if (entry.ownUsage || entry.picture != none || !members_.empty()) {
-    return bad(entry, "SQL TYPE stands there together with another USAGE or PICTURE");
+// "RESULT-SET-LOCATOR VARYING", "TABLE LIKE A AS LOCATOR".
+void HostVariables::skipLocatorPhrase() {
+  words_.accept(Keyword::varying);
+  while (words_.peek().is(Keyword::like) || words_.peek().is(Keyword::as)) {
+    words_.skip();
+    words_.skip();
   }
-  words_.skip();
-  words_.accept(Keyword::type);
-  words_.accept(Keyword::isWord);
-  const std::string type = takeTypeName();
-  const Shape* const shape = find(type);
-  if (shape == nullptr) return bad(entry, "SQL TYPE IS " + type + " is not known");
-  const Kind kind = shape->kind;
-  const bool hasLength =
-      kind == Kind::lob || kind == Kind::wideLob || kind == Kind::bytes || kind == Kind::varying;
-  std::int64_t length = 0;
-  if (hasLength || words_.peek().isMark("(")) {
-    const std::optional<std::int64_t> told = takeLength();
-    if (!told) return bad(entry, "SQL TYPE IS " + type + " has no length that is known");
-    length = *told;
-  }
+}
+
+// Gives an entry the members, or the picture and usage, of a type.
+void HostVariables::expand(DataEntry& entry, const Shape& shape, std::int64_t length) {
   const auto beText = [&](std::int64_t size) {
-    entry.picture = pictures_.indexOf(textPicture(size), place);
+    entry.picture = pictures_.indexOf(textPicture(size), entry.place);
     entry.ownUsage = Usage::display;
   };
-  switch (kind) {
+  switch (shape.kind) {
     case Kind::lob:
       addMember(entry, "-LENGTH", wordPicture, Usage::comp5);
       addMember(entry, "-DATA", textPicture(length), Usage::display);
@@ -172,13 +163,7 @@ bool HostVariables::readType(DataEntry& entry) {
       addMember(entry, "-DATA", "G(" + std::to_string(length) + ")", Usage::display1);
       break;
     case Kind::locator:
-      // "RESULT-SET-LOCATOR VARYING", "TABLE LIKE A AS LOCATOR".
-      words_.accept(Keyword::varying);
-      while (words_.peek().is(Keyword::like) || words_.peek().is(Keyword::as)) {
-        words_.skip();
-        words_.skip();
-      }
-      entry.picture = pictures_.indexOf(wordPicture, place);
+      entry.picture = pictures_.indexOf(wordPicture, entry.place);
       entry.ownUsage = Usage::comp5;
       break;
     case Kind::file: {
@@ -210,6 +195,30 @@ bool HostVariables::readType(DataEntry& entry) {
       beText(26);  // NOLINT(readability-magic-numbers): both, and six places of a second
       break;
   }
+}
+
+bool HostVariables::readType(DataEntry& entry) {
+  const SourcePlace place = words_.peek().token.place;
+  if (entry.ownUsage || entry.picture != none || !members_.empty()) {
+    return bad(entry, "SQL TYPE stands there together with another USAGE or PICTURE");
+  }
+  words_.skip();
+  words_.accept(Keyword::type);
+  words_.accept(Keyword::isWord);
+  const std::string type = takeTypeName();
+  const Shape* const shape = find(type);
+  if (shape == nullptr) return bad(entry, "SQL TYPE IS " + type + " is not known");
+  const Kind kind = shape->kind;
+  const bool hasLength =
+      kind == Kind::lob || kind == Kind::wideLob || kind == Kind::bytes || kind == Kind::varying;
+  std::int64_t length = 0;
+  if (hasLength || words_.peek().isMark("(")) {
+    const std::optional<std::int64_t> told = takeLength();
+    if (!told) return bad(entry, "SQL TYPE IS " + type + " has no length that is known");
+    length = *told;
+  }
+  if (kind == Kind::locator) skipLocatorPhrase();
+  expand(entry, *shape, length);
   problems_.tell(
       EntryRule::hostVariable, place,
       entry.name + " is expanded as the precompiler of Db2 does with SQL TYPE IS " + type);

@@ -44,6 +44,8 @@ class HostVariables {
   static const Shape* find(const std::string& type);
   std::string takeTypeName();
   std::optional<std::int64_t> takeLength();
+  void skipLocatorPhrase();
+  void expand(DataEntry& entry, const Shape& shape, std::int64_t length);
   void addMember(const DataEntry& entry, const char* suffix, const std::string& picture,
                  Usage usage);
   bool bad(const DataEntry& entry, const std::string& text);
