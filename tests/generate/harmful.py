@@ -19,6 +19,7 @@ NAMES = [
     '/*', '//', '//\\', '??/', '#define X', '%s', '$x', '`', '|', 'a|b', '[a](b)', '~~a~~',
     'new\nline', 'tab\tbed', 'carriage\rreturn', '\x7f', '\x85', '\u2028', '\u2029', '\u200b', '\ufeff',
     'Pr\u00e4mie', '\u00dcber', '\u540d\u524d', '\u03b1\u03b2', '\U0001f600', 'e\u0301', 'I\u0307',
+    'bidi \u202e\u2066', '\u200f', '?>', '<?', '*??/', '\u540d\u524d/', '0', '7', '7_', 'a-', 'a--b', '\\u202e',
     'get_a', 'set_a', 'a', 'A', 'get_A', 'value', 'Value', 'item', 'Item', 'this', 'Java', 'java', 'System',
     'string', 'String', 'STRING', 'list', 'List', 'object', 'Object', 'Record', 'Enum', 'Hostile', 'hostile',
     'IHostile', 'HostileLib', 'TransactionType', 'Transaction', 'result', 'a result', 'a1', 'a 1',

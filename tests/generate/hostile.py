@@ -11,7 +11,9 @@ NAMES = {
     'comments': '*/ /* // -- --> <!-- {- -} \\u002a/ \\',
     'lines': 'one\ntwo\r\nthree\tfour\u0085five\u2028six',
     'blanks': '   ',
+    'instructions': '?><?xml version="1.0"?>',
     'numbers': '1ST',
+    'digit': '7',
     'cobol': 'LK-REQ-NO',
     'letters': '\u00c4rger \u4f60\u597d \U0001f4a5 \u202e',
     'paths': '../../etc/passwd',
@@ -36,8 +38,14 @@ def attributes(**values: str) -> str:
     return text.replace('\n', '&#10;').replace('\r', '&#13;').replace('\t', '&#9;')
 
 
-def service(flavour: str, name: str, others) -> str:
+def declared(flavour: str, name: str) -> str:
     uri = URI.format(flavour, VERSIONS[flavour])
+    return (f' xmlns="{uri}" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance" '
+            f'xsi:schemaLocation="{uri} {uri}"'
+            + attributes(name=name, implementation=flavour, programName=name, dataDictFilename='dictionary.xml'))
+
+
+def service(flavour: str, name: str, others) -> str:
     words = WORDS[flavour]
     styles = ['document', 'rpc'] if flavour == 'ws' else ['']
 
@@ -57,8 +65,7 @@ def service(flavour: str, name: str, others) -> str:
 
     members = ''.join(field(other, 'field', words[number % 3]) for number, other in enumerate(others))
     operations = ''.join(operation(name + str(number), style) for number, style in enumerate(styles))
-    return (f'<service xmlns="{uri}" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance" '
-            f'xsi:schemaLocation="{uri} {uri}"{attributes(name=name, implementation=flavour, programName=name, dataDictFilename="dictionary.xml")}>'
+    return (f'<service{declared(flavour, name)}>'
             f'<properties><property{attributes(name=name, value=name)}/></properties>'
             f'<parameterTypeDefs><parameter{attributes(name=name)}>{members}</parameter>'
             f'<parameter{attributes(name=name.upper() + "X")}>{members}</parameter></parameterTypeDefs>'
@@ -86,6 +93,11 @@ def dictionary(name: str, others) -> str:
 def services(folder: Path) -> Iterator[Tuple[str, Path]]:
     folder.mkdir(parents=True, exist_ok=True)
     for flavour in VERSIONS:
+        file = folder / 'nothing' / f'nothing-{flavour}.xml'
+        file.parent.mkdir(exist_ok=True)
+        (file.parent / 'dictionary.xml').write_text(dictionary('NOTHING', ['A']), encoding='utf-8')
+        file.write_text(f'<service{declared(flavour, "NOTHING")}><operations/></service>', encoding='utf-8')
+        yield flavour, file
         for word, name in NAMES.items():
             others = [other for other in NAMES.values() if len(other) < 1000] + RESERVED
             if word == 'long':
