@@ -109,6 +109,16 @@ TEST(CommentText, HoldsNothingThatEndsAComment) {
   EXPECT_EQ(gen::commentText("*/ *\\ -- \\u000a\n\xC2\x85\xE2\x80\xA9."), "* / * / - - /u000a   .");
 }
 
+TEST(CommentText, HoldsNothingThatTurnsTextOrStandsForOtherCharacters) {
+  EXPECT_EQ(gen::commentText("a\xE2\x80\xAE"
+                             "b ?"
+                             "?/"),
+            "a b ? ?/");
+  EXPECT_EQ(gen::docText("a\xE2\x80\xAE"
+                         "b\xE2\x81\xA6\xD8\x9C"),
+            "a&#8238;b&#8294;&#1564;");
+}
+
 TEST(NameUuid, IsTheSameForTheSameName) {
   EXPECT_EQ(gen::uuidOfName("library/MOTPREM"), gen::uuidOfName("library/MOTPREM"));
   EXPECT_NE(gen::uuidOfName("library/MOTPREM"), gen::uuidOfName("library/PAYSLIP"));

@@ -11,6 +11,10 @@ namespace as::toolkit::gen {
 // line. Nothing in it ends the comment, or means something to javadoc or to a compiler.
 std::string docText(std::string_view text);
 
+// `text` as it stands in comments of any language, on one line: with what ends or breaks one ("*/",
+// "--", "??/", control characters) made harmless.
+std::string commentText(std::string_view text);
+
 // `name` with a capital letter in front.
 std::string capitalized(std::string name);
 

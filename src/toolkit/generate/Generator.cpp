@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include "as/toolkit/Version.h"
+#include "toolkit/generate/CodeText.h"
 #include "toolkit/generate/Facets.h"
 #include "toolkit/text/Phrases.h"
 
@@ -84,23 +85,6 @@ std::string Job::fileStem() const {
   }
   if (stem.size() <= longest) return stem.empty() ? "service" : stem;
   return stem.substr(0, longest) + "-" + digitsOfText(model.name);
-}
-
-std::string commentText(std::string_view text) {
-  std::u32string result;
-  for (const char32_t character : charactersOf(text)) {
-    const bool endsLine = character < 0x20 || (character >= 0x7F && character < 0xA0) ||
-                          character == 0x2028 || character == 0x2029;
-    // An escape in a comment counts in some languages (\u000a in Java).
-    const char32_t next = endsLine ? U' ' : character == U'\\' ? U'/' : character;
-    const char32_t last = result.empty() ? U' ' : result.back();
-    if ((last == U'*' && next == U'/') || (last == U'/' && next == U'*') ||
-        (last == U'-' && next == U'-')) {
-      result += U' ';
-    }
-    result += next;
-  }
-  return utf8Of(result);
 }
 
 }  // namespace as::toolkit::gen

@@ -74,9 +74,6 @@ class Generator {
   GeneratorKind kind_;
 };
 
-// `text` with what ends or breaks a comment ("*/", "--", control characters) made harmless.
-std::string commentText(std::string_view text);
-
 #define AS_GENERATOR(function) const Generator& function();
 #include "toolkit/generate/Kinds.def"
 

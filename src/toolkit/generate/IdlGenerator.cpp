@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "toolkit/generate/CodeText.h"
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/IdlLanguage.h"
 #include "toolkit/generate/InterfacePlan.h"
@@ -29,7 +30,10 @@ std::string literalOf(const std::string& text) {
   for (const char32_t character : charactersOf(text)) {
     if (literal.size() > longest) break;
     if (character == U'"' || character == U'\\') literal += '\\';
-    literal += character >= 0x20 && character < 0x7F ? static_cast<char>(character) : '?';
+    const char next = character >= 0x20 && character < 0x7F ? static_cast<char>(character) : '?';
+    // Two start a character that some compilers read in their place.
+    if (next == '?' && literal.back() == '?') literal += ' ';
+    literal += next;
   }
   return literal + "\"";
 }
