@@ -100,7 +100,7 @@ TEST_F(ToolImportTest, HasNothingToExplainOfWhatIsNotThere) {
   write("a.cbl", program("A", "01 R PIC X."));
   const test::ToolOutcome outcome = run({"import", "a.cbl", "-o", "a.xml", "--explain", "S"});
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_EQ(outcome.err, "there is no item S\n");
+  EXPECT_EQ(outcome.err, "agentservices: error: there is no item S\n");
 }
 
 TEST_F(ToolImportTest, WritesTheProgramsOfASourceToFilesOfTheirOwn) {
