@@ -183,6 +183,9 @@ bool TypeCopier::copyMembers(const CobolProgram& from, Index source, Index targe
       problems_.tell(isTooDeep ? EntryRule::nestsTooDeep : EntryRule::tooMuch, place,
                      isTooDeep ? "the types in " + name + " nest too deep"
                                : "there are too many entries with those of " + name);
+      // What was to come below the last one does not.
+      program_.entries.back().hasMembers = false;
+      program_.entries.back().isDamaged = true;
       return hasRedefinitions;
     }
     hasRedefinitions = hasRedefinitions || member.isRedefinition;

@@ -1,0 +1,143 @@
+// Tests of sources that are no ordinary ones: whatever they hold, an import ends, with messages
+// that have places, and what it takes is bounded.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "as/toolkit/Import.h"
+#include "support/Imports.h"
+
+namespace {
+
+using as::toolkit::Imported;
+using as::toolkit::ImportFinding;
+using as::toolkit::Severity;
+
+std::string contentOf(const std::filesystem::path& file) {
+  const std::ifstream stream(file);
+  std::ostringstream content;
+  content << stream.rdbuf();
+  return content.str();
+}
+
+std::vector<std::filesystem::path> examples() {
+  std::vector<std::filesystem::path> files;
+  for (const auto& entry : std::filesystem::directory_iterator(AS_EXAMPLES_DIR)) {
+    if (entry.path().extension() == ".cbl") files.push_back(entry.path());
+  }
+  return files;
+}
+
+// Every program has a dictionary or an error, and every finding a place in the source.
+void expectToBeTold(const Imported& imported) {
+  for (const ImportFinding& finding : imported.findings) {
+    ASSERT_EQ(finding.location.file, "T.cbl") << finding.problem;
+    ASSERT_FALSE(finding.problem.empty());
+  }
+  bool isRefused = imported.programs.empty();
+  for (const auto& program : imported.programs) isRefused = isRefused || program.isRefused();
+  const bool isTold = !imported.findings.empty();
+  ASSERT_TRUE(isTold || !isRefused);
+}
+
+// As many truncations as the time of a test allows: a prime number of bytes apart, so that they end
+// in all columns.
+TEST(HostileImport, TruncationsOfExamplesAreTold) {
+  const std::vector<std::filesystem::path> files = examples();
+  ASSERT_FALSE(files.empty());
+  constexpr std::size_t step = 101;
+  for (const std::filesystem::path& file : files) {
+    const std::string whole = contentOf(file);
+    for (std::size_t size = 0; size < whole.size(); size += step) {
+      SCOPED_TRACE(file.filename().string() + " of " + std::to_string(size) + " bytes");
+      expectToBeTold(as::toolkit::importCobol(whole.substr(0, size), "T.cbl"));
+    }
+  }
+}
+
+TEST(HostileImport, RandomBytesAreTold) {
+  std::mt19937 random(4711);  // NOLINT(cert-msc51-cpp): the same every time
+  std::uniform_int_distribution<int> bytes(0, 255);
+  for (int i = 0; i < 200; i++) {
+    std::string text(static_cast<std::size_t>(i) * 7, ' ');
+    for (char& byte : text) byte = static_cast<char>(bytes(random));
+    SCOPED_TRACE(i);
+    expectToBeTold(as::toolkit::importCobol(text, "T.cbl"));
+  }
+}
+
+// Bytes of an example that are other ones.
+TEST(HostileImport, DamagedExamplesAreTold) {
+  std::mt19937 random(4712);  // NOLINT(cert-msc51-cpp): the same every time
+  for (const std::filesystem::path& file : examples()) {
+    const std::string whole = contentOf(file);
+    std::uniform_int_distribution<std::size_t> places(0, whole.size() - 1);
+    std::uniform_int_distribution<int> bytes(0, 255);
+    for (int i = 0; i < 50; i++) {
+      std::string text = whole;
+      for (int j = 0; j < 20; j++) text[places(random)] = static_cast<char>(bytes(random));
+      SCOPED_TRACE(file.filename().string() + " " + std::to_string(i));
+      expectToBeTold(as::toolkit::importCobol(text, "T.cbl"));
+    }
+  }
+}
+
+constexpr std::size_t megabyte = 1U << 20U;
+
+TEST(HostileImport, NamesOfAMegabyteAreHeld) {
+  const std::string name(megabyte, 'A');
+  const Imported imported = test::importOf(test::programOf("01 " + name + " PIC X."));
+  EXPECT_THAT(test::dictionaryOf(imported), testing::HasSubstr(name));
+}
+
+TEST(HostileImport, MessagesDoNotRepeatNamesOfAMegabyte) {
+  const std::string name(megabyte, 'A');
+  std::size_t told = 0;
+  for (const ImportFinding& finding :
+       test::importOf(test::programOf("01 R PIC X. COPY " + name + ".\n01 S PIC " + name + "."))
+           .findings) {
+    told += finding.problem.size();
+  }
+  EXPECT_LT(told, 3 * megabyte);
+}
+
+TEST(HostileImport, ManyEntriesAreHeld) {
+  constexpr int count = 20000;
+  std::string entries = "01 R.\n";
+  for (int i = 0; i < count; i++) entries += "05 A PIC X.\n";
+  const Imported imported = test::importOf(test::programOf(entries));
+  ASSERT_EQ(imported.programs.size(), 1U);
+  EXPECT_EQ(imported.programs.front().items, static_cast<std::size_t>(count) + 1);
+}
+
+TEST(HostileImport, GroupsThatNestTooDeepAreTold) {
+  std::string entries = "01 T0 TYPEDEF. 05 A PIC X.\n";
+  for (int i = 1; i < 130; i++) {
+    const std::string before = std::to_string(i - 1);
+    entries += "01 T" + std::to_string(i) + " TYPEDEF. 05 A TYPE T" + before + ".\n";
+  }
+  const Imported imported = test::importOf(test::programOf(entries + "01 R TYPE T129."));
+  EXPECT_THAT(test::problemsOf(imported), testing::HasSubstr("nest too deep"));
+}
+
+TEST(HostileImport, CopybooksThatDoubleAreBounded) {
+  test::ListedCopybooks::Texts texts;
+  for (int i = 0; i < 40; i++) {
+    const std::string next = "C" + std::to_string(i + 1);
+    texts["C" + std::to_string(i)] = "COPY " + next + ".\nCOPY " + next + ".\n";
+  }
+  texts["C40"] = "05 A PIC X.\n";
+  test::ListedCopybooks copybooks(texts);
+  const Imported imported = as::toolkit::importCobol(test::programOf("01 R.\nCOPY C0."), "T.cbl",
+                                                     &copybooks, test::freeFormat());
+  EXPECT_TRUE(imported.programs.front().isRefused());
+  EXPECT_GT(countOf(imported.findings, Severity::error), 0U);
+}
+
+}  // namespace
