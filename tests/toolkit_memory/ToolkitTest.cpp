@@ -3,13 +3,20 @@
 // refused memory itself is not ours.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <memory>
 #include <ostream>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "as/toolkit/Diff.h"
+#include "as/toolkit/Generate.h"
+#include "as/toolkit/Import.h"
+#include "as/toolkit/Report.h"
 #include "memory/Allocations.h"
 #include "memory/Attempts.h"
 #include "support/ModelText.h"
@@ -51,6 +58,64 @@ std::string textsOf(const toolkit::Findings& findings) {
 const toolkit::Flavour& com() { return *toolkit::findFlavour("com"); }
 const toolkit::Flavour& web() { return *toolkit::findFlavour("ws"); }
 
+std::string textOf(const toolkit::Diff& diff) {
+  std::ostringstream out;
+  out.exceptions(std::ios::badbit | std::ios::failbit);
+  toolkit::renderText(out, diff);
+  toolkit::renderJson(out, diff);
+  return out.str();
+}
+
+// Every file of every kind that takes a service of that flavour, or a dictionary.
+std::string generated(const toolkit::DocumentReader& reader, const char* flavour) {
+  std::string text;
+  const toolkit::MadeService made =
+      toolkit::makeService(reader.readDictionary("PAY.xml"), *toolkit::findFlavour(flavour));
+  for (const toolkit::GeneratorKind& kind : toolkit::generatorKinds()) {
+    if (std::string_view(kind.flavours.front()) != flavour) continue;
+    const toolkit::Generated output = toolkit::generate(kind, *made.service);
+    for (const toolkit::GeneratedFile& file : output.files) text += file.name + file.content;
+    text += textsOf(output.findings);
+  }
+  return text;
+}
+
+// A line of everything that sources hold, and something wrong.
+constexpr char source[] = R"(IDENTIFICATION DIVISION.
+PROGRAM-ID. PAY.
+ENVIRONMENT DIVISION.
+INPUT-OUTPUT SECTION.
+FILE-CONTROL.
+SELECT F ASSIGN TO "f" ORGANIZATION INDEXED ACCESS RANDOM RECORD KEY K.
+DATA DIVISION.
+FILE SECTION.
+FD F.
+COPY RECORDS REPLACING ==:P:== BY ==F==.
+WORKING-STORAGE SECTION.
+REPLACE ==SIZE-OF-IT== BY ==3==.
+78 MOST VALUE 4.
+01 T. 05 N PIC 9(SIZE-OF-IT) COMP-5. 05 E PIC S9(5)V99 COMP-3 OCCURS 1 TO MOST DEPENDING ON N.
+66 V RENAMES N.
+LINKAGE SECTION.
+01 L PIC X(12). 88 NO VALUE "N" "n". 01 M REDEFINES L PIC 9(12).
+PROCEDURE DIVISION USING L.
+ENTRY "PAY2" USING BY VALUE L.
+)";
+
+std::string textOf(const toolkit::Imported& imported) {
+  std::string text;
+  for (const toolkit::ImportedProgram& program : imported.programs) {
+    text += program.dictionary;
+    for (const char* const item : {"E", "F-KEY"}) {
+      for (const auto& explanation : toolkit::explainItem(program, item)) {
+        text += textOf(explanation);
+      }
+    }
+  }
+  for (const toolkit::ImportFinding& finding : imported.findings) text += textOf(finding);
+  return text;
+}
+
 const Work works[] = {
     {"Reading",
      [](const toolkit::DocumentReader& reader) {
@@ -77,6 +142,44 @@ const Work works[] = {
      [](const toolkit::DocumentReader& reader) {
        return textsOf(toolkit::convertServiceFile(reader, "s.xml", "out.xml", com()).notes);
      }},
+    {"DiffOfDictionaries",
+     [](const toolkit::DocumentReader& reader) {
+       toolkit::Diff diff = toolkit::diffFiles(reader, "PAY.xml", "PAY2.xml", {"s.xml"});
+       toolkit::allow(diff, "item-moved:REQ");
+       return textOf(diff);
+     }},
+    {"DiffOfServices",
+     [](const toolkit::DocumentReader& reader) {
+       return textOf(toolkit::diffFiles(reader, "s.xml", "s2.xml"));
+     }},
+    {"WritingAReport",
+     [](const toolkit::DocumentReader&) {
+       toolkit::Report report;
+       report.files = {{"index.html", "a"}, {"data/index.js", "b"}};
+       toolkit::writeReport(report, "site");
+       return std::string();
+     }},
+    {"GenerateForJava",
+     [](const toolkit::DocumentReader& reader) { return generated(reader, "java"); }},
+    {"GenerateForCom",
+     [](const toolkit::DocumentReader& reader) { return generated(reader, "com"); }},
+    {"GenerateForDotNet",
+     [](const toolkit::DocumentReader& reader) { return generated(reader, "dotnet"); }},
+    {"GenerateFiles",
+     [](const toolkit::DocumentReader& reader) {
+       return textsOf(
+           toolkit::generateFiles(reader, *toolkit::findGeneratorKind("java"), "PAY.xml", "out.xml")
+               .findings);
+     }},
+    {"Import",
+     [](const toolkit::DocumentReader&) {
+       toolkit::FolderCopybooks copybooks({"."}, "PAY.cbl");
+       return textOf(toolkit::importCobol(source, "PAY.cbl", &copybooks));
+     }},
+    {"ImportFile",
+     [](const toolkit::DocumentReader&) {
+       return textOf(toolkit::importCobolFile("PAY.cbl", "out.xml").imported);
+     }},
     {"ReplaceFile",
      [](const toolkit::DocumentReader&) {
        toolkit::replaceFile("out.xml", "new");
@@ -92,6 +195,11 @@ const Work works[] = {
        return std::string("read");
      }},
 };
+
+Work workOf(const std::string& label) {
+  return *std::find_if(std::begin(works), std::end(works),
+                       [&](const Work& work) { return work.label == label; });
+}
 
 // Whether a result tells that something could not be read. (The parser swallows what it does not
 // know: then there is nothing in a document.)
@@ -109,7 +217,16 @@ class ToolkitOutOfMemory : public test::ToolkitTest, public testing::WithParamIn
     const ServiceSample& sample = test::samples::web;
     write("PAY.xml", test::payProgram());
     write("s.xml", test::rootOf(sample, test::everything(sample), "dataDictFilename=\"PAY.xml\""));
+    write("s2.xml",
+          test::rootOf(sample, test::everything(sample), "name=\"Paid\" programName=\"P\""));
     write("broken.xml", test::dictionaryOf("<unknown/>"));
+    std::string other = test::payProgram();
+    for (const auto& [from, to] : {std::pair("X(10)", "X(12)"), std::pair("\"ID\"", "\"IDENT\"")}) {
+      other.replace(other.find(from), std::string(from).size(), to);
+    }
+    write("PAY2.xml", other);
+    write("PAY.cbl", source);
+    write("RECORDS.cpy", "01 :P:. 05 :P:-KEY PIC X(4). 05 FILLER PIC X(8).\n");
     write("out.xml", "old");
   }
 };
@@ -153,6 +270,27 @@ TEST_P(ToolkitOutOfMemory, IsDoneOrTold) {
   EXPECT_GT(failures, 2);
   EXPECT_EQ(result, expected);
   EXPECT_EQ(test::contentOf("out.xml"), written.empty() ? "old" : written);
+}
+
+class ParserOutOfMemory : public ToolkitOutOfMemory {};
+
+// What makes use of the parser by itself, not through the library.
+INSTANTIATE_TEST_SUITE_P(Works, ParserOutOfMemory,
+                         testing::ValuesIn(std::vector<Work>{workOf("Convert"),
+                                                             workOf("DiffOfDictionaries")}),
+                         test::labelOf<Work>);
+
+TEST_P(ParserOutOfMemory, ItsOwnExceptionIsNobodyElses) {
+  GetParam().run(reader());
+  memory::untilNothingFails(
+      [&] {
+        try {
+          GetParam().run(reader());
+        } catch (const std::runtime_error&) {
+          // Refused, or not written.
+        }
+      },
+      [&](End end) { EXPECT_NE(end, End::inOther); });
 }
 
 }  // namespace
