@@ -52,7 +52,7 @@ void checkData(const toolkit::ReportFile& file) {
 // What stands in every report.
 const std::vector<toolkit::ReportFile>& emptySite() {
   static const std::vector<toolkit::ReportFile> files =
-      toolkit::makeReport(fuzz::reader(), std::vector<std::string>()).files;
+      toolkit::makeReport(fuzz::reader(), {}).files;
   return files;
 }
 

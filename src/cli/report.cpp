@@ -49,7 +49,7 @@ class ReportCommand : public Command {
       const bool isFound = inputs_.find();
       std::vector<toolkit::DocumentSource> sources;
       for (const Input& input : inputs_.all()) sources.push_back(input.source);
-      const toolkit::Report report = toolkit::makeReport(reader, sources, options_);
+      const toolkit::Report report = toolkit::makeReportFrom(reader, sources, options_);
       for (const toolkit::Refusal& refusal : report.refusals) printRefusal(refusal);
       if (report.programs + report.services == 0) return exitRefused;
       toolkit::writeReport(report, output_);

@@ -221,8 +221,7 @@ TEST_F(ReportTest, AStructureHasADataTypeOnlyWhereItIsWritten) {
 
 TEST_F(ReportTest, DocumentsNeedNotBeFiles) {
   const std::string text = test::dictionaryOf("<alphanumeric name='N' offset='0' length='4'/>");
-  const toolkit::Report report =
-      toolkit::makeReport(reader(), std::vector<toolkit::DocumentSource>{{"-", text}});
+  const toolkit::Report report = toolkit::makeReportFrom(reader(), {{"-", text}});
   EXPECT_THAT(report.refusals, IsEmpty());
   EXPECT_EQ(dataOf(report, "d1")["items"][0]["n"], "N");
 }

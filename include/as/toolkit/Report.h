@@ -45,9 +45,9 @@ AS_EXPORT Report makeReport(const DocumentReader& reader, const std::vector<std:
                             const ReportOptions& options = {});
 
 // The same of documents that need not be files.
-AS_EXPORT Report makeReport(const DocumentReader& reader,
-                            const std::vector<DocumentSource>& sources,
-                            const ReportOptions& options = {});
+AS_EXPORT Report makeReportFrom(const DocumentReader& reader,
+                                const std::vector<DocumentSource>& sources,
+                                const ReportOptions& options = {});
 
 // Writes the files below `folder`, which is made when it is not there; what else it holds stays.
 // Throws FileError (see Files.h).

@@ -220,11 +220,11 @@ Report makeReport(const DocumentReader& reader, const std::vector<std::string>& 
                   const ReportOptions& options) {
   std::vector<DocumentSource> sources;
   for (const std::string& file : files) sources.push_back({file});
-  return makeReport(reader, sources, options);
+  return makeReportFrom(reader, sources, options);
 }
 
-Report makeReport(const DocumentReader& reader, const std::vector<DocumentSource>& sources,
-                  const ReportOptions& options) {
+Report makeReportFrom(const DocumentReader& reader, const std::vector<DocumentSource>& sources,
+                      const ReportOptions& options) {
   return ReportMaker(reader, options).make(sources);
 }
 
