@@ -43,8 +43,8 @@ class Prover:
 
     def generate(self, kind: str, source: Path, folder: Path, *options: str) -> List[Path]:
         """Answers the files; `renamed` holds the names that were changed."""
-        result = subprocess.run([self.tool, 'generate', kind, str(source), '-o', str(folder) + '/', *options],
-                                capture_output=True, text=True, errors='replace', check=False)
+        result = subprocess.run([self.tool, 'generate', kind, str(source), '-o', str(folder) + '/', '--verbose',
+                                 *options], capture_output=True, text=True, errors='replace', check=False)
         if result.returncode != 0:
             raise soap.Failure(f'{kind} of {source}: {result.stdout[-500:]}{result.stderr[-500:]}')
         self.renamed = {CONTROL.sub(lambda told: chr(int(told[1], 16)), told[1]): told[2]

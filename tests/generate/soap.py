@@ -63,7 +63,7 @@ class Schema:
 
     def judge(self, element) -> None:
         # By itself, so that nothing around it counts.
-        text = etree.tostring(element)
+        text = etree.tostring(element, encoding='utf-8')
         if self.quick.validate(etree.ElementTree(etree.fromstring(text))):
             return
         if not LONG.search(text):
@@ -161,7 +161,7 @@ def prove(wsdl: Path, schema_file: Path, samples_file: Path, names: Dict[str, st
     first_error(WSDL_SCHEMA, str(wsdl))
     tree = etree.parse(str(wsdl))
     for part in tree.iter(f'{XSD}schema'):
-        first_error(SCHEMA_SCHEMA, etree.fromstring(etree.tostring(part)))
+        first_error(SCHEMA_SCHEMA, etree.fromstring(etree.tostring(part, encoding='utf-8')))
     schema = Schema(schema_file)
     samples = json.loads(samples_file.read_text())['paths']
     transport = Answers()
@@ -206,7 +206,7 @@ def prove_operation(schema, samples, transport, proxy, operation, names) -> int:
     answer = for_zeep(answer, getattr(operation.output.body, 'type', None), names)
     envelope = operation.output.serialize(**answer).content
     check(schema, envelope, False)
-    transport.answer = etree.tostring(envelope)
+    transport.answer = etree.tostring(envelope, encoding='utf-8')
     arguments = for_zeep(request, getattr(operation.input.body, 'type', None), names)
     headers = for_zeep(headers, None, names)
     if headers:
