@@ -193,8 +193,8 @@ def main() -> int:
 
     def prove_hostile(prover: Prover) -> None:
         for flavour, service in hostile.services(prover.folder / 'documents'):
-            # gsoap makes no client of nothing.
-            prover.prove(service, flavour, service.parent.name != 'nothing')
+            # gsoap makes no client of nothing, and reads no name of a million letters.
+            prover.prove(service, flavour, service.parent.name not in ('nothing', 'long'))
 
     work = {
         'examples': lambda: run('examples', prove_examples),
