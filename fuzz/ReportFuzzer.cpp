@@ -17,11 +17,7 @@
 namespace toolkit = as::toolkit;
 using fuzz::require;
 
-const fuzz::Shape fuzz::shape = {
-    {as::namespaces::dd.uri, as::namespaces::ws.uri, as::namespaces::com.uri,
-     as::namespaces::java.uri, as::namespaces::dotnet.uri},
-    false,
-    fuzz::Shape::Files::dictionaries};
+const fuzz::Shape fuzz::shape = fuzz::documentsWith(fuzz::Shape::Files::dictionaries);
 
 namespace {
 

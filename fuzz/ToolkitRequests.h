@@ -6,6 +6,8 @@
 #include <string>
 
 #include "InputFiles.h"
+#include "Mutator.h"
+#include "as/Namespaces.h"
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Files.h"
 
@@ -13,6 +15,14 @@ namespace fuzz {
 
 inline void require(bool condition) {
   if (!condition) std::abort();
+}
+
+// Dictionaries and services of every flavour, which carry such files.
+inline Shape documentsWith(Shape::Files files) {
+  return {{as::namespaces::dd.uri, as::namespaces::ws.uri, as::namespaces::com.uri,
+           as::namespaces::java.uri, as::namespaces::dotnet.uri},
+          false,
+          files};
 }
 
 // With the shipped schemas, the same for every input.

@@ -1,5 +1,6 @@
 #include "toolkit/diff/ServiceImpact.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "as/IHiddenParameter.h"
@@ -75,7 +76,7 @@ void ServiceImpact::compareFields(as::IList* fields, const std::string& place) {
 void ServiceImpact::compareMapping(as::IMapping& mapping, const std::string& place) {
   if (mapping.getType() != as::IMapping::MAP_DATA_ITEM) return;
   std::string path = mapping.getRawMapping();
-  path = path.substr(0, path.find('('));
+  path.resize(std::min(path.find('('), path.size()));
   const ItemNumber old = paths_.find(path);
   if (old == noItem) return;
   const ItemNumber added = match_.newOf(old);

@@ -78,12 +78,12 @@ void ClauseReader::readClauses(DataEntry& entry) {
   endEntry(entry);
 }
 
-bool ClauseReader::bad(DataEntry& entry, const SourcePlace& place, const std::string& text) {
+bool ClauseReader::bad(const DataEntry& entry, const SourcePlace& place, const std::string& text) {
   problems_.tell(EntryRule::badClause, place, entry.name + ": " + text);
   return false;
 }
 
-bool ClauseReader::passOver(DataEntry& entry, const char* what) {
+bool ClauseReader::passOver(const DataEntry& entry, const char* what) {
   problems_.tell(
       EntryRule::passedClause, words_.peek().token.place,
       std::string(what) + " of " + entry.name + " and others is not held by dictionaries");

@@ -51,9 +51,9 @@ class ClauseReader {
   bool readReference(DataEntry& entry, NameReference::Kind kind);
   bool readLikeChange(DataEntry& entry);
   bool readRenames(DataEntry& entry);
-  bool passOver(DataEntry& entry, const char* what);
+  bool passOver(const DataEntry& entry, const char* what);
   void readValue(DataEntry& entry);
-  bool bad(DataEntry& entry, const SourcePlace& place, const std::string& text);
+  bool bad(const DataEntry& entry, const SourcePlace& place, const std::string& text);
 
   WordReader& words_;
   CobolProgram& program_;

@@ -225,7 +225,7 @@ bool HostVariables::readType(DataEntry& entry) {
   return true;
 }
 
-void HostVariables::readVarying(DataEntry& entry) {
+void HostVariables::readVarying(const DataEntry& entry) {
   problems_.tell(EntryRule::hostVariable, words_.peek().token.place,
                  entry.name + " is expanded as the precompiler of Oracle does with VARYING");
   words_.skip();

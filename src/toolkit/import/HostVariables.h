@@ -34,7 +34,7 @@ class HostVariables {
   bool readType(DataEntry& entry);
 
   // Reads "VARYING".
-  void readVarying(DataEntry& entry);
+  void readVarying(const DataEntry& entry);
 
   // To be called behind the clauses of an entry: the members that the precompiler gives it.
   std::vector<DataEntry> takeMembers(DataEntry& entry);
