@@ -1,3 +1,4 @@
+// Tests of which texts can be the namespaces of schemas, and of those that are made of names.
 #include <gtest/gtest.h>
 
 #include <string>
