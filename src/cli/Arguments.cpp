@@ -85,6 +85,8 @@ void Arguments::flag(const char* name, bool& value, const char* help) {
   note(name, "", help);
 }
 
+void Arguments::offer(const std::vector<std::string>& words) { table_.back().words = words; }
+
 void Arguments::insteadOf(std::initializer_list<const char*> others, const char* name, bool& value,
                           const char* help) {
   std::vector<CLI::Option*> replaced;

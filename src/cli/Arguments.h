@@ -59,6 +59,9 @@ class Arguments {
   // "--name A,B".
   void list(const char* name, std::vector<std::string>& values, const char* type, const char* help);
   void flag(const char* name, bool& value, const char* help);
+  // What completion and the manual offer for what was declared last, where the command itself says
+  // what is wrong with another value.
+  void offer(const std::vector<std::string>& words);
   // A flag that stands in place of the names `others`, which were declared in front of it.
   void insteadOf(std::initializer_list<const char*> others, const char* name, bool& value,
                  const char* help);

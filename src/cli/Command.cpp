@@ -4,6 +4,7 @@
 
 #include "as/CASException.h"
 #include "as/toolkit/FindingsWriter.h"
+#include "as/toolkit/Generate.h"
 #include "cli/Messages.h"
 #include "cli/SchemaDirectory.h"
 
@@ -45,6 +46,13 @@ void addFlavourOption(Arguments& arguments, std::string& word) {
   std::vector<std::string> words;
   for (const toolkit::Flavour& flavour : toolkit::flavours()) words.emplace_back(flavour.word);
   arguments.requiredOption("--flavour", word, words, "The service's flavour");
+}
+
+void offerGeneratorKinds(Arguments& arguments) {
+  std::vector<std::string> words;
+  for (const toolkit::GeneratorKind& kind : toolkit::generatorKinds())
+    words.emplace_back(kind.word);
+  arguments.offer(words);
 }
 
 }  // namespace cli

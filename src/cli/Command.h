@@ -74,6 +74,8 @@ void printFindings(const std::string& file, const toolkit::Findings& findings);
 // The options that commands have in common.
 void addSchemasOption(Arguments& arguments, std::optional<std::string>& schemas);
 void addFlavourOption(Arguments& arguments, std::string& word);
+// For what was declared last.
+void offerGeneratorKinds(Arguments& arguments);
 
 }  // namespace cli
 

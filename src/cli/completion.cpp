@@ -119,7 +119,7 @@ void printBash(const CommandTable& table) {
   std::cout << R"sh(  esac
   if [[ $cur == -* ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$cur")
-  elif [[ -n $words ]]; then
+  elif [[ -n $words && ( -z $command || $prev == "$command" ) ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$cur")
   fi
 }

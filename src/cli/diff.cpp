@@ -31,13 +31,17 @@ void printKinds() {
   }
 }
 
+std::vector<std::string> kindIds() {
+  std::vector<std::string> ids;
+  for (const toolkit::ChangeKind& kind : toolkit::changeKinds()) ids.emplace_back(kind.id);
+  return ids;
+}
+
 // False, with a message, when it is about no kind of change.
 bool isRule(const std::string& rule) {
   const std::string kind = rule.substr(0, rule.find(':'));
   if (kind == "*" || toolkit::findChangeKind(kind) != nullptr) return true;
-  std::vector<std::string> ids;
-  for (const toolkit::ChangeKind& known : toolkit::changeKinds()) ids.emplace_back(known.id);
-  const std::string near = toolkit::nearestName(kind, ids);
+  const std::string near = toolkit::nearestName(kind, kindIds());
   printError("there is no kind of change '" + kind + "'; " +
              (near.empty() ? "--kinds lists them" : "did you mean '" + near + "'?"));
   return false;
@@ -63,6 +67,7 @@ class DiffCommand : public Command {
                    "Services for the program of OLD: what becomes of their mappings");
     arguments.list("--allow", rules_, "KIND[:PLACE],...",
                    "Changes that are meant, at that place and below it; * for every kind");
+    arguments.offer(kindIds());
     arguments.list("--allow-file", ruleFiles_, "FILE,...",
                    "The same from files, one a line; # begins a remark");
     arguments.option("--format", format_, {"text", "json"}, "How to print; text unless told");

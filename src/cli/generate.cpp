@@ -56,6 +56,7 @@ class Generate : public Command {
 
   void declare(Arguments& arguments) override {
     arguments.required("KIND", kind_, "What to make; --kinds lists the kinds");
+    offerGeneratorKinds(arguments);
     inputs_.declare(arguments, "SERVICE");
     arguments.requiredOption("-o,--output", target_,
                              "The file to write, or the folder, in it one for each of several "

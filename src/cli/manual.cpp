@@ -41,7 +41,8 @@ std::string header(const std::string& page, const std::string& summary) {
   std::string upper = page;
   std::transform(upper.begin(), upper.end(), upper.begin(),
                  [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-  return ".TH " + upper + " 1 \"\" \"agentservices " AS_TOOL_VERSION "\" \"User Commands\"\n" +
+  return ".TH " + upper +
+         " 1 \"" AS_TOOL_DATE "\" \"agentservices " AS_TOOL_VERSION "\" \"User Commands\"\n" +
          ".SH NAME\n" + roff(page) + " \\- " + roff(summary) + "\n.SH SYNOPSIS\n";
 }
 

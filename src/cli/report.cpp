@@ -35,6 +35,7 @@ class ReportCommand : public Command {
         "--generate", options_.kinds, "KIND,...",
         "What to make of the services, and link from their pages; the kinds are those of "
         "'generate', and what a service's flavour does not fit is left out");
+    offerGeneratorKinds(arguments);
   }
 
   // A refused document is told; the others are shown all the same.

@@ -93,6 +93,10 @@ TEST_F(ToolHelpTest, BashOffersWhatThereIs) {
   EXPECT_EQ(offered("agentservices lint --format ''", 3), "text json sarif\n");
   EXPECT_EQ(offered("agentservices lint --write", 2), "--write-baseline\n");
   EXPECT_EQ(offered("agentservices completion ''", 2), "bash zsh\n");
+  EXPECT_EQ(offered("agentservices generate js", 2), "jsonschema\n");
+  EXPECT_EQ(offered("agentservices generate xsd ''", 3), "\n");
+  EXPECT_EQ(offered("agentservices report --generate csh", 3), "csharp\n");
+  EXPECT_EQ(offered("agentservices diff --allow operation-rem", 3), "operation-removed\n");
   EXPECT_EQ(offered("agentservices lint ''", 2), "\n");
   EXPECT_EQ(offered("agentservices lint --baseline ''", 3), "\n");
   for (const std::string& command : commands()) {
@@ -116,7 +120,7 @@ TEST_F(ToolHelpTest, EveryOptionIsInTheCompletionForZsh) {
 TEST_F(ToolHelpTest, EveryCommandHasAManualPage) {
   ASSERT_EQ(run({"manual", "-o", "share/man1"}).exitCode, 0);
   EXPECT_THAT(test::contentOf(pathOf("share/man1/agentservices.1")),
-              StartsWith(".TH AGENTSERVICES 1 "));
+              testing::ContainsRegex("^\\.TH AGENTSERVICES 1 \"[0-9]+-[0-9]+-[0-9]+\" \"agents"));
   for (const std::string& command : commands()) {
     const std::string page = test::contentOf(pathOf("share/man1/agentservices-" + command + ".1"));
     EXPECT_THAT(page, HasSubstr("\n.SH NAME\nagentservices\\-" + command + " \\- "));
