@@ -121,6 +121,8 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"01 R. 05 A PIC X. 05 B PIC X. 66 C RENAMES B THRU A.", "1:44 lost-renamed"},
         ImportRow{"01 R. 05 A PIC X. 66 C.", "1:19 bad-clause"},
         ImportRow{"01 A TYPE T.", "1:11 lost-type"}, ImportRow{"01 A LIKE B.", "1:11 lost-type"},
+        ImportRow{"01 A. 05 B LIKE A.", "1:17 lost-type"},
+        ImportRow{"01 A. 05 B. 10 C SAME AS A.", "1:26 lost-type"},
         ImportRow{"01 A PIC X. 01 B LIKE A (N).", "1:23 bad-clause"},
         ImportRow{"01 A PIC X. 01 B LIKE A (-1).", "1:13 bad-clause"},
         ImportRow{"01 A. 05 C PIC X. 01 B LIKE A (1).", "1:19 bad-clause"},

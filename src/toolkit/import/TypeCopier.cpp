@@ -55,6 +55,12 @@ bool TypeCopier::putTypeIn(Index target, Index record, int depth) {
     at(target).isDamaged = true;
     return false;
   }
+  if (from == &program_ && isBelow(target, source)) {
+    problems_.tell(EntryRule::lostType, reference.place,
+                   textOf(reference.names) + " is the group that the item stands in");
+    at(target).isDamaged = true;
+    return false;
+  }
   DataEntry type = brought(*from, source);
   for (Index group = type.parent; group != none;) {
     const DataEntry& above = from->entries[static_cast<std::size_t>(group)];
@@ -72,6 +78,13 @@ bool TypeCopier::putTypeIn(Index target, Index record, int depth) {
   takeDescription(type, at(target));
   if (at(target).likeChange != 0) lengthen(at(target));
   return copyMembers(*from, source, target, depth);
+}
+
+bool TypeCopier::isBelow(Index entry, Index group) {
+  for (Index above = at(entry).parent; above != none; above = at(above).parent) {
+    if (above == group) return true;
+  }
+  return false;
 }
 
 bool TypeCopier::isInGroupWithUsage(Index entry) {

@@ -30,6 +30,8 @@ class TypeCopier {
   Index size() const { return static_cast<Index>(program_.entries.size()); }
 
   Index sourceOf(const NameReference& reference, Index record, const CobolProgram** from);
+  // Whether the entry stands in that group.
+  bool isBelow(Index entry, Index group);
   bool isInGroupWithUsage(Index entry);
   DataEntry brought(const CobolProgram& from, Index source);
   static void takeDescription(const DataEntry& type, DataEntry& entry);
