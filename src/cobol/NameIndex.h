@@ -27,12 +27,12 @@ class NameIndex {
   // The entry of the objects called `name` below those of `around`, null for the outermost; a new
   // one starts with `object`. Entries keep their places.
   const Entry* add(const Entry* around, const XMLCh* name, CElementImpl* object) {
-    return &entries_.try_emplace(Key{around, viewOf(name)}, Entry{object}).first->second;
+    return &entries_.try_emplace(Key(around, name), Entry{object}).first->second;
   }
 
   // The same; null when nothing is called so.
   const Entry* find(const Entry* around, const XMLCh* name) const {
-    const auto found = entries_.find(Key{around, viewOf(name)});
+    const auto found = entries_.find(Key(around, name));
     return found == entries_.end() ? nullptr : &found->second;
   }
 
@@ -45,20 +45,23 @@ class NameIndex {
  private:
   using View = std::basic_string_view<XMLCh>;
 
+  // Knows its hash: the table asks for that of every key that it passes.
   struct Key {
+    // No name is the same as an empty one.
+    Key(const Entry* outer, const XMLCh* text)
+        : around(outer), name(text == nullptr ? View() : View(text)) {
+      constexpr std::size_t odd = 0x9e3779b1;
+      hash = std::hash<View>()(name) + std::hash<const void*>()(around) * odd;
+    }
+    bool operator==(const Key&) const = default;
+
+    std::size_t hash = 0;  // Compared first.
     const Entry* around;
     View name;
-    bool operator==(const Key&) const = default;
   };
   struct Hash {
-    std::size_t operator()(const Key& key) const noexcept {
-      constexpr std::size_t odd = 0x9e3779b1;
-      return std::hash<View>()(key.name) + std::hash<const void*>()(key.around) * odd;
-    }
+    std::size_t operator()(const Key& key) const noexcept { return key.hash; }
   };
-
-  // No name is the same as an empty one.
-  static View viewOf(const XMLCh* name) { return name == nullptr ? View() : View(name); }
 
   std::unordered_map<Key, Entry, Hash> entries_;
 };
