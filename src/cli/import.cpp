@@ -67,6 +67,8 @@ class Import : public Command {
     arguments.option("--explain", explained_, "ITEM",
                      "Print how size and place of an item came about");
     report_.declare(arguments, "--messages");
+    arguments.flag("-r,--recursive", isRecursive_,
+                   "As of other commands; folders are searched with all below them anyhow");
     arguments.option("--jobs", jobs_, "Work in so many processes; 1 unless told");
     arguments.flag("-q,--quiet", isQuiet_, "Say only what is wrong");
   }
@@ -245,6 +247,7 @@ class Import : public Command {
   std::string pointerSize_;
   std::optional<std::string> explained_;
   std::size_t jobs_ = 1;
+  bool isRecursive_ = false;
   bool isQuiet_ = false;
   toolkit::ImportOptions options_;
   FindingsReport report_;

@@ -175,6 +175,19 @@ TEST_F(ToolImportTest, WritesTheSourcesOfFolders) {
   }
 }
 
+TEST_F(ToolImportTest, SearchesFoldersWholeToldSoOrNot) {
+  makeFolder("in");
+  makeFolder("in/sub");
+  write("in/sub/c.cbl", program("C", "01 R PIC X."));
+  for (const std::vector<std::string>& options : {std::vector<std::string>{}, {"-r"}}) {
+    std::vector<std::string> arguments = {"import", "in", "-o", "out"};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    EXPECT_EQ(run(arguments).exitCode, 0);
+    EXPECT_TRUE(exists("out/sub/c.xml"));
+    std::filesystem::remove_all(pathOf("out"));
+  }
+}
+
 TEST_F(ToolImportTest, RefusesWhatItCannotRead) {
   const test::ToolOutcome outcome = run({"import", "none.cbl", "-o", "a.xml"});
   EXPECT_EQ(outcome.exitCode, 1);

@@ -179,6 +179,9 @@ INSTANTIATE_TEST_SUITE_P(
                   "1:5 unreplaced-tag, 1:1 copybook, 2:4 unreplaced-tag"},
         ImportRow{"PROGRAM-ID. T. PROCEDURE DIVISION USING\nDFHEIBLK DFHCOMMAREA.",
                   "2:1 system-parameter"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION. LINKAGE SECTION.\n01 DFHCOMMAREA PIC X.\n"
+                  "PROCEDURE DIVISION.",
+                  "2:1 system-parameter"},
         ImportRow{"PROGRAM-ID. T. DATA DIVISION. WORKING-STORAGE SECTION.\n01 A. COPY CMQODV.\n"
                   "01 B PIC X.",
                   "2:7 system-copybook, 2:1 system-record"},

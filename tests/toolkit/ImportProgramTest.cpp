@@ -66,6 +66,29 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{" FAST USING A.", "T[8] A/reference"},
         ImportRow{" USING A RAISING EX.", "T A/reference"}));
 
+// CICS hands it to a program whether that says so or not.
+class ImportCommareaTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportCommareaTest, IsTheParameterOfAProgramWithoutOthers) {
+  EXPECT_EQ(entryPointsOf(dictionaryOf(
+                importOf("PROGRAM-ID. T. DATA DIVISION. " + std::string(GetParam().source)))),
+            GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sections, ImportCommareaTest,
+    testing::Values(
+        ImportRow{"LINKAGE SECTION. 01 A PIC X. 01 dfhcommarea. 05 B PIC X. PROCEDURE DIVISION.",
+                  "T dfhcommarea/reference"},
+        ImportRow{"LINKAGE SECTION. 01 DFHCOMMAREA PIC X. PROCEDURE DIVISION. P. ENTRY 'E'.",
+                  "T DFHCOMMAREA/reference; E"},
+        ImportRow{"LINKAGE SECTION. 01 A PIC X. 01 DFHCOMMAREA PIC X. PROCEDURE DIVISION USING A.",
+                  "T A/reference"},
+        ImportRow{"LINKAGE SECTION. 01 DFHCOMMAREA PIC X. "
+                  "PROCEDURE DIVISION USING DFHEIBLK DFHCOMMAREA.",
+                  "T DFHCOMMAREA/reference"},
+        ImportRow{"WORKING-STORAGE SECTION. 01 DFHCOMMAREA PIC X. PROCEDURE DIVISION.", "T"}));
+
 INSTANTIATE_TEST_SUITE_P(
     Statements, ImportEntryPointTest,
     testing::Values(

@@ -35,9 +35,11 @@ constexpr OtherUnit otherUnits[] = {
 
 constexpr std::size_t mostNested = 50;
 
-// The parameters that CICS gives a program without an entry for them.
+// What CICS hands over to the programs that it starts, whether they say so or not.
+constexpr const char* commarea = "DFHCOMMAREA";
+
 bool isOfCics(const std::string& name) {
-  return sameWord(name, "DFHEIBLK") || sameWord(name, "DFHCOMMAREA");
+  return sameWord(name, "DFHEIBLK") || sameWord(name, commarea);
 }
 
 bool isEnvironmentSection(const std::string& name) {
@@ -221,12 +223,29 @@ void ProgramReader::readBody(CobolProgram& program, const std::string& entryName
   program.isRefused = problems_.errors() > errors;
 }
 
+// A program of CICS does not say in its source what it takes: that its translator adds.
+void ProgramReader::takeCommarea(CobolProgram& program) {
+  if (program.entryPoints.empty() || !program.entryPoints.front().parameters.empty()) return;
+  for (const Index record : program.records) {
+    const DataEntry& entry = program.entries[static_cast<std::size_t>(record)];
+    if (entry.section != DataSection::linkage || !sameWord(entry.name, commarea)) continue;
+    ParameterEntry parameter;
+    parameter.name = {entry.name, entry.nameId};
+    parameter.place = entry.place;
+    problems_.tell(EntryRule::systemParameter, entry.place,
+                   entry.name + " is what CICS hands over, and is taken as the parameter");
+    program.entryPoints.front().parameters.push_back(std::move(parameter));
+    return;
+  }
+}
+
 void ProgramReader::findParameters(CobolProgram& program, RecordBuilder& records) {
   std::unordered_map<Index, Index> byName;
   for (const Index record : program.records) {
     const DataEntry& entry = program.entries[static_cast<std::size_t>(record)];
     if (entry.nameId != none) byName.emplace(entry.nameId, record);
   }
+  takeCommarea(program);
   for (EntryPointEntry& entryPoint : program.entryPoints) {
     std::vector<ParameterEntry> found;
     for (ParameterEntry& parameter : entryPoint.parameters) {

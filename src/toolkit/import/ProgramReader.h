@@ -42,6 +42,7 @@ class ProgramReader {
   void readBody(CobolProgram& program, const std::string& entryName, std::size_t errors);
   void readEnd();
   void passOver(const char* what);
+  void takeCommarea(CobolProgram& program);
   void findParameters(CobolProgram& program, RecordBuilder& records);
   CobolProgram& begin(std::string name, const SourcePlace& place);
 
