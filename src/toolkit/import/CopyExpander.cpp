@@ -356,10 +356,11 @@ void CopyExpander::include(const TextWord& name, const std::string& library,
     entry->text = decodeSource(std::exchange(entry->bytes, {}), options_.encoding, file, report_);
     entry->isDecoded = true;
   }
-  const SourceFormat format =
-      options_.format != SourceFormat::recognised
-          ? options_.format
-          : recognisedFormat(entry->text.text, frames_.back()->lines.format());
+  // Told, it is that of the lines around, which directives may have changed.
+  const SourceFormat around = frames_.back()->lines.format();
+  const SourceFormat format = options_.format != SourceFormat::recognised
+                                  ? around
+                                  : recognisedFormat(entry->text.text, around);
   push(entry->text, format, entry->name, file, std::move(replacements));
 }
 
