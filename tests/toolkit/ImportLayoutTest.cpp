@@ -179,7 +179,10 @@ INSTANTIATE_TEST_SUITE_P(
         LayoutRow{"ibm", "01 R. 05 A PIC X(5). 78 L VALUE LENGTH OF R. 05 B PIC X(L).",
                   "R 0+10, A 0+5, B 5+5"},
         LayoutRow{"ibm", "01 Q. 05 A PIC X(5). 78 L VALUE BYTE-LENGTH OF A + 1. 01 B PIC X(L).",
-                  "Q 0+5, A 0+5, B 0+6"}));
+                  "Q 0+5, A 0+5, B 0+6"},
+        LayoutRow{"ibm", "78 K VALUE LENGTH OF 'a\xC3\xA4' + 1. 01 A PIC X(K).", "A 0+3"},
+        LayoutRow{"ibm", "78 K VALUE LENGTH OF X'A0B1C2'. 01 A PIC X(K).", "A 0+3"},
+        LayoutRow{"ibm", "01 K CONSTANT AS LENGTH OF Z'AB'. 01 A PIC X(K).", "A 0+3"}));
 
 TEST(ImportPointers, AreAsLargeAsTold) {
   auto options = freeFormat("ibm");

@@ -1,8 +1,11 @@
 #include "toolkit/import/ConstantReader.h"
 
+#include <algorithm>
 #include <charconv>
 #include <system_error>
 #include <utility>
+
+#include "toolkit/import/Characters.h"
 
 namespace as::toolkit {
 
@@ -33,9 +36,15 @@ std::optional<std::int64_t> apply(char op, std::int64_t left, std::int64_t right
   }
 }
 
-}  // namespace
-
-namespace {
+// Nothing for literals of other kinds, whose characters are not of one byte each.
+std::optional<std::int64_t> bytesOf(const Token& literal) {
+  const auto isFirst = [](char c) { return !isWithinCharacter(c); };
+  const auto characters = std::count_if(literal.text.begin(), literal.text.end(), isFirst);
+  if (literal.prefix.empty()) return characters;
+  if (literal.prefix == "Z") return characters + 1;  // A zero ends it.
+  if (literal.prefix == "X") return characters / 2;
+  return std::nullopt;
+}
 
 // "X#1F", "H#1F", "B#101", "O#17": the number behind its base; nothing for what is none of these.
 std::optional<std::int64_t> readBased(const std::string& text) {
@@ -116,6 +125,7 @@ std::optional<std::int64_t> ConstantReader::takeOperand() {
   if (words_.peek().is(Keyword::length) || words_.peek().is(Keyword::byteLength)) {
     words_.skip();
     words_.accept(Keyword::of);
+    if (words_.peek().is(TokenKind::literal)) return bytesOf(words_.take().token);
     NameReference reference;
     reference.place = words_.peek().token.place;
     reference.names = takeName();
