@@ -15,6 +15,7 @@ from compiler import TOO_LONG, Compiler, Told
 from comparison import Difference, differences_of, pairs_of
 from differences import known, known_refusal
 from entries import Program, items_of
+from foreign import compare_foreign
 from generator import has_variable, program_of
 from importer import Importer
 from mainframe import wrong_ones
@@ -51,6 +52,10 @@ PAIRINGS = [
     # manual does; nothing of it was ever run on the mainframe.
     Pairing('ibm', ['-std=ibm'], frozenset(NOT_OF_IBM | {'address', 'sync', 'groupsync'})),
 ]
+
+
+# What the compiler proves of programs as they stand: of "ibm" not the addresses, nor SYNCHRONIZED.
+FOREIGN = ['gnucobol', 'natural']
 
 
 def counters_of(program: Program, source: Source) -> Dict[int, int]:
@@ -257,7 +262,15 @@ def main() -> int:
     parser.add_argument('--tool', default='agentservices', help='the tool whose import is tried')
     parser.add_argument('--running', action='store_true', help='run the programs, too, which takes '
                         'long, and compare what they say with what was read of the compiler')
+    parser.add_argument('--sources', action='append', type=Path, metavar='FOLDER', help='compare '
+                        'programs that others wrote, in place of those that are made up: those of the '
+                        'sources in these folders that the compiler takes')
     arguments = parser.parse_args()
+    if arguments.sources:
+        results = [compare_foreign(arguments.sources, arguments.tool, pairing.dialect, pairing.options,
+                                   arguments.show)
+                   for pairing in PAIRINGS if pairing.dialect in (arguments.dialect or FOREIGN)]
+        return 0 if all(results) else 1
     memory = Path('/dev/shm')
     folder = Path(tempfile.mkdtemp(prefix='agentservices-', dir=memory if memory.is_dir() else None))
     try:

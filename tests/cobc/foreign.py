@@ -20,8 +20,6 @@ from dictionary import ITEMS, Placed
 
 SUFFIXES = {'.cbl', '.cob', '.cobol', '.pco'}
 COPYBOOKS = {'.cpy', '.cpb', '.copy', '.inc', '.cbl', '.cob'}
-# How the compiler is told to follow a dialect, and what it may need besides to take a source.
-STANDARDS = {'gnucobol': [], 'natural': ['-std=ibm']}
 FORMATS = {'fixed': [], 'free': ['-free']}
 RELAXED = ['-w', '-C', '-fdump=ALL', '-frelax-syntax-checks', '-frelax-level-hierarchy',
            '-flarger-redefines-ok', '-findirect-redefines']
@@ -76,6 +74,7 @@ class Task(NamedTuple):
     include: List[Path]
     tool: str
     dialect: str
+    options: List[str]  # How the compiler is told to follow the dialect.
 
 
 def items_in(path: Path) -> List[InRecord]:
@@ -217,7 +216,7 @@ def compiled(folder: Path, task: Task) -> Optional[str]:
     for form, options in FORMATS.items():
         try:
             result = subprocess.run(
-                ['cobc', *STANDARDS[task.dialect], *RELAXED, *options,
+                ['cobc', *task.options, *RELAXED, *options,
                  *(f'-I{one}' for one in task.include), '-o', str(folder / 'P.c'), str(task.source)],
                 cwd=folder, capture_output=True, timeout=SECONDS_ALONE, check=False)
         except subprocess.TimeoutExpired:
@@ -259,11 +258,12 @@ def folders_with_copybooks(top: Path) -> List[Path]:
     return [folder.resolve() for folder, _ in counts.most_common(TOO_MANY)]
 
 
-def compare_foreign(folders: List[Path], tool: str, dialect: str, shown: int) -> bool:
+def compare_foreign(folders: List[Path], tool: str, dialect: str, options: List[str],
+                    shown: int) -> bool:
     tasks = []
     for top in folders:
         include = folders_with_copybooks(top)
-        tasks += [Task(source.resolve(), include, tool, dialect) for source in sorted(top.rglob('*'))
+        tasks += [Task(source.resolve(), include, tool, dialect, options) for source in sorted(top.rglob('*'))
                   if source.suffix.lower() in SUFFIXES and source.is_file()]
     states: Counter = Counter()
     kinds: Counter = Counter()

@@ -176,6 +176,8 @@ INSTANTIATE_TEST_SUITE_P(
         LayoutRow{"ibm", "01 R. 05 G USAGE COMP-3. 10 A PIC 9(5). 05 B LIKE A. 05 C SAME AS G.",
                   "R 0+9, G 0+3, A 0+3, B 3+3, C 6+3, A 6+3"},
         LayoutRow{"ibm", "01 A PIC X(4). 01 B LIKE A.", "A 0+4, B 0+4"},
+        LayoutRow{"ibm", "01 A PIC 9(6).. 01 B PIC X(6).. 01 C PIC 9(6) .. 01 D PIC 9.",
+                  "A 0+7, B 0+6, C 0+6, D 0+1"},
         LayoutRow{"ibm", "01 R. 05 A PIC X(5). 78 L VALUE LENGTH OF R. 05 B PIC X(L).",
                   "R 0+10, A 0+5, B 5+5"},
         LayoutRow{"ibm", "01 Q. 05 A PIC X(5). 78 L VALUE BYTE-LENGTH OF A + 1. 01 B PIC X(L).",

@@ -347,8 +347,24 @@ bool ClauseReader::readPicture(DataEntry& entry) {
   const bool isText = words_.peek().is(TokenKind::picture) || words_.peek().is(TokenKind::word) ||
                       words_.peek().is(TokenKind::number);
   if (!isText) return bad(entry, place, "PICTURE is followed by nothing");
-  entry.picture = pictures_.indexOf(words_.take().token.text, place);
+  std::string text = words_.take().token.text;
+  if (isPointOfPicture(text, place)) {
+    words_.skip();
+    text += '.';
+  }
+  entry.picture = pictures_.indexOf(text, place);
   return true;
+}
+
+// Of the two periods of "PIC 9(6)..", the first belongs to the picture, unless it takes none.
+bool ClauseReader::isPointOfPicture(const std::string& text, const SourcePlace& place) {
+  if (!words_.peek().is(TokenKind::period) || !words_.peek(1).is(TokenKind::period)) return false;
+  const SourcePlace& first = words_.peek().token.place;
+  const SourcePlace& second = words_.peek(1).token.place;
+  const bool isOneText = first.line == place.line && second.line == place.line &&
+                         first.column == place.column + static_cast<int>(text.size()) &&
+                         second.column == first.column + 1;
+  return isOneText && pictures_.isPicture(text + '.');
 }
 
 bool ClauseReader::readSign(DataEntry& entry) {

@@ -47,6 +47,7 @@ class ClauseReader {
   bool readHandle(DataEntry& entry);
   void readUsagePhrases(DataEntry& entry);
   bool readPicture(DataEntry& entry);
+  bool isPointOfPicture(const std::string& text, const SourcePlace& place);
   bool readSign(DataEntry& entry);
   bool readReference(DataEntry& entry, NameReference::Kind kind);
   bool readLikeChange(DataEntry& entry);

@@ -27,8 +27,7 @@ std::string PictureTable::withConstants(const std::string& picture) const {
   return result;
 }
 
-std::optional<Picture> PictureTable::read(const std::string& text, const std::string& written,
-                                          const SourcePlace& place) {
+PictureRules PictureTable::rulesFor(const std::string& text, const std::string& written) const {
   PictureRules rules;
   rules.isDecimalPointComma = program_.isDecimalPointComma;
   for (const CobolProgram::Currency& currency : program_.currencies) {
@@ -41,6 +40,17 @@ std::optional<Picture> PictureTable::read(const std::string& text, const std::st
   constexpr std::string_view yen = "\\";
   if (program_.currencies.empty() && text.find(yen) != std::string::npos)
     rules.currencySymbol = yen;
+  return rules;
+}
+
+bool PictureTable::isPicture(const std::string& written) const {
+  const std::string text = withConstants(written);
+  return readPicture(text, rulesFor(text, written)).has_value();
+}
+
+std::optional<Picture> PictureTable::read(const std::string& text, const std::string& written,
+                                          const SourcePlace& place) {
+  PictureRules rules = rulesFor(text, written);
   std::optional<Picture> picture = readPicture(text, rules);
   if (picture || !program_.isCopybook || rules.isDecimalPointComma) return picture;
   // A copybook does not say what its programs say of the decimal point; its pictures may.

@@ -19,8 +19,11 @@ class PictureTable {
   // Where the picture of that text stands in CobolProgram::pictures. One that cannot be read is
   // told at each place where it is written.
   Index indexOf(const std::string& written, const SourcePlace& place);
+  // Whether it can be read.
+  bool isPicture(const std::string& written) const;
 
  private:
+  PictureRules rulesFor(const std::string& text, const std::string& written) const;
   std::string withConstants(const std::string& picture) const;
   std::optional<Picture> read(const std::string& text, const std::string& written,
                               const SourcePlace& place);
