@@ -48,8 +48,10 @@ KNOWN: Dict[str, Callable[[Placed, object, object], bool]] = {
     'counts as many digits for a binary item without a PICTURE as are never lost':
         lambda placed, ours, theirs: not placed.attributes.get('picture') and
         (ours, theirs) in ((3, 2), (5, 4), (10, 9), (19, 18), (20, 18)),
-    'counts the digits of X COMP-X in its own way':
-        lambda placed, *_: placed.attributes.get('usage') == 'comp-x',
+    'counts the digits of X COMP-X and the like in its own way':
+        lambda placed, *_: 'X' in placed.attributes.get('picture', '').upper(),
+    'counts no places behind the point that a floating currency sign stands for':
+        lambda placed, ours, theirs: placed.element == 'numericEdited' and theirs == 0,
     'knows decimal floating point, which dictionaries have no kind for':
         lambda _, ours, theirs: (ours, theirs) == ('text', 'decimal float'),
     'forgets that an item is an address when it is one by the USAGE of its group':
@@ -59,7 +61,7 @@ KNOWN: Dict[str, Callable[[Placed, object, object], bool]] = {
         (ours, theirs) == (2, 1),
 }
 # What each of them is about.
-KNOWN_OF = dict(zip(KNOWN, ('digits', 'digits', 'digits', 'category', 'category', 'length')))
+KNOWN_OF = dict(zip(KNOWN, ('digits', 'digits', 'digits', 'scale', 'category', 'category', 'length')))
 
 
 class Result(NamedTuple):
@@ -133,6 +135,8 @@ def paired(items: List[InRecord], reader: ForeignReader) -> Iterator[Tuple[int, 
     for name, field in dumped:
         fields.setdefault(name, []).append(field)
     for name, ours in numbers.items():
+        if name == 'FILLER':
+            continue
         theirs = fields.get(name, [])
         if len(ours) == len(theirs):
             yield from sorted(zip(ours, theirs))
