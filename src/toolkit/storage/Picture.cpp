@@ -165,6 +165,11 @@ class NumberReader {
  private:
   static constexpr std::string_view currencyText{&currency, 1};
 
+  static bool isSign(const Run& run) {
+    return std::string_view("+-").find(run.symbol) != std::string_view::npos ||
+           run.symbol == credit || run.symbol == debit;
+  }
+
   // Whether a symbol stands in for leading zeros, moving to the first digit.
   bool isFloating(char symbol) const {
     return (symbol == '+' || symbol == '-' || symbol == currency) && counts_.of({&symbol, 1}) > 1;
@@ -210,8 +215,8 @@ class NumberReader {
       case debit:
         return isLast;
       case currency:
-        return isFirst ||
-               (at_ == 1 && (runs_.front().symbol == '+' || runs_.front().symbol == '-'));
+        return isFirst || isLast || (at_ == 1 && isSign(runs_.front())) ||
+               (at_ + 2 == runs_.size() && isSign(runs_.back()));
       default:
         return true;
     }
