@@ -144,34 +144,28 @@ def paired(items: List[InRecord], reader: ForeignReader) -> Iterator[Tuple[int, 
             yield ours[0], used[name]
 
 
-def late_members(items: List[InRecord]) -> Dict[int, int]:
-    """By their numbers, the last members of tables whose occurrences end in slack bytes, which the
-    compiler has in front of those, and how many bytes these are."""
-    late: Dict[int, int] = {}
-    for number, (group, record) in enumerate(items):
-        if group.element != 'group' or group.number('maxOccurs') < 2:
-            continue
-        end = group.number('offset') + group.number('length')
-        last, reach = number, 0
-        for inner in range(number + 1, len(items)):
-            placed = items[inner].placed
-            if items[inner].record != record or placed.number('offset') >= end:
-                break
-            last = inner
-            reach = max(reach, placed.number('offset') +
-                        placed.number('length') * max(1, placed.number('maxOccurs')))
-        if last > number and reach < end:
-            late[last] = end - reach
-    return late
+def ends_in_slack(items: List[InRecord], number: int) -> bool:
+    """Whether the occurrences of a table end in slack bytes."""
+    group, record = items[number]
+    if group.element != 'group' or group.number('maxOccurs') < 2:
+        return False
+    end = group.number('offset') + group.number('length')
+    reach = group.number('offset')
+    for placed, of in items[number + 1:]:
+        if of != record or placed.number('offset') >= end:
+            break
+        reach = max(reach, placed.number('offset') +
+                    placed.number('length') * max(1, placed.number('maxOccurs')))
+    return reach < end
 
 
-def sliding_from(items: List[InRecord]) -> Dict[int, int]:
-    """By records, the first table of no fixed size: what stands around and behind it the compiler
-    counts in another way."""
+def counted_otherwise(items: List[InRecord]) -> Dict[int, int]:
+    """By records, the first table of no fixed size, or whose occurrences end in slack bytes: what
+    stands in, around and behind it the compiler counts in another way."""
     first: Dict[int, int] = {}
     for number, (placed, record) in enumerate(items):
-        if 'odo' in placed.attributes:
-            first.setdefault(record, number)
+        if record not in first and ('odo' in placed.attributes or ends_in_slack(items, number)):
+            first[record] = number
     return first
 
 
@@ -190,20 +184,19 @@ def wrong_ones(items: List[InRecord], reader: ForeignReader, source: str) -> Tup
     starts: Dict[int, Tuple[str, int]] = {}
     wrong: List[Wrong] = []
     compared = 0
-    late = late_members(items)
-    sliding = sliding_from(items)
+    tables = counted_otherwise(items)
     for number, field in paired(items, reader):
         placed, record = items[number]
         if field.base in ('NULL', 'unknown', '') or placed.attributes.get('renames') == 'true':
             continue
         compared += 1
         found: List[Tuple[str, object, object]] = []
-        table = sliding.get(record)
+        table = tables.get(record)
         if table is None or (number < table and not is_around(items, number, table)):
             base, start = starts.setdefault(record,
                                             (field.base, field.offset - placed.number('offset')))
             offset = field.offset - start
-            if field.base == base and offset - placed.number('offset') != late.get(number):
+            if field.base == base:
                 found.append(('offset', placed.number('offset'), offset))
             if field.size is not None:
                 found.append(('length', placed.number('length'), field.size))
