@@ -240,14 +240,19 @@ TEST_F(GenerateTest, ConditionsAreEnumerationsWhereTheyAreAskedFor) {
 }
 
 TEST_F(GenerateTest, ConditionsThatAreNoValuesAreTold) {
-  writeService(
-      "<numeric name='A' picture='9' digits='1' length='1'><numericCondition name='LOW'>"
-      "<numericRange from='1' to='3'/></numericCondition></numeric>");
-  toolkit::GenerateOptions options;
-  options.values = {{"conditions", "enumerations"}};
-  EXPECT_THAT(textsOf(make("xsd", "s.xml", "out", options).findings),
-              ElementsAre("GO.R.A: conditions of A are ranges or no values of its type: they are "
-                          "told in words"));
+  for (const char* const item :
+       {"<numeric name='A' picture='9' digits='1' length='1'><numericCondition name='LOW'>"
+        "<numericRange from='1' to='3'/></numericCondition></numeric>",
+        "<pointer name='A' length='4'><numericCondition name='FAR'>"
+        "<numericConstant value='99999999999999999999'/></numericCondition></pointer>"}) {
+    writeService(item);
+    toolkit::GenerateOptions options;
+    options.values = {{"conditions", "enumerations"}};
+    EXPECT_THAT(textsOf(make("xsd", "s.xml", "out", options).findings),
+                ElementsAre("GO.R.A: conditions of A are ranges or no values of its type: they are "
+                            "told in words"))
+        << item;
+  }
 }
 
 TEST_F(GenerateTest, ChangedNamesAreToldAndMayBeChosen) {

@@ -174,6 +174,10 @@ std::vector<std::string> valuesOf(const Item& item, const Capacity& capacity,
   Facets limits = facets;
   // Those of a number that is a text to callers.
   if (!facets.pattern.empty()) limitDigits(item.digits, item.scale, item.isSigned, limits);
+  // What has no limits of its own (an address) has those of its type.
+  if (limits.most.empty() && capacity.kind == CapacityKind::integer) {
+    limitBits(capacity.bits, capacity.isSigned, limits);
+  }
   for (const Condition& condition : item.conditions) {
     for (const ConditionValue& value : condition.values) {
       std::optional<std::string> read = valueOf(value, capacity, limits);
