@@ -59,6 +59,9 @@ std::string padded(std::string line) {
   return line;
 }
 
+// "A", a character of two bytes between the shifts, and "B".
+const std::string japaneseEbcdic = "\xC1\x0E\x45\x5D\x0F\xC2\x15";
+
 const Row rows[] = {
     {"Nothing", "", "", ""},
     {"Ascii", "A\nB\n", "", "A\nB\n"},
@@ -108,6 +111,20 @@ const Row rows[] = {
     {"ToldWindows", "\x80\x81", "WINDOWS-1252", "\xE2\x82\xAC\xEF\xBF\xBD"},
     {"ToldGermanEbcdic", encoded("       01 \xC3\xA4\xC3\x96\xC3\x9F#.\n", "IBM273", "\x15"),
      "IBM273", "       01 \xC3\xA4\xC3\x96\xC3\x9F#.\n"},
+    {"ShiftJis", "A\x93\xFA\x96\x7B\x8C\xEA\n", "", "A\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\n",
+     "source-encoding main"},
+    {"QuotesOfWindowsAreNoShiftJis", "don\x92t it\x92s we\x92re", "",
+     "don\xC2\x92t it\xC2\x92s we\xC2\x92re", "source-encoding main"},
+    {"LettersOfFrenchAreNoShiftJis", "pr\xE9nom m\xE8re n\xE9\xE0", "",
+     "pr\xC3\xA9nom m\xC3\xA8re n\xC3\xA9\xC3\xA0", "source-encoding main"},
+    {"ToldShiftJis", "\x8E\x9A\xB1\x81", "CP932", "\xE5\xAD\x97\xEF\xBD\xB1\xEF\xBF\xBD"},
+    {"ToldJapaneseEbcdic", japaneseEbcdic, "IBM939", "A\x0E\xE5\xB0\x8F\x0F\x42\n"},
+    {"EbcdicWithPairsThatAreNotKnown", japaneseEbcdic, "IBM-1047",
+     "A\x0E\xF3\xB4\x95\x9D\x0F\x42\n", "two-byte-text main:1:2"},
+    {"ShiftThatDoesNotEnd", "\xC1\x0E\x45\x5D\xC2\x15", "IBM-1047", "A\x0E\xC3\xA1)B\n",
+     "control-character main:1:2"},
+    {"PaddedWithZeros", std::string("A\n\0\0\0", 5), "", "A\n"},
+    {"NoText", "A" + std::string(100, '\1'), "", "", "source-not-text main"},
     {"Controls", std::string("A\n\xC3\xA4\0\x01\tB\f\x7F", 10), "",
      std::string("A\n\xC3\xA4\0\x01\tB\f\x7F", 10), "control-character main:2:2"},
 };
@@ -154,7 +171,7 @@ TEST(SourceEncoding, IsTold) {
   EXPECT_EQ(test::readingOf({encoded(program, "IBM-1047", "\x15")}).texts,
             "note: main: the file is read as EBCDIC of code page 1047; name the encoding if it is "
             "another\n");
-  EXPECT_THAT(test::readingOf({std::string("\0\0", 2)}).texts,
+  EXPECT_THAT(test::readingOf({"\1\1"}).texts,
               HasSubstr("the file has 2 control characters, this is the first"));
 }
 

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "toolkit/import/Characters.h"
+#include "toolkit/import/LineText.h"
 #include "toolkit/import/QuoteState.h"
-#include "toolkit/import/SourceLines.h"
 #include "toolkit/import/Token.h"
 
 namespace as::toolkit {
@@ -54,6 +54,21 @@ bool isAll(std::string_view text, bool (*is)(char)) {
   return std::all_of(text.begin(), text.end(), is);
 }
 
+// Whether an entry stands behind column 7 and nothing but numbers in front of it, as the offsets
+// and lengths that some write there: " 25 03    05 NAME". Free format has no two levels on a line.
+bool hasNumbersInFrontOfEntry(std::string_view line) {
+  if (line.size() <= indicator + 1 || line[indicator] != ' ') return false;
+  const bool areNumbers = isAll(line.substr(0, indicator), [](char character) {
+    return isDigit(character) || character == ' ';
+  });
+  if (!areNumbers) return false;
+  const std::string_view code = trimmed(line.substr(indicator + 1));
+  const std::size_t end = code.find(' ');
+  if (end == std::string_view::npos || !isLevel(code.substr(0, end))) return false;
+  const std::string_view name = trimmed(code.substr(end));
+  return !isDigit(name.front()) && isWordCharacter(name.front());
+}
+
 // Above 0: fixed format; below: free.
 int voteOf(std::string_view line) {
   const std::string columns = columnsOf(line);
@@ -82,7 +97,7 @@ int voteOf(std::string_view line) {
   const bool isIndicator = mark == ' ' || mark == '*' || mark == '/' || mark == '-' ||
                            mark == 'D' || mark == 'd' || mark == '$';
   if (!isIndicator) return start == 0 && isAll(sequence, isDigit) ? 0 : -2;
-  if (isAll(sequence, isDigit)) return 2;
+  if (isAll(sequence, isDigit) || hasNumbersInFrontOfEntry(line)) return 2;
   // "01  NAME", "MOVE A TO B" against "AB1234" and "  0100".
   const bool hasMore = word.size() < text.size();
   if (isStarter(word) || (isLevel(word) && hasMore && word.size() + start < indicator - 1)) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "as/toolkit/SourceFormat.h"
+#include "toolkit/import/LineLayout.h"
 #include "toolkit/import/SourceReport.h"
 #include "toolkit/import/SourceText.h"
 #include "toolkit/import/TextArena.h"
@@ -50,75 +51,32 @@ class SourceLines {
   // Makes `line` the next one; false when there is none.
   bool next(SourceLine& line);
 
-  SourceFormat format() const { return format_; }
+  SourceFormat format() const { return layout_.format(); }
   // For the lines behind the last one that was read, which was a directive.
-  void setFormat(SourceFormat format) { format_ = format; }
+  void setFormat(SourceFormat format) { layout_.setFormat(format); }
 
   // Whether lines for debugging are code.
   void setDebugging(bool isOn) { debugging_ = isOn; }
 
  private:
-  enum class Kind : std::uint8_t { blank, code, debugging, continuation, directive };
-
-  // A line of the file, looked at by itself.
-  struct Laid {
-    Kind kind = Kind::blank;
-    bool isPlain = false;
-    bool areaA = false;
-    std::int32_t number = 0;
-    std::int32_t column = 0;
-    std::string_view text;   // Without blanks at its ends.
-    std::string_view whole;  // With those at its end, up to the right margin.
-    std::size_t room = 0;    // How many columns are left up to the right margin.
-  };
-
-  // What a line is cut into: the indicator and the code.
-  struct Cut {
-    std::string_view sequence;
-    char indicator = ' ';
-    std::string_view fromIndicator;
-    std::string_view code;
-    std::int32_t column = 0;
-    std::size_t room = 0;
-    bool isPlain = false;
-  };
-
-  bool layNext(Laid& laid);
-  void lay(std::string_view line, Laid& laid);
-  static bool isDrawn(std::string_view line);
-  static std::string_view withoutMark(std::string_view line);
-  void layColumns(std::string_view line, Laid& laid);
-  void tellWide(std::string_view line, const Laid& laid);
-  void layFree(std::string_view line, Laid& laid);
-  bool layOddStart(std::string_view line, Laid& laid);
-  Cut cut(std::string_view line);
-  void setText(Laid& laid, std::string_view code, std::int32_t column);
+  bool layNext(LaidLine& laid);
   void findAhead();
   void continueAhead();
-  bool isCode(const Laid& laid) const;
+  bool isCode(const LaidLine& laid) const;
   void join(SourceLine& line);
 
   const std::string_view text_;
-  const bool isPlain_;
-  SourceFormat format_;
+  LineLayout layout_;
   const std::int32_t file_;
   TextArena& arena_;
   SourceReport& report_;
   bool debugging_ = false;
-  bool codeSeen_ = false;
-  bool wideTold_ = false;
   std::size_t at_ = 0;
   std::int32_t number_ = 0;
-  Laid current_;
-  Laid ahead_;
+  LaidLine current_;
+  LaidLine ahead_;
   bool hasAhead_ = false;
 };
-
-// Whether `text`, which begins with "$", is a directive.
-bool isDollarDirective(std::string_view text);
-
-// Without the blanks at its ends. Control characters are blanks.
-std::string_view trimmed(std::string_view text);
 
 }  // namespace as::toolkit
 

@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "toolkit/import/Characters.h"
+#include "toolkit/import/LineText.h"
 
 namespace as::toolkit {
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "toolkit/import/Characters.h"
+#include "toolkit/import/CodePage.h"
 #include "toolkit/import/Replacement.h"
 
 namespace as::toolkit {
@@ -10,6 +11,14 @@ namespace as::toolkit {
 namespace {
 
 bool isSign(char character) { return character == '+' || character == '-'; }
+
+// What frames characters of two bytes is no part of a value.
+void dropShifts(std::string& text) {
+  if (text.find_first_of("\x0E\x0F") == std::string::npos) return;
+  text.erase(std::remove_if(text.begin(), text.end(),
+                            [](char c) { return c == shiftOut || c == shiftIn; }),
+             text.end());
+}
 
 }  // namespace
 
@@ -70,6 +79,7 @@ void TokenReader::readLiteral(Token& token) const {
                  [](char character) { return static_cast<char>(character & ~0x20); });
   if (parts.content.find(parts.quote) == std::string_view::npos) {
     token.text = parts.content;
+    dropShifts(token.text);
     return;
   }
   token.text.clear();
@@ -78,6 +88,7 @@ void TokenReader::readLiteral(Token& token) const {
     // The quotes within come in pairs.
     if (parts.content[i] == parts.quote) i++;
   }
+  dropShifts(token.text);
 }
 
 void TokenReader::readMark(Token& token) {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "toolkit/import/Directives.h"
+#include "toolkit/import/LineText.h"
 #include "toolkit/import/SourceLines.h"
 #include "toolkit/import/SourceReport.h"
 #include "toolkit/import/TextWord.h"
