@@ -25,6 +25,14 @@ const ReadingRow rows[] = {
     {"WithoutAPeriod", {"COPY B\n05 C.", {{"B", "D."}}}, "D . 05 C .", "copy-period main:1:1"},
     {"WithoutAPeriodAtTheEnd", {"COPY B", {{"B", "D."}}}, "D .", "copy-period main:1:1"},
     {"Nested", {"A COPY B. C", {{"B", "D COPY E. F"}, {"E", "G"}}}, "A D G F C"},
+    {"MissingInTheProcedureDivision",
+     {"PROCEDURE DIVISION USING A. COPY B OF L. DATA DIVISION. COPY C.", {}},
+     "PROCEDURE DIVISION USING A . DATA DIVISION .",
+     "procedure-copybook main:1:29\ncopybook-not-found main:1:57"},
+    {"MissingInTheHeaderOfAProcedureDivision",
+     {"PROCEDURE DIVISION COPY B. C.", {}},
+     "PROCEDURE DIVISION C .",
+     "copybook-not-found main:1:20"},
     {"Missing", {"A COPY B. C", {}}, "A C", "copybook-not-found main:1:3"},
     {"MissingInACopybook",
      {"A COPY B. C", {{"B", "\n COPY D OF E."}}},
@@ -107,9 +115,56 @@ const ReadingRow rows[] = {
      {"COPY DFHAID. COPY CMQV. COPY DFX."},
      "",
      "system-copybook main:1:1\nsystem-copybook main:1:14\ncopybook-not-found main:1:25"},
+    {"CopybooksOfTheCompiler",
+     {"COPY \"acugui.def\". COPY \"lib/FONTS.DEF\"."},
+     "",
+     "system-copybook main:1:1\nsystem-copybook main:1:20"},
     {"CopybooksOfTheSystemThatAreFound", {"COPY DFHAID.", {{"DFHAID", "A"}}}, "A"},
 };
 AS_READING_ROWS(Copies, rows);
+
+// COPY B with the phrase, where B is the text.
+ReadingRow joining(const char* name, const std::string& phrase, const std::string& text,
+                   const std::string& words, const std::string& findings = "") {
+  return {name, {"COPY B " + phrase + ". A", {{"B", text}}}, words + " A", findings};
+}
+
+const ReadingRow joiningRows[] = {
+    joining("Prefix", "JOINING O AS PREFIX", "01 A PIC X.", "01 O-A PIC <X> ."),
+    joining("Suffix", "joining O as suffix", "01 A PIC X.", "01 A-O PIC <X> ."),
+    joining("Members", "JOINING O AS PREFIX", "01 A. 03 B PIC X. 88 C VALUE 1.",
+            "01 O-A . 03 O-B PIC <X> . 88 O-C VALUE 1 ."),
+    joining("References", "JOINING O AS PREFIX", "01 A. 02 B PIC 9. 02 C REDEFINES b PIC X.",
+            "01 O-A . 02 O-B PIC <9> . 02 O-C REDEFINES O-b PIC <X> ."),
+    joining("ReferencesToWhatComesLater", "JOINING O AS PREFIX", "01 A OCCURS B. 01 B PIC X.",
+            "01 O-A OCCURS O-B . 01 O-B PIC <X> ."),
+    joining("NamesFromElsewhereStay", "JOINING O AS PREFIX", "01 A OCCURS B.", "01 O-A OCCURS B ."),
+    joining("FillerStays", "JOINING O AS PREFIX", "01 FILLER. 02 PIC X. 02 Filler PIC X.",
+            "01 FILLER . 02 PIC <X> . 02 Filler PIC <X> ."),
+    joining("PicturesStay", "JOINING O AS PREFIX", "01 X PIC IS X(3). 01 A PICTURE A(X).",
+            "01 O-X PIC IS <X(3)> . 01 O-A PICTURE <A(X)> ."),
+    joining("NamesThatBeginClausesElsewhere", "JOINING O AS PREFIX", "01 TYPE PIC X.",
+            "01 O-TYPE PIC <X> ."),
+    joining("NoEntries", "JOINING O AS PREFIX", "MOVE A TO B.", "MOVE A TO B ."),
+    joining("Disjoining", "DISJOINING I AS PREFIX", "01 I-A. 02 IB PIC X. 02 I- PIC X.",
+            "01 A . 02 IB PIC <X> . 02 I- PIC <X> ."),
+    joining("DisjoiningSuffix", "DISJOINING I AS SUFFIX", "01 A-i. 02 B PIC X.",
+            "01 A . 02 B PIC <X> ."),
+    joining("DisjoiningAndJoining", "DISJOINING I JOINING O AS PREFIX", "01 I-A PIC X.",
+            "01 O-A PIC <X> ."),
+    joining("Prefixing", "PREFIXING O-", "01 A PIC X.", "01 O-A PIC <X> ."),
+    joining("Suffixing", "SUFFIXING '-O'", "01 A PIC X.", "01 A-O PIC <X> ."),
+    joining("BehindReplacements", "JOINING O AS PREFIX REPLACING ==:T:== BY ==W==",
+            "01 :T:-A PIC X.", "01 O-W-A PIC <X> ."),
+    joining("NeitherPrefixNorSuffix", "JOINING O", "01 A PIC X.", "01 A PIC <X> .",
+            "copy-syntax main:1:1"),
+    joining("NoWord", "JOINING", "01 A PIC X.", "01 A PIC <X> .", "copy-syntax main:1:1"),
+    joining("NoWordToPrefix", "PREFIXING", "01 A PIC X.", "01 A PIC <X> .", "copy-syntax main:1:1"),
+    {"NestedCopies",
+     {"COPY B JOINING O AS PREFIX. COPY C.", {{"B", "COPY C. 01 B PIC X."}, {"C", "01 A PIC X."}}},
+     "01 O-A PIC <X> . 01 O-B PIC <X> . 01 A PIC <X> ."},
+};
+AS_READING_ROWS(JoinedCopies, joiningRows);
 
 TEST(Copy, TellsTheChainOfACopybookThatCopiesItself) {
   EXPECT_EQ(test::readingOf({"COPY B.", {{"B", "COPY C."}, {"C", "COPY B."}}}).texts,

@@ -11,23 +11,6 @@ namespace as::toolkit {
 
 namespace {
 
-// Whether a copybook comes with a precompiler, with CICS or with MQ: such are rarely at hand where
-// sources are imported, and programs seldom hand on what is in them.
-bool isOfSystem(std::string_view name) {
-  const std::string_view product = name.substr(0, 3);
-  return sameWord(name, "SQLCA") || sameWord(name, "SQLDA") || sameWord(product, "DFH") ||
-         sameWord(product, "CMQ");
-}
-
-// Whether the folders in the name of a copybook are those that it was found in.
-bool standsWhereNamed(std::string name, const std::string& library, std::string found) {
-  if (library.find("..") != std::string::npos) return false;
-  std::replace(name.begin(), name.end(), '\\', '/');
-  std::replace(found.begin(), found.end(), '\\', '/');
-  const std::size_t end = name.find_last_of('/');
-  return end == std::string::npos || found.find(name.substr(0, end + 1)) != std::string::npos;
-}
-
 std::string nameOf(const TextWord& word) {
   return std::string(word.kind == TextWord::Kind::literal ? partsOf(word).content : word.text);
 }
@@ -42,21 +25,37 @@ bool isName(const TextWord& word) {
 class CopyExpander::Frame : public TextWordSource {
  public:
   Frame(CopyExpander& expander, std::size_t depth, const SourceText& text, SourceFormat format,
-        std::string fileName, std::int32_t file, Replacements replacements)
+        std::string fileName, std::int32_t file, CopyChanges changes)
       : lines(text, format, file, expander.arena_, expander.report_),
         scanner(lines, file, expander.directives_, expander.report_),
         name(std::move(fileName)),
         expander_(expander),
         depth_(depth),
-        replacements_(std::move(replacements)) {
+        replacements_(std::move(changes.replacements)) {
     lines.setDebugging(expander.debugging_);
+    TextWordSource* words = this;
     if (!replacements_.empty()) {
-      replacer.emplace(*this, replacements_, expander.arena_, expander.budget_);
+      replacer_.emplace(*words, replacements_, expander.arena_, expander.budget_);
+      words = &*replacer_;
+    }
+    if (!changes.joint.isNothing()) {
+      joined_.emplace(*words, std::move(changes.joint), expander.arena_, expander.budget_);
     }
   }
 
-  // For the replacer: what the file says, copies put in.
+  // For what changes it: what the file says, copies put in.
   void read(TextWord& word) override { expander_.readRaw(depth_, word); }
+
+  // The same with its changes.
+  void readChanged(TextWord& word) {
+    if (joined_) {
+      joined_->read(word);
+    } else if (replacer_) {
+      replacer_->read(word);
+    } else {
+      read(word);
+    }
+  }
 
   // A word of the file itself.
   void readOwn(TextWord& word) {
@@ -71,13 +70,14 @@ class CopyExpander::Frame : public TextWordSource {
 
   SourceLines lines;
   WordScanner scanner;
-  std::optional<Replacer> replacer;
   const std::string name;
 
  private:
   CopyExpander& expander_;
   const std::size_t depth_;
   const Replacements replacements_;
+  std::optional<Replacer> replacer_;
+  std::optional<JoinedNames> joined_;
   std::optional<TextWord> pushed_;
 };
 
@@ -111,9 +111,9 @@ void CopyExpander::open(std::string bytes, const std::string& name) {
 }
 
 void CopyExpander::push(const SourceText& text, SourceFormat format, const std::string& name,
-                        std::int32_t file, Replacements replacements) {
-  frames_.push_back(std::make_unique<Frame>(*this, frames_.size(), text, format, name, file,
-                                            std::move(replacements)));
+                        std::int32_t file, CopyChanges changes) {
+  frames_.push_back(
+      std::make_unique<Frame>(*this, frames_.size(), text, format, name, file, std::move(changes)));
 }
 
 void CopyExpander::setDebugging() {
@@ -128,12 +128,7 @@ void CopyExpander::finish() {
 
 // Calls itself as deep as copybooks nest, of which there is a limit.
 void CopyExpander::readFrame(std::size_t depth, TextWord& word) {
-  Frame& frame = *frames_[depth];
-  if (frame.replacer) {
-    frame.replacer->read(word);
-  } else {
-    readRaw(depth, word);
-  }
+  frames_[depth]->readChanged(word);
 }
 
 void CopyExpander::readRaw(std::size_t depth, TextWord& word) {
@@ -150,6 +145,7 @@ void CopyExpander::readRaw(std::size_t depth, TextWord& word) {
       const Statement statement = statementOf(word);
       if (statement != Statement::none && takeStatement(frame, statement, word)) continue;
     }
+    division_.follow(word);
     sentenceOpen_ = word.kind != TextWord::Kind::period;
     return;
   }
@@ -242,16 +238,17 @@ bool CopyExpander::takeCopy(Frame& frame, const TextWord& word) {
     frame.readOwn(next);
     if (next.isRun("PRINTING")) frame.readOwn(next);
   }
-  Replacements replacements;
+  CopyChanges changes;
+  changes.joint = readJoint(frame.scanner, next, place, report_);
   if (next.isRun("REPLACING")) {
     frame.readOwn(next);
-    replacements = readReplacements(frame.scanner, next, place, report_);
+    changes.replacements = readReplacements(frame.scanner, next, place, report_);
   } else if (next.kind != TextWord::Kind::period) {
     report_.add(SourceRule::copyPeriod, place, "COPY " + nameOf(name) + " ends without a period",
                 "write a period behind it");
     frame.pushBack(next);
   }
-  include(name, library, place, std::move(replacements));
+  include(name, library, place, std::move(changes));
   return true;
 }
 
@@ -303,8 +300,20 @@ std::string CopyExpander::chainTo(const std::string& name) const {
   return chain + name;
 }
 
+// Items are in copybooks of other divisions. Those of the procedure division may have entry points,
+// but few do.
+void CopyExpander::tellMissing(SourceRule rule, const std::string& problem,
+                               const std::string& advice, const SourcePlace& place) {
+  if (division_.isProcedureBody()) {
+    report_.add(SourceRule::procedureCopybook, place, problem + ": entry points in it are left out",
+                advice);
+  } else {
+    report_.add(rule, place, problem, advice);
+  }
+}
+
 void CopyExpander::include(const TextWord& name, const std::string& library,
-                           const SourcePlace& place, Replacements replacements) {
+                           const SourcePlace& place, CopyChanges changes) {
   budget_.addInclusion(place);
   if (budget_.isExhausted()) return;
   if (frames_.size() > importLimits::nesting) {
@@ -320,7 +329,7 @@ void CopyExpander::include(const TextWord& name, const std::string& library,
                          library.find('\0') == std::string::npos;
   CopybookLibrary::Entry* const entry = canBeFile ? library_.find(text, library) : nullptr;
   if (entry == nullptr) {
-    if (isOfSystem(text)) {
+    if (isSystemCopybook(text)) {
       passedCopybooks_.push_back(place);
       report_.add(
           SourceRule::systemCopybook, place,
@@ -328,16 +337,16 @@ void CopyExpander::include(const TextWord& name, const std::string& library,
           "");
       return;
     }
-    report_.add(SourceRule::copybookMissing, place,
+    tellMissing(SourceRule::copybookMissing,
                 "the copybook " + quoted(text) +
                     (library.empty() ? "" : " of the library " + quoted(library)) +
                     " was not found",
-                "name its folder");
+                "name its folder", place);
     return;
   }
   if (!entry->error.empty()) {
-    report_.add(SourceRule::copybookUnreadable, place,
-                "the copybook " + quoted(text) + " cannot be read: " + entry->error);
+    tellMissing(SourceRule::copybookUnreadable,
+                "the copybook " + quoted(text) + " cannot be read: " + entry->error, "", place);
     return;
   }
   if (!standsWhereNamed(text, library, entry->name)) {
@@ -361,7 +370,7 @@ void CopyExpander::include(const TextWord& name, const std::string& library,
   const SourceFormat format = options_.format != SourceFormat::recognised
                                   ? around
                                   : recognisedFormat(entry->text.text, around);
-  push(entry->text, format, entry->name, file, std::move(replacements));
+  push(entry->text, format, entry->name, file, std::move(changes));
 }
 
 }  // namespace as::toolkit

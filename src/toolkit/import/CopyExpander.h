@@ -11,8 +11,10 @@
 
 #include "toolkit/import/CopybookLibrary.h"
 #include "toolkit/import/Directives.h"
+#include "toolkit/import/DivisionTracker.h"
 #include "toolkit/import/ExecStatements.h"
 #include "toolkit/import/ImportBudget.h"
+#include "toolkit/import/JoinedNames.h"
 #include "toolkit/import/Replacement.h"
 #include "toolkit/import/Replacer.h"
 #include "toolkit/import/SourceLines.h"
@@ -22,6 +24,12 @@
 #include "toolkit/import/WordScanner.h"
 
 namespace as::toolkit {
+
+// What a COPY statement changes in what it copies.
+struct CopyChanges {
+  Replacements replacements;
+  NameJoint joint;  // Of what the replacements leave.
+};
 
 // COPY, EXEC SQL INCLUDE, "++INCLUDE" and "-INC" name copybooks. What REPLACING says of a copybook
 // holds for the ones that it copies, too, behind what their own says. Passed over are other EXEC
@@ -67,11 +75,13 @@ class CopyExpander : public TextWordSource {
   bool takeCommentEntry(Frame& frame);
   void skipPeriod(Frame& frame) const;
   void include(const TextWord& name, const std::string& library, const SourcePlace& place,
-               Replacements replacements);
+               CopyChanges changes);
   void push(const SourceText& text, SourceFormat format, const std::string& name, std::int32_t file,
-            Replacements replacements);
+            CopyChanges changes);
   bool isOpen(const std::string& name) const;
   std::string chainTo(const std::string& name) const;
+  void tellMissing(SourceRule rule, const std::string& problem, const std::string& advice,
+                   const SourcePlace& place);
 
   const SourceOptions& options_;
   SourceMap& map_;
@@ -85,6 +95,7 @@ class CopyExpander : public TextWordSource {
   std::vector<std::unique_ptr<Frame>> frames_;
   bool debugging_ = false;
   bool inIdentification_ = false;
+  DivisionTracker division_;
   bool basisSeen_ = false;
   bool sentenceOpen_ = false;  // The last word was none that ends a sentence.
 

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "as/toolkit/Copybooks.h"
@@ -33,6 +34,14 @@ class CopybookLibrary {
   // By the names that their provider gives them: one text may be found by several.
   std::unordered_map<std::string, std::unique_ptr<Entry>> entries_;
 };
+
+// Whether a copybook comes with a precompiler, with CICS or with MQ, or with a compiler that has
+// screens: such are rarely at hand where sources are imported, and programs seldom hand on what is
+// in them.
+bool isSystemCopybook(std::string_view name);
+
+// Whether the folders in the name of a copybook are those that it was found in.
+bool standsWhereNamed(std::string name, const std::string& library, std::string found);
 
 }  // namespace as::toolkit
 
