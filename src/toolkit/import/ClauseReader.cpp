@@ -25,11 +25,6 @@ int lengthOf(const std::string& text) {
   return static_cast<int>(std::min<std::ptrdiff_t>(length, mostImplied));
 }
 
-bool isUnsignedUsage(const std::string& word) {
-  constexpr std::string_view prefix = "UNSIGNED-";
-  return inCapitals(word).compare(0, prefix.size(), prefix) == 0;
-}
-
 }  // namespace
 
 void ClauseReader::readName(DataEntry& entry) {
@@ -52,7 +47,9 @@ void ClauseReader::readName(DataEntry& entry) {
              (next.is(Keyword::isWord) && isClause(third) && !third.is(Keyword::type));
   } else if (role == KeywordRole::usage) {
     const bool mayBeName = word.meaning.usage == Usage::bit || word.is(Keyword::object);
-    isName = mayBeName && next.meaning.role == KeywordRole::clause;
+    // "77 FLOAT COMP-1" is called FLOAT.
+    const bool isBeforeUsage = next.meaning.role == KeywordRole::usage && !word.is(Keyword::object);
+    isName = isBeforeUsage || (mayBeName && next.meaning.role == KeywordRole::clause);
   }
   if (!isName) return;
   entry.name = word.token.text;
@@ -78,11 +75,6 @@ void ClauseReader::readClauses(DataEntry& entry) {
   endEntry(entry);
 }
 
-bool ClauseReader::bad(const DataEntry& entry, const SourcePlace& place, const std::string& text) {
-  problems_.tell(EntryRule::badClause, place, entry.name + ": " + text);
-  return false;
-}
-
 bool ClauseReader::passOver(const DataEntry& entry, const char* what) {
   problems_.tell(
       EntryRule::passedClause, words_.peek().token.place,
@@ -100,16 +92,17 @@ bool ClauseReader::readClause(DataEntry& entry) {
       words_.skip();
       return true;
     case Keyword::redefines:
-      if (entry.isRedefinition) return bad(entry, place, "REDEFINES stands there twice");
+      if (entry.isRedefinition)
+        return problems_.badClause(entry.name, place, "REDEFINES stands there twice");
       entry.isRedefinition = true;
-      return readReference(entry, NameReference::Kind::redefines);
+      return references_.read(entry, NameReference::Kind::redefines);
     case Keyword::renames:
-      return readRenames(entry);
+      return references_.readRenames(entry);
     case Keyword::pic:
     case Keyword::picture:
       return readPicture(entry);
     case Keyword::usage:
-      return readUsage(entry);
+      return usages_.read(entry);
     case Keyword::sign:
     case Keyword::leading:
     case Keyword::trailing:
@@ -137,7 +130,7 @@ bool ClauseReader::readClause(DataEntry& entry) {
         entry.isBlankWhenZero = true;
         return true;
       }
-      return bad(entry, place, "BLANK WHEN is not followed by ZERO");
+      return problems_.badClause(entry.name, place, "BLANK WHEN is not followed by ZERO");
     case Keyword::value:
     case Keyword::values:
       words_.skip();
@@ -160,18 +153,18 @@ bool ClauseReader::readClause(DataEntry& entry) {
       words_.skip();
       words_.accept(Keyword::isWord);
       words_.accept(Keyword::to);
-      return readReference(entry, NameReference::Kind::type);
+      return references_.read(entry, NameReference::Kind::type);
     case Keyword::like:
-      return readReference(entry, NameReference::Kind::like);
+      return references_.read(entry, NameReference::Kind::like);
     case Keyword::same:
       words_.skip();
-      return readReference(entry, NameReference::Kind::like);
+      return references_.read(entry, NameReference::Kind::like);
     case Keyword::any:
       words_.skip();
       entry.impliedSize = 1;
       entry.isImpliedNumeric = words_.accept(Keyword::numeric);
       if (!entry.isImpliedNumeric && !words_.accept(Keyword::length)) {
-        return bad(entry, place, "ANY is not followed by LENGTH or NUMERIC");
+        return problems_.badClause(entry.name, place, "ANY is not followed by LENGTH or NUMERIC");
       }
       problems_.tell(EntryRule::notThatLong, place,
                      entry.name + " is of any length: it counts with that of its PICTURE");
@@ -195,7 +188,7 @@ bool ClauseReader::readClause(DataEntry& entry) {
       words_.accept(Keyword::isWord);
       const std::optional<std::int64_t> length = constants_.takeInteger();
       if (!length || *length < 1 || *length > mostByteLength) {
-        return bad(entry, place, "BYTE-LENGTH is no number that is known");
+        return problems_.badClause(entry.name, place, "BYTE-LENGTH is no number that is known");
       }
       entry.byteLength = static_cast<int>(*length);
       return true;
@@ -204,7 +197,7 @@ bool ClauseReader::readClause(DataEntry& entry) {
       words_.skip();
       return passOver(entry, "BASED");
     case Keyword::handle:
-      return readHandle(entry);
+      return usages_.readHandle(entry);
     case Keyword::varying:
       hostVariables_.readVarying(entry);
       return true;
@@ -257,7 +250,7 @@ bool ClauseReader::readClause(DataEntry& entry) {
       words_.accept(Keyword::isWord);
       const std::optional<Usage> usage = words_.peek().meaning.usage;
       if (usage != Usage::national && usage != Usage::bit) {
-        return bad(entry, place, "GROUP-USAGE is neither NATIONAL nor BIT");
+        return problems_.badClause(entry.name, place, "GROUP-USAGE is neither NATIONAL nor BIT");
       }
       entry.ownUsage = usage;
       words_.skip();
@@ -266,87 +259,22 @@ bool ClauseReader::readClause(DataEntry& entry) {
     default:
       break;
   }
-  if (word.meaning.role == KeywordRole::usage) return readUsage(entry);
+  if (word.meaning.role == KeywordRole::usage) return usages_.read(entry);
   problems_.tell(
       EntryRule::unknownClause, place,
       word.token.text + " in the entry of " + entry.name + " begins no clause that is known");
   return false;
 }
 
-bool ClauseReader::readUsage(DataEntry& entry) {
-  const SourcePlace place = words_.peek().token.place;
-  if (words_.accept(Keyword::usage)) words_.accept(Keyword::isWord);
-  if (entry.ownUsage) return bad(entry, place, "USAGE stands there twice");
-  if (hostVariables_.isAtType()) return hostVariables_.readType(entry);
-  const Word& next = words_.peek();
-  if (next.is(Keyword::handle)) return readHandle(entry);
-  if (next.is(TokenKind::word) && next.is(Keyword::name) && !next.meaning.usage) {
-    return readReference(entry, NameReference::Kind::type);
-  }
-  const Word word = words_.take();
-  std::optional<Usage> usage = word.meaning.usage;
-  if (word.is(Keyword::object)) {
-    if (!words_.accept(Keyword::reference)) {
-      return bad(entry, place, "OBJECT is not followed by REFERENCE");
-    }
-    usage = Usage::objectReference;
-  }
-  if (!usage) return bad(entry, place, word.token.text + " is no USAGE that is known");
-  entry.ownUsage = usage;
-  if (isUnsignedUsage(word.token.text)) entry.isUnsigned = true;
-  readUsagePhrases(entry);
-  return true;
-}
-
-// "HANDLE OF FONT LARGE-FONT": what stands for a window, font, thread and the like, in four bytes.
-bool ClauseReader::readHandle(DataEntry& entry) {
-  if (entry.ownUsage) return bad(entry, words_.peek().token.place, "USAGE stands there twice");
-  words_.skip();
-  entry.ownUsage = Usage::binaryLong;
-  if (!words_.accept(Keyword::of)) return true;
-  while (words_.peek().is(TokenKind::word) && !isAtNextEntry(words_) && !isClause(words_.peek())) {
-    words_.skip();
-  }
-  return true;
-}
-
-// What the usages of objects, pointers and binary items say besides.
-void ClauseReader::readUsagePhrases(DataEntry& entry) {
-  if (words_.accept(Keyword::unsignedWord)) {
-    entry.isUnsigned = true;
-    return;
-  }
-  if (words_.accept(Keyword::signedWord)) return;
-  const Usage usage = *entry.ownUsage;
-  if (usage == Usage::comp3 && words_.peek().is(Keyword::with) && words_.peek(1).is(Keyword::no)) {
-    words_.skip();
-  }
-  if (usage == Usage::comp3 && words_.peek().is(Keyword::no) && words_.peek(1).is(Keyword::sign)) {
-    words_.skip();
-    words_.skip();
-    entry.ownUsage = Usage::comp6;
-    return;
-  }
-  const bool isPointer = usage == Usage::pointer || usage == Usage::pointer32 ||
-                         usage == Usage::procedurePointer || usage == Usage::functionPointer;
-  if (isPointer && words_.accept(Keyword::to)) {
-    words_.skip();
-    return;
-  }
-  if (usage != Usage::objectReference) return;
-  if (words_.accept(Keyword::factory)) words_.accept(Keyword::of);
-  if (words_.peek().is(TokenKind::word) && !isClause(words_.peek())) words_.skip();
-  words_.accept(Keyword::only);
-}
-
 bool ClauseReader::readPicture(DataEntry& entry) {
   words_.skip();
   words_.accept(Keyword::isWord);
   const SourcePlace place = words_.peek().token.place;
-  if (entry.picture != none) return bad(entry, place, "PICTURE stands there twice");
+  if (entry.picture != none)
+    return problems_.badClause(entry.name, place, "PICTURE stands there twice");
   const bool isText = words_.peek().is(TokenKind::picture) || words_.peek().is(TokenKind::word) ||
                       words_.peek().is(TokenKind::number);
-  if (!isText) return bad(entry, place, "PICTURE is followed by nothing");
+  if (!isText) return problems_.badClause(entry.name, place, "PICTURE is followed by nothing");
   std::string text = words_.take().token.text;
   if (isPointOfPicture(text, place)) {
     words_.skip();
@@ -372,7 +300,7 @@ bool ClauseReader::readSign(DataEntry& entry) {
   if (words_.accept(Keyword::sign)) words_.accept(Keyword::isWord);
   const bool isLeading = words_.accept(Keyword::leading);
   if (!isLeading && !words_.accept(Keyword::trailing)) {
-    return bad(entry, place, "SIGN is neither LEADING nor TRAILING");
+    return problems_.badClause(entry.name, place, "SIGN is neither LEADING nor TRAILING");
   }
   const bool isSeparate = words_.accept(Keyword::separate);
   if (isSeparate) words_.accept(Keyword::character);
@@ -408,57 +336,6 @@ void ClauseReader::readValue(DataEntry& entry) {
     if (isSection || isEntry) return;
     words_.skip();
   }
-}
-
-bool ClauseReader::readReference(DataEntry& entry, NameReference::Kind kind) {
-  if (kind == NameReference::Kind::redefines || words_.peek().is(Keyword::like)) words_.skip();
-  if (kind == NameReference::Kind::like) {
-    words_.accept(Keyword::isWord);
-    words_.accept(Keyword::as);
-  }
-  NameReference reference;
-  reference.kind = kind;
-  reference.place = words_.peek().token.place;
-  if (!isAtNextEntry(words_)) reference.names = constants_.takeName();
-  if (reference.names.empty()) return bad(entry, reference.place, "a name is missing");
-  if (kind == NameReference::Kind::like && words_.peek().isMark("(") && !readLikeChange(entry)) {
-    return bad(entry, reference.place, "LIKE has no length in its parentheses that is known");
-  }
-  Index& slot = kind == NameReference::Kind::redefines ? entry.reference : entry.type;
-  if (slot != none) return bad(entry, reference.place, "it has a type already");
-  program_.references.push_back(std::move(reference));
-  slot = static_cast<Index>(program_.references.size() - 1);
-  return true;
-}
-
-// LIKE X (+5) makes an item longer, LIKE X (-5) shorter.
-bool ClauseReader::readLikeChange(DataEntry& entry) {
-  constexpr std::int64_t most = 1'000'000;
-  words_.skip();
-  const std::optional<std::int64_t> change = constants_.takeInteger();
-  if (!change || *change < -most || *change > most) return false;
-  entry.likeChange = static_cast<int>(*change);
-  return words_.acceptMark(")");
-}
-
-bool ClauseReader::readRenames(DataEntry& entry) {
-  const SourcePlace place = words_.peek().token.place;
-  if (!entry.isRenaming || entry.reference != none) {
-    return bad(entry, place, "RENAMES stands at level 66 alone");
-  }
-  words_.skip();
-  NameReference reference;
-  reference.kind = NameReference::Kind::renames;
-  reference.place = words_.peek().token.place;
-  reference.names = constants_.takeName();
-  if (words_.accept(Keyword::thru) || words_.accept(Keyword::through)) {
-    reference.through = constants_.takeName();
-    if (reference.through.empty()) return bad(entry, place, "a name is missing behind THRU");
-  }
-  if (reference.names.empty()) return bad(entry, place, "RENAMES names nothing");
-  program_.references.push_back(std::move(reference));
-  entry.reference = static_cast<Index>(program_.references.size() - 1);
-  return true;
 }
 
 }  // namespace as::toolkit

@@ -11,6 +11,8 @@
 #include "toolkit/import/OccursReader.h"
 #include "toolkit/import/PictureTable.h"
 #include "toolkit/import/ProgramEntries.h"
+#include "toolkit/import/ReferenceReader.h"
+#include "toolkit/import/UsageReader.h"
 #include "toolkit/import/WordReader.h"
 
 namespace as::toolkit {
@@ -20,13 +22,14 @@ class ClauseReader {
   ClauseReader(WordReader& words, CobolProgram& program, NameTable& names,
                ConstantReader& constants, EntryProblems& problems)
       : words_(words),
-        program_(program),
         names_(names),
         constants_(constants),
         problems_(problems),
         pictures_(program, constants, problems),
         occurs_(words, program, constants, problems),
-        hostVariables_(words, names, constants, pictures_, problems) {}
+        hostVariables_(words, names, constants, pictures_, problems),
+        references_(words, program, constants, problems),
+        usages_(words, references_, hostVariables_, problems) {}
 
   // The name that follows the level number, if there is one.
   void readName(DataEntry& entry);
@@ -43,27 +46,21 @@ class ClauseReader {
 
  private:
   bool readClause(DataEntry& entry);
-  bool readUsage(DataEntry& entry);
-  bool readHandle(DataEntry& entry);
-  void readUsagePhrases(DataEntry& entry);
   bool readPicture(DataEntry& entry);
   bool isPointOfPicture(const std::string& text, const SourcePlace& place);
   bool readSign(DataEntry& entry);
-  bool readReference(DataEntry& entry, NameReference::Kind kind);
-  bool readLikeChange(DataEntry& entry);
-  bool readRenames(DataEntry& entry);
   bool passOver(const DataEntry& entry, const char* what);
   void readValue(DataEntry& entry);
-  bool bad(const DataEntry& entry, const SourcePlace& place, const std::string& text);
 
   WordReader& words_;
-  CobolProgram& program_;
   NameTable& names_;
   ConstantReader& constants_;
   EntryProblems& problems_;
   PictureTable pictures_;
   OccursReader occurs_;
   HostVariables hostVariables_;
+  ReferenceReader references_;
+  UsageReader usages_;
 };
 
 }  // namespace as::toolkit

@@ -88,6 +88,12 @@ void DataDivisionReader::readSection() {
       return records_.enter(DataSection::localStorage);
     case Keyword::linkage:
       return records_.enter(DataSection::linkage);
+    case Keyword::basedStorage:
+      problems_.tell(EntryRule::passedClause, section.token.place,
+                     "that items are BASED is not held by dictionaries");
+      return records_.enter(DataSection::workingStorage);
+    case Keyword::constant:
+      return records_.enter(DataSection::workingStorage);
     case Keyword::screen:
     case Keyword::report:
     case Keyword::communication:

@@ -39,6 +39,12 @@ class EntryProblems {
 
   void tell(EntryRule rule, const SourcePlace& place, const std::string& text);
 
+  // Tells of a clause in the entry of that name; false, for who could not read it.
+  bool badClause(const std::string& name, const SourcePlace& place, const std::string& text) {
+    tell(EntryRule::badClause, place, name + ": " + text);
+    return false;
+  }
+
   // Whether a note of that rule was told already.
   bool wasNoted(EntryRule rule) const { return noted_[static_cast<std::size_t>(rule)]; }
 

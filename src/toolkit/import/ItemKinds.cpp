@@ -189,9 +189,20 @@ bool ItemKinds::hasKnownSize(DataEntry& entry, const Picture* picture) {
   if (!hasOwnSize && picture == nullptr) return false;
   const bool isSeparate =
       entry.sign == SignClause::leadingSeparate || entry.sign == SignClause::trailingSeparate;
-  const std::optional<int> bytes =
-      bytesOf(dialect_, entry.usage, picture == nullptr ? std::nullopt : std::optional(*picture),
-              isSeparate);
+  const auto bytesNow = [&] {
+    return bytesOf(dialect_, entry.usage,
+                   picture == nullptr ? std::nullopt : std::optional(*picture), isSeparate);
+  };
+  std::optional<int> bytes = bytesNow();
+  const bool isText = picture != nullptr && picture->category != Category::numeric;
+  if (!bytes && !entry.ownUsage && isText) {
+    problems_.tell(EntryRule::groupUsage, entry.place,
+                   entry.name + ": USAGE " + wordOf(entry.usage) +
+                       " of its group does not go with its PICTURE: taken for USAGE DISPLAY");
+    entry.usage = Usage::display;
+    entry.usageFrom = none;
+    bytes = bytesNow();
+  }
   if (!bytes) {
     const bool isNumber = picture != nullptr && picture->category == Category::numeric;
     problems_.tell(EntryRule::badUsage, entry.place,

@@ -9,6 +9,53 @@
 
 namespace as::toolkit {
 
+namespace {
+
+// "ZZ.Z9": what some compilers edit numbers with, though digits and what stands for leading zeros
+// are mixed. Each symbol is a character, in whatever order. Nothing for other pictures.
+std::optional<Picture> oddPicture(const std::string& text, bool isDecimalPointComma) {
+  constexpr long long most = 1000;
+  const char point = isDecimalPointComma ? ',' : '.';
+  std::string plain;
+  long long characters = 0;
+  bool hasFiller = false;
+  for (std::size_t at = 0; at < text.size();) {
+    const char symbol = text[at] == 'z' ? 'Z' : text[at];
+    if (std::string_view("9Z*.,").find(symbol) == std::string_view::npos) return std::nullopt;
+    hasFiller = hasFiller || symbol == 'Z' || symbol == '*';
+    std::size_t end = at + 1;
+    long long times = 1;
+    if (end < text.size() && text[end] == '(') {
+      const std::size_t close = std::min(text.find(')', end), text.size());
+      const std::string number = text.substr(end + 1, close - end - 1);
+      const bool isNumber = !number.empty() && number.size() < 4 &&
+                            number.find_first_not_of("0123456789") == std::string::npos;
+      if (!isNumber || close == text.size()) return std::nullopt;
+      times = std::stoll(number);
+      end = close + 1;
+    }
+    characters += times;
+    if (times == 0 || characters > most) return std::nullopt;
+    plain.append(static_cast<std::size_t>(times), symbol == '*' || symbol == 'Z' ? '9' : symbol);
+    at = end;
+  }
+  const auto points = std::count(plain.begin(), plain.end(), point);
+  const auto digits = std::count(plain.begin(), plain.end(), '9');
+  if (!hasFiller || points > 1 || digits == 0) return std::nullopt;
+  Picture picture;
+  picture.category = Picture::Category::numericEdited;
+  picture.characters = static_cast<int>(characters);
+  picture.digits = static_cast<int>(digits);
+  const std::size_t at = plain.find(point);
+  if (at != std::string::npos) {
+    picture.scale = static_cast<int>(
+        std::count(plain.begin() + static_cast<std::ptrdiff_t>(at), plain.end(), '9'));
+  }
+  return picture;
+}
+
+}  // namespace
+
 // Names of constants in parentheses are as good as numbers.
 std::string PictureTable::withConstants(const std::string& picture) const {
   std::string result;
@@ -70,6 +117,13 @@ Index PictureTable::indexOf(const std::string& written, const SourcePlace& place
   }
   PictureEntry entry{withConstants(written), std::nullopt};
   entry.picture = read(entry.text, written, place);
+  if (!entry.picture) {
+    entry.picture = oddPicture(entry.text, program_.isDecimalPointComma);
+    if (entry.picture) {
+      problems_.tell(EntryRule::oddPicture, place,
+                     entry.text + " has its symbols in an order that other compilers refuse");
+    }
+  }
   if (!entry.picture) {
     problems_.tell(EntryRule::badPicture, place, entry.text + " is no PICTURE that can be read");
   }
