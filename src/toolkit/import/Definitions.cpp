@@ -194,6 +194,20 @@ std::optional<DirectiveValue> Definitions::sumBehind(std::optional<DirectiveValu
   return result;
 }
 
+namespace {
+
+// What DEFINE without a value, or with B'0' or B'1', makes a name.
+bool isTruth(const DirectiveValue& value) {
+  return value.text.empty() || (value.isNumber && (value.number == 0 || value.number == 1));
+}
+
+// Whether a name by itself was the condition.
+bool endsCondition(DirectiveText text) {
+  return text.isAtEnd() || text.accept("AND") || text.accept("OR") || text.accept(")");
+}
+
+}  // namespace
+
 bool Definitions::simpleCondition(DirectiveText& text, const Undefined& undefined) const {
   const bool isName = text.peek().kind == DirectivePart::Kind::word;
   DirectiveText behind = text;
@@ -205,6 +219,9 @@ bool Definitions::simpleCondition(DirectiveText& text, const Undefined& undefine
     return (find(name) != nullptr) != isNot;
   }
   const auto one = valueOf(text, undefined);
+  if (isName && endsCondition(text) && (!one || isTruth(*one))) {
+    return one && (one->text.empty() || one->number != 0);
+  }
   text.accept("IS");
   text.accept("NOT");
   const auto wanted = relation(text);

@@ -42,11 +42,15 @@ void DirectiveText::scan() {
     current_ = {};
     return;
   }
+  // B'1' is as good as 1.
+  const bool isBoolean = rest_.size() > 1 && sameWord(rest_.substr(0, 1), "B") && isQuote(rest_[1]);
+  if (isBoolean) rest_.remove_prefix(1);
   std::size_t size = 1;
   if (isQuote(rest_.front())) {
     const std::size_t end = rest_.find(rest_.front(), 1);
     current_ = {DirectivePart::Kind::literal,
                 rest_.substr(1, end == std::string_view::npos ? std::string_view::npos : end - 1)};
+    if (isBoolean && isNumber(current_.text)) current_.kind = DirectivePart::Kind::number;
     rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + 1);
     return;
   }

@@ -7,6 +7,7 @@
 #include <deque>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "toolkit/import/Characters.h"
 #include "toolkit/import/Replacement.h"
@@ -24,19 +25,37 @@ class TagWords : public TextWordSource {
   void read(TextWord& word) override {
     take(word);
     if (word.kind == TextWord::Kind::literal) takeLiteral(word);
-    if (!word.isMark(":")) return;
-    const TextWord& tag = ahead(0);
-    if (tag.kind != TextWord::Kind::run || !tag.simple || tag.space) return;
-    const TextWord& colon = ahead(1);
-    if (!colon.isMark(":") || colon.space) return;
-    tell(":" + std::string(tag.text) + ":", tag.place);
-    word.kind = TextWord::Kind::run;
-    word.text = tag.text;
-    word.simple = true;
-    ahead_.clear();
+    if (word.isMark(":")) takeBetween(word, ":");
+    if (word.isMark("(") && word.space) takeBetween(word, ")");
   }
 
  private:
+  // ":TAG:", and "(TAG)-NAME", which could be nothing else.
+  void takeBetween(TextWord& word, const char* end) {
+    const TextWord& tag = ahead(0);
+    if (tag.kind != TextWord::Kind::run || !tag.simple || tag.space) return;
+    const TextWord& mark = ahead(1);
+    if (!mark.isMark(end) || mark.space) return;
+    if (word.isMark("(")) {
+      const TextWord& rest = ahead(2);
+      if (rest.kind != TextWord::Kind::run || rest.space || !rest.simple ||
+          !beginsPart(rest.text)) {
+        return;
+      }
+    }
+    tell(std::string(word.text) + std::string(tag.text) + end, tag.place);
+    word.kind = TextWord::Kind::run;
+    word.text = tag.text;
+    word.simple = true;
+    ahead_.pop_front();
+    ahead_.pop_front();
+  }
+
+  // A hyphen, and a letter behind it.
+  static bool beginsPart(std::string_view text) {
+    return text.size() > 1 && text.front() == '-' && isWordCharacter(text[1]) && !isDigit(text[1]);
+  }
+
   // "'TAG'-NAME"
   void takeLiteral(TextWord& word) {
     const TextWord& rest = ahead(0);
@@ -63,8 +82,7 @@ class TagWords : public TextWordSource {
     }
   }
 
-  // The word that comes so many words behind the last one. REQUIRES: those in front are no
-  // barriers.
+  // The word that comes so many words behind the last one. REQUIRES: those in front are no ends.
   const TextWord& ahead(std::size_t number) {
     while (ahead_.size() <= number) {
       ahead_.emplace_back();

@@ -74,7 +74,8 @@ bool WordScanner::isFollowedByBlank(const char* separator) const {
 bool WordScanner::isComment(const char* bar) const {
   const char before = bar == line_.text.data() ? ' ' : bar[-1];
   const char behind = bar + 1 == end_ ? ' ' : bar[1];
-  return !lenient_ && isCommentBar(before, behind);
+  // Of two bars, the first begins it.
+  return !lenient_ && (isCommentBar(before, behind) || (behind == '|' && isBlank(before)));
 }
 
 void WordScanner::read(TextWord& word) {
