@@ -71,8 +71,8 @@ class Worker {
     if (process_ < 0) throw std::system_error(errno, std::generic_category());
     if (process_ == 0) {
       ::close(ends[0]);
-      bool isHeard = true;
       try {
+        bool isHeard = true;
         for (std::size_t i = first; i < count && isHeard; i += step) {
           isHeard = send(ends[1], work(i));
         }

@@ -172,10 +172,10 @@ void ReadAttributes::makeNodes() {
   DOMDocumentImpl* const document = documentOf(fOwnerNode);
   try {
     reserve(count);
-    for (const Attribute& read : std::span(read_, count)) {
+    for (const Attribute& attribute : std::span(read_, count)) {
       auto* const node = new (document, xercesc::DOMMemoryManager::ATTR_NS_OBJECT)
-          ReadAttribute(document, nullptr, nullptr, read.name, read.name);
-      node->setValueFast(read.value);
+          ReadAttribute(document, nullptr, nullptr, attribute.name, attribute.name);
+      node->setValueFast(attribute.value);
       // Takes the place of one that an attempt has left which failed.
       setNamedItemNSFast(node);
     }

@@ -174,9 +174,9 @@ class Conversion {
         siblings.names.reserve(childName);
       }
     }
-    std::size_t& count = siblings.counts[name];
-    if (count == 1) return name;
-    --count;
+    std::size_t& bearers = siblings.counts[name];
+    if (bearers == 1) return name;
+    --bearers;
     std::string unique = siblings.names.unique(name);
     ++siblings.counts[unique];
     return unique;

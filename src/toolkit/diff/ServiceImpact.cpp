@@ -87,7 +87,7 @@ void ServiceImpact::compareMapping(as::IMapping& mapping, const std::string& pla
   const std::string newPath = after_.pathOf(added);
   if (newPath != before_.pathOf(old)) tell("mapping-renamed", place, path, newPath, true, noChange);
   bool isTold = false;
-  const auto compare = [&](ItemNumber at, bool isAround) {
+  const auto tellChangesOf = [&](ItemNumber at, bool isAround) {
     for (const ChangeNumber number : items_.changesOf(at)) {
       const Change change = changes_.all()[number];
       if (isAround && !isOfTables(change.kind)) continue;
@@ -100,9 +100,9 @@ void ServiceImpact::compareMapping(as::IMapping& mapping, const std::string& pla
       isTold = true;
     }
   };
-  compare(old, false);
+  tellChangesOf(old, false);
   for (ItemNumber at = before_[old].parent; at != noItem; at = before_[at].parent) {
-    compare(at, true);
+    tellChangesOf(at, true);
   }
   // What a group has become is told by what is in it.
   const bool isResized = before_[old].length != after_[added].length;

@@ -86,11 +86,11 @@ class SarifWriter : public FindingsWriter {
   }
 
   static std::string messageOf(const Finding& finding) {
-    std::string text = finding.place;
-    if (!text.empty()) text += ": ";
-    text += finding.problem;
-    if (!finding.advice.empty()) text += "; " + finding.advice;
-    return text;
+    std::string words = finding.place;
+    if (!words.empty()) words += ": ";
+    words += finding.problem;
+    if (!finding.advice.empty()) words += "; " + finding.advice;
+    return words;
   }
 
   void text(const char* key, const std::string& text) {

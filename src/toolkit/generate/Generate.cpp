@@ -57,15 +57,15 @@ Generated makeOfService(const gen::Generator& generator, as::IService& service,
                         as::IProgram* program, const Findings& lintFindings,
                         const GenerateOptions& options) {
   Findings reasons = reasonsAgainst(lintFindings);
-  const auto& flavours = generator.kind().flavours;
+  const auto& wanted = generator.kind().flavours;
   const Flavour& flavour = flavourOf(service);
-  if (std::none_of(flavours.begin(), flavours.end(), [&flavour](const char* word) {
+  if (std::none_of(wanted.begin(), wanted.end(), [&flavour](const char* word) {
         return std::string_view(word) == flavour.word;
       })) {
     reasons.push_back(
         {"other-flavour", Severity::error, "service",
          std::string(generator.kind().word) + " is not made of " + flavour.name + " services",
-         std::string("convert it first, to ") + flavours.front()});
+         std::string("convert it first, to ") + wanted.front()});
   }
   if (countOf(reasons, Severity::error) > 0) return {{}, std::move(reasons)};
   gen::ServiceModel model = gen::modelOf(service, program);

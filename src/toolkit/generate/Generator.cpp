@@ -15,9 +15,9 @@ Generator::~Generator() = default;
 std::string Job::option(std::string_view name) const {
   const auto chosen = options.values.find(name);
   if (chosen != options.values.end()) return chosen->second;
-  for (const GeneratorOption& option : kind.options) {
-    if (name != option.name) continue;
-    const std::string_view values = option.values;
+  for (const GeneratorOption& known : kind.options) {
+    if (name != known.name) continue;
+    const std::string_view values = known.values;
     return std::string(values.substr(0, values.find('|')));
   }
   return "";

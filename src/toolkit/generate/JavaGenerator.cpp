@@ -116,11 +116,11 @@ class JavaText {
                                                  {"BigInteger", "java.math.BigInteger"},
                                                  {"List", "java.util.List"}};
     bool isFirst = true;
-    for (const auto& [word, name] : imports) {
+    for (const auto& [word, imported] : imports) {
       if (!uses(word)) continue;
       if (isFirst) out_.line();
       isFirst = false;
-      out_.line(std::string("import ") + name + ";");
+      out_.line(std::string("import ") + imported + ";");
     }
   }
 
@@ -237,9 +237,9 @@ class JavaText {
     writeDoc("Makes one without values.");
     out_.line("public " + structure.name + "() {}");
     for (const Member& member : structure.members) {
-      const std::string text = docText(textAbout(model_, member));
+      const std::string value = docText(textAbout(model_, member));
       out_.line();
-      out_.line("/** {@return " + text + "} */");
+      out_.line("/** {@return " + value + "} */");
       out_.line("public " + typeOf(member) + " " + member.name + "() {");
       out_.line("  return this." + member.name + ";");
       out_.line("}");

@@ -195,9 +195,9 @@ class Page {
     for (const Mapping& mapping : field.mappings) {
       if (mapping.item == none) continue;
       const Item& item = model_.items[mapping.item];
-      std::string text = plain(item.picture);
-      if (!item.usage.empty()) text += (text.empty() ? "" : " ") + plain(item.usage);
-      join(cell, text);
+      std::string words = plain(item.picture);
+      if (!item.usage.empty()) words += (words.empty() ? "" : " ") + plain(item.usage);
+      join(cell, words);
     }
     return cell;
   }
@@ -207,13 +207,13 @@ class Page {
     const Item* const item = model_.itemOf(field);
     if (item == nullptr || field.reference != none) return cell;
     for (const Condition& condition : item->conditions) {
-      std::string text = plain(condition.name) + ":";
+      std::string words = plain(condition.name) + ":";
       for (std::size_t i = 0; i < condition.values.size(); ++i) {
         const ConditionValue& value = condition.values[i];
-        text += (i == 0 ? " " : ", ") + plain(quote(value.from));
-        if (value.isRange) text += " to " + plain(quote(value.to));
+        words += (i == 0 ? " " : ", ") + plain(quote(value.from));
+        if (value.isRange) words += " to " + plain(quote(value.to));
       }
-      join(cell, text);
+      join(cell, words);
     }
     return cell;
   }

@@ -216,14 +216,14 @@ void SchemaSet::giveNames() {
   for (std::size_t i = 0; i < types_.size(); ++i) {
     wishes.push_back({wishes[i].name + ".value", wishes[i].place + " value", true});
   }
-  const std::vector<std::string> names = names_.namesIn(wishes);
+  const std::vector<std::string> given = names_.namesIn(wishes);
   const std::size_t values = types_.size() + namedTypes_.size();
   for (std::size_t i = 0; i < types_.size(); ++i) {
-    types_[i].name = names[i];
-    types_[i].valueName = names[values + i];
+    types_[i].name = given[i];
+    types_[i].valueName = given[values + i];
   }
   for (std::size_t i = 0; i < namedTypes_.size(); ++i) {
-    namedTypes_[i].name = names[types_.size() + i];
+    namedTypes_[i].name = given[types_.size() + i];
   }
   giveElementNames();
 }
@@ -234,8 +234,8 @@ void SchemaSet::giveElementNames() {
   for (const auto& [uri, handles] : scopes) {
     std::vector<NameWish> wishes;
     for (const Handle handle : handles) wishes.push_back(elements_[handle].wish);
-    const std::vector<std::string> names = names_.namesIn(wishes);
-    for (std::size_t i = 0; i < handles.size(); ++i) elements_[handles[i]].name = names[i];
+    const std::vector<std::string> given = names_.namesIn(wishes);
+    for (std::size_t i = 0; i < handles.size(); ++i) elements_[handles[i]].name = given[i];
   }
 }
 
@@ -266,10 +266,10 @@ std::vector<std::string> SchemaSet::memberNames(const Members& members) {
   // A field has one name, whichever way it goes.
   std::vector<const Field*> all;
   for (const Field& field : members.all) all.push_back(&field);
-  const std::vector<std::string> names = namesOf(all, members.place);
+  const std::vector<std::string> given = namesOf(all, members.place);
   std::vector<std::string> chosen;
   for (const Field* const field : members.chosen()) {
-    chosen.push_back(names[static_cast<std::size_t>(field - members.all.data())]);
+    chosen.push_back(given[static_cast<std::size_t>(field - members.all.data())]);
   }
   return chosen;
 }

@@ -145,7 +145,6 @@ class Builder {
   // A parameter, or the definition of that number, with all its fields, into way.root.
   void readTree(as::IField& root, Way& way, std::size_t definition) {
     struct Level {
-      as::IField* field;
       std::size_t structure;
       std::size_t tables;
     };
@@ -154,7 +153,7 @@ class Builder {
     const bool isOpen = open(root, *way.root, way, definition, none);
     readMappings(root, way, none, 0, false);
     if (!isOpen) return;
-    std::vector<Level> levels = {{&root, way.root->structure, way.tables.size()}};
+    std::vector<Level> levels = {{way.root->structure, way.tables.size()}};
     readAttributes(root, way, levels.back().structure);
     walkFields(
         root.getChildren(),
@@ -163,7 +162,7 @@ class Builder {
           const std::size_t structure = around.structure;
           way.tables.resize(around.tables);
           if (structure == none) {
-            levels.push_back({&field, none, around.tables});
+            levels.push_back({none, around.tables});
             return;
           }
           const std::size_t member = model_.types[structure].fields.size();
@@ -174,7 +173,7 @@ class Builder {
           model_.types[structure].fields.push_back(std::move(read));
           readMappings(field, way, structure, member, false);
           if (hasParts) readAttributes(field, way, own);
-          levels.push_back({&field, hasParts ? own : none, way.tables.size()});
+          levels.push_back({hasParts ? own : none, way.tables.size()});
         },
         [&](as::IField&) { levels.pop_back(); });
   }
@@ -306,14 +305,14 @@ class Builder {
     const std::vector<int> inner = dataItemSubscripts(mapping);
     const std::vector<int> outer = interfaceSubscripts(mapping);
     if (inner.size() != item.tables.size()) return;
-    std::size_t at = inner.size();
+    std::size_t table = inner.size();
     std::size_t place = way.tables.size();
     for (std::size_t i = outer.size(); i > 0 && place > 0; --i) {
       --place;
       if (outer[i - 1] != everyOccurrence) continue;
-      while (at > 0 && inner[at - 1] != everyOccurrence) --at;
-      if (at == 0) return;
-      tell(this->at(way.tables[place], *way.root), item.tables[--at]);
+      while (table > 0 && inner[table - 1] != everyOccurrence) --table;
+      if (table == 0) return;
+      tell(at(way.tables[place], *way.root), item.tables[--table]);
     }
   }
 

@@ -23,14 +23,14 @@ enum class CharacterClass : std::uint8_t {
 namespace characters {
 
 constexpr std::array<CharacterClass, 256> makeClasses() {
-  std::array<CharacterClass, 256> classes{};
-  for (std::size_t i = 0; i < classes.size(); i++) {
-    classes[i] = i <= ' ' || i == 0x7F ? CharacterClass::blank
-                 : i >= 0x80           ? CharacterClass::word
-                                       : CharacterClass::inRun;
+  std::array<CharacterClass, 256> made{};
+  for (std::size_t i = 0; i < made.size(); i++) {
+    made[i] = i <= ' ' || i == 0x7F ? CharacterClass::blank
+              : i >= 0x80           ? CharacterClass::word
+                                    : CharacterClass::inRun;
   }
   const auto set = [&](std::string_view all, CharacterClass to) {
-    for (const char one : all) classes[static_cast<unsigned char>(one)] = to;
+    for (const char one : all) made[static_cast<unsigned char>(one)] = to;
   };
   set("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_$#@", CharacterClass::word);
   set(".,;", CharacterClass::separator);
@@ -38,7 +38,7 @@ constexpr std::array<CharacterClass, 256> makeClasses() {
   set("|", CharacterClass::bar);
   set("\"'", CharacterClass::quote);
   set("():&=<>", CharacterClass::mark);
-  return classes;
+  return made;
 }
 
 inline constexpr std::array<CharacterClass, 256> classes = makeClasses();

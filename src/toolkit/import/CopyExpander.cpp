@@ -367,10 +367,10 @@ void CopyExpander::include(const TextWord& name, const std::string& library,
   }
   // Told, it is that of the lines around, which directives may have changed.
   const SourceFormat around = frames_.back()->lines.format();
-  const SourceFormat format = options_.format != SourceFormat::recognised
-                                  ? around
-                                  : recognisedFormat(entry->text.text, around);
-  push(entry->text, format, entry->name, file, std::move(changes));
+  const SourceFormat entryFormat = options_.format != SourceFormat::recognised
+                                       ? around
+                                       : recognisedFormat(entry->text.text, around);
+  push(entry->text, entryFormat, entry->name, file, std::move(changes));
 }
 
 }  // namespace as::toolkit

@@ -190,10 +190,8 @@ void ProgramReader::readProgramId() {
   if (words_.accept(Keyword::as) && words_.peek().is(TokenKind::literal)) {
     entryName = words_.take().token.text;
   }
-  bool isPrototype = false;
   while (!words_.peek().is(TokenKind::period) && !words_.atEnd() &&
          !words_.peek(1).is(Keyword::division)) {
-    isPrototype = words_.peek().is(Keyword::prototype) || isPrototype;
     words_.skip();
   }
   const std::size_t errors = problems_.errors();

@@ -72,12 +72,12 @@ as::IDataItem* ProgramFacts::nearBeside(const std::string& path) {
 
 std::string ProgramFacts::pathMeant(const std::string& path) {
   if (!names_) findNames();
-  const std::string name = path.substr(path.rfind('.') + 1);
+  const std::string last = path.substr(path.rfind('.') + 1);
   as::IDataItem* meant = nullptr;
-  if (const auto same = numbers_.find(name); same != numbers_.end()) {
+  if (const auto same = numbers_.find(last); same != numbers_.end()) {
     meant = firstOfName_[same->second];
   } else if (meant = nearBeside(path); meant == nullptr) {
-    const std::optional<std::size_t> nearest = names_->nearestTo(name);
+    const std::optional<std::size_t> nearest = names_->nearestTo(last);
     if (nearest) meant = firstOfName_[*nearest];
   }
   if (meant == nullptr) return "";
