@@ -6,9 +6,7 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 
 #include "as/CASException.h"
 #include "as/toolkit/Text.h"
@@ -16,7 +14,7 @@
 #include "cli/Messages.h"
 #include "cli/Parcel.h"
 #include "cli/Progress.h"
-#include "cli/SchemaDirectory.h"
+#include "cli/TextFile.h"
 #include "cli/Workers.h"
 
 namespace cli {
@@ -177,13 +175,7 @@ class DiffCommand : public Command {
 
   bool readRules() {
     for (const std::string& file : ruleFiles_) {
-      std::ifstream in(file, std::ios::binary);
-      const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-      if (!in.is_open()) {
-        printError("the rules in '" + file + "' cannot be read");
-        return false;
-      }
-      const std::vector<std::string> rules = toolkit::allowRulesIn(text);
+      const std::vector<std::string> rules = toolkit::allowRulesIn(textOfFile(file));
       rules_.insert(rules_.end(), rules.begin(), rules.end());
     }
     return std::all_of(rules_.begin(), rules_.end(), isRule);

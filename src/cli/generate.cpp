@@ -5,10 +5,8 @@
 #include <cstddef>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <iomanip>
 #include <iostream>
-#include <iterator>
 #include <set>
 
 #include "as/toolkit/Files.h"
@@ -17,6 +15,7 @@
 #include "cli/Inputs.h"
 #include "cli/Messages.h"
 #include "cli/Output.h"
+#include "cli/TextFile.h"
 
 namespace cli {
 
@@ -92,7 +91,7 @@ class Generate : public Command {
     if (!problem.empty()) return wrong(problem);
     if (record_) options_.record = *record_;
     return withReader(schemas, [&](const toolkit::DocumentReader& reader) {
-      if (names_ && !readNames()) return exitRefused;
+      if (names_) options_.names = toolkit::readChosenNames(textOfFile(*names_), *names_);
       return make(reader, *kind);
     });
   }
@@ -101,17 +100,6 @@ class Generate : public Command {
   static int wrong(const std::string& text) {
     printError(toolkit::printable(text));
     return exitUsage;
-  }
-
-  bool readNames() {
-    std::ifstream in(*names_, std::ios::binary);
-    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    if (!in.good() && !in.eof()) {
-      printRefusal({*names_, 0, 0, "the file cannot be read", ""});
-      return false;
-    }
-    options_.names = toolkit::readChosenNames(text, *names_);
-    return true;
   }
 
   int make(const toolkit::DocumentReader& reader, const toolkit::GeneratorKind& kind) {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <set>
 #include <system_error>
 
 #include "as/toolkit/Files.h"
@@ -91,9 +92,8 @@ class Import : public Command {
     workThrough(
         tasks_.size(), jobs_, [this](std::size_t task) { return import(tasks_[task]); },
         [&](std::size_t task, const WorkOutcome& outcome) {
-          if (!outcome.isFine) ++refused;
           progress.clear();
-          tell(task, outcome);
+          if (!tell(task, outcome) || !outcome.isFine) ++refused;
           progress.show(task + 1);
         });
     report_.end();
@@ -150,7 +150,20 @@ class Import : public Command {
       printError("there are no sources *.cbl, *.cob, *.cobol or *.pco");
       return exitRefused;
     }
-    return exitFine;
+    return areOutputsApart() ? exitFine : exitRefused;
+  }
+
+  // False, after a message, when two sources would be written to one dictionary.
+  bool areOutputsApart() const {
+    std::set<fs::path> taken;
+    for (const Task& task : tasks_) {
+      if (task.output.empty() || taken.insert(fs::path(task.output).lexically_normal()).second) {
+        continue;
+      }
+      printError("two documents would be written to " + task.output);
+      return false;
+    }
+    return true;
   }
 
   void addTask(const fs::path& folder, const fs::path& source) {
@@ -161,7 +174,8 @@ class Import : public Command {
   }
 
   // The outcome's results are a parcel: how many were refused, and the refusals; how many findings
-  // there are, and these; what is explained; and what else is the matter.
+  // there are, and these; what is explained; what else is the matter; and how many files were
+  // written, and their names.
   WorkOutcome import(const Task& task) const {
     WorkOutcome outcome;
     Parcel parcel;
@@ -169,8 +183,9 @@ class Import : public Command {
       std::error_code failure;
       const fs::path folder = fs::path(task.output).parent_path();
       if (isFolder_ && !folder.empty()) fs::create_directories(folder, failure);
-      const toolkit::Imported imported =
-          toolkit::importCobolFile(task.source, task.output, folders_, options_).imported;
+      const toolkit::ImportedFile made =
+          toolkit::importCobolFile(task.source, task.output, folders_, options_);
+      const toolkit::Imported& imported = made.imported;
       outcome.isFine = countOf(imported.findings, toolkit::Severity::error) == 0;
       parcel.put(std::size_t{0});
       parcel.put(imported.findings.size());
@@ -180,6 +195,8 @@ class Import : public Command {
       const bool isLost = explained_ && explanation.empty();
       outcome.isFine = outcome.isFine && !isLost;
       parcel.put(isLost ? "there is no item " + *explained_ : std::string());
+      parcel.put(made.written.size());
+      for (const std::string& file : made.written) parcel.put(file);
     } catch (const toolkit::RefusedDocument& refused) {
       parcel.put(std::size_t{1});
       parcel.put(refused.refusal());
@@ -188,6 +205,7 @@ class Import : public Command {
       parcel.put(std::size_t{0});
       parcel.put(std::string());
       parcel.put(std::string(failure.what()));
+      parcel.put(std::size_t{0});
     }
     outcome.results = parcel.take();
     return outcome;
@@ -221,23 +239,32 @@ class Import : public Command {
     return result;
   }
 
-  void tell(std::size_t task, const WorkOutcome& outcome) {
+  // False when something is the matter that the work at it by itself could not see.
+  bool tell(std::size_t task, const WorkOutcome& outcome) {
     if (outcome.results.empty()) {
       toolkit::Refusal refusal;
       refusal.file = tasks_[task].source.name;
       refusal.text = "the import came to no end";
       report_.add(refusal);
-      return;
+      return false;
     }
     OpenedParcel parcel(outcome.results);
     if (parcel.number() > 0) {
       report_.add(parcel.refusal());
-      return;
+      return false;
     }
     for (std::size_t left = parcel.number(); left > 0; --left) report_.add(parcel.fileFinding());
     std::cout << parcel.text();
     const std::string trouble = parcel.text();
     if (!trouble.empty()) printError(trouble);
+    bool isFine = true;
+    for (std::size_t left = parcel.number(); left > 0; --left) {
+      const std::string file = parcel.text();
+      if (written_.insert(fs::path(file).lexically_normal()).second) continue;
+      printError("two programs were written to " + file);
+      isFine = false;
+    }
+    return isFine;
   }
 
   std::vector<std::string> files_;
@@ -252,7 +279,8 @@ class Import : public Command {
   toolkit::ImportOptions options_;
   FindingsReport report_;
   std::vector<Task> tasks_;
-  bool isFolder_ = false;  // Whether the output is one.
+  bool isFolder_ = false;       // Whether the output is one.
+  std::set<fs::path> written_;  // So far.
 };
 
 }  // namespace

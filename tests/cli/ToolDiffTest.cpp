@@ -56,9 +56,11 @@ TEST_F(ToolDiffTest, AnUnknownKindIsWrongUsage) {
 }
 
 TEST_F(ToolDiffTest, MissingRulesAreWrongUsage) {
-  const test::ToolOutcome outcome = run({"diff", "old.xml", "new.xml", "--allow-file", "none"});
-  EXPECT_EQ(outcome.exitCode, 2);
-  EXPECT_THAT(outcome.err, HasSubstr("'none' cannot be read"));
+  for (const auto& [file, why] : {std::pair("none", "No such file"), std::pair(".", "Is a dir")}) {
+    const test::ToolOutcome outcome = run({"diff", "old.xml", "new.xml", "--allow-file", file});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_THAT(outcome.err, StartsWith(file + std::string(": error: cannot be read: ") + why));
+  }
 }
 
 TEST_F(ToolDiffTest, ARefusedDocumentIsNoAnswer) {

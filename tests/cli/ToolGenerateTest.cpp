@@ -87,7 +87,43 @@ TEST_F(ToolGenerateTest, TakesNamesFromAFile) {
   write("names", "Savings deposits = Deposits\n");
   EXPECT_EQ(generate("wsdl", "DEPINT01-ws.xml", {"-o", "out", "--names", "names"}).exitCode, 0);
   EXPECT_THAT(contentOf(pathOf("out")), HasSubstr("<wsdl:service name=\"Deposits\">"));
-  EXPECT_EQ(generate("wsdl", "DEPINT01-ws.xml", {"-o", "out", "--names", "none"}).exitCode, 1);
+  for (const auto& [file, why] : {std::pair("none", "No such file"), std::pair(".", "Is a dir")}) {
+    const test::ToolOutcome outcome =
+        generate("wsdl", "DEPINT01-ws.xml", {"-o", "out", "--names", file});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_THAT(outcome.err, HasSubstr(file + std::string(": error: cannot be read: ") + why));
+  }
+}
+
+// Nor does a link to it.
+TEST_F(ToolGenerateTest, NothingTakesThePlaceOfWhatItIsMadeOf) {
+  for (const char* const file : {"PAYSLIP.xml", "PAYSLIP-ws.xml"}) {
+    std::filesystem::copy(std::string(AS_EXAMPLES_DIR "/") + file, pathOf(file));
+  }
+  std::filesystem::create_symlink("PAYSLIP.xml", pathOf("link"));
+  const struct {
+    const char* document;
+    const char* output;
+    const char* what;
+  } rows[] = {{"PAYSLIP.xml", "PAYSLIP.xml", "document"},
+              {"PAYSLIP.xml", "link", "document"},
+              {"PAYSLIP-ws.xml", "./PAYSLIP-ws.xml", "document"},
+              {"PAYSLIP-ws.xml", "PAYSLIP.xml", "dictionary"}};
+  for (const auto& row : rows) {
+    const test::ToolOutcome outcome = run({"generate", "markdown", row.document, "-o", row.output});
+    EXPECT_EQ(outcome.exitCode, 1) << row.output;
+    EXPECT_EQ(outcome.err, std::string(row.output) + ": error: this is the " + row.what +
+                               "\nhint: name another file\n");
+    EXPECT_EQ(run({"validate", "-q", "PAYSLIP.xml", "PAYSLIP-ws.xml"}).exitCode, 0);
+  }
+}
+
+TEST_F(ToolGenerateTest, ADictionaryNamedByItselfIsKept) {
+  std::filesystem::copy(AS_EXAMPLES_DIR "/PAYSLIP.xml", pathOf("d.xml"));
+  const test::ToolOutcome outcome = run({"generate", "markdown", AS_EXAMPLES_DIR "/PAYSLIP-ws.xml",
+                                         "--dictionary", "d.xml", "-o", "d.xml"});
+  EXPECT_THAT(outcome.err, HasSubstr("d.xml: error: this is the dictionary\n"));
+  EXPECT_EQ(run({"validate", "-q", "d.xml"}).exitCode, 0);
 }
 
 TEST_F(ToolGenerateTest, WhatIsMadeOfSeveralGoesToFoldersCalledLikeThem) {

@@ -188,10 +188,55 @@ TEST_F(ToolImportTest, SearchesFoldersWholeToldSoOrNot) {
   }
 }
 
+TEST_F(ToolImportTest, NoDictionaryTakesThePlaceOfItsSource) {
+  const std::string source = program("A", "01 R PIC X.");
+  write("a.cbl", source);
+  std::filesystem::create_symlink("a.cbl", pathOf("link"));
+  for (const char* const output : {"a.cbl", "./a.cbl", "link"}) {
+    const test::ToolOutcome outcome = run({"import", "a.cbl", "-o", output});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.err,
+              std::string(output) + ": error: this is the source\n" + "hint: name another file\n");
+    EXPECT_EQ(contentOf(pathOf("a.cbl")), source);
+  }
+}
+
+TEST_F(ToolImportTest, WritesNoTwoSourcesToOneDictionary) {
+  makeFolder("in");
+  makeFolder("in/b");
+  for (const char* const source : {"in/a.cbl", "in/a.cob", "in/b/a.cbl"}) {
+    write(source, program("A", "01 R PIC X."));
+  }
+  const std::vector<std::vector<std::string>> sources = {
+      {"in"}, {"in/a.cbl", "in/b/a.cbl"}, {"in/a.cbl", "in/a.cbl"}};
+  for (const std::vector<std::string>& named : sources) {
+    std::vector<std::string> arguments = {"import", "-o", "out"};
+    arguments.insert(arguments.end(), named.begin(), named.end());
+    const test::ToolOutcome outcome = run(arguments);
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.err, "agentservices: error: two documents would be written to out/a.xml\n");
+    EXPECT_FALSE(exists("out"));
+  }
+  EXPECT_EQ(run({"import", "in", "--explain", "R"}).exitCode, 0) << "nothing is written";
+}
+
+// What the second program of a source is called is only known when it was read.
+TEST_F(ToolImportTest, TellsWhenTwoProgramsWereWrittenToOneFile) {
+  makeFolder("in");
+  write("in/a.cbl", program("A", "01 R PIC X.") + "       END PROGRAM A.\n" +
+                        program("B", "01 R PIC X.") + "       END PROGRAM B.\n");
+  write("in/a-B.cbl", program("C", "01 R PIC X."));
+  for (const char* const jobs : {"1", "2"}) {
+    const test::ToolOutcome outcome = run({"import", "in", "-o", "out", "--jobs", jobs});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.err, "agentservices: error: two programs were written to out/a-B.xml\n");
+  }
+}
+
 TEST_F(ToolImportTest, RefusesWhatItCannotRead) {
   const test::ToolOutcome outcome = run({"import", "none.cbl", "-o", "a.xml"});
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.err, HasSubstr("none.cbl: error: it cannot be read"));
+  EXPECT_THAT(outcome.err, HasSubstr("none.cbl: error: it cannot be read: No such file"));
 }
 
 TEST_F(ToolImportTest, RefusesWrongUsage) {

@@ -84,6 +84,17 @@ TEST_F(BaselineTest, RefusesWhatIsNone) {
   }
 }
 
+TEST_F(BaselineTest, TakesThePlaceOfNothingElse) {
+  write("s.xml", "<service/>");
+  const toolkit::Refusal refusal = test::refusalOf([] { toolkit::Baseline("s.xml").write(); });
+  EXPECT_EQ(refusal.text, "holds something other than a baseline of findings");
+  EXPECT_EQ(test::contentOf("s.xml"), "<service/>");
+  write("empty.json", "");
+  for (const char* const file : {"empty.json", "new.json", "new.json", "/dev/null"}) {
+    EXPECT_NO_THROW(toolkit::Baseline(file).write()) << file;
+  }
+}
+
 TEST_F(BaselineTest, PassesOverRowsThatAreNone) {
   write("known.json",
         "{\"kind\": \"agentservices lint baseline 1\", \"findings\": [1, null, {\"file\": 1}, "

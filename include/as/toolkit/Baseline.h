@@ -35,7 +35,8 @@ class AS_EXPORT Baseline {
   // How many were added and not taken: what is not found any more.
   std::size_t left() const;
 
-  // Throws FileError (see Files.h).
+  // Throws RefusedDocument when `file` holds something that is no baseline, and FileError (see
+  // Files.h).
   void write() const;
 
  private:

@@ -6,6 +6,7 @@
 #include "as/toolkit/Files.h"
 #include "toolkit/convert/Conversion.h"
 #include "toolkit/findings/Report.h"
+#include "toolkit/io/OutputCheck.h"
 #include "toolkit/io/ServiceText.h"
 
 namespace as::toolkit {
@@ -55,7 +56,7 @@ ConvertedService convertServiceFile(const DocumentReader& reader, const Document
   std::optional<ItemIndex> items;
   if (!named.empty()) {
     const std::string dictionary = besideFile(file, named);
-    checkOutput(output, dictionary);
+    checkOutput(output, dictionary, "dictionary");
     try {
       program = reader.readDictionary(dictionary);
       items.emplace(*program);

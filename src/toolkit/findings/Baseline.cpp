@@ -30,6 +30,13 @@ bool isBaseline(const json& content) {
          content["findings"].is_array();
 }
 
+// A document that was named in its place by mistake is not lost.
+bool mayBeReplaced(const std::string& file) {
+  std::string text;
+  if (!readRegularFile(file, text) || text.empty()) return true;
+  return isBaseline(json::parse(text, nullptr, false));
+}
+
 }  // namespace
 
 Baseline::Baseline(std::string file) : file_(std::move(file)) {}
@@ -92,6 +99,10 @@ void Baseline::write() const {
   }
   writer.end();
   writer.end();
+  if (!mayBeReplaced(file_)) {
+    throw RefusedDocument(
+        {file_, 0, 0, "holds something other than a baseline of findings", "name another file"});
+  }
   replaceFile(file_, out.str());
 }
 

@@ -10,6 +10,7 @@
 #include "as/toolkit/Lint.h"
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/ModelBuilder.h"
+#include "toolkit/io/OutputCheck.h"
 #include "toolkit/lint/LintedService.h"
 #include "toolkit/text/Phrases.h"
 
@@ -94,6 +95,35 @@ std::vector<FileContent> placed(std::vector<GeneratedFile>& files, const std::st
     if (failure) throw FileError(output + " cannot be made: " + failure.message());
   }
   return contents;
+}
+
+// What was made of a document, and the dictionary that had a part in it; empty for none.
+struct MadeOfDocument {
+  Generated made;
+  std::string dictionary;
+};
+
+MadeOfDocument makeOfDocument(const DocumentReader& reader, const GeneratorKind& kind,
+                              const DocumentSource& source, const GenerateOptions& options,
+                              const std::optional<std::string>& dictionary) {
+  GenerateOptions named = options;
+  if (named.source.empty()) named.source = fs::path(source.name).filename().string();
+  const Document document = reader.read(source);
+  if (document.dictionary) {
+    if (!kind.takesDictionaries) {
+      throw RefusedDocument({source.name, 0, 0,
+                             std::string(kind.word) + " is made of services, this is a dictionary",
+                             "make a service of it with 'new'", true});
+    }
+    return {generate(kind, *document.dictionary, named), ""};
+  }
+  const LintedService linted = lintRead(reader, *document.service, source.name, dictionary);
+  const std::string own = document.service->getDDFilename();
+  return {makeOfService(generatorOf(kind), *document.service, linted.program.get(), linted.findings,
+                        named),
+          dictionary    ? *dictionary
+          : own.empty() ? own
+                        : besideFile(source.name, own)};
 }
 
 }  // namespace
@@ -181,32 +211,23 @@ Generated generate(const GeneratorKind& kind, as::IProgram& program,
 Generated generateFrom(const DocumentReader& reader, const GeneratorKind& kind,
                        const DocumentSource& source, const GenerateOptions& options,
                        const std::optional<std::string>& dictionary) {
-  GenerateOptions named = options;
-  if (named.source.empty()) named.source = fs::path(source.name).filename().string();
-  const Document document = reader.read(source);
-  if (document.dictionary) {
-    if (!kind.takesDictionaries) {
-      throw RefusedDocument({source.name, 0, 0,
-                             std::string(kind.word) + " is made of services, this is a dictionary",
-                             "make a service of it with 'new'", true});
-    }
-    return generate(kind, *document.dictionary, named);
-  }
-  const LintedService linted = lintRead(reader, *document.service, source.name, dictionary);
-  return makeOfService(generatorOf(kind), *document.service, linted.program.get(), linted.findings,
-                       named);
+  return makeOfDocument(reader, kind, source, options, dictionary).made;
 }
 
 GeneratedOutput generateFiles(const DocumentReader& reader, const GeneratorKind& kind,
                               const DocumentSource& source, const std::string& output,
                               const GenerateOptions& options,
                               const std::optional<std::string>& dictionary) {
-  Generated made = generateFrom(reader, kind, source, options, dictionary);
+  auto [made, read] = makeOfDocument(reader, kind, source, options, dictionary);
   GeneratedOutput result;
   result.findings = std::move(made.findings);
   if (made.files.empty()) return result;
   const std::vector<FileContent> contents = placed(made.files, output);
-  for (const FileContent& content : contents) result.files.push_back(content.file);
+  for (const FileContent& content : contents) {
+    checkOutput(content.file, source.name, "document");
+    checkOutput(content.file, read, "dictionary");
+    result.files.push_back(content.file);
+  }
   result.written = replaceFiles(contents);
   return result;
 }

@@ -1,10 +1,11 @@
 // Imports from file to file.
-#include <array>
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <cctype>
 #include <cerrno>
 #include <cstddef>
 #include <filesystem>
-#include <fstream>
 #include <set>
 #include <system_error>
 #include <utility>
@@ -12,6 +13,8 @@
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Import.h"
+#include "toolkit/io/Bytes.h"
+#include "toolkit/io/OutputCheck.h"
 
 namespace as::toolkit {
 
@@ -28,15 +31,13 @@ std::string contentOf(const std::string& file) {
   if (fs::is_directory(file, failure)) {
     refuse(file, std::make_error_code(std::errc::is_a_directory));
   }
-  errno = 0;
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) refuse(file, {errno, std::generic_category()});
+  const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+  if (descriptor < 0) refuse(file, {errno, std::generic_category()});
   std::string content;
-  std::array<char, 65536> part{};
-  while (stream.read(part.data(), part.size()) || stream.gcount() > 0) {
-    content.append(part.data(), static_cast<std::size_t>(stream.gcount()));
-  }
-  if (stream.bad()) refuse(file, {errno, std::generic_category()});
+  const bool isRead = readAll(descriptor, content);
+  const int reason = errno;
+  ::close(descriptor);
+  if (!isRead) refuse(file, {reason, std::generic_category()});
   return content;
 }
 
@@ -80,6 +81,7 @@ ImportedFile importCobolFile(const DocumentSource& source, const std::string& ou
     if (program.isRefused()) continue;
     const std::string target =
         i == 0 ? output : (first.parent_path() / (name + first.extension().string())).string();
+    checkOutput(target, file, "source");
     replaceFile(target, program.dictionary);
     result.written.push_back(target);
   }

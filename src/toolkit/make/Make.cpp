@@ -9,6 +9,7 @@
 #include "as/toolkit/Files.h"
 #include "toolkit/findings/Report.h"
 #include "toolkit/flavour/FlavourProfile.h"
+#include "toolkit/io/OutputCheck.h"
 #include "toolkit/io/ServiceText.h"
 #include "toolkit/make/ServiceMaker.h"
 #include "toolkit/text/Phrases.h"
@@ -69,7 +70,7 @@ MadeService makeService(std::unique_ptr<as::IProgram> program, const Flavour& fl
 MadeService makeServiceFile(const DocumentReader& reader, const std::string& dictionary,
                             const std::string& output, const Flavour& flavour,
                             const MakeOptions& options) {
-  checkOutput(output, dictionary);
+  checkOutput(output, dictionary, "dictionary");
   std::unique_ptr<as::IProgram> program = reader.readDictionary(dictionary);
   checkEntryPoints(*program, dictionary, options.entryPoints);
   MadeService made = makeService(std::move(program), flavour, options);
