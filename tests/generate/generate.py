@@ -186,8 +186,8 @@ def main() -> int:
             prover.prove(service, flavour, number // len(FLAVOURS) % COMPILED == 0)
 
     def prove_sources(prover: Prover) -> None:
-        sources = made.programs_in(arguments.sources)[:arguments.programs]
-        services = made.services_of(arguments.tool, prover.folder, sources, FLAVOURS)
+        services = made.foreign_services(arguments.tool, prover.folder, arguments.sources, arguments.seed,
+                                         arguments.programs, FLAVOURS)
         for number, (flavour, service) in enumerate(services):
             prover.prove(service, flavour, number // len(FLAVOURS) % COMPILED == 0)
 

@@ -96,12 +96,12 @@ def hostile(folder: Path) -> Documents:
 
 def random_ones(tool: str, folder: Path, seed: str, programs: int) -> Documents:
     services = list(made.services(tool, folder, seed, programs, FLAVOURS))
-    return services, sorted((folder / 'dictionaries').glob('*.xml'))
+    return services, made.dictionaries_in(folder)
 
 
-def foreign_ones(tool: str, folder: Path, sources: Path, programs: int) -> Documents:
-    services = list(made.services_of(tool, folder, made.programs_in(sources)[:programs], FLAVOURS))
-    return services, sorted((folder / 'dictionaries').glob('*.xml'))
+def foreign_ones(tool: str, folder: Path, sources: Path, seed: str, programs: int) -> Documents:
+    services = list(made.foreign_services(tool, folder, sources, seed, programs, FLAVOURS))
+    return services, made.dictionaries_in(folder)
 
 
 def prove(tool: str, folder: Path, seed: str, programs: int, sources: Optional[Path] = None,
@@ -131,7 +131,7 @@ def prove(tool: str, folder: Path, seed: str, programs: int, sources: Optional[P
         tell('random data divisions', part('random'), random_ones(tool, folder / 'random', seed, programs))
     if sources:
         tell('programs of a folder', part('foreign'),
-             foreign_ones(tool, folder / 'foreign', sources, programs))
+             foreign_ones(tool, folder / 'foreign', sources, seed, programs))
     return is_fine
 
 

@@ -1,10 +1,11 @@
-"""Services made of random data divisions: the programs of tests/cobc, imported, with every record handed
-over to the entry point."""
+"""Services made of programs, imported, with every record handed over to the entry point: of those of
+tests/cobc with random data divisions, and of those of others."""
 
+import random
 import subprocess
 import sys
 from pathlib import Path
-from typing import Iterator, List, Tuple
+from typing import Dict, Iterator, List, Optional, Tuple
 
 from lxml import etree
 
@@ -49,32 +50,68 @@ def made_up(folder: Path, seed: str, begin: int, end: int) -> List[Path]:
     return sources
 
 
-def services_of(tool: str, folder: Path, sources: List[Path], flavours,
-                *options: str) -> Iterator[Tuple[str, Path]]:
-    """Flavour and file of the services of sources: of all entry points, which take every record."""
-    dictionaries = folder / 'dictionaries'
-    dictionaries.mkdir(parents=True, exist_ok=True)
-    for source in sources:
-        dictionary = dictionaries / f'{source.stem}.xml'
-        subprocess.run([tool, 'import', *options, '-o', str(dictionary), str(source)],
-                       capture_output=True, check=False)
-        if not dictionary.exists():
-            continue
-        hand_over_all(dictionary)
-        for flavour in flavours:
-            service = folder / f'{source.stem}-{flavour}.xml'
-            made = subprocess.run([tool, 'new', '--flavour', flavour, str(dictionary), '-o', str(service)],
-                                  capture_output=True, text=True, errors='replace', check=False)
-            if made.returncode != 0:
-                raise SystemExit(f'{dictionary}: new fails: {made.stdout}{made.stderr}')
-            yield flavour, service
+def dictionaries_in(folder: Path) -> List[Path]:
+    """Those that were made there and have a record: nothing is made of others."""
+    return [file for file in sorted((folder / 'dictionaries').glob('*.xml'))
+            if etree.parse(str(file)).find('{*}dataItems/*') is not None]
+
+
+def dictionary_of(tool: str, folder: Path, source: Path, *options: str) -> Optional[Path]:
+    """That of a source, whose entry points take every record; none of one that cannot be imported."""
+    dictionary = folder / 'dictionaries' / f'{source.stem}.xml'
+    dictionary.parent.mkdir(parents=True, exist_ok=True)
+    subprocess.run([tool, 'import', *options, '-o', str(dictionary), str(source)], capture_output=True, check=False)
+    if not dictionary.exists():
+        return None
+    hand_over_all(dictionary)
+    return dictionary
+
+
+def services_of(tool: str, folder: Path, dictionary: Path, flavours) -> Iterator[Tuple[str, Path]]:
+    """Flavour and file of the services of a dictionary: of all entry points."""
+    for flavour in flavours:
+        service = folder / f'{dictionary.stem}-{flavour}.xml'
+        made = subprocess.run([tool, 'new', '--flavour', flavour, str(dictionary), '-o', str(service)],
+                              capture_output=True, text=True, errors='replace', check=False)
+        if made.returncode != 0:
+            raise SystemExit(f'{dictionary}: new fails: {made.stdout}{made.stderr}')
+        yield flavour, service
 
 
 def services(tool: str, folder: Path, seed: str, count: int, flavours) -> Iterator[Tuple[str, Path]]:
     """Those of so many random programs."""
     for begin in range(0, count, TOGETHER):
-        sources = made_up(folder / 'sources', seed, begin, min(begin + TOGETHER, count))
-        yield from services_of(tool, folder, sources, flavours, '--dialect', 'gnucobol')
+        for source in made_up(folder / 'sources', seed, begin, min(begin + TOGETHER, count)):
+            dictionary = dictionary_of(tool, folder, source, '--dialect', 'gnucobol')
+            if dictionary:
+                yield from services_of(tool, folder, dictionary, flavours)
+
+
+def foreign_services(tool: str, folder: Path, sources: Path, seed: str, count: int,
+                     flavours) -> Iterator[Tuple[str, Path]]:
+    """Those of so many programs that can be imported, from anywhere in a folder of projects: the same
+    ones for the same seed. Tells how many could not be."""
+    copybooks: Dict[str, List[str]] = {}
+    found = programs_in(sources)
+    random.Random(seed).shuffle(found)
+    imported = tried = 0
+    for source in found:
+        if imported == count:
+            break
+        project = source.relative_to(sources).parts[0]
+        if project not in copybooks:
+            copybooks[project] = copybook_options(sources / project)
+        tried += 1
+        dictionary = dictionary_of(tool, folder, source, *copybooks[project])
+        if dictionary:
+            imported += 1
+            yield from services_of(tool, folder, dictionary, flavours)
+    print(f'{imported} programs were imported of {tried} sources, of {len(found)} in the folder', flush=True)
+
+
+def copybook_options(project: Path) -> List[str]:
+    folders = {str(file.parent) for file in project.rglob('*') if file.suffix.lower() in ('.cpy', '.copy')}
+    return [option for folder in sorted(folders) for option in ('-I', folder)]
 
 
 def programs_in(folder: Path) -> List[Path]:
