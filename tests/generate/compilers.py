@@ -4,7 +4,7 @@ import re
 import subprocess
 import tempfile
 from pathlib import Path
-from typing import Callable, List, NamedTuple
+from typing import Callable, List, NamedTuple, Optional
 
 TOGETHER = 100  # Files that a compiler is given at a time.
 
@@ -17,8 +17,8 @@ class Kind(NamedTuple):
     compile: Callable[[List[Path]], str]  # What is wrong with the files; empty when nothing is.
 
 
-def run(command: List[str]) -> str:
-    result = subprocess.run(command, capture_output=True, text=True, errors='replace', check=False)
+def run(command: List[str], folder: Optional[str] = None) -> str:
+    result = subprocess.run(command, cwd=folder, capture_output=True, text=True, errors='replace', check=False)
     said = (result.stdout + result.stderr).strip()
     return '' if result.returncode == 0 else said or f'{command[0]} ends with {result.returncode}'
 
@@ -37,12 +37,12 @@ def mcs(files: List[Path]) -> str:
 
 
 def widl(files: List[Path]) -> str:
-    """Headers and type libraries of each."""
+    """Headers and type libraries of each. (It leaves folders of its own where it works.)"""
     with tempfile.TemporaryDirectory() as folder:
         said = []
         for file in files:
-            said += [run(['/usr/lib/wine/widl', '-h', '-o', f'{folder}/made.h', str(file)]),
-                     run(['/usr/lib/wine/widl', '-t', '-o', f'{folder}/made.tlb', str(file)])]
+            said += [run(['/usr/lib/wine/widl', '-h', '-o', 'made.h', str(file.resolve())], folder),
+                     run(['/usr/lib/wine/widl', '-t', '-o', 'made.tlb', str(file.resolve())], folder)]
             if not Path(folder, 'made.tlb').exists():
                 said.append(f'{file}: there is no type library')
             Path(folder, 'made.tlb').unlink(missing_ok=True)
