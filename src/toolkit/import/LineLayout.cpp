@@ -69,7 +69,8 @@ bool LineLayout::layOddStart(std::string_view line, LaidLine& laid) {
 LineLayout::Cut LineLayout::cut(std::string_view line) {
   // Nobody knows how wide the tabs of its writer were: what fits into the columns as it stands was
   // meant to be code, wherever it comes to with these.
-  const bool isTabbed = !isPlain_ && line.size() <= lastColumn && line.find('\t') != line.npos;
+  const bool isTabbed =
+      !isPlain_ && line.size() <= lastColumn && line.find('\t') != std::string_view::npos;
   const bool hasMargin = format_ == SourceFormat::fixed && !isTabbed;
   const std::size_t margin = hasMargin ? lastColumn : std::string_view::npos;
   Cut result;
