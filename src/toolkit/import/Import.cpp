@@ -120,6 +120,8 @@ Imported importCobol(std::string source, const std::string& name, CopybookProvid
   SourceOptions sourceOptions;
   sourceOptions.format = options.format;
   sourceOptions.encoding = options.encoding;
+  // Compilers define it where addresses have 64 bits.
+  if (shared->dialect.pointer == 8) sourceOptions.definitions.push_back({"P64", ""});
   SourceReader words(std::move(source), name, sourceOptions, copybooks, shared->map, wordFindings);
   FindingMerger findings(shared->map, wordFindings, result.findings);
   EntryProblems problems([&findings](EntryRule rule, const SourcePlace& place,
