@@ -179,6 +179,8 @@ INSTANTIATE_TEST_SUITE_P(
         LayoutRow{"ibm", ">>IF P64 IS SET\n01 A PIC X.\n>>ELSE\n01 B PIC X.\n>>END-IF\n", "B 0+1"},
         LayoutRow{"gnucobol", ">>IF P64 IS SET\n01 A PIC X.\n>>ELSE\n01 B PIC X.\n>>END-IF\n",
                   "A 0+1"},
+        LayoutRow{"ibm", "01 A. 66 R RENAMES A. 01 B. 05 C PIC X. 05 D SAME AS A.",
+                  "A 0+0, R 0+0, B 0+1, C 0+1, D 1+0"},
         LayoutRow{"ibm", "01 A PIC 9(6).. 01 B PIC X(6).. 01 C PIC 9(6) .. 01 D PIC 9.",
                   "A 0+7, B 0+6, C 0+6, D 0+1"},
         LayoutRow{"ibm", "01 R. 05 A PIC X(5). 78 L VALUE LENGTH OF R. 05 B PIC X(L).",

@@ -1,13 +1,15 @@
 #include "as/toolkit/Baseline.h"
 
 #include <cerrno>
-#include <nlohmann/json.hpp>
+#include <optional>
 #include <sstream>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Files.h"
+#include "toolkit/findings/BaselineText.h"
 #include "toolkit/io/Bytes.h"
 #include "toolkit/render/JsonWriter.h"
 
@@ -15,26 +17,11 @@ namespace as::toolkit {
 
 namespace {
 
-using nlohmann::json;
-
-// What the file calls itself, with the version of what is in it.
-constexpr char kind[] = "agentservices lint baseline 1";
-
-std::string textIn(const json& object, const char* key) {
-  const auto found = object.find(key);
-  return found != object.end() && found->is_string() ? found->get<std::string>() : "";
-}
-
-bool isBaseline(const json& content) {
-  return content.is_object() && textIn(content, "kind") == kind && content.contains("findings") &&
-         content["findings"].is_array();
-}
-
 // A document that was named in its place by mistake is not lost.
 bool mayBeReplaced(const std::string& file) {
   std::string text;
   if (!readRegularFile(file, text) || text.empty()) return true;
-  return isBaseline(json::parse(text, nullptr, false));
+  return rowsIn(text).has_value();
 }
 
 }  // namespace
@@ -50,17 +37,11 @@ void Baseline::read() {
         errno == 0 ? "it is no file" : std::generic_category().message(errno);
     throw RefusedDocument({file_, 0, 0, "cannot be read: " + reason, ""});
   }
-  const json content = json::parse(text, nullptr, false);
-  if (!isBaseline(content)) {
+  const std::optional<std::vector<BaselineRow>> rows = rowsIn(text);
+  if (!rows) {
     throw RefusedDocument({file_, 0, 0, "not a baseline of findings", "write a new one"});
   }
-  for (const json& row : content["findings"]) {
-    if (!row.is_object()) continue;
-    const auto count = row.find("count");
-    const bool isCounted = count != row.end() && count->is_number_unsigned();
-    counts_[{textIn(row, "file"), textIn(row, "rule"), textIn(row, "place")}] +=
-        isCounted ? count->get<std::size_t>() : 1;
-  }
+  for (const BaselineRow& row : *rows) counts_[{row.file, row.rule, row.place}] += row.count;
 }
 
 void Baseline::add(const std::string& document, const Finding& finding) {
@@ -86,7 +67,7 @@ void Baseline::write() const {
   out.exceptions(std::ios::badbit | std::ios::failbit);
   JsonWriter writer(out);
   writer.beginObject();
-  writer.member("kind", kind);
+  writer.member("kind", baselineKind);
   writer.key("findings");
   writer.beginArray();
   for (const auto& [key, number] : counts_) {

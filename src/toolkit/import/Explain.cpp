@@ -158,7 +158,7 @@ class Explainer {
   }
 
   int leadingBoundary(Index item) const {
-    while (at(item).hasMembers) ++item;
+    while (at(item).hasMembers && item + 1 < at(item).end) ++item;
     return at(item).boundary;
   }
 

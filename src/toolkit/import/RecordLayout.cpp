@@ -89,9 +89,10 @@ bool RecordLayout::placeMembers(Index index) {
   return true;
 }
 
-// The elementary item which starts where the group starts.
+// The elementary item which starts where the group starts; the innermost group, if that holds
+// nothing but RENAMES.
 Index RecordLayout::leadingItem(Index item) const {
-  while (at(item).hasMembers) ++item;
+  while (at(item).hasMembers && item + 1 < at(item).end) ++item;
   return item;
 }
 
