@@ -13,7 +13,9 @@
 #include <string>
 #include <vector>
 
+#include "as/toolkit/Baseline.h"
 #include "as/toolkit/Diff.h"
+#include "as/toolkit/FindingsWriter.h"
 #include "as/toolkit/Generate.h"
 #include "as/toolkit/Import.h"
 #include "as/toolkit/Report.h"
@@ -179,6 +181,23 @@ const Work works[] = {
     {"ImportFile",
      [](const toolkit::DocumentReader&) {
        return textOf(toolkit::importCobolFile("PAY.cbl", "out.xml").imported);
+     }},
+    {"Findings",
+     [](const toolkit::DocumentReader&) {
+       const toolkit::Finding finding = {"rule", toolkit::Severity::error, "place", "problem",
+                                         "advice"};
+       toolkit::Baseline baseline("known.json");
+       baseline.add("s.xml", finding);
+       baseline.write();
+       baseline.read();
+       std::ostringstream out;
+       out.exceptions(std::ios::badbit | std::ios::failbit);
+       for (const toolkit::FindingsFormat& format : toolkit::findingsFormats()) {
+         const auto writer = format.makeWriter(out, {"tool", "1", {}});
+         writer->add({"s.xml", finding});
+         writer->end();
+       }
+       return out.str();
      }},
     {"ReplaceFile",
      [](const toolkit::DocumentReader&) {
