@@ -53,6 +53,7 @@ const ReadingRow fixedRows[] = {
      {"\n1\n123456\n1234567\n       A\n", {}, fixed},
      "A",
      "unknown-indicator main:4:7"},
+    {"DollarBeginsDirectivesOfFreeFormat", {"$XFD NAME=B\nA\n"}, "A", "unknown-directive main:1:1"},
     {"DollarBeginsDirectivesOfAnyCompiler",
      {"      $XFD NAME=B\n       A\n", {}, fixed},
      "A",

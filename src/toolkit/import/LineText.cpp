@@ -30,7 +30,7 @@ bool isDollarDirective(std::string_view text) {
   if (text.empty() || text.front() != '$') return false;
   const std::string_view rest = withoutBlanksInFront(text.substr(1));
   for (const std::string_view known : {"SET", "IF", "ELSE", "ELIF", "ELSE-IF", "END", "END-IF",
-                                       "DISPLAY", "REGION", "END-REGION"}) {
+                                       "DISPLAY", "REGION", "END-REGION", "XFD"}) {
     if (beginsWord(rest, known)) return true;
   }
   return false;

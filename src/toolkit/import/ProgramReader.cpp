@@ -132,7 +132,21 @@ void ProgramReader::readCopybook() {
   problems_.tell(EntryRule::copybook, place,
                  "there is no PROGRAM-ID: the entries become the dictionary of a program " + stem_);
   open_.push_back(&program);
-  readBody(program, "", problems_.errors());
+  const std::size_t errors = problems_.errors();
+  readBody(program, "", errors);
+  if (problems_.errors() == errors && holdsNothing(program)) {
+    problems_.tell(EntryRule::noProgram, place,
+                   "the source holds neither a program nor data description entries");
+    program.isRefused = true;
+  }
+}
+
+// Whether there was nothing of a copybook, not even what dictionaries do not hold.
+bool ProgramReader::holdsNothing(const CobolProgram& program) const {
+  return program.entries.empty() && program.files.empty() && program.constants.empty() &&
+         words_.source().passedCopybooks().empty() &&
+         !problems_.wasNoted(EntryRule::passedSection) &&
+         !problems_.wasNoted(EntryRule::badConstant);
 }
 
 // Everything of a source: programs begin with PROGRAM-ID and end with END PROGRAM, or with the

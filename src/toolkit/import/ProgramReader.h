@@ -43,6 +43,7 @@ class ProgramReader {
   void readEnd();
   void passOver(const char* what);
   void takeCommarea(CobolProgram& program);
+  bool holdsNothing(const CobolProgram& program) const;
   void findParameters(CobolProgram& program, RecordBuilder& records);
   CobolProgram& begin(std::string name, const SourcePlace& place);
 
