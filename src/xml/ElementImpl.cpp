@@ -1,5 +1,6 @@
 #include "xml/ElementImpl.h"
 
+#include <array>
 #include <xercesc/dom/DOMAttr.hpp>
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/util/XMLString.hpp>
@@ -28,6 +29,15 @@ void* CElementImpl::getUserData() { return userData_; }
 void CElementImpl::setUserData(void* data) { userData_ = data; }
 
 std::string CElementImpl::getAttributeValue(const char* name) {
+  // Names are a few letters of ASCII, if nobody asks for what there cannot be.
+  std::array<XMLCh, 32> few;
+  for (std::size_t i = 0; name != nullptr && i < few.size(); i++) {
+    const auto letter = static_cast<unsigned char>(name[i]);
+    if (letter > 0x7F) break;
+    few[i] = letter;
+    if (letter != 0) continue;
+    return i == 0 || element_ == nullptr ? std::string() : text(few.data());
+  }
   CXStr attribute(name);
   if (attribute.isEmpty() || element_ == nullptr) return {};
   return text(attribute);

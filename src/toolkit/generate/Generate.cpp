@@ -55,9 +55,9 @@ Generated make(const gen::Generator& generator, gen::ServiceModel& model,
 }
 
 Generated makeOfService(const gen::Generator& generator, as::IService& service,
-                        as::IProgram* program, const Findings& lintFindings,
+                        as::IProgram* program, LintedService linted,
                         const GenerateOptions& options) {
-  Findings reasons = reasonsAgainst(lintFindings);
+  Findings reasons = reasonsAgainst(linted.findings);
   const auto& wanted = generator.kind().flavours;
   const Flavour& flavour = flavourOf(service);
   if (std::none_of(wanted.begin(), wanted.end(), [&flavour](const char* word) {
@@ -69,13 +69,13 @@ Generated makeOfService(const gen::Generator& generator, as::IService& service,
          std::string("convert it first, to ") + wanted.front()});
   }
   if (countOf(reasons, Severity::error) > 0) return {{}, std::move(reasons)};
-  gen::ServiceModel model = gen::modelOf(service, program);
+  gen::ServiceModel model = gen::modelOf(service, program, std::move(linted.index));
   if (!model.isWhole) {
     // One that is nothing but a reference to itself holds nothing.
     for (Finding& reason : reasons) reason.severity = Severity::error;
     return {{}, std::move(reasons)};
   }
-  model.findings = lintFindings;
+  model.findings = std::move(linted.findings);
   return make(generator, model, options, std::move(reasons));
 }
 
@@ -211,7 +211,8 @@ Generated generate(const GeneratorKind& kind, as::IProgram& program,
 Generated generateFrom(const DocumentReader& reader, const GeneratorKind& kind,
                        const DocumentSource& source, const GenerateOptions& options,
                        const std::optional<std::string>& dictionary) {
-  return makeOfDocument(reader, kind, source, options, dictionary).made;
+  Findings reasons = reasonsAgainst(linted.findings);
+  const auto& wanted = generator.kind().flavours;
 }
 
 GeneratedOutput generateFiles(const DocumentReader& reader, const GeneratorKind& kind,

@@ -138,16 +138,13 @@ Item::Table readTable(as::IDataItem& item) {
   return table;
 }
 
-Item read(as::IDataItem& item) {
-  Item facts;
+// `facts` has its name and picture.
+void read(as::IDataItem& item, const std::optional<Picture>& picture, Item& facts) {
   facts.kind = kindOfItem(item);
-  facts.name = item.getName();
   facts.path = dottedPath(item);
-  facts.picture = item.getPicture();
   facts.bytes = limited(item.getLength());
   const std::optional<Usage> usage = usageOf(item);
   if (usage && *usage != Usage::display) facts.usage = wordOf(*usage);
-  const std::optional<Picture> picture = readAnyPicture(facts.picture);
   if (auto* const number = as::interface_cast<as::INumeric>(&item)) {
     readNumber(*number, picture, facts);
   } else if (auto* const edited = as::interface_cast<as::INumericEdited>(&item)) {
@@ -158,7 +155,6 @@ Item read(as::IDataItem& item) {
   }
   facts.capacity = capacityOf(facts);
   facts.conditions = conditionsOf(item);
-  return facts;
 }
 
 }  // namespace
@@ -166,10 +162,20 @@ Item read(as::IDataItem& item) {
 std::size_t ItemFacts::numberOf(as::IDataItem& item) {
   const auto [found, isNew] = known_.emplace(&item, items_.size());
   if (isNew) {
-    Item facts = read(item);
+    Item facts;
+    facts.name = item.getName();
+    facts.picture = item.getPicture();
+    read(item, pictureOf(facts.picture), facts);
     facts.tables = tablesAround(item);
     items_.push_back(std::move(facts));
   }
+  return found->second;
+}
+
+// A program has many items of a few pictures.
+const std::optional<Picture>& ItemFacts::pictureOf(const std::string& text) {
+  const auto [found, isNew] = pictures_.try_emplace(text);
+  if (isNew) found->second = readAnyPicture(text);
   return found->second;
 }
 

@@ -3,10 +3,12 @@
 #define TOOLKIT_GENERATE_ITEMFACTS_H_
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
+#include "as/toolkit/Picture.h"
 #include "toolkit/generate/ServiceModel.h"
 
 namespace as {
@@ -25,10 +27,12 @@ class ItemFacts {
 
  private:
   std::vector<Item::Table> tablesAround(as::IDataItem& item);
+  const std::optional<Picture>& pictureOf(const std::string& text);
 
   std::vector<Item>& items_;
   std::unordered_map<as::IDataItem*, std::size_t> known_;
   std::unordered_map<as::IDataItem*, Item::Table> tables_;
+  std::unordered_map<std::string, std::optional<Picture>> pictures_;
 };
 
 }  // namespace as::toolkit::gen

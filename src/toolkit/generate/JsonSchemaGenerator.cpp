@@ -2,6 +2,7 @@
 // records.
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/JsonSchemas.h"
+#include "toolkit/generate/JsonText.h"
 #include "toolkit/generate/MessagePlan.h"
 
 namespace as::toolkit::gen {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "toolkit/generate/Facets.h"
+#include "toolkit/generate/JsonText.h"
 
 namespace as::toolkit::gen {
 
@@ -68,23 +69,6 @@ const TypeTable& jsonTypes() {
 const NameRule& jsonNames() {
   static const NameRule rule = {"JSON Schema", isDefinitionCharacter, isDefinitionCharacter};
   return rule;
-}
-
-nlohmann::ordered_json objectFor(std::size_t members) {
-  using Members = nlohmann::ordered_json::object_t;
-  nlohmann::ordered_json object = nlohmann::ordered_json::object();
-  static_cast<Members::Container&>(object.get_ref<Members&>()).reserve(members);
-  return object;
-}
-
-void append(nlohmann::ordered_json& object, const std::string& key, nlohmann::ordered_json value) {
-  using Members = nlohmann::ordered_json::object_t;
-  // The object's own way looks for the key first, from the first member on.
-  static_cast<Members::Container&>(object.get_ref<Members&>()).emplace_back(key, std::move(value));
-}
-
-std::string jsonText(const nlohmann::ordered_json& json) {
-  return json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
 }
 
 JsonSchemas::JsonSchemas(const Job& job, std::string definitions)
@@ -218,10 +202,11 @@ JsonSchemas::Json JsonSchemas::schemaOf(const Field& field) const {
   const std::string about = joined(linesAbout(job_.model, field));
   Json schema;
   if (field.isTable()) {
-    schema = {{"type", "array"},
-              {"items", schemaOfOne(field)},
-              {"minItems", field.least},
-              {"maxItems", field.occurs}};
+    schema = objectFor(5);
+    append(schema, "type", "array");
+    append(schema, "items", schemaOfOne(field));
+    append(schema, "minItems", field.least);
+    append(schema, "maxItems", field.occurs);
   } else {
     schema = schemaOfOne(field);
   }
@@ -231,8 +216,10 @@ JsonSchemas::Json JsonSchemas::schemaOf(const Field& field) const {
 
 JsonSchemas::Json JsonSchemas::schemaOfOne(const Field& field) const {
   const std::size_t own = field.reference != none ? field.reference : field.structure;
-  if (own != none) return {{"$ref", prefix_ + typeNames_[own]}};
-  return schemaOfValue(field);
+  if (own == none) return schemaOfValue(field);
+  Json schema = objectFor(2);
+  append(schema, "$ref", prefix_ + typeNames_[own]);
+  return schema;
 }
 
 JsonSchemas::Json JsonSchemas::schemaOfValue(const Field& field) const {
@@ -240,7 +227,8 @@ JsonSchemas::Json JsonSchemas::schemaOfValue(const Field& field) const {
   if (row == nullptr || row->type == anything) return Json::object();
   const std::string_view type = row->type;
   const Facets facets = facetsOf(job_.model, field, withConditions_);
-  Json schema = {{"type", type.starts_with("string") ? "string" : row->type}};
+  Json schema = objectFor(5);
+  append(schema, "type", type.starts_with("string") ? "string" : row->type);
   if (type == "integer") {
     if (!facets.least.empty()) schema["minimum"] = numberOf(facets.least);
     if (!facets.most.empty()) schema["maximum"] = numberOf(facets.most);

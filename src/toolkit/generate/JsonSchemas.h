@@ -83,15 +83,6 @@ class JsonSchemas {
   std::vector<std::optional<Field>> values_;           // Of structures that have one.
 };
 
-// An object with room for so many members: one that grows copies all that it holds.
-nlohmann::ordered_json objectFor(std::size_t members);
-
-// Adds a member to an object that has none of that name: in no more time for many than for few.
-void append(nlohmann::ordered_json& object, const std::string& key, nlohmann::ordered_json value);
-
-// The text of a document.
-std::string jsonText(const nlohmann::ordered_json& json);
-
 }  // namespace as::toolkit::gen
 
 #endif  // TOOLKIT_GENERATE_JSONSCHEMAS_H_

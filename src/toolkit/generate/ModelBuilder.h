@@ -2,6 +2,7 @@
 #ifndef TOOLKIT_GENERATE_MODELBUILDER_H_
 #define TOOLKIT_GENERATE_MODELBUILDER_H_
 
+#include <memory>
 #include <string>
 
 #include "as/IProgram.h"
@@ -9,11 +10,17 @@
 #include "as/toolkit/Finding.h"
 #include "toolkit/generate/ServiceModel.h"
 
+namespace as::toolkit {
+class ItemIndex;
+}
+
 namespace as::toolkit::gen {
 
-// The service's mappings lead into `program`; null when it is unknown. Its types and operations
-// have no errors that lint finds, types that refer to themselves aside.
-ServiceModel modelOf(as::IService& service, as::IProgram* program);
+// The service's mappings lead into `program`; null when it is unknown. `index` is how its items are
+// found; null when nobody has made one. Its types and operations have no errors that lint finds,
+// types that refer to themselves aside.
+ServiceModel modelOf(as::IService& service, as::IProgram* program,
+                     std::shared_ptr<const ItemIndex> index);
 
 // Each record a declared type, or the one of that name alone, of which there may be none. Items
 // that redefine others are left out, with a note.

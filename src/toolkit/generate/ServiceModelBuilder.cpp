@@ -1,6 +1,7 @@
 // A service as generators see it.
 #include <algorithm>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <unordered_map>
 #include <utility>
@@ -44,9 +45,12 @@ Operation::Style styleOf(int code) {
 
 class Builder {
  public:
-  Builder(as::IService& service, as::IProgram* program)
-      : service_(service), profile_(profileOf(service)), facts_(model_.items) {
-    if (program != nullptr) index_.emplace(*program);
+  Builder(as::IService& service, as::IProgram* program, std::shared_ptr<const ItemIndex> index)
+      : service_(service),
+        profile_(profileOf(service)),
+        facts_(model_.items),
+        index_(std::move(index)) {
+    if (program != nullptr && !index_) index_ = std::make_shared<const ItemIndex>(*program);
     model_.name = service.getName();
     model_.program =
         program == nullptr ? service.getAttributeValue("programName") : program->getName();
@@ -253,7 +257,7 @@ class Builder {
       Field& target = at({structure, member, isAttribute}, *way.root);
       if (read.item != none) {
         if (!hasParts) joinItem(target, read.item);
-        readTables(mapping, model_.items[read.item], way);
+        readTables(mapping, read.text, model_.items[read.item], way);
       }
       at({structure, member, isAttribute}, *way.root).mappings.push_back(std::move(read));
     });
@@ -301,8 +305,9 @@ class Builder {
 
   // Open subscripts of an item belong to the tables that the field stands in, from the innermost
   // out. What two fields of one table say in different ways is said of none.
-  void readTables(as::IMapping& mapping, const Item& item, const Way& way) {
-    const std::vector<int> inner = dataItemSubscripts(mapping);
+  void readTables(as::IMapping& mapping, const std::string& text, const Item& item,
+                  const Way& way) {
+    const std::vector<int> inner = dataItemSubscripts(mapping, text);
     const std::vector<int> outer = interfaceSubscripts(mapping);
     if (inner.size() != item.tables.size()) return;
     std::size_t table = inner.size();
@@ -386,14 +391,15 @@ class Builder {
   const FlavourProfile& profile_;
   ServiceModel model_;
   ItemFacts facts_;
-  std::optional<ItemIndex> index_;
+  std::shared_ptr<const ItemIndex> index_;
   std::unordered_map<as::IParameter*, std::size_t> definitions_;
 };
 
 }  // namespace
 
-ServiceModel modelOf(as::IService& service, as::IProgram* program) {
-  return Builder(service, program).build();
+ServiceModel modelOf(as::IService& service, as::IProgram* program,
+                     std::shared_ptr<const ItemIndex> index) {
+  return Builder(service, program, std::move(index)).build();
 }
 
 }  // namespace as::toolkit::gen

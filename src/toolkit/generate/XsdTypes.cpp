@@ -1,10 +1,18 @@
 #include "toolkit/generate/XsdTypes.h"
 
+#include <algorithm>
+
 namespace as::toolkit::gen {
 
 namespace {
 
 using Kind = Capacity::Kind;
+
+// Whether it cannot stand in XML as it is.
+bool isMarked(char byte) {
+  return byte == '&' || byte == '<' || byte == '>' || byte == '"' ||
+         static_cast<unsigned char>(byte) < 0x20;
+}
 
 }  // namespace
 
@@ -37,6 +45,8 @@ const NameRule& xmlNames() {
 }
 
 std::string xmlText(std::string_view text) {
+  // Most texts hold nothing of the kind.
+  if (std::none_of(text.begin(), text.end(), isMarked)) return std::string(text);
   std::string result;
   result.reserve(text.size());
   for (const char byte : text) {
@@ -74,7 +84,9 @@ std::string xmlText(std::string_view text) {
 }
 
 std::string xmlAttribute(std::string_view name, std::string_view value) {
-  return " " + std::string(name) + "=\"" + xmlText(value) + "\"";
+  std::string result;
+  result.reserve(name.size() + value.size() + 4);
+  return result.append(" ").append(name).append("=\"").append(xmlText(value)).append("\"");
 }
 
 }  // namespace as::toolkit::gen

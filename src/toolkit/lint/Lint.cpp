@@ -8,13 +8,11 @@
 #include "as/toolkit/Text.h"
 #include "toolkit/flavour/FlavourProfile.h"
 #include "toolkit/io/Bytes.h"
-#include "toolkit/lint/LintComments.h"
 #include "toolkit/lint/LintReport.h"
 #include "toolkit/lint/LintedService.h"
+#include "toolkit/lint/LintedText.h"
 #include "toolkit/lint/Rules.h"
 #include "toolkit/lint/ServiceWalk.h"
-#include "toolkit/outline/DocumentOutline.h"
-#include "toolkit/outline/ServiceOutline.h"
 
 namespace as::toolkit {
 
@@ -25,8 +23,10 @@ void lookAtService(as::IService& service, LintReport& report) {
   look(ServiceSubject{place, service, profileOf(service)}, report);
 }
 
-void lookAtComments(const LintComments& comments, LintReport& report) {
-  for (const LintComments::Mistake& mistake : comments.mistakes()) {
+void lookAtComments(LintedText& text, LintReport& report) {
+  const LintComments* const comments = text.comments();
+  if (comments == nullptr) return;
+  for (const LintComments::Mistake& mistake : comments->mistakes()) {
     const Place place("comment", mistake.place);
     look(CommentSubject{place, mistake.problem, mistake.advice}, report);
   }
@@ -97,13 +97,15 @@ const RuleSetting* findRuleSetting(std::string_view word) {
   return nullptr;
 }
 
-Findings lint(as::IService& service) { return lintWith(service, service.getProgram()); }
+Findings lint(as::IService& service) { return lintWith(service, service.getProgram()).findings; }
 
-Findings lintWith(as::IService& service, as::IProgram* program) {
+LintedService lintWith(as::IService& service, as::IProgram* program) {
   LintReport report;
   lookAtService(service, report);
-  lintMembers(service, program, report);
-  return std::move(report.findings());
+  LintedService linted;
+  linted.index = lintMembers(service, program, report);
+  linted.findings = std::move(report.findings());
+  return linted;
 }
 
 namespace {
@@ -111,15 +113,13 @@ namespace {
 // `service` was read from `source`.
 LintedService lintService(const DocumentReader& reader, as::IService& service,
                           const DocumentSource& source, const LintOptions& options) {
-  const DocumentOutline document(bytesOf(source));
-  const ServiceOutline outline(service, document);
-  const LintComments comments(document);
-  LintReport report({&outline, &comments, &options.rules});
+  LintedText text(service, bytesOf(source));
+  LintReport report({&text, &options.rules});
   lookAtService(service, report);
   LintedService linted;
   linted.program = lookAtDictionary(reader, service, source.name, options.dictionary, report);
-  lookAtComments(comments, report);
-  lintMembers(service, linted.program.get(), report);
+  lookAtComments(text, report);
+  linted.index = lintMembers(service, linted.program.get(), report);
   linted.findings = std::move(report.findings());
   return linted;
 }

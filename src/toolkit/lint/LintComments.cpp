@@ -30,6 +30,8 @@ std::string wordList() {
 
 }  // namespace
 
+bool LintComments::mayBeIn(std::string_view text) { return text.find(mark) != text.npos; }
+
 LintComments::LintComments(const DocumentOutline& outline) : outline_(outline) {
   for (const DocumentOutline::Comment& comment : outline.comments()) {
     std::string_view text = comment.text;

@@ -25,6 +25,9 @@ class LintComments {
     std::string advice;
   };
 
+  // False only when the text of a document in UTF-8 has no comments to lint.
+  static bool mayBeIn(std::string_view text);
+
   explicit LintComments(const DocumentOutline& outline);
 
   const std::vector<Mistake>& mistakes() const { return mistakes_; }

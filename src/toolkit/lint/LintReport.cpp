@@ -5,22 +5,23 @@ namespace as::toolkit {
 void LintReport::add(const LintRule& rule, const Place& place, const std::string& problem,
                      const std::string& advice) {
   const as::IElement* const object = place.object();
-  const std::size_t element = frame_.outline == nullptr || object == nullptr
+  const std::size_t element = frame_.text == nullptr || object == nullptr
                                   ? DocumentOutline::none
-                                  : frame_.outline->elementOf(*object);
+                                  : frame_.text->outline().elementOf(*object);
   const RuleSetting* const setting = settingFor(rule, element);
   if (setting != nullptr && !setting->severity) return;
   const Severity severity = setting != nullptr ? *setting->severity : rule.severity;
   const TextPlace& at = element == DocumentOutline::none
                             ? place.inText()
-                            : frame_.outline->document().elements()[element].place;
+                            : frame_.text->outline().document().elements()[element].place;
   findings_.push_back({rule.id, severity, place.text(), problem, advice, at.line, at.column});
 }
 
 const RuleSetting* LintReport::settingFor(const LintRule& rule, std::size_t element) const {
   // The document's own word is the nearer one.
-  if (frame_.comments != nullptr && element != DocumentOutline::none) {
-    if (const RuleSetting* const said = frame_.comments->find(rule.id, element)) return said;
+  const LintComments* const comments = frame_.text == nullptr ? nullptr : frame_.text->comments();
+  if (comments != nullptr && element != DocumentOutline::none) {
+    if (const RuleSetting* const said = comments->find(rule.id, element)) return said;
   }
   if (frame_.settings == nullptr) return nullptr;
   const auto found = frame_.settings->find(rule.id);

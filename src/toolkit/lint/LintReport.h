@@ -7,17 +7,15 @@
 
 #include "as/toolkit/Finding.h"
 #include "as/toolkit/Lint.h"
-#include "toolkit/lint/LintComments.h"
+#include "toolkit/lint/LintedText.h"
 #include "toolkit/lint/Place.h"
-#include "toolkit/outline/ServiceOutline.h"
 
 namespace as::toolkit {
 
 // What a report goes by; whatever it points at must outlive the report. Each may be null.
 struct LintFrame {
-  const ServiceOutline* outline = nullptr;  // Where things stand.
-  const LintComments* comments = nullptr;   // What the document says of rules ...
-  const RuleSettings* settings = nullptr;   // ... and what the caller says.
+  LintedText* text = nullptr;              // Where things stand; what the document says of rules.
+  const RuleSettings* settings = nullptr;  // What the caller says of them.
 };
 
 class LintReport {

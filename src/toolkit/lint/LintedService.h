@@ -10,20 +10,23 @@
 #include "as/IService.h"
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Finding.h"
+#include "toolkit/walk/ItemIndex.h"
 
 namespace as::toolkit {
 
 struct LintedService {
   std::shared_ptr<as::IProgram> program;  // Null when none is named, and when it is refused.
   Findings findings;
+  std::shared_ptr<const ItemIndex> index;  // Of the program's items; null when none was made.
 };
 
 // What lintFile() does of a service that was read from `file` already.
 LintedService lintRead(const DocumentReader& reader, as::IService& service, const std::string& file,
                        const std::optional<std::string>& dictionary);
 
-// What lint() does with that program, null for none, in place of the service's own.
-Findings lintWith(as::IService& service, as::IProgram* program);
+// What lint() does with that program, null for none, in place of the service's own. Only what it
+// answers of findings and items is told.
+LintedService lintWith(as::IService& service, as::IProgram* program);
 
 }  // namespace as::toolkit
 

@@ -31,7 +31,7 @@ ProgramFacts::ProgramFacts(as::IProgram& program) : program_(program) {
 std::string ProgramFacts::name() const { return program_.getName(); }
 
 as::IDataItem* ProgramFacts::find(const std::string& mapping) {
-  if (!index_) index_.emplace(program_);
+  if (!index_) index_ = std::make_shared<const ItemIndex>(program_);
   return index_->find(std::string_view(mapping).substr(0, mapping.find('(')));
 }
 

@@ -2,6 +2,7 @@
 #ifndef TOOLKIT_LINT_PROGRAMFACTS_H_
 #define TOOLKIT_LINT_PROGRAMFACTS_H_
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -32,6 +33,9 @@ class ProgramFacts {
 
   std::string name() const;
 
+  // How items are found; null as long as none was looked for.
+  std::shared_ptr<const ItemIndex> index() const { return index_; }
+
   // The item that a mapping with that text leads to; null when there is none.
   as::IDataItem* find(const std::string& mapping);
 
@@ -60,7 +64,7 @@ class ProgramFacts {
   std::unordered_map<std::string, as::IDataItem*> recordsByName_;  // The first of each name.
   std::unordered_map<std::string, as::IEntryPoint*> entryPoints_;  // The first of each name.
   std::unordered_map<std::string, CallInterface> interfaces_;      // Those asked for.
-  std::optional<ItemIndex> index_;                                 // Once an item was looked for.
+  std::shared_ptr<const ItemIndex> index_;                         // Once an item was looked for.
   // All names of items with the first item of each; once an item was not found.
   std::optional<NearNames> names_;
   std::vector<as::IDataItem*> firstOfName_;  // In the order of names_.

@@ -69,7 +69,8 @@ class ServiceWalk {
     });
   }
 
-  void run() {
+  // Answers how items are found, if any was looked for.
+  std::shared_ptr<const ItemIndex> run() {
     static const Place types("type ");
     as::IList* const definitions = service_.getParameterTypeDefs();
     lookAtNames<as::IParameter>(definitions, "type definition", types, "");
@@ -83,6 +84,7 @@ class ServiceWalk {
     forEachMember<as::IOperation>(service_.getOperations(), [this](as::IOperation& operation) {
       lookAtOperation(operation);
     });
+    return program_ ? program_->index() : nullptr;
   }
 
  private:
@@ -246,8 +248,8 @@ class ServiceWalk {
     const std::string text = mapping.getRawMapping();
     const std::size_t parenthesis = text.find('(');
     const std::string outerText = mapping.getAttributeValue("subscript");
-    std::vector<int> inner = dataItemSubscripts(mapping);
-    std::vector<int> outer = interfaceSubscripts(mapping);
+    std::vector<int> inner = dataItemSubscripts(mapping, text);
+    std::vector<int> outer = interfaceSubscripts(mapping, outerText);
     const bool isInnerReadable = parenthesis == std::string::npos || !inner.empty();
     const bool isOuterReadable = outerText.empty() || !outer.empty();
     as::IDataItem* const item = program_ && !text.empty() ? program_->find(text) : nullptr;
@@ -350,8 +352,9 @@ class ServiceWalk {
 
 }  // namespace
 
-void lintMembers(as::IService& service, as::IProgram* program, LintReport& report) {
-  ServiceWalk(service, program, report).run();
+std::shared_ptr<const ItemIndex> lintMembers(as::IService& service, as::IProgram* program,
+                                             LintReport& report) {
+  return ServiceWalk(service, program, report).run();
 }
 
 }  // namespace as::toolkit

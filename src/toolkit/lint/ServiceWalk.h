@@ -2,6 +2,8 @@
 #ifndef TOOLKIT_LINT_SERVICEWALK_H_
 #define TOOLKIT_LINT_SERVICEWALK_H_
 
+#include <memory>
+
 namespace as {
 class IProgram;
 class IService;
@@ -9,11 +11,14 @@ class IService;
 
 namespace as::toolkit {
 
+class ItemIndex;
 class LintReport;
 
 // Looks at type definitions and operations, with the program of the service; null when it is
-// unknown. Takes time in proportion to service and program.
-void lintMembers(as::IService& service, as::IProgram* program, LintReport& report);
+// unknown. Takes time in proportion to service and program. Answers how the program's items are
+// found; null when none was looked for.
+std::shared_ptr<const ItemIndex> lintMembers(as::IService& service, as::IProgram* program,
+                                             LintReport& report);
 
 }  // namespace as::toolkit
 

@@ -1,9 +1,7 @@
 #include "toolkit/outline/DocumentOutline.h"
 
-#include <optional>
 #include <utility>
 
-#include "toolkit/outline/DocumentEncoding.h"
 #include "toolkit/outline/EntityTexts.h"
 
 namespace as::toolkit {
@@ -141,10 +139,7 @@ class OutlineScanner {
   int expansions_ = 0;
 };
 
-DocumentOutline::DocumentOutline(std::string bytes) {
-  std::optional<std::string> text = documentInUtf8(std::move(bytes));
-  if (!text) return;
-  text_ = std::move(*text);
+DocumentOutline::DocumentOutline(std::string text) : text_(std::move(text)) {
   if (OutlineScanner(*this).run()) return;
   elements_.clear();
   comments_.clear();

@@ -32,10 +32,10 @@ class DocumentOutline {
     std::size_t next;    // The number of the next element to start; may be that of none.
   };
 
-  // Of the bytes of a document that the library has read: what it refuses need not be told right.
-  // Takes time and memory in proportion to the bytes, and to what entities come to within the
-  // library's limits.
-  explicit DocumentOutline(std::string bytes);
+  // Of the text of a document, in UTF-8, that the library has read: what it refuses need not be
+  // told right. Takes time and memory in proportion to the text, and to what entities come to
+  // within the library's limits.
+  explicit DocumentOutline(std::string text);
   DocumentOutline(const DocumentOutline&) = delete;
   DocumentOutline& operator=(const DocumentOutline&) = delete;
 

@@ -24,13 +24,23 @@ std::vector<int> subscripts(as::IMapping& mapping, int (as::IMapping::*read)(int
 
 }  // namespace
 
+// Nearly all mappings have no subscripts: those need no room for any.
+std::vector<int> dataItemSubscripts(as::IMapping& mapping, const std::string& text) {
+  if (text.find('(') == std::string::npos) return {};
+  return subscripts(mapping, &as::IMapping::getDataItemSubscripts, text);
+}
+
+std::vector<int> interfaceSubscripts(as::IMapping& mapping, const std::string& text) {
+  if (text.empty()) return {};
+  return subscripts(mapping, &as::IMapping::getInterfaceSubscripts, text);
+}
+
 std::vector<int> dataItemSubscripts(as::IMapping& mapping) {
-  return subscripts(mapping, &as::IMapping::getDataItemSubscripts, mapping.getRawMapping());
+  return dataItemSubscripts(mapping, mapping.getRawMapping());
 }
 
 std::vector<int> interfaceSubscripts(as::IMapping& mapping) {
-  return subscripts(mapping, &as::IMapping::getInterfaceSubscripts,
-                    mapping.getAttributeValue("subscript"));
+  return interfaceSubscripts(mapping, mapping.getAttributeValue("subscript"));
 }
 
 }  // namespace as::toolkit
