@@ -51,9 +51,13 @@ def made_up(folder: Path, seed: str, begin: int, end: int) -> List[Path]:
 
 
 def dictionaries_in(folder: Path) -> List[Path]:
-    """Those that were made there and have a record: nothing is made of others."""
-    return [file for file in sorted((folder / 'dictionaries').glob('*.xml'))
-            if etree.parse(str(file)).find('{*}dataItems/*') is not None]
+    """Those that were made there and have a record with a name: nothing is made of others."""
+    def has_record(file: Path) -> bool:
+        records = etree.parse(str(file)).findall('{*}dataItems/{*}*')
+        return any(record.get('name') not in (None, '', 'FILLER') and not record.get('renames')
+                   for record in records)
+
+    return list(filter(has_record, sorted((folder / 'dictionaries').glob('*.xml'))))
 
 
 def dictionary_of(tool: str, folder: Path, source: Path, *options: str) -> Optional[Path]:
