@@ -117,13 +117,14 @@ MadeOfDocument makeOfDocument(const DocumentReader& reader, const GeneratorKind&
     }
     return {generate(kind, *document.dictionary, named), ""};
   }
-  const LintedService linted = lintRead(reader, *document.service, source.name, dictionary);
+  LintedService linted = lintRead(reader, *document.service, source.name, dictionary);
+  const std::shared_ptr<as::IProgram> program = linted.program;
   const std::string own = document.service->getDDFilename();
-  return {makeOfService(generatorOf(kind), *document.service, linted.program.get(), linted.findings,
-                        named),
-          dictionary    ? *dictionary
-          : own.empty() ? own
-                        : besideFile(source.name, own)};
+  return {
+      makeOfService(generatorOf(kind), *document.service, program.get(), std::move(linted), named),
+      dictionary    ? *dictionary
+      : own.empty() ? own
+                    : besideFile(source.name, own)};
 }
 
 }  // namespace
@@ -211,8 +212,7 @@ Generated generate(const GeneratorKind& kind, as::IProgram& program,
 Generated generateFrom(const DocumentReader& reader, const GeneratorKind& kind,
                        const DocumentSource& source, const GenerateOptions& options,
                        const std::optional<std::string>& dictionary) {
-  Findings reasons = reasonsAgainst(linted.findings);
-  const auto& wanted = generator.kind().flavours;
+  return makeOfDocument(reader, kind, source, options, dictionary).made;
 }
 
 GeneratedOutput generateFiles(const DocumentReader& reader, const GeneratorKind& kind,
