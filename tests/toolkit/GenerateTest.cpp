@@ -255,6 +255,12 @@ TEST_F(GenerateTest, ConditionsThatAreNoValuesAreTold) {
   }
 }
 
+// A dictionary may not say how long an address is.
+TEST_F(GenerateTest, AddressesOfNoLengthAreNumbersOfAnySize) {
+  writeService("<pointer name='A'/>");
+  EXPECT_THAT(textOf("xsd", "p.xml"), HasSubstr(R"(<xs:element name="A" type="xs:integer">)"));
+}
+
 TEST_F(GenerateTest, ChangedNamesAreToldAndMayBeChosen) {
   writeService("<alphanumeric name='1ST' picture='X' length='1'/>");
   EXPECT_THAT(textsOf(make("xsd", "s.xml", "out").findings),

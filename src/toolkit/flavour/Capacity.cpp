@@ -167,6 +167,12 @@ bool contains(const Capacity& larger, const Capacity& smaller) {
   Number number;
   number.isSigned = smaller.isSigned;
   if (smaller.kind == Kind::integer) {
+    const bool isEndless = smaller.bits == 0 && smaller.digits == 0;
+    const bool holdsAll =
+        larger.kind == Kind::integer
+            ? larger.bits == 0
+            : larger.kind == Kind::decimal && larger.digits == 0 && larger.whole == 0;
+    if (isEndless && !holdsAll) return false;
     number.bits = smaller.bits;
     return misfit(larger, number).empty();
   }
