@@ -45,9 +45,8 @@ const Row rows[] = {
     {"PIC N(10) NATIONAL", "String", "string"},
     {"PIC Z(5)9.99-", "String", "string"},
     {"POINTER", "long", "uint"},
-    {"PIC 9(02) OCCURS 3", "List<Byte>", "global::System.Collections.Generic.IList<sbyte>"},
-    {"PIC S9(5)V99 OCCURS 3", "List<BigDecimal>",
-     "global::System.Collections.Generic.IList<decimal>"},
+    {"PIC 9(02) OCCURS 3", "List<Byte>", "IList<sbyte>"},
+    {"PIC S9(5)V99 OCCURS 3", "List<BigDecimal>", "IList<decimal>"},
 };
 
 class GenerateTypes : public test::GenerateTest, public testing::WithParamInterface<Row> {

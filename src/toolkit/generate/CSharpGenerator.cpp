@@ -18,7 +18,7 @@ constexpr std::size_t indentation = 4;
 
 std::string typeOf(const Member& member) {
   const bool isList = member.field != nullptr && member.field->isTable();
-  return isList ? "global::System.Collections.Generic.IList<" + member.type + ">" : member.type;
+  return isList ? "IList<" + member.type + ">" : member.type;
 }
 
 class CSharpText {
@@ -30,6 +30,11 @@ class CSharpText {
     const std::string chosen = dottedOption(job_, "namespace", csharpLanguage().members);
     out_.line("// " + job_.banner());
     out_.line();
+    // Nothing in the namespace can be meant by IList<...>: types that are made take no others.
+    if (hasLists()) {
+      out_.line("using System.Collections.Generic;");
+      out_.line();
+    }
     out_.line("namespace " + (chosen.empty() ? plan_.name : chosen));
     out_.open("{");
     if (model_.flavour != nullptr) writeInterface();
@@ -39,8 +44,23 @@ class CSharpText {
   }
 
  private:
+  bool hasLists() const {
+    const auto isList = [](const Member& member) {
+      return member.field != nullptr && member.field->isTable();
+    };
+    const auto hasList = [&isList](const std::vector<Member>& members) {
+      return std::any_of(members.begin(), members.end(), isList);
+    };
+    return std::any_of(
+               plan_.structures.begin(), plan_.structures.end(),
+               [&hasList](const Structure& structure) { return hasList(structure.members); }) ||
+           std::any_of(plan_.methods.begin(), plan_.methods.end(),
+                       [&hasList](const Method& method) { return hasList(method.parameters); });
+  }
+
   void writeInterface() {
-    writeSummary(model_.name + ": what program " + model_.program + " does for its callers.");
+    writeSummary(
+        docText(model_.name + ": what program " + model_.program + " does for its callers."));
     out_.line("public interface " + plan_.interface);
     out_.open("{");
     for (std::size_t i = 0; i < plan_.methods.size(); ++i) {
@@ -63,11 +83,11 @@ class CSharpText {
 
   void writeMethod(const Method& method) {
     const Member* const answer = answerOf(method);
-    writeSummary("Operation " + quote(method.operation->name) + " calls entry point " +
-                 quote(method.operation->entryPoint) + ".");
+    writeSummary(docText("Operation " + quote(method.operation->name) + " calls entry point " +
+                         quote(method.operation->entryPoint) + "."));
     std::string parameters;
     for (const Member& member : method.parameters) {
-      const std::string about = docText(textAbout(model_, member));
+      const std::string about = docOf(member);
       if (&member == answer) {
         out_.line("/// <returns>" + about + "</returns>");
         continue;
@@ -84,20 +104,25 @@ class CSharpText {
 
   void writeStructure(const Structure& structure) {
     out_.line();
-    writeSummary("The structure of " + structure.place + ".");
+    writeSummary(docText("The structure of " + structure.place + "."));
     out_.line("public class " + structure.name);
     out_.open("{");
     for (std::size_t i = 0; i < structure.members.size(); ++i) {
       const Member& member = structure.members[i];
       if (i > 0) out_.line();
-      writeSummary(textAbout(model_, member));
+      writeSummary(docOf(member));
       out_.line("public " + typeOf(member) + " " + member.name + " { get; set; }");
     }
     out_.close("}");
   }
 
-  void writeSummary(const std::string& text) {
-    out_.line("/// <summary>" + docText(text) + "</summary>");
+  void writeSummary(const std::string& doc) { out_.line("/// <summary>" + doc + "</summary>"); }
+
+  std::string docOf(const Member& member) const {
+    const std::string text = textAbout(model_, member);
+    if (!text.empty()) return docText(text);
+    return member.structure == none ? "no item of the program"
+                                    : "see <see cref=\"" + member.type + "\"/>";
   }
 
   const Job& job_;

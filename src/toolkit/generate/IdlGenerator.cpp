@@ -221,7 +221,8 @@ class IdlText {
   }
 
   void writeAbout(const Member& member) {
-    out_.line("// " + commentText(textAbout(model_, member)));
+    const std::string text = textAbout(model_, member);
+    if (!text.empty()) out_.line("// " + commentText(text));
   }
 
   const Job& job_;

@@ -276,7 +276,7 @@ std::string textAbout(const ServiceModel& model, const Member& member) {
   const bool isToldByItem = item != nullptr && item->name == member.field->name;
   if (member.name != member.field->name && !isToldByItem) add("called " + member.field->name);
   for (const std::string& line : linesAbout(model, *member.field)) add(line);
-  return text.empty() ? member.type : text;
+  return text;
 }
 
 }  // namespace as::toolkit::gen

@@ -65,7 +65,7 @@ InterfacePlan planOf(const Job& job, const Language& language);
 std::string dottedOption(const Job& job, const char* option, const NameRule& rule);
 
 // What is known of a member, as one text for documentation: what it was called, unless its COBOL
-// item is called so, too, and that item.
+// item is called so, too, and that item. Empty when nothing is: a structure says the rest itself.
 std::string textAbout(const ServiceModel& model, const Member& member);
 
 }  // namespace as::toolkit::gen

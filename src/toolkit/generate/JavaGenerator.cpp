@@ -179,7 +179,7 @@ class JavaText {
     if (!method.answer.empty()) {
       out_.line(" * @return all that comes out");
     } else if (!out.empty()) {
-      out_.line(" * @return " + docText(textAbout(model_, out.front())));
+      out_.line(" * @return " + docOf(out.front()));
     }
     out_.line(" */");
     if (!operation.transactionType.empty()) {
@@ -237,9 +237,8 @@ class JavaText {
     writeDoc("Makes one without values.");
     out_.line("public " + structure.name + "() {}");
     for (const Member& member : structure.members) {
-      const std::string value = docText(textAbout(model_, member));
       out_.line();
-      out_.line("/** {@return " + value + "} */");
+      out_.line("/** {@return " + docOf(member) + "} */");
       out_.line("public " + typeOf(member) + " " + member.name + "() {");
       out_.line("  return this." + member.name + ";");
       out_.line("}");
@@ -259,7 +258,13 @@ class JavaText {
   void writeDoc(const std::string& text) { out_.line("/** " + docText(text) + " */"); }
 
   void writeParam(const Member& member) {
-    out_.line(" * @param " + member.name + " " + docText(textAbout(model_, member)));
+    out_.line(" * @param " + member.name + " " + docOf(member));
+  }
+
+  std::string docOf(const Member& member) const {
+    const std::string text = textAbout(model_, member);
+    if (!text.empty()) return docText(text);
+    return member.structure == none ? "no item of the program" : "see {@link " + member.type + "}";
   }
 
   const Job& job_;

@@ -6,13 +6,13 @@ namespace SavingsDeposits
     public interface ISavingsDeposits
     {
         /// <summary>Operation 'postNightly' calls entry point 'DEPINT01'.</summary>
-        /// <returns>Outcome</returns>
+        /// <returns>see <see cref="Outcome"/></returns>
         Outcome postNightly();
 
         /// <summary>Operation 'postAgain' calls entry point 'DEPINT01'.</summary>
         /// <param name="arguments">$command_line</param>
         /// <param name="corrections">$stdin</param>
-        /// <returns>Outcome</returns>
+        /// <returns>see <see cref="Outcome"/></returns>
         Outcome postAgain(string arguments, string corrections);
     }
 

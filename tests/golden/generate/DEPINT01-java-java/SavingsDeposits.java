@@ -31,7 +31,7 @@ public interface SavingsDeposits {
   /**
    * Operation 'postNightly' calls entry point 'DEPINT01'.
    *
-   * @return Outcome
+   * @return see {@link Outcome}
    */
   @Transaction(TransactionType.NEVER)
   Outcome postNightly();
@@ -41,7 +41,7 @@ public interface SavingsDeposits {
    *
    * @param arguments $command_line
    * @param corrections $stdin
-   * @return Outcome
+   * @return see {@link Outcome}
    */
   @Transaction(TransactionType.NEVER)
   Outcome postAgain(

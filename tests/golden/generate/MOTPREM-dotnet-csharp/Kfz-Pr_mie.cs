@@ -1,13 +1,15 @@
 // Made by AgentServices VERSION from MOTPREM-dotnet.xml
 
+using System.Collections.Generic;
+
 namespace KfzPrämie
 {
     /// <summary>Kfz-Prämie: what program MOTPREM does for its callers.</summary>
     public interface IKfzPrämie
     {
         /// <summary>Operation 'quote' calls entry point 'MOTPREM'.</summary>
-        /// <param name="request">Quote</param>
-        /// <param name="premium">Premium</param>
+        /// <param name="request">see <see cref="Quote"/></param>
+        /// <param name="premium">see <see cref="Premium"/></param>
         /// <param name="returnCode">LK-RETURN-CODE, PIC S9(09), COMP-5</param>
         void quote(Quote request, out Premium premium, out int returnCode);
 
@@ -22,9 +24,9 @@ namespace KfzPrämie
         int taxOn(int net);
 
         /// <summary>Operation 'instalments' calls entry point 'MOTPINST'.</summary>
-        /// <param name="request">Quote</param>
-        /// <param name="premium">Premium</param>
-        /// <param name="plan">InstalmentsPlan</param>
+        /// <param name="request">see <see cref="Quote"/></param>
+        /// <param name="premium">see <see cref="Premium"/></param>
+        /// <param name="plan">see <see cref="InstalmentsPlan"/></param>
         void instalments(Quote request, out Premium premium, out InstalmentsPlan plan);
     }
 
@@ -57,7 +59,7 @@ namespace KfzPrämie
         public int licensed { get; set; }
 
         /// <summary>occurs 3 times</summary>
-        public global::System.Collections.Generic.IList<Claim> claims { get; set; }
+        public IList<Claim> claims { get; set; }
 
         /// <summary>LK-REQUEST.LK-REQ-DRIVER.LK-DRV-NCD-CLASS(*), PIC S9(02); LK-NCD-MALUS: '-2', '-1'; LK-NCD-NORMAL: '0' to '35'</summary>
         public sbyte noClaimsClass { get; set; }
@@ -97,10 +99,10 @@ namespace KfzPrämie
     /// <summary>The structure of type Quote.</summary>
     public class Quote
     {
-        /// <summary>QuotePolicyParts</summary>
+        /// <summary>see <see cref="QuotePolicyParts"/></summary>
         public QuotePolicyParts policyParts { get; set; }
 
-        /// <summary>QuoteStart</summary>
+        /// <summary>see <see cref="QuoteStart"/></summary>
         public QuoteStart start { get; set; }
 
         /// <summary>LK-REQUEST.LK-REQ-COVER, PIC 9(01); LK-THIRD-PARTY: '1'; LK-PART-COVER: '2'; LK-FULL-COVER: '3'; LK-COVER-VALID: '1' to '3'</summary>
@@ -109,17 +111,17 @@ namespace KfzPrämie
         /// <summary>LK-REQUEST.LK-REQ-PAYMENT, PIC X(01)</summary>
         public string payment { get; set; }
 
-        /// <summary>Vehicle</summary>
+        /// <summary>see <see cref="Vehicle"/></summary>
         public Vehicle vehicle { get; set; }
 
-        /// <summary>QuoteRegion</summary>
+        /// <summary>see <see cref="QuoteRegion"/></summary>
         public QuoteRegion region { get; set; }
 
         /// <summary>LK-REQUEST.LK-REQ-DRIVER-COUNT, PIC 9(02); LK-ANY-DRIVER: 'ZERO'</summary>
         public sbyte driverCount { get; set; }
 
         /// <summary>occurs 1 to 6 times, depending on LK-REQUEST.LK-REQ-DRIVER-COUNT</summary>
-        public global::System.Collections.Generic.IList<Driver> drivers { get; set; }
+        public IList<Driver> drivers { get; set; }
     }
 
     /// <summary>The structure of type Premium.</summary>
@@ -132,7 +134,7 @@ namespace KfzPrämie
         public string message { get; set; }
 
         /// <summary>LK-RESULT.LK-RES-PREMIUM-TABLE.LK-RES-PREMIUM(*), PIC S9(07)V99, COMP-3; occurs 4 times</summary>
-        public global::System.Collections.Generic.IList<decimal> parts { get; set; }
+        public IList<decimal> parts { get; set; }
 
         /// <summary>LK-RESULT.LK-RES-NET, PIC S9(07)V99, COMP-3</summary>
         public decimal net { get; set; }
@@ -202,7 +204,7 @@ namespace KfzPrämie
         public int firstDue { get; set; }
 
         /// <summary>occurs 1 to 12 times, depending on LK-PLAN.LK-PLAN-HEAD.LK-PLAN-USED</summary>
-        public global::System.Collections.Generic.IList<InstalmentsPlanEntries> entries { get; set; }
+        public IList<InstalmentsPlanEntries> entries { get; set; }
     }
 
     /// <summary>The structure of instalments.plan.entries.</summary>

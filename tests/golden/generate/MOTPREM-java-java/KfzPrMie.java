@@ -34,7 +34,7 @@ public interface KfzPrMie {
   /**
    * Operation 'quote' calls entry point 'MOTPREM'.
    *
-   * @param request Quote
+   * @param request see {@link Quote}
    * @return all that comes out
    */
   @Transaction(TransactionType.SUPPORTS)
@@ -61,7 +61,7 @@ public interface KfzPrMie {
   /**
    * Operation 'instalments' calls entry point 'MOTPINST'.
    *
-   * @param request Quote
+   * @param request see {@link Quote}
    * @return all that comes out
    */
   @Transaction(TransactionType.REQUIRES_NEW)
@@ -124,12 +124,12 @@ public interface KfzPrMie {
   /**
    * The structure of type Quote.
    *
-   * @param policyParts QuotePolicyParts
-   * @param start QuoteStart
+   * @param policyParts see {@link QuotePolicyParts}
+   * @param start see {@link QuoteStart}
    * @param cover LK-REQUEST.LK-REQ-COVER, PIC 9(01); LK-THIRD-PARTY: '1'; LK-PART-COVER: '2'; LK-FULL-COVER: '3'; LK-COVER-VALID: '1' to '3'
    * @param payment LK-REQUEST.LK-REQ-PAYMENT, PIC X(01)
-   * @param vehicle Vehicle
-   * @param region QuoteRegion
+   * @param vehicle see {@link Vehicle}
+   * @param region see {@link QuoteRegion}
    * @param driverCount LK-REQUEST.LK-REQ-DRIVER-COUNT, PIC 9(02); LK-ANY-DRIVER: 'ZERO'
    * @param drivers occurs 1 to 6 times, depending on LK-REQUEST.LK-REQ-DRIVER-COUNT
    */
@@ -232,7 +232,7 @@ public interface KfzPrMie {
   /**
    * What comes out of operation quote.
    *
-   * @param premium Premium
+   * @param premium see {@link Premium}
    * @param returnCode LK-RETURN-CODE, PIC S9(09), COMP-5
    */
   record QuoteResult(
@@ -242,8 +242,8 @@ public interface KfzPrMie {
   /**
    * What comes out of operation instalments.
    *
-   * @param premium Premium
-   * @param plan InstalmentsPlan
+   * @param premium see {@link Premium}
+   * @param plan see {@link InstalmentsPlan}
    */
   record InstalmentsResult(
       Premium premium,

@@ -7,13 +7,13 @@ namespace Payslip
     {
         /// <summary>Operation 'calculate' calls entry point 'PAYSLIP'.</summary>
         /// <param name="employeeNumber">LK-EMPLOYEE-NO, PIC 9(09), COMP-5</param>
-        /// <param name="period">Period</param>
+        /// <param name="period">see <see cref="Period"/></param>
         /// <returns>$return_code</returns>
         int calculate(long employeeNumber, Period period);
 
         /// <summary>Operation 'recalculate' calls entry point 'PAYSLIP'.</summary>
         /// <param name="employeeNumber">LK-EMPLOYEE-NO, PIC 9(09), COMP-5</param>
-        /// <param name="period">Period</param>
+        /// <param name="period">see <see cref="Period"/></param>
         /// <param name="corrections">$stdin</param>
         /// <param name="log">$stdout</param>
         /// <param name="returnCode">$return_code</param>

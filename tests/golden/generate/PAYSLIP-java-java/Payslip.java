@@ -32,7 +32,7 @@ public interface Payslip {
    * Operation 'calculate' calls entry point 'PAYSLIP'.
    *
    * @param employeeNumber LK-EMPLOYEE-NO, PIC 9(09), COMP-5
-   * @param period Period
+   * @param period see {@link Period}
    * @return $return_code
    */
   @Transaction(TransactionType.REQUIRES)
@@ -44,7 +44,7 @@ public interface Payslip {
    * Operation 'recalculate' calls entry point 'PAYSLIP'.
    *
    * @param employeeNumber LK-EMPLOYEE-NO, PIC 9(09), COMP-5
-   * @param period Period
+   * @param period see {@link Period}
    * @param corrections $stdin
    * @return all that comes out
    */

@@ -1,5 +1,7 @@
 // Made by AgentServices VERSION from WHSLOTS-dotnet.xml
 
+using System.Collections.Generic;
+
 namespace WarehouseSlots
 {
     /// <summary>Warehouse slots: what program WHSLOTS does for its callers.</summary>
@@ -9,17 +11,17 @@ namespace WarehouseSlots
         /// <param name="house">LK-HOUSE, PIC X(04)</param>
         /// <param name="asOf">LK-MAP.LM-AS-OF, PIC 9(08)</param>
         /// <param name="zones">occurs 6 times</param>
-        void map(string house, out int asOf, out global::System.Collections.Generic.IList<Zone> zones);
+        void map(string house, out int asOf, out IList<Zone> zones);
 
         /// <summary>Operation 'coldStore' calls entry point 'WHSMAP'.</summary>
         /// <returns>occurs 8 times</returns>
-        global::System.Collections.Generic.IList<ColdStoreAisles> coldStore();
+        IList<ColdStoreAisles> coldStore();
 
         /// <summary>Operation 'receive' calls entry point 'WHSTASK'.</summary>
         /// <param name="orderNumber">LK-TASK.LT-RECEIPT-BODY.LT-RC-ORDER-NO, PIC 9(10)</param>
         /// <param name="article">LK-TASK.LT-RECEIPT-BODY.LT-RC-ARTICLE, PIC X(13)</param>
         /// <param name="quantity">LK-TASK.LT-RECEIPT-BODY.LT-RC-QTY, PIC 9(07)</param>
-        /// <returns>Answer</returns>
+        /// <returns>see <see cref="Answer"/></returns>
         Answer receive(long orderNumber, string article, int quantity);
 
         /// <summary>Operation 'pick' calls entry point 'WHSTASK'.</summary>
@@ -27,7 +29,7 @@ namespace WarehouseSlots
         /// <param name="article">LK-TASK.LT-PICK-BODY.LT-PK-ARTICLE, PIC X(13)</param>
         /// <param name="quantity">LK-TASK.LT-PICK-BODY.LT-PK-QTY-ASKED, PIC 9(07)</param>
         /// <param name="taken">LK-TASK.LT-PICK-BODY.LT-PK-QTY-TAKEN, PIC 9(07)</param>
-        /// <param name="answer">Answer</param>
+        /// <param name="answer">see <see cref="Answer"/></param>
         void pick(int wave, string article, int quantity, out int taken, out Answer answer);
     }
 
@@ -41,7 +43,7 @@ namespace WarehouseSlots
         public int onHand { get; set; }
 
         /// <summary>LK-MAP.LM-ZONE.LM-AISLE.LM-BAY.LM-LEVEL(*,*,*,*), PIC 9(02), COMP-X; occurs 4 times</summary>
-        public global::System.Collections.Generic.IList<short> levels { get; set; }
+        public IList<short> levels { get; set; }
 
         /// <summary>LK-MAP.LM-ZONE.LM-AISLE.LM-BAY.LM-BAY-NO(*,*,*), PIC 9(03)</summary>
         public short number { get; set; }
@@ -57,7 +59,7 @@ namespace WarehouseSlots
         public sbyte number { get; set; }
 
         /// <summary>occurs 20 times</summary>
-        public global::System.Collections.Generic.IList<Bay> bays { get; set; }
+        public IList<Bay> bays { get; set; }
     }
 
     /// <summary>The structure of type Zone.</summary>
@@ -70,7 +72,7 @@ namespace WarehouseSlots
         public decimal temperature { get; set; }
 
         /// <summary>occurs 8 times</summary>
-        public global::System.Collections.Generic.IList<Aisle> aisles { get; set; }
+        public IList<Aisle> aisles { get; set; }
     }
 
     /// <summary>The structure of type Answer.</summary>
@@ -83,7 +85,7 @@ namespace WarehouseSlots
         public short lineCount { get; set; }
 
         /// <summary>occurs 0 to 200 times, depending on LK-ANSWER.LA-LINE-COUNT</summary>
-        public global::System.Collections.Generic.IList<AnswerLines> lines { get; set; }
+        public IList<AnswerLines> lines { get; set; }
     }
 
     /// <summary>The structure of type Answer.lines.</summary>
@@ -100,7 +102,7 @@ namespace WarehouseSlots
     public class ColdStoreAisles
     {
         /// <summary>occurs 20 times</summary>
-        public global::System.Collections.Generic.IList<ColdStoreAislesBays> bays { get; set; }
+        public IList<ColdStoreAislesBays> bays { get; set; }
     }
 
     /// <summary>The structure of coldStore.aisles.bays.</summary>

@@ -54,7 +54,7 @@ public interface WarehouseSlots {
    * @param orderNumber LK-TASK.LT-RECEIPT-BODY.LT-RC-ORDER-NO, PIC 9(10)
    * @param article LK-TASK.LT-RECEIPT-BODY.LT-RC-ARTICLE, PIC X(13)
    * @param quantity LK-TASK.LT-RECEIPT-BODY.LT-RC-QTY, PIC 9(07)
-   * @return Answer
+   * @return see {@link Answer}
    */
   @Transaction(TransactionType.REQUIRES)
   Answer receive(
@@ -169,7 +169,7 @@ public interface WarehouseSlots {
    * What comes out of operation pick.
    *
    * @param taken LK-TASK.LT-PICK-BODY.LT-PK-QTY-TAKEN, PIC 9(07)
-   * @param answer Answer
+   * @param answer see {@link Answer}
    */
   record PickResult(
       int taken,
