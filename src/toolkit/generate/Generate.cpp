@@ -219,14 +219,14 @@ GeneratedOutput generateFiles(const DocumentReader& reader, const GeneratorKind&
                               const DocumentSource& source, const std::string& output,
                               const GenerateOptions& options,
                               const std::optional<std::string>& dictionary) {
-  auto [made, read] = makeOfDocument(reader, kind, source, options, dictionary);
+  MadeOfDocument read = makeOfDocument(reader, kind, source, options, dictionary);
   GeneratedOutput result;
-  result.findings = std::move(made.findings);
-  if (made.files.empty()) return result;
-  const std::vector<FileContent> contents = placed(made.files, output);
+  result.findings = std::move(read.made.findings);
+  if (read.made.files.empty()) return result;
+  const std::vector<FileContent> contents = placed(read.made.files, output);
   for (const FileContent& content : contents) {
     checkOutput(content.file, source.name, "document");
-    checkOutput(content.file, read, "dictionary");
+    checkOutput(content.file, read.dictionary, "dictionary");
     result.files.push_back(content.file);
   }
   result.written = replaceFiles(contents);
