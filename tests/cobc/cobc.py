@@ -266,6 +266,10 @@ def main() -> int:
                         'programs that others wrote, in place of those that are made up: those of the '
                         'sources in these folders that the compiler takes')
     arguments = parser.parse_args()
+    tool = shutil.which(arguments.tool)
+    if tool is None:
+        parser.error(f'there is no {arguments.tool}')
+    arguments.tool = str(Path(tool).resolve())
     if arguments.sources:
         results = [compare_foreign(arguments.sources, arguments.tool, pairing.dialect, pairing.options,
                                    arguments.show)

@@ -93,13 +93,19 @@ def is_behind_aligned_group(difference: Difference, pairs: List[Pair]) -> bool:
                for group in of_record if difference.item in of_record)
 
 
+def has_blank_with_point(item: Item) -> bool:
+    entry = item.entry
+    while entry.like is not None and not entry.blank:
+        entry = entry.like
+    return entry.blank and entry.picture is not None and 'V' in entry.picture.text.upper()
+
+
 def is_blank_with_point(difference: Difference, pairs: List[Pair]) -> bool:
     """Whether an item is, contains or follows a number with V and BLANK WHEN ZERO."""
     if difference.what not in ('offset', 'length') or difference.item is None:
         return False
     of_record = [pair.item for pair in pairs if pair.item.record() is difference.item.record()]
-    return any(item.entry.blank and item.entry.picture is not None and
-               'V' in item.entry.picture.text.upper() and
+    return any(has_blank_with_point(item) and
                (item is difference.item or difference.item in above(item) or
                 of_record.index(item) < of_record.index(difference.item))
                for item in of_record if difference.item in of_record)

@@ -19,9 +19,11 @@ class Importer:
         """The items of each program; None where no dictionary was made."""
         out = folder / 'dictionaries'
         shutil.rmtree(out, ignore_errors=True)
+        out.mkdir()
+        output = out / f'{names[0]}.xml' if len(names) == 1 else out
         result = subprocess.run(
-            [self.tool, 'import', '--dialect', self.dialect, '--output', str(out) + '/',
-             *(f'{name}.cob' for name in names), *([f'{names[0]}.cob'] if len(names) == 1 else [])],
+            [self.tool, 'import', '--dialect', self.dialect, '--output', str(output),
+             *(f'{name}.cob' for name in names)],
             cwd=folder, capture_output=True, text=True, errors='replace', check=False)
         self.said = result.stdout + result.stderr
         return {name: dictionary.read(out / f'{name}.xml') if (out / f'{name}.xml').exists() else None
