@@ -139,7 +139,7 @@ void JoinedNames::join() {
       continue;
     }
     TextWord& word = read_[i];
-    if (word.kind != TextWord::Kind::run || defined_.count(inCapitals(word.text)) == 0) continue;
+    if (word.kind != TextWord::Kind::run || !defined_.contains(inCapitals(word.text))) continue;
     word.text = arena_.keep(joined(word.text));
     added += joint_.added.size();
   }

@@ -53,7 +53,7 @@ void LaidLine::setText(std::string_view code, std::int32_t beginsIn) {
 }
 
 // A directive that begins in front of the code, or a line that was never meant for the compiler.
-bool LineLayout::layOddStart(std::string_view line, LaidLine& laid) {
+bool LineLayout::layOddStart(std::string_view line, LaidLine& laid) const {
   const std::string_view text = withoutBlanksInFront(line);
   const bool isCard = !codeSeen_ && isOptionCard(text);
   const bool isDirective = isCard || text.substr(0, 2) == ">>" || isDollarDirective(text);

@@ -68,7 +68,7 @@ class LineLayout {
   void layColumns(std::string_view line, LaidLine& laid);
   void tellWide(std::string_view line, const LaidLine& laid);
   void layFree(std::string_view line, LaidLine& laid);
-  bool layOddStart(std::string_view line, LaidLine& laid);
+  bool layOddStart(std::string_view line, LaidLine& laid) const;
   bool layDirective(const Cut& parts, LaidLine& laid);
   Cut cut(std::string_view line);
 

@@ -30,7 +30,9 @@ std::string wordList() {
 
 }  // namespace
 
-bool LintComments::mayBeIn(std::string_view text) { return text.find(mark) != text.npos; }
+bool LintComments::mayBeIn(std::string_view text) {
+  return text.find(mark) != std::string_view::npos;
+}
 
 LintComments::LintComments(const DocumentOutline& outline) : outline_(outline) {
   for (const DocumentOutline::Comment& comment : outline.comments()) {

@@ -170,11 +170,13 @@ class ReportMaker {
       const GeneratorKind* const kind = findGeneratorKind(word);
       if (kind == nullptr || !isMadeOf(*kind, flavour)) continue;
       ordered_json files = ordered_json::array();
+      const std::string folder =
+          std::string("made/").append(id).append("/").append(word).append("/");
       std::string problem;
       try {
         Generated made = generateFrom(reader_, *kind, origin);
         for (GeneratedFile& one : made.files) {
-          ReportFile placed{"made/" + id + "/" + word + "/" + one.name, std::move(one.content)};
+          ReportFile placed{std::string(folder).append(one.name), std::move(one.content)};
           files.push_back(placed.name);
           data_.push_back(std::move(placed));
         }
@@ -219,6 +221,7 @@ class ReportMaker {
 Report makeReport(const DocumentReader& reader, const std::vector<std::string>& files,
                   const ReportOptions& options) {
   std::vector<DocumentSource> sources;
+  sources.reserve(files.size());
   for (const std::string& file : files) sources.push_back({file});
   return makeReportFrom(reader, sources, options);
 }

@@ -211,8 +211,7 @@ ordered_json dataOf(const ServiceFacts& facts, const ItemPaths* paths, const Fin
 ordered_json namesOf(const DictionaryFacts& facts) {
   ordered_json names = ordered_json::array();
   addName(names, "program", 0, facts.name(), "");
-  for (std::size_t i = 0; i < facts.sections().size(); ++i) {
-    const SectionFacts& section = facts.sections()[i];
+  for (const SectionFacts& section : facts.sections()) {
     if (section.kind == SectionFacts::Kind::file) addName(names, "file", 0, section.file, "");
   }
   for (ItemNumber i = 0; i < facts.items().size(); ++i) {
