@@ -119,8 +119,8 @@ class CSharpText {
   void writeSummary(const std::string& doc) { out_.line("/// <summary>" + doc + "</summary>"); }
 
   std::string docOf(const Member& member) const {
-    const std::string text = textAbout(model_, member);
-    if (!text.empty()) return docText(text);
+    const std::string told = textAbout(model_, member);
+    if (!told.empty()) return docText(told);
     return member.structure == none ? "no item of the program"
                                     : "see <see cref=\"" + member.type + "\"/>";
   }

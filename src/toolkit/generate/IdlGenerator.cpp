@@ -221,8 +221,8 @@ class IdlText {
   }
 
   void writeAbout(const Member& member) {
-    const std::string text = textAbout(model_, member);
-    if (!text.empty()) out_.line("// " + commentText(text));
+    const std::string told = textAbout(model_, member);
+    if (!told.empty()) out_.line("// " + commentText(told));
   }
 
   const Job& job_;

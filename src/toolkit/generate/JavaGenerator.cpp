@@ -262,8 +262,8 @@ class JavaText {
   }
 
   std::string docOf(const Member& member) const {
-    const std::string text = textAbout(model_, member);
-    if (!text.empty()) return docText(text);
+    const std::string told = textAbout(model_, member);
+    if (!told.empty()) return docText(told);
     return member.structure == none ? "no item of the program" : "see {@link " + member.type + "}";
   }
 

@@ -77,8 +77,8 @@ LineLayout::Cut LineLayout::cut(std::string_view line) {
   result.column = static_cast<std::int32_t>(firstColumn);
   result.isPlain = isPlain_ || isAsciiWithoutTabs(line.substr(0, margin));
   std::size_t afterSequence = indicatorColumn - 1;
-  std::string expanded;
   if (!result.isPlain) {
+    std::string expanded;
     // Up to the right margin, or to the first column of the code, tabs become blanks.
     const std::size_t expandTo =
         margin != std::string_view::npos || isTabbed ? margin : indicatorColumn;
