@@ -7,6 +7,7 @@
 
 #include "toolkit/generate/ServiceModel.h"
 #include "toolkit/text/Phrases.h"
+#include "toolkit/text/Utf8.h"
 
 namespace as::toolkit::gen {
 
@@ -114,24 +115,7 @@ std::u32string charactersOf(std::string_view text) {
 
 std::string utf8Of(std::u32string_view text) {
   std::string bytes;
-  const auto add = [&bytes](char32_t byte) { bytes += static_cast<char>(byte); };
-  for (const char32_t character : text) {
-    if (character < 0x80) {
-      add(character);
-    } else if (character < 0x800) {
-      add(0xC0U | (character >> 6U));
-      add(0x80U | (character & 0x3FU));
-    } else if (character < 0x10000) {
-      add(0xE0U | (character >> 12U));
-      add(0x80U | ((character >> 6U) & 0x3FU));
-      add(0x80U | (character & 0x3FU));
-    } else {
-      add(0xF0U | (character >> 18U));
-      add(0x80U | ((character >> 12U) & 0x3FU));
-      add(0x80U | ((character >> 6U) & 0x3FU));
-      add(0x80U | (character & 0x3FU));
-    }
-  }
+  for (const char32_t character : text) appendUtf8(bytes, character);
   return bytes;
 }
 

@@ -9,6 +9,7 @@
 
 #include "toolkit/import/SourceReport.h"
 #include "toolkit/import/Utf8Text.h"
+#include "toolkit/text/Utf8.h"
 
 namespace as::toolkit {
 

@@ -149,17 +149,12 @@ class Explainer {
     }
     if (item.slackBefore > 0) {
       add(item, bytes(item.slackBefore) + " of slack before it bring it to a multiple of " +
-                    std::to_string(item.hasMembers ? leadingBoundary(index) : item.boundary));
+                    std::to_string(at(leadingItem(program_.entries, index)).boundary));
     } else if (item.isSync && item.boundary > 1) {
       add(item, "SYNCHRONIZED: stands on a multiple of " + std::to_string(item.boundary) +
                     " without slack");
     }
     add(item, "offset " + std::to_string(item.offset));
-  }
-
-  int leadingBoundary(Index item) const {
-    while (at(item).hasMembers && item + 1 < at(item).end) ++item;
-    return at(item).boundary;
   }
 
   // The member in front that reaches farthest.

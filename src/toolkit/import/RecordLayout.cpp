@@ -64,9 +64,9 @@ bool RecordLayout::placeMembers(Index index) {
     if (member.isRedefinition) {
       start = member.original == none ? group.offset : at(member.original).offset;
     } else if (dialect_.slackPlace == SlackPlace::beforeGroups && member.hasMembers) {
-      start = roundedUp(end, at(leadingItem(next)).boundary);
+      start = roundedUp(end, at(leadingItem(program_.entries, next)).boundary);
       slack = static_cast<int>(start - end);
-      if (slack > 0) tellSlackPlace(at(leadingItem(next)), member, "in front of");
+      if (slack > 0) tellSlackPlace(at(leadingItem(program_.entries, next)), member, "in front of");
     }
     if (start > mostBytes || !placeItem(next, start)) return false;
     member.slackBefore += slack;
@@ -87,13 +87,6 @@ bool RecordLayout::placeMembers(Index index) {
   }
   group.length = static_cast<int>(length);
   return true;
-}
-
-// The elementary item which starts where the group starts; the innermost group, if that holds
-// nothing but RENAMES.
-Index RecordLayout::leadingItem(Index item) const {
-  while (at(item).hasMembers && item + 1 < at(item).end) ++item;
-  return item;
 }
 
 void RecordLayout::tellSlackPlace(const DataEntry& item, const DataEntry& group,

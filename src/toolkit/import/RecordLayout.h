@@ -2,7 +2,9 @@
 #ifndef TOOLKIT_IMPORT_RECORDLAYOUT_H_
 #define TOOLKIT_IMPORT_RECORDLAYOUT_H_
 
+#include <cstddef>
 #include <cstdint>
+#include <vector>
 
 #include "as/toolkit/Storage.h"
 #include "toolkit/import/EntryProblems.h"
@@ -23,7 +25,6 @@ class RecordLayout {
  private:
   bool placeItem(Index index, std::int64_t start);
   bool placeMembers(Index index);
-  Index leadingItem(Index item) const;
   void tellSlackPlace(const DataEntry& item, const DataEntry& group, const char* where);
   void lookAtRedefinition(const DataEntry& item);
   DataEntry& at(Index entry) { return program_.entries[static_cast<std::size_t>(entry)]; }
@@ -35,6 +36,16 @@ class RecordLayout {
   CobolProgram& program_;
   EntryProblems& problems_;
 };
+
+// The elementary item which starts where the group starts; the innermost group, if that holds
+// nothing but RENAMES.
+inline Index leadingItem(const std::vector<DataEntry>& entries, Index item) {
+  const auto at = [&entries](Index entry) -> const DataEntry& {
+    return entries[static_cast<std::size_t>(entry)];
+  };
+  while (at(item).hasMembers && item + 1 < at(item).end) ++item;
+  return item;
+}
 
 // The bytes that all occurrences of an item take.
 inline std::int64_t extentOf(const DataEntry& item) {

@@ -10,6 +10,7 @@
 #include "toolkit/import/CodePage.h"
 #include "toolkit/import/EncodingRecognition.h"
 #include "toolkit/import/Utf8Text.h"
+#include "toolkit/text/Utf8.h"
 
 namespace as::toolkit {
 

@@ -53,25 +53,6 @@ bool isUtf8(std::string_view text) {
   return true;
 }
 
-void appendUtf8(std::string& text, std::uint32_t code) {
-  const auto add = [&](std::uint32_t bits) { text += static_cast<char>(bits); };
-  if (code < 0x80) {
-    add(code);
-  } else if (code < 0x800) {
-    add(0xC0U | (code >> 6U));
-    add(0x80U | (code & 0x3FU));
-  } else if (code < 0x10000) {
-    add(0xE0U | (code >> 12U));
-    add(0x80U | ((code >> 6U) & 0x3FU));
-    add(0x80U | (code & 0x3FU));
-  } else {
-    add(0xF0U | (code >> 18U));
-    add(0x80U | ((code >> 12U) & 0x3FU));
-    add(0x80U | ((code >> 6U) & 0x3FU));
-    add(0x80U | (code & 0x3FU));
-  }
-}
-
 int columnsOfCharacter(std::string_view text) {
   const auto first = static_cast<Byte>(text.front());
   // Greek and Cyrillic are U+0370 to U+04FF.

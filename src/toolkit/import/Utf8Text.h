@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace as::toolkit {
@@ -18,8 +17,6 @@ bool isUtf8(std::string_view text);
 
 // How many bytes of `text` from `at` on are one character; 0 when they are none.
 std::size_t characterLength(std::string_view text, std::size_t at);
-
-void appendUtf8(std::string& text, std::uint32_t code);
 
 // How many columns the character that begins with the first byte of `text` takes where characters
 // of two bytes take two: those of Asia but for the narrow letters of Japan, and Greek and Cyrillic.

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "toolkit/text/Utf8.h"
+
 namespace as::toolkit {
 
 namespace {
@@ -34,23 +36,6 @@ std::size_t behindDeclaration(std::string_view text, std::size_t at) {
   return nowhere;
 }
 
-void appendCharacter(std::string& text, std::uint32_t code) {
-  const auto add = [&text](std::uint32_t bits) { text += static_cast<char>(bits); };
-  if (code < 0x80) return add(code);
-  if (code < 0x800) {
-    add(0xC0U | (code >> 6U));
-  } else {
-    if (code < 0x10000) {
-      add(0xE0U | (code >> 12U));
-    } else {
-      add(0xF0U | ((code >> 18U) & 0x7U));
-      add(0x80U | ((code >> 12U) & 0x3FU));
-    }
-    add(0x80U | ((code >> 6U) & 0x3FU));
-  }
-  add(0x80U | (code & 0x3FU));
-}
-
 // The value of an entity with its references to characters, "&#60;", replaced.
 std::string replacementOf(std::string_view value) {
   std::string text;
@@ -67,7 +52,7 @@ std::string replacementOf(std::string_view value) {
       const auto digit = static_cast<std::uint32_t>(c <= '9' ? c - '0' : (c | 0x20) - 'a' + 10);
       code = code * (isHex ? 16 : 10) + digit;
     }
-    appendCharacter(text, code);
+    appendUtf8(text, code);
     at = end + 1;
   }
   return text;

@@ -8,6 +8,8 @@
 #include <iterator>
 #include <system_error>
 
+#include "toolkit/text/Utf8.h"
+
 namespace as::toolkit {
 
 namespace {
@@ -39,15 +41,7 @@ bool isUtf8(const std::string& text) {
 
 std::string fromLatin1(const std::string& text) {
   std::string result;
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x80) {
-      result += c;
-    } else {
-      result += static_cast<char>(0xC0U | byte >> 6U);
-      result += static_cast<char>(0x80U | (byte & 0x3FU));
-    }
-  }
+  for (const char c : text) appendUtf8(result, static_cast<unsigned char>(c));
   return result;
 }
 
