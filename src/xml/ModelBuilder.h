@@ -49,8 +49,11 @@ class ModelBuilder : public CElementHandler {
   template <std::size_t N>
   static const ElementWrapping* rowFor(const xercesc::DOMNode* node,
                                        const ElementWrapping (&rows)[N]) {
+    const XMLCh* const name = node->getLocalName();
+    if (name == nullptr) return nullptr;
     for (const ElementWrapping& row : rows) {
-      if (xercesc::XMLString::equals(row.localName, node->getLocalName())) return &row;
+      // Most are told apart by their first letters.
+      if (*row.localName == *name && xercesc::XMLString::equals(row.localName, name)) return &row;
     }
     return nullptr;
   }

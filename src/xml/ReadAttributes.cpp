@@ -51,7 +51,7 @@ void ReadAttributes::makeRoom(XMLSize_t count) {
 
 void ReadAttributes::add(const XMLCh* name, const XMLCh* value) {
   DOMDocumentImpl* const document = documentOf(fOwnerNode);
-  const Attribute added = {document->getPooledString(name), document->cloneString(value)};
+  const Attribute added = {name, document->cloneString(value)};
   // In the order of names, as in any map of the DOM.
   std::size_t place = count_;
   for (; place > 0 && XMLString::compareString(read_[place - 1].name, added.name) > 0; place--) {

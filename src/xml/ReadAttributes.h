@@ -27,7 +27,8 @@ class ReadAttributes final : public xercesc::DOMAttrMapImpl {
   using DOMAttrMapImpl::DOMAttrMapImpl;
 
   // For the parser: makes room for attributes, and adds one that was specified and has a name
-  // without a prefix, which none that is there has. REQUIRES: there is room, and no node was added.
+  // without a prefix, which none that is there has and the document has pooled.
+  // REQUIRES: there is room, and no node was added.
   void makeRoom(XMLSize_t count);
   void add(const XMLCh* name, const XMLCh* value);
 

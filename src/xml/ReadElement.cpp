@@ -42,8 +42,9 @@ ReadElement::ReadElement(DOMDocument* document, const XMLCh* namespaceUri, const
 }
 
 ReadElement::ReadElement(DOMDocument* document, const XMLCh* namespaceUri, const XMLCh* localName)
-    : DOMElementNSImpl(document, localName) {
+    : DOMElementNSImpl(document, u"") {
   fAttributes = &attributes_;
+  fName = localName;
   fNamespaceURI = namespaceUri;
   fLocalName = fName;
 }

@@ -22,7 +22,8 @@ class ReadElement final : public xercesc::DOMElementNSImpl {
  public:
   ReadElement(xercesc::DOMDocument* document, const XMLCh* namespaceUri, const XMLCh* prefix,
               const XMLCh* localName, const XMLCh* qualifiedName);
-  // Of a name without a prefix. `namespaceUri` is null or one of the document's pooled texts.
+  // Of a name without a prefix. Both are of the document's pooled texts; `namespaceUri` may be
+  // null.
   ReadElement(xercesc::DOMDocument* document, const XMLCh* namespaceUri, const XMLCh* localName);
 
   // The node as what it is.

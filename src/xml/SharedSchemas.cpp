@@ -64,7 +64,9 @@ void SharedSchemas::add(const XMLCh* uri) {
     return;
   }
   const std::string& text = texts_.emplace_back(contentOf(*file));
-  schemas_.emplace(uri, Schema{text, compileSchema(uri, text, grammars_)});
+  Grammar* const grammar = compileSchema(uri, text, grammars_);
+  if (grammar != nullptr) quickenNumbers(*grammar, numbers_, &memory_);
+  schemas_.emplace(uri, Schema{text, grammar});
 }
 
 Grammar* SharedSchemas::grammarFor(const XMLCh* uri, const XMLCh* place) {
@@ -98,6 +100,7 @@ Grammar* SharedSchemas::builtIn(const XMLCh* uri, const LocalFile& file) {
   auto pool = readBuiltIn(*schema, &memory_);
   if (pool == nullptr) return nullptr;
   Grammar* const grammar = grammarIn(*pool, uri);
+  quickenNumbers(*grammar, numbers_, &memory_);
   builtIn_.push_back(std::move(pool));
   schemas_.emplace(uri, Schema{schema->text, grammar});
   return grammar;

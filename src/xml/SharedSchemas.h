@@ -15,6 +15,7 @@
 
 #include "xml/GrammarMemory.h"
 #include "xml/LocalFile.h"
+#include "xml/NumberType.h"
 #include "xml/VorEntityResolver.h"
 
 // Only what is in order is shared: a document that says where its schema is as it should, and a
@@ -72,6 +73,7 @@ class SharedSchemas {
   std::map<std::basic_string<XMLCh>, Schema> schemas_;
   std::deque<std::string> texts_;  // Of those that were added.
   GrammarMemory memory_;
+  NumberTypes numbers_;  // Of all grammars.
   xercesc::XMLGrammarPoolImpl grammars_{&memory_};
   std::vector<std::unique_ptr<xercesc::XMLGrammarPoolImpl>> builtIn_;  // A schema each.
 };

@@ -20,6 +20,13 @@ namespace {
 
 bool isEmpty(const XMLCh* text) { return text == nullptr || *text == 0; }
 
+bool areEqual(const XMLCh* one, const XMLCh* other) {
+  for (; *one == *other; one++, other++) {
+    if (*one == 0) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 void TreeParser::beginElement(const XMLElementDecl& declaration, unsigned int uriId,
@@ -53,7 +60,7 @@ void TreeParser::ignorableWhitespace(const XMLCh* characters, XMLSize_t length, 
 
 ReadElement* TreeParser::makeElement(const XMLCh* name, unsigned int uriId, const XMLCh* prefix) {
   if (isEmpty(prefix) || uriId == fScanner->getEmptyNamespaceId()) {
-    return new (fDocument) ReadElement(fDocument, pooledUri(uriId), name);
+    return new (fDocument) ReadElement(fDocument, pooledUri(uriId), pooledName(name));
   }
   xercesc::XMLBufBid bid(&fBufMgr);
   xercesc::XMLBuffer& qualified = bid.getBuffer();
@@ -71,7 +78,7 @@ void TreeParser::addAttributes(ReadAttributes& map, const RefVectorOf<XMLAttr>& 
   if (areSimple) {
     map.makeRoom(count);
     for (XMLSize_t i = 0; i < count; i++) {
-      map.add(read.elementAt(i)->getName(), read.elementAt(i)->getValue());
+      map.add(pooledName(read.elementAt(i)->getName()), read.elementAt(i)->getValue());
     }
   } else {
     map.reserve(count);
@@ -110,6 +117,15 @@ const XMLCh* TreeParser::pooledUri(unsigned int uriId) {
     lastUriId_ = uriId;
   }
   return lastUri_;
+}
+
+const XMLCh* TreeParser::pooledName(const XMLCh* name) {
+  const unsigned first = name[0];
+  const unsigned second = first == 0 ? 0U : name[1];
+  const unsigned third = second == 0 ? 0U : name[2];
+  const XMLCh*& last = lastNames_[(first + 3 * second + 7 * third) % lastNames_.size()];
+  if (last == nullptr || !areEqual(last, name)) last = fDocument->getPooledString(name);
+  return last;
 }
 
 // All elements of the document are made here.

@@ -30,9 +30,14 @@ class ReadAttributesTest : public testing::Test {
   // Adds them in that order, each with its name in brackets as its value.
   void read(const Names& names) {
     attributes().makeRoom(names.size());
-    for (const auto& name : names) attributes().add(name.c_str(), (u"<" + name + u">").c_str());
+    for (const auto& name : names) {
+      attributes().add(pooled(name.c_str()), (u"<" + name + u">").c_str());
+    }
   }
 
+  const XMLCh* pooled(const XMLCh* name) {
+    return static_cast<xercesc::DOMDocumentImpl&>(*document_).getPooledString(name);
+  }
   ReadAttributes& attributes() { return element_->attributes(); }
   // As the DOM's.
   DOMElement& element() { return *element_; }

@@ -8,11 +8,15 @@
 #include <string>
 #include <vector>
 #include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/validators/schema/ComplexTypeInfo.hpp>
+#include <xercesc/validators/schema/SchemaAttDef.hpp>
+#include <xercesc/validators/schema/SchemaGrammar.hpp>
 
 #include "support/Documents.h"
 #include "support/Requests.h"
 #include "support/SchemaCopy.h"
 #include "support/TempDirectory.h"
+#include "xml/NumberType.h"
 #include "xml/SchemaCache.h"
 #include "xml/SharedSchemas.h"
 #include "xml/Vocabulary.h"
@@ -64,6 +68,30 @@ TEST(SharedSchemas, HasWhatIsBuiltIn) {
   EXPECT_NE(schemas.grammarFor(XSDNS::wsURI, XSDNS::wsName), grammar);
   // While a parse numbers its own behind them.
   EXPECT_EQ(schemas.names()->getStringCount(), names);
+}
+
+// Whether an attribute of the grammar has a type that NumberType stands in for.
+bool hasQuickNumbers(xercesc::Grammar& grammar) {
+  xercesc::RefHashTableOfEnumerator<xercesc::ComplexTypeInfo> each(
+      static_cast<xercesc::SchemaGrammar&>(grammar).getComplexTypeRegistry());
+  while (each.hasMoreElements()) {
+    const xercesc::ComplexTypeInfo& type = each.nextElement();
+    if (!type.hasAttDefs()) continue;
+    for (XMLSize_t i = 0; i < type.getAttDefList().getAttDefCount(); i++) {
+      const auto& attribute =
+          static_cast<xercesc::SchemaAttDef&>(type.getAttDefList().getAttDef(i));
+      if (dynamic_cast<NumberType*>(attribute.getDatatypeValidator()) != nullptr) return true;
+    }
+  }
+  return false;
+}
+
+TEST(SharedSchemas, HaveQuickNumbers) {
+  SharedSchemas builtIn(shipped);
+  EXPECT_TRUE(hasQuickNumbers(*builtIn.grammarFor(dd, dd)));
+  SharedSchemas added(shipped);
+  added.add(dd);
+  EXPECT_TRUE(hasQuickNumbers(*added.grammarFor(dd, dd)));
 }
 
 TEST(SharedSchemas, HaveWhatIsBuiltInForTheSameFileAlone) {
