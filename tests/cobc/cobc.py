@@ -253,7 +253,7 @@ def prove(pairing: Pairing, arguments: argparse.Namespace, folder: Path) -> bool
 
 
 def main() -> int:
-    parser = argparse.ArgumentParser(description=__doc__)
+    parser = argparse.ArgumentParser(prog='./run cobc', description=__doc__)
     parser.add_argument('programs', nargs='?', type=int, default=10000, help='how many (10000)')
     parser.add_argument('--seed', default='1', help='what they come from (1)')
     parser.add_argument('--dialect', action='append', choices=[one.dialect for one in PAIRINGS],

@@ -133,7 +133,7 @@ def tell(what: str, prover: Prover, began: float) -> None:
 
 
 def main() -> int:
-    parser = argparse.ArgumentParser(description=__doc__)
+    parser = argparse.ArgumentParser(prog='./run test-generate', description=__doc__)
     parser.add_argument('programs', nargs='?', type=int, default=100,
                         help='services are made of so many random data divisions (100 unless told)')
     parser.add_argument('--tool', required=True, help=argparse.SUPPRESS)

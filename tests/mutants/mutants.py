@@ -283,10 +283,12 @@ def try_out(mutant: Mutant, build: Build, tests: Tests) -> str:
 
 def main() -> int:
     parser = argparse.ArgumentParser(prog='./run mutants', description=__doc__.split('\n')[0])
-    parser.add_argument('count', nargs='?', type=int, default=300)
-    parser.add_argument('--seed', type=int, default=1)
-    parser.add_argument('--only', action='append', default=[], metavar='PATTERN')
-    parser.add_argument('--without', action='append', default=[], metavar='PATTERN')
+    parser.add_argument('count', nargs='?', type=int, default=300, help='how many changes (300)')
+    parser.add_argument('--seed', type=int, default=1, help='what chooses them (1)')
+    parser.add_argument('--only', action='append', default=[], metavar='PATTERN',
+                        help='of files whose path has a match of this, or one of these')
+    parser.add_argument('--without', action='append', default=[], metavar='PATTERN',
+                        help='of no file whose path has a match of this')
     parser.add_argument('--again', action='store_true',
                         help='only those that the last run left unnoticed')
     parser.add_argument('--go-on', action='store_true',
