@@ -1,8 +1,8 @@
 // Reads the input as a dictionary, and asks everything of what comes out of it.
 #include "DictionaryWalk.h"
-#include "Mutator.h"
 #include "Report.h"
 #include "Requests.h"
+#include "Shape.h"
 
 const fuzz::Shape fuzz::shape = {{as::namespaces::dd.uri}, false, fuzz::Shape::Files::none};
 

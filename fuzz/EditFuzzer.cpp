@@ -8,9 +8,9 @@
 #include <optional>
 #include <vector>
 
-#include "Mutator.h"
 #include "Report.h"
 #include "Requests.h"
+#include "Shape.h"
 #include "XmlTree.h"
 #include "support/ModelText.h"
 

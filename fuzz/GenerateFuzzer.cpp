@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "GeneratedText.h"
-#include "Mutator.h"
 #include "Report.h"
+#include "Shape.h"
 #include "ToolkitRequests.h"
 #include "as/AgentServices.h"
 #include "as/toolkit/Flavours.h"

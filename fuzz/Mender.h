@@ -7,7 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include "Mutator.h"
 #include "Random.h"
 #include "Vocabulary.h"
 #include "XmlTree.h"

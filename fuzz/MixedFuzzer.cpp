@@ -3,9 +3,9 @@
 // request ends with a model or with one of its exceptions, and a model answers every question. An
 // entry object that keeps schemas answers the same.
 #include "DictionaryWalk.h"
-#include "Mutator.h"
 #include "Report.h"
 #include "Requests.h"
+#include "Shape.h"
 #include "XmlTree.h"
 #include "support/ModelText.h"
 

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "Mutator.h"
 #include "Report.h"
+#include "Shape.h"
 #include "ToolkitRequests.h"
 #include "as/AgentServices.h"
 #include "as/toolkit/Report.h"

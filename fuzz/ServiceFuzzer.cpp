@@ -2,9 +2,9 @@
 // it is asked everything, written, and read again: that must be the same model.
 #include <cstdlib>
 
-#include "Mutator.h"
 #include "Report.h"
 #include "Requests.h"
+#include "Shape.h"
 #include "XmlTree.h"
 #include "support/ModelText.h"
 

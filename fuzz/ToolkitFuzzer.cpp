@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "Mutator.h"
 #include "Report.h"
+#include "Shape.h"
 #include "ToolkitRequests.h"
 #include "XmlTree.h"
 #include "as/AgentServices.h"

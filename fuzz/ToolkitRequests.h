@@ -6,7 +6,7 @@
 #include <string>
 
 #include "InputFiles.h"
-#include "Mutator.h"
+#include "Shape.h"
 #include "as/Namespaces.h"
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Files.h"

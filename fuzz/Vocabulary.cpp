@@ -256,4 +256,6 @@ const SchemaRules* Vocabulary::schema(std::string_view uri) const {
   return nullptr;
 }
 
+std::string fileNameOf(const std::string& uri) { return uri.substr(uri.rfind('/') + 1); }
+
 }  // namespace fuzz

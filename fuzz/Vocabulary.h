@@ -63,6 +63,9 @@ class Vocabulary {
   std::vector<std::string> words_;
 };
 
+// The name of the file of the schema of that namespace.
+std::string fileNameOf(const std::string& uri);
+
 constexpr char xsdUri[] = "http://www.w3.org/2001/XMLSchema";
 constexpr char xsiUri[] = "http://www.w3.org/2001/XMLSchema-instance";
 
