@@ -1,59 +1,16 @@
 #include "toolkit/diff/ItemComparison.h"
 
-#include <algorithm>
 #include <unordered_map>
 #include <utility>
 
-#include "toolkit/diff/ConditionMatch.h"
 #include "toolkit/diff/ItemTraits.h"
 #include "toolkit/diff/Sequence.h"
-#include "toolkit/text/Phrases.h"
 
 namespace as::toolkit {
 
 namespace {
 
-// Which items callers see: those of files and of the linkage section, and all of a program that
-// nobody can call, a copybook.
-std::vector<bool> seenItems(const DictionaryFacts& facts) {
-  std::vector<bool> seen(facts.items().size(), facts.entryPoints().empty());
-  for (const SectionFacts& section : facts.sections()) {
-    if (section.kind == SectionFacts::Kind::workingStorage) continue;
-    for (const ItemNumber record : section.records) seen[record] = true;
-  }
-  for (ItemNumber i = 0; i < seen.size(); ++i) {
-    if (facts[i].parent != noItem) seen[i] = seen[facts[i].parent];
-  }
-  return seen;
-}
-
 std::string numberOf(int number) { return number < 0 ? "unknown" : std::to_string(number); }
-
-std::string valuesOf(const ConditionFacts& condition) {
-  constexpr std::size_t longest = 200;
-  std::string text;
-  for (const std::string& value : condition.values) {
-    if (text.size() > longest) return text + ", ...";
-    text += (text.empty() ? "" : ", ") + value;
-  }
-  return text;
-}
-
-// What happened to the values; null for nothing.
-const char* valuesKind(const std::vector<std::string>& before,
-                       const std::vector<std::string>& after) {
-  std::vector<std::string> olds = before;
-  std::vector<std::string> news = after;
-  std::sort(olds.begin(), olds.end());
-  std::sort(news.begin(), news.end());
-  if (olds == news) return nullptr;
-  if (std::includes(news.begin(), news.end(), olds.begin(), olds.end())) {
-    return "condition-values-added";
-  }
-  return std::includes(olds.begin(), olds.end(), news.begin(), news.end())
-             ? "condition-values-removed"
-             : "condition-values-changed";
-}
 
 }  // namespace
 
@@ -62,11 +19,9 @@ ItemComparison::ItemComparison(const DictionaryFacts& before, const DictionaryFa
     : before_(before),
       after_(after),
       match_(match),
-      changes_(changes),
-      changesOf_(before.items().size()),
+      changes_(before, after, changes),
+      own_(before, after, match, changes_),
       hasMoved_(before.items().size(), false),
-      oldSeen_(seenItems(before)),
-      newSeen_(seenItems(after)),
       placeCause_(after.items().size(), noChange) {}
 
 void ItemComparison::compare() {
@@ -90,7 +45,7 @@ void ItemComparison::compare() {
       // That a file was renamed is told of the file.
       const bool areFiles =
           section.kind == SectionFacts::Kind::file && titles[old].rfind("fd ", 0) == 0;
-      if (!areFiles) tell("record-moved", old, record, titles[old], section.title());
+      if (!areFiles) changes_.tell("record-moved", old, record, titles[old], section.title());
     }
   }
   Flow flow;
@@ -115,7 +70,8 @@ void ItemComparison::compareLists(const Items& old, const Items& added, Flow& fl
     const auto [at, isNew] = reordered.emplace(number, noChange);
     if (isNew) {
       const ItemNumber partner = match_.newOf(number);
-      at->second = tell("item-reordered", number, partner, numberOf(before_[number].offset),
+      at->second =
+          changes_.tell("item-reordered", number, partner, numberOf(before_[number].offset),
                         numberOf(after_[partner].offset));
       lastCause_ = at->second;
     }
@@ -125,7 +81,7 @@ void ItemComparison::compareLists(const Items& old, const Items& added, Flow& fl
   for (std::size_t i = 0; i <= old.size(); ++i) {
     if (i < old.size() && !keeps[i]) {
       if (match_.newOf(old[i]) == noItem) {
-        passOld(old[i], flow, tellRemoved(old[i]));
+        passOld(old[i], flow, changes_.tellRemoved(old[i]));
       } else if (partners[i] == noPartner) {
         if (!areRecords) passOld(old[i], flow, regroup(old[i]));
       } else {
@@ -138,7 +94,7 @@ void ItemComparison::compareLists(const Items& old, const Items& added, Flow& fl
       const ItemNumber number = added[next];
       const ItemNumber partner = match_.oldOf(number);
       if (partner == noItem) {
-        const ChangeNumber change = tellAdded(number);
+        const ChangeNumber change = changes_.tellAdded(number);
         placeCause_[number] = change;
         if (after_[number].extent() > 0) {
           flow.delta += after_[number].extent();
@@ -174,7 +130,8 @@ ChangeNumber ItemComparison::regroup(ItemNumber old) {
   const auto [at, isNew] = regrouped_.emplace(old, noChange);
   if (isNew) {
     const ItemNumber added = match_.newOf(old);
-    at->second = tell("item-regrouped", old, added, before_.pathOf(old), after_.pathOf(added));
+    at->second =
+        changes_.tell("item-regrouped", old, added, before_.pathOf(old), after_.pathOf(added));
   }
   return at->second;
 }
@@ -209,19 +166,20 @@ void ItemComparison::compareItem(ItemNumber old, ItemNumber added, Flow& flow,
     flow = {};
     lastCause_ = noChange;
   }
-  if (before.name != after.name) tell("item-renamed", old, added, before.name, after.name);
+  if (before.name != after.name) changes_.tell("item-renamed", old, added, before.name, after.name);
   ChangeNumber sizeCause = noChange;
   ChangeNumber own = reordered;
   for (const TraitChange& trait : traitChanges(before, after)) {
-    const ChangeNumber change = tell(trait.kind, old, added, trait.oldValue, trait.newValue);
+    const ChangeNumber change =
+        changes_.tell(trait.kind, old, added, trait.oldValue, trait.newValue);
     if (trait.changesSize && sizeCause == noChange) sizeCause = change;
     if (own == noChange) own = change;
   }
-  ChangeNumber tableCause = noChange;
-  compareTable(old, added, tableCause);
-  compareRedefinition(old, added, tableCause);
+  ChangeNumber tableCause = own_.compareTable(old, added);
+  const ChangeNumber redefined = own_.compareRedefinition(old, added);
+  if (tableCause == noChange) tableCause = redefined;
   if (own == noChange) own = tableCause;
-  compareConditions(old, added);
+  own_.compareConditions(old, added);
 
   const Flow entry = flow;
   comparePlace(old, added, flow, own);
@@ -253,82 +211,6 @@ void ItemComparison::compareItem(ItemNumber old, ItemNumber added, Flow& flow,
   }
 }
 
-void ItemComparison::compareTable(ItemNumber old, ItemNumber added, ChangeNumber& sizeCause) {
-  const ItemFacts& before = before_[old];
-  const ItemFacts& after = after_[added];
-  const auto note = [&](const char* kind, std::string oldValue, std::string newValue) {
-    const ChangeNumber change = tell(kind, old, added, std::move(oldValue), std::move(newValue));
-    if (sizeCause == noChange) sizeCause = change;
-  };
-  if (before.isTable() != after.isTable()) {
-    note(after.isTable() ? "table-made" : "table-unmade", std::to_string(before.maxOccurs),
-         std::to_string(after.maxOccurs));
-    return;
-  }
-  if (before.maxOccurs != after.maxOccurs) {
-    note(before.maxOccurs < after.maxOccurs ? "table-longer" : "table-shorter",
-         std::to_string(before.maxOccurs), std::to_string(after.maxOccurs));
-  }
-  const std::string oldCounter = counterOf(before_, old);
-  const std::string newCounter = counterOf(after_, added);
-  const bool isSameCounter = before.odoItem != noItem && after.odoItem != noItem
-                                 ? match_.newOf(before.odoItem) == after.odoItem
-                                 : oldCounter == newCounter;
-  if (!isSameCounter) note("table-depending-changed", oldCounter, newCounter);
-  // A fixed table says the one number twice.
-  const bool areFixed = before.minOccurs == before.maxOccurs && after.minOccurs == after.maxOccurs;
-  if (before.minOccurs != after.minOccurs && !areFixed && isSameCounter) {
-    tell("table-minimum-changed", old, added, std::to_string(before.minOccurs),
-         std::to_string(after.minOccurs));
-  }
-}
-
-void ItemComparison::compareRedefinition(ItemNumber old, ItemNumber added,
-                                         ChangeNumber& sizeCause) {
-  const ItemFacts& before = before_[old];
-  const ItemFacts& after = after_[added];
-  if (before.redefined == noItem && after.redefined == noItem &&
-      before.redefines == after.redefines) {
-    return;
-  }
-  const bool isSame =
-      before.redefined != noItem && after.redefined != noItem &&
-      (match_.newOf(before.redefined) == after.redefined ||
-       match_.newOf(before.redefined) == noItem || match_.oldOf(after.redefined) == noItem);
-  if (isSame) return;
-  const auto nameOf = [](const DictionaryFacts& facts, ItemNumber number) {
-    return number == noItem ? std::string("none") : facts[number].name;
-  };
-  const ChangeNumber change =
-      tell("redefinition-changed", old, added, nameOf(before_, before.redefined),
-           nameOf(after_, after.redefined));
-  if (sizeCause == noChange) sizeCause = change;
-}
-
-void ItemComparison::compareConditions(ItemNumber old, ItemNumber added) {
-  const std::string oldPath = before_.pathOf(old) + ".";
-  const std::string newPath = after_.pathOf(added) + ".";
-  const bool mayBreak = isSeen(old, added);
-  for (const auto& [before, after] :
-       matchConditions(before_[old].conditions, after_[added].conditions)) {
-    if (after == nullptr) {
-      changes_.add("condition-removed", {oldPath + before->name, ""}, valuesOf(*before), "",
-                   mayBreak);
-      continue;
-    }
-    if (before == nullptr) {
-      changes_.add("condition-added", {"", newPath + after->name}, "", valuesOf(*after), mayBreak);
-      continue;
-    }
-    const ChangeList::Place place = {oldPath + before->name, newPath + after->name};
-    if (before->name != after->name) {
-      changes_.add("condition-renamed", place, before->name, after->name, mayBreak);
-    } else if (const char* const kind = valuesKind(before->values, after->values)) {
-      changes_.add(kind, place, valuesOf(*before), valuesOf(*after), mayBreak);
-    }
-  }
-}
-
 void ItemComparison::comparePlace(ItemNumber old, ItemNumber added, Flow& flow, ChangeNumber own) {
   const ItemFacts& before = before_[old];
   const ItemFacts& after = after_[added];
@@ -351,8 +233,8 @@ void ItemComparison::comparePlace(ItemNumber old, ItemNumber added, Flow& flow, 
     return;
   }
   hasMoved_[old] = true;
-  const ChangeNumber moved = tell("item-moved", old, added, std::to_string(before.offset),
-                                  std::to_string(after.offset), cause);
+  const ChangeNumber moved = changes_.tell("item-moved", old, added, std::to_string(before.offset),
+                                           std::to_string(after.offset), cause);
   if (cause == noChange) cause = moved;
   placeCause_[added] = cause;
   if (after.redefines || after.renames) return;
@@ -364,40 +246,12 @@ ChangeNumber ItemComparison::compareSize(ItemNumber old, ItemNumber added, Chang
   const ItemFacts& before = before_[old];
   const ItemFacts& after = after_[added];
   if (before.length < 0 || after.length < 0) return cause;
-  const ChangeNumber change = tell("size-changed", old, added, std::to_string(before.length),
-                                   std::to_string(after.length), cause);
+  const ChangeNumber change =
+      changes_.tell("size-changed", old, added, std::to_string(before.length),
+                    std::to_string(after.length), cause);
   if (cause != noChange) return cause;
   lastCause_ = change;
   return change;
-}
-
-ChangeNumber ItemComparison::tell(const char* kind, ItemNumber old, ItemNumber added,
-                                  std::string oldValue, std::string newValue, ChangeNumber cause) {
-  const bool isUnnamed = before_[old].isUnnamed();
-  const ChangeNumber change =
-      changes_.add(kind, {before_.pathOf(old), after_.pathOf(added)}, std::move(oldValue),
-                   std::move(newValue), isSeen(old, added) && !isUnnamed, cause);
-  if (std::string_view(kind) != "item-moved") changesOf_[old].push_back(change);
-  return change;
-}
-
-ChangeNumber ItemComparison::tellRemoved(ItemNumber old) {
-  return changes_.add("item-removed", {before_.pathOf(old), ""}, describe(before_[old]), "",
-                      oldSeen_[old] && !before_[old].isUnnamed());
-}
-
-ChangeNumber ItemComparison::tellAdded(ItemNumber added) {
-  return changes_.add("item-added", {"", after_.pathOf(added)}, "", describe(after_[added]));
-}
-
-bool ItemComparison::isSeen(ItemNumber old, ItemNumber added) const {
-  return oldSeen_[old] || newSeen_[added];
-}
-
-std::string ItemComparison::counterOf(const DictionaryFacts& facts, ItemNumber number) const {
-  const ItemFacts& item = facts[number];
-  if (item.odoItem != noItem) return facts.pathOf(item.odoItem);
-  return item.odo.empty() ? "none" : item.odo;
 }
 
 }  // namespace as::toolkit

@@ -3,12 +3,13 @@
 #ifndef TOOLKIT_DIFF_ITEMCOMPARISON_H_
 #define TOOLKIT_DIFF_ITEMCOMPARISON_H_
 
-#include <string>
 #include <unordered_map>
 #include <vector>
 
 #include "toolkit/diff/ChangeList.h"
+#include "toolkit/diff/ItemChanges.h"
 #include "toolkit/diff/ItemMatch.h"
+#include "toolkit/diff/OwnComparison.h"
 #include "toolkit/facts/DictionaryFacts.h"
 
 namespace as::toolkit {
@@ -22,7 +23,7 @@ class ItemComparison {
   void compare();
 
   // What was told of an old item, moves and what it is part of left aside.
-  const std::vector<ChangeNumber>& changesOf(ItemNumber old) const { return changesOf_[old]; }
+  const std::vector<ChangeNumber>& changesOf(ItemNumber old) const { return changes_.of(old); }
   bool hasMoved(ItemNumber old) const { return hasMoved_[old]; }
 
  private:
@@ -40,29 +41,16 @@ class ItemComparison {
   ChangeNumber regroup(ItemNumber old);
   void compareWrapped(ItemNumber group, ChangeNumber change);
   void passOld(ItemNumber old, Flow& flow, ChangeNumber cause);
-  void compareTable(ItemNumber old, ItemNumber added, ChangeNumber& sizeCause);
-  void compareRedefinition(ItemNumber old, ItemNumber added, ChangeNumber& sizeCause);
-  void compareConditions(ItemNumber old, ItemNumber added);
   void comparePlace(ItemNumber old, ItemNumber added, Flow& flow, ChangeNumber own);
   // Answers the reason that the new size has: `cause` if there is one.
   ChangeNumber compareSize(ItemNumber old, ItemNumber added, ChangeNumber cause);
 
-  ChangeNumber tell(const char* kind, ItemNumber old, ItemNumber added, std::string oldValue = "",
-                    std::string newValue = "", ChangeNumber cause = noChange);
-  ChangeNumber tellRemoved(ItemNumber old);
-  ChangeNumber tellAdded(ItemNumber added);
-  bool isSeen(ItemNumber old, ItemNumber added) const;
-  std::string counterOf(const DictionaryFacts& facts, ItemNumber number) const;
-
   const DictionaryFacts& before_;
   const DictionaryFacts& after_;
   const ItemMatch& match_;
-  ChangeList& changes_;
-  std::vector<std::vector<ChangeNumber>> changesOf_;
+  ItemChanges changes_;
+  OwnComparison own_;
   std::vector<bool> hasMoved_;
-  // Of each item, whether callers see it: by the record that it stands in.
-  std::vector<bool> oldSeen_;
-  std::vector<bool> newSeen_;
   // Why each new item stands where it does; redefinitions follow it.
   std::vector<ChangeNumber> placeCause_;
   std::unordered_map<ItemNumber, ChangeNumber> regrouped_;
