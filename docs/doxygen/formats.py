@@ -108,11 +108,12 @@ def one_schema(page, file):
             page.missing.append(f"{file.name}: no comment on {name}")
         word = {"complexType": "Content", "simpleType": "Values", "attributeGroup": "Attributes",
                 "group": "Content", "element": "Root"}.get(node.localName, node.localName)
-        page.lines.append(f"### {word}: `{name}`\n\n{said}\n")
+        # Doxygen takes no code in headings.
+        page.lines.append(f"### {word}: {name}\n\n{said}\n")
         if node.localName == "simpleType":
             rows = page.values(node)
             if rows:
-                page.lines.append("| Value | |\n|---|---|")
+                page.lines.append("| Value | Meaning |\n|---|---|")
                 page.lines += [f"| `{value}` | {told} |" for value, told in rows]
                 page.lines.append("")
             continue

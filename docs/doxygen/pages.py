@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Hands a page to Doxygen: words behind the language of a code block are for tests, links to a
-page by a path lead to the page, and those to what is no page of the site are left out."""
+page by a path lead to the page, those to the schemas to the page made of them, and those to what is no
+page of the site are left out."""
 import os
 import re
 import sys
@@ -18,7 +19,8 @@ def label(page):
 
 def link(match):
     text, target = match[1], match[2]
-    page = os.path.basename(target.split("#")[0])
+    page = os.path.basename(target.split("#")[0].rstrip("/"))
+    page = "formats.md" if page == "schema" else page
     if re.match(r"https?:", target) or target.startswith("#"):
         return match[0]
     return f"[{text}](@ref {label(page)})" if page in PAGES else text
