@@ -10,6 +10,16 @@ constexpr char anyText[] = "TEXT";
 
 }  // namespace
 
+std::vector<std::string> namesOf(const Argument& argument) {
+  std::vector<std::string> names;
+  for (std::size_t from = 0; from <= argument.names.size();) {
+    const std::size_t to = std::min(argument.names.find(',', from), argument.names.size());
+    names.push_back(argument.names.substr(from, to - from));
+    from = to + 1;
+  }
+  return names;
+}
+
 Argument& Arguments::note(const char* name, const char* value, const char* help) {
   Argument argument;
   argument.names = name;
@@ -19,7 +29,7 @@ Argument& Arguments::note(const char* name, const char* value, const char* help)
 }
 
 void Arguments::required(const char* name, std::string& value, const char* help) {
-  app_.add_option(name, value, help)->required();
+  app_.add_option(name, value, help)->required()->type_name("");
   note(name, name, help).isRequired = true;
 }
 
@@ -32,7 +42,7 @@ void Arguments::required(const char* name, std::string& value,
 }
 
 void Arguments::required(const char* name, std::vector<std::string>& values, const char* help) {
-  app_.add_option(name, values, help)->required();
+  app_.add_option(name, values, help)->required()->type_name("");
   Argument& argument = note(name, name, help);
   argument.isRequired = true;
   argument.isRepeated = true;
@@ -70,7 +80,9 @@ void Arguments::option(const char* name, std::string& value, const std::vector<s
 
 void Arguments::option(const char* name, std::size_t& value, const char* help) {
   constexpr std::size_t most = 1000;
-  app_.add_option(name, value, help)->check(CLI::Range(std::size_t{1}, most));
+  app_.add_option(name, value, help)
+      ->type_name("NUMBER")
+      ->check(CLI::Range(std::size_t{1}, most).description(""));
   note(name, "NUMBER", help);
 }
 

@@ -27,6 +27,9 @@ struct Argument {
   bool isOption() const { return names.front() == '-'; }
 };
 
+// "-o,--output" as its names.
+std::vector<std::string> namesOf(const Argument& argument);
+
 // The part of the command line that belongs to one command, or to the tool. Values are written to
 // where they are wanted as the command line is read; what they are written to must still be there
 // then.

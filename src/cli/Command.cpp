@@ -5,10 +5,31 @@
 #include "as/CASException.h"
 #include "as/toolkit/FindingsWriter.h"
 #include "as/toolkit/Generate.h"
+#include "as/toolkit/Text.h"
 #include "cli/Messages.h"
 #include "cli/SchemaDirectory.h"
 
 namespace cli {
+
+namespace {
+
+std::vector<std::string> generatorWords() {
+  std::vector<std::string> words;
+  for (const toolkit::GeneratorKind& kind : toolkit::generatorKinds()) {
+    words.emplace_back(kind.word);
+  }
+  return words;
+}
+
+}  // namespace
+
+const std::vector<ExitCode>& exitCodes() {
+  static const std::vector<ExitCode> all = {
+#define AS_EXIT_CODE(name, number, text) {number, text},
+#include "cli/ExitCodes.def"
+  };
+  return all;
+}
 
 int withReader(const std::optional<std::string>& schemas,
                const std::function<int(const toolkit::DocumentReader&)>& work) {
@@ -48,11 +69,12 @@ void addFlavourOption(Arguments& arguments, std::string& word) {
   arguments.requiredOption("--flavour", word, words, "The service's flavour");
 }
 
-void offerGeneratorKinds(Arguments& arguments) {
-  std::vector<std::string> words;
-  for (const toolkit::GeneratorKind& kind : toolkit::generatorKinds())
-    words.emplace_back(kind.word);
-  arguments.offer(words);
+void offerGeneratorKinds(Arguments& arguments) { arguments.offer(generatorWords()); }
+
+std::string noGeneratorKind(const std::string& word) {
+  const std::string near = toolkit::nearestName(word, generatorWords());
+  return "there is no kind '" + word + "'; " +
+         (near.empty() ? "generate --kinds lists them" : "did you mean '" + near + "'?");
 }
 
 }  // namespace cli

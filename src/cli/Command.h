@@ -21,6 +21,15 @@ namespace toolkit = as::toolkit;
 #define AS_EXIT_CODE(name, number, text) inline constexpr int name = number;
 #include "cli/ExitCodes.def"
 
+// A number that the process may answer, and what it means.
+struct ExitCode {
+  int number;
+  const char* text;
+};
+
+// What they mean unless a command says otherwise.
+const std::vector<ExitCode>& exitCodes();
+
 // A call of a command, and what it is for.
 struct Example {
   const char* arguments;  // What stands behind the tool's name: "show MOTPREM.xml".
@@ -39,6 +48,12 @@ class Command {
 
   // Calls that show what it is for; help and manual tell them.
   virtual std::vector<Example> examples() const { return {}; }
+
+  // What its answers mean, where that is something of its own; help and manual tell it.
+  virtual std::vector<ExitCode> ownExitCodes() const { return {}; }
+
+  // What the process answers when the work cannot be done, or the output cannot be written.
+  virtual int failureCode() const { return exitRefused; }
 
   // Tells what the command takes.
   virtual void declare(Arguments& arguments) = 0;
@@ -76,6 +91,9 @@ void addSchemasOption(Arguments& arguments, std::optional<std::string>& schemas)
 void addFlavourOption(Arguments& arguments, std::string& word);
 // For what was declared last.
 void offerGeneratorKinds(Arguments& arguments);
+
+// What is said of a word that is no kind of what `generate` makes.
+std::string noGeneratorKind(const std::string& word);
 
 }  // namespace cli
 

@@ -22,13 +22,6 @@ struct CommandTable {
   std::vector<CommandEntry> commands;
 };
 
-struct ExitCode {
-  int number;
-  const char* text;
-};
-
-const std::vector<ExitCode>& exitCodes();
-
 }  // namespace cli
 
 #endif  // CLI_COMMANDTABLE_H_

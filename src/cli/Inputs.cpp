@@ -46,11 +46,7 @@ void tell(const Input& input, const WorkOutcome& outcome, const Inputs::Tellers&
     case Ending::done:
       return tellers.done(input, parcel);
     case Ending::refused: {
-      Refusal refusal = parcel.refusal();
-      std::error_code ignored;
-      if (refusal.hint.empty() && std::filesystem::is_directory(input.source.name, ignored)) {
-        refusal.hint = "search it with --recursive";
-      }
+      const Refusal refusal = withFolderHint(parcel.refusal(), input);
       if (input.isSearched && refusal.isOfAnotherKind) return tellers.passedOver();
       return tellers.refused(input, refusal);
     }
@@ -60,6 +56,14 @@ void tell(const Input& input, const WorkOutcome& outcome, const Inputs::Tellers&
 }
 
 }  // namespace
+
+Refusal withFolderHint(Refusal refusal, const Input& input) {
+  std::error_code ignored;
+  if (refusal.hint.empty() && std::filesystem::is_directory(input.source.name, ignored)) {
+    refusal.hint = "search it with --recursive";
+  }
+  return refusal;
+}
 
 void Inputs::declareNames(Arguments& arguments, const char* name) {
   arguments.required(name, names_, "Files, folders with --recursive, - for standard input");
@@ -75,7 +79,7 @@ bool Inputs::find() {
   bool isFine = true;
   for (const std::string& name : names_) isFine = add(name) && isFine;
   if (isFine && inputs_.empty()) {
-    printError("there are no documents *.xml");
+    printError("there are no documents *.xml in " + joined(names_, ", "));
     return false;
   }
   return isFine;

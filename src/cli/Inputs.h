@@ -20,6 +20,9 @@ struct Input {
   std::string place{};      // Its name below the folder that was searched, or without any folder.
 };
 
+// The refusal of an input, with what helps where that is a folder.
+as::toolkit::Refusal withFolderHint(as::toolkit::Refusal refusal, const Input& input);
+
 class Inputs {
  public:
   // `name` is what help calls them. What is to be worked through takes a number of processes, too.

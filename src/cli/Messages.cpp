@@ -9,6 +9,12 @@
 
 namespace cli {
 
+std::string joined(const std::vector<std::string>& words, const char* between) {
+  std::string text;
+  for (const std::string& word : words) text += (text.empty() ? "" : between) + word;
+  return text;
+}
+
 // std::cerr is tied to std::cout: both keep their order where they go to the same place.
 
 void printError(std::string_view text) {

@@ -2,7 +2,9 @@
 #ifndef CLI_MESSAGES_H_
 #define CLI_MESSAGES_H_
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "as/toolkit/DocumentReader.h"
 
@@ -10,6 +12,8 @@ namespace cli {
 
 // What the tool calls itself.
 inline constexpr char toolName[] = "agentservices";
+
+std::string joined(const std::vector<std::string>& words, const char* between);
 
 // "agentservices: error: TEXT": about the call, not about a document.
 void printError(std::string_view text);

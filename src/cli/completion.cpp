@@ -6,27 +6,11 @@
 #include <string>
 
 #include "cli/CommandTable.h"
+#include "cli/Messages.h"
 
 namespace cli {
 
 namespace {
-
-// "-o,--output" as its names.
-std::vector<std::string> namesOf(const Argument& argument) {
-  std::vector<std::string> names;
-  for (std::size_t from = 0; from <= argument.names.size();) {
-    const std::size_t to = std::min(argument.names.find(',', from), argument.names.size());
-    names.push_back(argument.names.substr(from, to - from));
-    from = to + 1;
-  }
-  return names;
-}
-
-std::string joined(const std::vector<std::string>& words, const char* between) {
-  std::string text;
-  for (const std::string& word : words) text += (text.empty() ? "" : between) + word;
-  return text;
-}
 
 std::string withBackslashes(const std::string& text, const char* before) {
   std::string result;

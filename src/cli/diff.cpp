@@ -58,6 +58,14 @@ class DiffCommand : public Command {
         {"diff --kinds", "which changes there are, and why they break callers"}};
   }
 
+  // Breaking callers is an answer, so whatever prevents one has another exit code.
+  std::vector<ExitCode> ownExitCodes() const override {
+    return {{exitFine, "nothing breaks callers"},
+            {exitRefused, "something breaks callers"},
+            {exitUsage, "wrong usage, a document was refused, or the output failed"}};
+  }
+  int failureCode() const override { return exitUsage; }
+
   void declare(Arguments& arguments) override {
     arguments.required("OLD", old_, "A dictionary or a service, a folder of them, or -");
     arguments.required("NEW", new_, "Another one of the same kind; a folder, if OLD is one");
@@ -75,7 +83,6 @@ class DiffCommand : public Command {
                         "Print the kinds of changes and why they break callers");
   }
 
-  // Breaking callers is an answer, so whatever prevents one has another exit code.
   int run(const std::optional<std::string>& schemas) override {
     if (kinds_) {
       printKinds();
@@ -86,7 +93,7 @@ class DiffCommand : public Command {
       answer = compare(reader);
       return exitFine;
     });
-    return code == exitFine ? answer : exitUsage;
+    return code == exitFine ? answer : failureCode();
   }
 
  private:
@@ -127,6 +134,10 @@ class DiffCommand : public Command {
   // Pairs that cannot be compared are told; the others are compared all the same.
   int compareFolders(const toolkit::DocumentReader& reader) {
     const std::vector<toolkit::DocumentPair> pairs = toolkit::pairsIn(old_, new_);
+    if (pairs.empty()) {
+      printError("there are no documents *.xml in " + old_ + " and " + new_);
+      return failureCode();
+    }
     std::vector<toolkit::DocumentDiff> diffs;
     bool isComplete = true;
     const Progress progress(pairs.size(), isQuiet_);

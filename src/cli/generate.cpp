@@ -81,7 +81,7 @@ class Generate : public Command {
       return exitFine;
     }
     const toolkit::GeneratorKind* const kind = toolkit::findGeneratorKind(kind_);
-    if (kind == nullptr) return wrong("there is no kind '" + kind_ + "'; --kinds lists the kinds");
+    if (kind == nullptr) return wrong(noGeneratorKind(kind_));
     for (const std::string& value : values_) {
       const std::size_t sign = value.find('=');
       if (sign == std::string::npos) return wrong("--set takes OPTION=VALUE, not '" + value + "'");

@@ -147,7 +147,7 @@ class Import : public Command {
       return exitRefused;
     }
     if (tasks_.empty()) {
-      printError("there are no sources *.cbl, *.cob, *.cobol or *.pco");
+      printError("there are no sources *.cbl, *.cob, *.cobol or *.pco in " + joined(files_, ", "));
       return exitRefused;
     }
     return areOutputsApart() ? exitFine : exitRefused;

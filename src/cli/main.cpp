@@ -15,6 +15,7 @@
 #include "as/toolkit/Version.h"
 #include "cli/Command.h"
 #include "cli/CommandTable.h"
+#include "cli/Help.h"
 #include "cli/Messages.h"
 
 namespace cli {
@@ -38,9 +39,9 @@ std::string examplesOf(const Command& command) {
   return text;
 }
 
-std::string exitCodesText() {
+std::string exitCodesText(const std::vector<ExitCode>& codes) {
   std::string text = "Exit codes:";
-  for (const ExitCode& code : exitCodes()) {
+  for (const ExitCode& code : codes) {
     text += "\n  " + std::to_string(code.number) + "  " + code.text;
   }
   return text;
@@ -63,7 +64,14 @@ std::string versionText() {
          ", " + toolkit::parserVersion() + ")";
 }
 
-int run(int argc, char** argv) {
+// What help of a command ends with.
+std::string footerOf(const Command& command) {
+  const std::vector<ExitCode> own = command.ownExitCodes();
+  return examplesOf(command) + (own.empty() ? "" : "\n\n" + exitCodesText(own));
+}
+
+// `failureCode` becomes that of the command.
+int run(int argc, char** argv, int& failureCode) {
   CommandTable table;
   table.name = "agentservices";
   table.summary =
@@ -72,8 +80,9 @@ int run(int argc, char** argv) {
   CLI::App app(table.summary, table.name);
   app.set_version_flag("--version", versionText());
   app.require_subcommand(1);
+  app.formatter(helpFormatter());
   app.footer("agentservices COMMAND --help tells of a command, with examples.\n\n" +
-             exitCodesText());
+             exitCodesText(exitCodes()));
   std::optional<std::string> schemas;
   Arguments forAll(app, table.arguments);
   addSchemasOption(forAll, schemas);
@@ -83,7 +92,7 @@ int run(int argc, char** argv) {
   std::vector<CLI::App*> parts;
   for (CommandEntry& entry : table.commands) {
     CLI::App* const part = app.add_subcommand(entry.command->name(), entry.command->summary());
-    part->footer(examplesOf(*entry.command));
+    part->footer(footerOf(*entry.command));
     Arguments arguments(*part, entry.arguments);
     entry.command->declare(arguments);
     addSchemasOption(arguments, schemas);
@@ -93,10 +102,15 @@ int run(int argc, char** argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& failure) {
-    return app.exit(failure) == 0 ? exitFine : exitUsage;
+    // Help and version are such an end, too.
+    if (failure.get_exit_code() == 0) return app.exit(failure);
+    printUsageProblem(app, table, failure);
+    return exitUsage;
   }
   for (std::size_t i = 0; i < parts.size(); ++i) {
-    if (parts[i]->parsed()) return table.commands[i].command->run(schemas);
+    if (!parts[i]->parsed()) continue;
+    failureCode = table.commands[i].command->failureCode();
+    return table.commands[i].command->run(schemas);
   }
   return exitUsage;
 }
@@ -123,12 +137,14 @@ int main(int argc, char** argv) {
   // A file that grows beyond what the user may write is an error of writing like any other.
   static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
   int exitCode = cli::exitFine;
+  int failureCode = cli::exitRefused;
   try {
-    exitCode = cli::run(argc, argv);
+    exitCode = cli::run(argc, argv, failureCode);
   } catch (const std::exception& failure) {
     cli::printError(failure.what());
-    exitCode = cli::exitRefused;
+    exitCode = failureCode;
   }
-  if (!cli::flushOutput() && exitCode == cli::exitFine) exitCode = cli::exitRefused;
+  // What is wrong stays wrong, whatever becomes of the words.
+  if (!cli::flushOutput()) exitCode = std::max(exitCode, failureCode);
   return exitCode;
 }

@@ -75,9 +75,9 @@ std::string optionsText(const std::vector<Argument>& arguments) {
   return text + entry(R"(\fB\-h\fR, \fB\-\-help\fR)", "Print help and end.");
 }
 
-std::string exitStatus() {
+std::string exitStatus(const std::vector<ExitCode>& codes) {
   std::string text = ".SH EXIT STATUS\n";
-  for (const ExitCode& code : exitCodes()) {
+  for (const ExitCode& code : codes) {
     text += entry("\\fB" + std::to_string(code.number) + "\\fR", std::string(code.text) + ".");
   }
   return text;
@@ -93,7 +93,7 @@ std::string pageOf(const CommandTable& table) {
   }
   text += optionsText(table.arguments);
   text += entry(R"(\fB\-\-version\fR)", "Print the versions of tool, library and parser and end.");
-  text += exitStatus() + ".SH SEE ALSO\n";
+  text += exitStatus(exitCodes()) + ".SH SEE ALSO\n";
   const char* between = "";
   for (const CommandEntry& row : table.commands) {
     text += between + std::string("\\fBagentservices\\-") + roff(row.command->name()) + "\\fR(1)";
@@ -114,7 +114,9 @@ std::string pageOf(const CommandTable& table, const CommandEntry& row) {
   for (const Example& example : command.examples()) {
     text += entry("\\fBagentservices " + roff(example.arguments) + "\\fR", example.text);
   }
-  return text + exitStatus() + ".SH SEE ALSO\n\\fBagentservices\\fR(1)\n";
+  const std::vector<ExitCode> own = command.ownExitCodes();
+  return text + exitStatus(own.empty() ? exitCodes() : own) +
+         ".SH SEE ALSO\n\\fBagentservices\\fR(1)\n";
 }
 
 class Manual : public Command {

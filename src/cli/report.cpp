@@ -42,8 +42,7 @@ class ReportCommand : public Command {
   int run(const std::optional<std::string>& schemas) override {
     for (const std::string& word : options_.kinds) {
       if (toolkit::findGeneratorKind(word) != nullptr) continue;
-      printError("there is no kind '" + toolkit::printable(word) +
-                 "'; generate --kinds lists them");
+      printError(noGeneratorKind(word));
       return exitUsage;
     }
     return withReader(schemas, [this](const toolkit::DocumentReader& reader) {
@@ -51,7 +50,9 @@ class ReportCommand : public Command {
       std::vector<toolkit::DocumentSource> sources;
       for (const Input& input : inputs_.all()) sources.push_back(input.source);
       const toolkit::Report report = toolkit::makeReportFrom(reader, sources, options_);
-      for (const toolkit::Refusal& refusal : report.refusals) printRefusal(refusal);
+      for (const toolkit::Refusal& refusal : report.refusals) {
+        printRefusal(withFolderHint(refusal, {toolkit::DocumentSource{refusal.file}}));
+      }
       if (report.programs + report.services == 0) return exitRefused;
       toolkit::writeReport(report, output_);
       std::cout << toolkit::printable(output_)

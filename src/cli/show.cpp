@@ -39,7 +39,12 @@ class Show : public Command {
       isFine_ = inputs_.find();
       if (inputs_.all().size() == 1 && !inputs_.all().front().isSearched) {
         // Piece by piece: it may be of any size.
-        show(reader, inputs_.all().front(), std::cout);
+        const Input& input = inputs_.all().front();
+        try {
+          show(reader, input, std::cout);
+        } catch (const toolkit::RefusedDocument& refused) {
+          throw toolkit::RefusedDocument(withFolderHint(refused.refusal(), input));
+        }
         return isFine_ ? exitFine : exitRefused;
       }
       if (json_) std::cout << "[";

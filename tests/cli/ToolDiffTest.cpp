@@ -1,8 +1,10 @@
 // Tests of the tool's diff command: its options, streams and exit codes. What is told of documents
 // is tested with the toolkit.
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 
 #include "support/Documents.h"
@@ -47,6 +49,37 @@ TEST_F(ToolDiffTest, WhatIsAllowedIsFine) {
   EXPECT_EQ(run({"diff", "old.xml", "new.xml", "--allow", "picture-widened:M"}).exitCode, 1);
   write("allowed.txt", "# Agreed upon.\npicture-widened\n");
   EXPECT_EQ(run({"diff", "old.xml", "new.xml", "--allow-file", "allowed.txt"}).exitCode, 0);
+}
+
+// Breaking callers is an answer, which nobody gets of an output that is lost.
+TEST_F(ToolDiffTest, AnOutputThatIsLostIsNoAnswer) {
+  for (const char* const other : {"old.xml", "new.xml"}) {
+    for (const int out : {open("/dev/full", O_WRONLY), -1}) {
+      const test::ToolOutcome outcome = runOn(out, AS_TOOL, {"diff", "old.xml", other});
+      EXPECT_EQ(outcome.exitCode, 2) << other;
+      EXPECT_THAT(outcome.err, HasSubstr("the output could not be written"));
+    }
+  }
+}
+
+TEST_F(ToolDiffTest, HelpAndManualTellItsOwnExitCodes) {
+  EXPECT_THAT(run({"diff", "--help"}).out,
+              testing::EndsWith("Exit codes:\n  0  nothing breaks callers\n  1  something breaks "
+                                "callers\n  2  wrong usage, a document was refused, or the output "
+                                "failed\n"));
+  run({"manual", "-o", "man"});
+  EXPECT_THAT(test::contentOf(directory() / "man/agentservices-diff.1"),
+              HasSubstr("\nsomething breaks callers.\n"));
+  EXPECT_THAT(test::contentOf(directory() / "man/agentservices-lint.1"),
+              HasSubstr("\nwrong usage.\n"));
+}
+
+TEST_F(ToolDiffTest, FoldersWithoutDocumentsAreNoAnswer) {
+  std::filesystem::create_directory(directory() / "a");
+  std::filesystem::create_directory(directory() / "b");
+  const test::ToolOutcome outcome = run({"diff", "a", "b"});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_EQ(outcome.err, "agentservices: error: there are no documents *.xml in a and b\n");
 }
 
 TEST_F(ToolDiffTest, AnUnknownKindIsWrongUsage) {

@@ -72,6 +72,56 @@ TEST_F(ToolHelpTest, SuggestsTheCommandMeant) {
   EXPECT_THAT(run({"show"}).err, testing::Not(HasSubstr("mean")));
 }
 
+// Wrong calls, and what is said of them.
+TEST_F(ToolHelpTest, TellsWhatIsTheMatterWithACall) {
+  const std::string lintHint = "hint: agentservices lint --help tells what it takes\n";
+  const struct {
+    std::vector<std::string> call;
+    std::string said;
+  } rows[] = {
+      {{}, "a command is missing\nhint: agentservices --help lists them\n"},
+      {{"lint"}, "SERVICE is required\n" + lintHint},
+      {{"lint", "s.xml", "--formt=json"},
+       "there is no option '--formt'; did you mean '--format'?\n" + lintHint},
+      {{"lint", "s.xml", "--frobnicate"}, "there is no option '--frobnicate'\n" + lintHint},
+      {{"lint", "--jobs", "0", "s.xml"}, "--jobs: Value 0 not in range 1 to 1000\n" + lintHint},
+      {{"--schema", "d", "lint", "s.xml"},
+       "there is no option '--schema'; did you mean '--schemas'?\n" + lintHint},
+      {{"diff", "a.xml", "b.xml", "c.xml"},
+       "'c.xml' is an argument too many\nhint: agentservices diff --help tells what it takes\n"},
+      {{"show", "."},
+       ".: error: is a directory, not a document\nhint: search it with --recursive\n"},
+      {{"report", ".", "-o", "site"},
+       ".: error: is a directory, not a document\nhint: search it with --recursive\n"},
+      {{"lint", "-r", "."}, "there are no documents *.xml in .\n"},
+      {{"import", ".", "-o", "made"}, "there are no sources *.cbl, *.cob, *.cobol or *.pco in .\n"},
+      {{"generate", "jav", "s.xml", "-o", "made"},
+       "there is no kind 'jav'; did you mean 'java'?\n"},
+      {{"report", "s.xml", "--generate", "cobol", "-o", "made"},
+       "there is no kind 'cobol'; generate --kinds lists them\n"},
+      {{"generate", "java", "s.xml", "--set", "packag=a", "-o", "made"},
+       "java has no option 'packag'; did you mean 'package'?\n"}};
+  for (const auto& row : rows) {
+    const test::ToolOutcome outcome = run(row.call);
+    EXPECT_THAT(outcome.err, EndsWith(row.said));
+    EXPECT_NE(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.out, "");
+  }
+}
+
+TEST_F(ToolHelpTest, StandsInLinesOf80Columns) {
+  std::vector<std::vector<std::string>> calls = {{"--help"}};
+  for (const std::string& command : commands()) calls.push_back({command, "--help"});
+  for (const std::vector<std::string>& call : calls) {
+    std::istringstream help(run(call).out);
+    for (std::string line; std::getline(help, line);) {
+      // Examples are to be taken as they are.
+      if (line.rfind("  agentservices ", 0) == 0) continue;
+      EXPECT_LE(line.size(), 80U) << line;
+    }
+  }
+}
+
 TEST_F(ToolHelpTest, CompletionsAreScripts) {
   write("bash", run({"completion", "bash"}).out);
   EXPECT_EQ(runProgram("/bin/bash", {"-n", "bash"}).err, "");

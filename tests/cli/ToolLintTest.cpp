@@ -108,7 +108,7 @@ TEST_F(ToolLintTest, FoldersAreSearchedForServices) {
   EXPECT_EQ(run({"lint", "-r", "below"}).exitCode, 1);
   std::filesystem::create_directory(directory() / "empty");
   EXPECT_EQ(run({"lint", "-r", "empty"}).err,
-            "agentservices: error: there are no documents *.xml\n");
+            "agentservices: error: there are no documents *.xml in empty\n");
 }
 
 TEST_F(ToolLintTest, SaysTheSameInAnyNumberOfProcesses) {

@@ -8,6 +8,7 @@
 
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Lint.h"
+#include "as/toolkit/Text.h"
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/ModelBuilder.h"
 #include "toolkit/io/OutputCheck.h"
@@ -152,7 +153,11 @@ std::string wrongOption(const GeneratorKind& kind, const GenerateOptions& option
         std::find_if(kind.options.begin(), kind.options.end(),
                      [&name_](const GeneratorOption& other) { return name_ == other.name; });
     if (option == kind.options.end()) {
-      return std::string(kind.word) + " has no option " + quote(name);
+      std::vector<std::string> names;
+      for (const GeneratorOption& other : kind.options) names.emplace_back(other.name);
+      const std::string near = nearestName(name, names);
+      return std::string(kind.word) + " has no option " + quote(name) +
+             (near.empty() ? "" : "; did you mean " + quote(near) + "?");
     }
     const std::string words = std::string("|") + option->values + "|";
     if (words == "||" || words.find("|" + value + "|") != std::string::npos) continue;
