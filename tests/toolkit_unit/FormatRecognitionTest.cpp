@@ -66,6 +66,7 @@ const Row rows[] = {
     {"OtherDirectivesDoNot", ">>DEFINE A 1\n$SET ANS85\n      * A\n", fixed},
     {"DebuggingLine", "      D A\n", unknown},
     {"WordWithADInColumn7", "    7 DATE-OF PIC X.\n", free},
+    {"ItemCalledDOrADebuggingLine", "    5 D PIC X.\n", unknown},
     {"LiteralThatEndsBehindTheMargin", star + literal(60) + " y'.\n       A.\n", variable},
     {"LiteralThatIsContinued", star + literal(60) + " y'.\n      -    'z'.\n", fixed},
     {"LiteralThatEndsNowhere", star + literal(60) + "\n       A.\n", fixed},
@@ -90,6 +91,47 @@ TEST_P(Recognised, Format) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, Recognised, testing::ValuesIn(rows),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+struct CopybookRow {
+  const char* name;
+  std::string text;
+  SourceFormat around;
+  bool isTold;
+  SourceFormat format;
+};
+
+void PrintTo(const CopybookRow& row, std::ostream* out) { *out << row.name; }
+
+const std::string either = "           05 A PIC X.\n";
+const std::string withoutMargin = literal(60) + " y'.\n       A.\n";
+
+const CopybookRow copybookRows[] = {
+    {"GoodInBothIsFreeInFree", either, free, false, free},
+    {"GoodInBothIsFixedInFixed", either, fixed, false, fixed},
+    {"AWeakSignDecidesNothingInFree", "000100\n" + either, free, false, free},
+    {"AWeakSignDecidesNothingInFixed", "ACCEPT-A.\n" + either, fixed, false, fixed},
+    {"FixedInFree", star + either, free, false, fixed},
+    {"FreeInFixed", "MOVE A TO B\n", fixed, false, free},
+    {"FixedInToldFree", star + either, free, true, fixed},
+    {"FreeInToldFixed", "MOVE A TO B\n", fixed, true, free},
+    {"MixedIsAsAround", star + "MOVE A TO B\n", free, false, free},
+    {"MostlyFixedIsAsAround", star + star + "MOVE A TO B\n", free, false, free},
+    {"NearlyAllFixed", star + star + star + "MOVE A TO B\n", free, false, fixed},
+    {"WithoutAMarginInFixed", withoutMargin, fixed, false, variable},
+    {"WithoutAMarginInToldFixed", withoutMargin, fixed, true, fixed},
+    {"FreeInVariable", "MOVE A TO B\n", variable, false, free},
+    {"ToldVariableStays", star + either, variable, true, variable},
+};
+
+class CopybookFormat : public testing::TestWithParam<CopybookRow> {};
+
+TEST_P(CopybookFormat, IsThatAroundUnlessTheTextSaysOtherwise) {
+  const CopybookRow& row = GetParam();
+  EXPECT_EQ(as::toolkit::copybookFormat(row.text, row.around, row.isTold), row.format);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, CopybookFormat, testing::ValuesIn(copybookRows),
                          [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace

@@ -365,11 +365,9 @@ void CopyExpander::include(const TextWord& name, const std::string& library,
     entry->text = decodeSource(std::exchange(entry->bytes, {}), options_.encoding, file, report_);
     entry->isDecoded = true;
   }
-  // Told, it is that of the lines around, which directives may have changed.
   const SourceFormat around = frames_.back()->lines.format();
-  const SourceFormat entryFormat = options_.format != SourceFormat::recognised
-                                       ? around
-                                       : recognisedFormat(entry->text.text, around);
+  const SourceFormat entryFormat =
+      copybookFormat(entry->text.text, around, options_.format != SourceFormat::recognised);
   push(entry->text, entryFormat, entry->name, file, std::move(changes));
 }
 

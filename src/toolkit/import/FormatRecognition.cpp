@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <iterator>
 #include <string>
 
@@ -18,6 +19,9 @@ namespace {
 constexpr std::size_t mostLines = 4000;
 constexpr std::size_t columnsLookedAt = 16;
 constexpr std::size_t indicator = 6;
+
+// Of a line that only one format can have.
+constexpr int strongVote = 2;
 
 // Words that begin a line and leave room in front of column 7 for more than themselves; longer ones
 // stand in column 7, where they show by themselves.
@@ -85,23 +89,23 @@ int voteOf(std::string_view line) {
   const char mark = columns[indicator];
   if (start >= indicator) {
     const bool isComment = mark == '*' && columns.substr(indicator, 2) != "*>";
-    if (isComment || mark == '/') return 2;
+    if (isComment || mark == '/') return strongVote;
     if (mark == '-') return 1;
     return start > indicator || mark == '*' || mark == '$' || mark == '>' || mark == 'D' ||
                    mark == 'd'
                ? 0
                : -1;
   }
-  if (text.substr(0, 2) == "*>") return -2;
+  if (text.substr(0, 2) == "*>") return -strongVote;
   if (text.substr(0, 2) == ">>" || text.front() == '$') return 0;
   const bool isIndicator = mark == ' ' || mark == '*' || mark == '/' || mark == '-' ||
                            mark == 'D' || mark == 'd' || mark == '$';
-  if (!isIndicator) return start == 0 && isAll(sequence, isDigit) ? 0 : -2;
-  if (isAll(sequence, isDigit) || hasNumbersInFrontOfEntry(line)) return 2;
+  if (!isIndicator) return start == 0 && isAll(sequence, isDigit) ? 0 : -strongVote;
+  if (isAll(sequence, isDigit) || hasNumbersInFrontOfEntry(line)) return strongVote;
   // "01  NAME", "MOVE A TO B" against "AB1234" and "  0100".
   const bool hasMore = word.size() < text.size();
   if (isStarter(word) || (isLevel(word) && hasMore && word.size() + start < indicator - 1)) {
-    return -2;
+    return -strongVote;
   }
   if (mark == '*' || mark == '/') return 1;
   // "    7 DATE-OF PIC X": a word that begins there, behind a level.
@@ -109,6 +113,8 @@ int voteOf(std::string_view line) {
       columns.size() > indicator + 1 && isWordCharacter(columns[indicator + 1])) {
     return isLevel(trimmed(sequence)) ? -1 : 0;
   }
+  // "    5 D PIC X": an item of that name, or a line for debugging.
+  if ((mark == 'D' || mark == 'd') && isLevel(trimmed(sequence))) return 0;
   // A word across the border: "PROGRAM-ID", "WORKING-STORAGE".
   if (mark == '-' || mark == 'D' || mark == 'd') {
     return isWordCharacter(columns[indicator - 1]) && columns.size() > indicator + 1 &&
@@ -195,22 +201,46 @@ bool hasNoMargin(std::string_view text) {
   return isOpen;
 }
 
-}  // namespace
+struct Votes {
+  int fixed = 0;
+  int free = 0;
+};
 
-SourceFormat recognisedFormat(std::string_view text, SourceFormat otherwise) {
-  const std::string_view whole = text;
-  int votes = 0;
+Votes votesOf(std::string_view text) {
+  Votes votes;
   for (std::size_t lines = 0; lines < mostLines && !text.empty(); lines++) {
     const std::size_t end = std::min(text.find('\n'), text.size());
     const std::string_view line = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
     if (setsFormat(line)) break;
-    votes += voteOf(line);
+    const int vote = voteOf(line);
+    (vote > 0 ? votes.fixed : votes.free) += std::abs(vote);
   }
-  const SourceFormat format = votes == 0  ? otherwise
-                              : votes > 0 ? SourceFormat::fixed
-                                          : SourceFormat::free;
-  return format == SourceFormat::fixed && hasNoMargin(whole) ? SourceFormat::variable : format;
+  return votes;
+}
+
+SourceFormat withMargin(SourceFormat format, std::string_view text) {
+  return format == SourceFormat::fixed && hasNoMargin(text) ? SourceFormat::variable : format;
+}
+
+}  // namespace
+
+SourceFormat recognisedFormat(std::string_view text, SourceFormat otherwise) {
+  const Votes votes = votesOf(text);
+  const SourceFormat format = votes.fixed == votes.free  ? otherwise
+                              : votes.fixed > votes.free ? SourceFormat::fixed
+                                                         : SourceFormat::free;
+  return withMargin(format, text);
+}
+
+SourceFormat copybookFormat(std::string_view text, SourceFormat around, bool isTold) {
+  const Votes votes = votesOf(text);
+  const bool isFreeAround = around == SourceFormat::free;
+  const int same = isFreeAround ? votes.free : votes.fixed;
+  const int other = isFreeAround ? votes.fixed : votes.free;
+  const bool isClear = other >= strongVote && other > 2 * same;
+  if (!isClear) return isTold ? around : withMargin(around, text);
+  return isFreeAround ? withMargin(SourceFormat::fixed, text) : SourceFormat::free;
 }
 
 }  // namespace as::toolkit

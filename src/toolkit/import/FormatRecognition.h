@@ -24,6 +24,11 @@ namespace as::toolkit {
 // `otherwise`.
 SourceFormat recognisedFormat(std::string_view text, SourceFormat otherwise);
 
+// That of a copybook: that in force `around` the statement that copies it, as compilers have it,
+// unless its own lines say otherwise: one at least that the other format alone can have, and more
+// than twice as many as for the one around. Fixed may become variable unless it was told.
+SourceFormat copybookFormat(std::string_view text, SourceFormat around, bool isTold);
+
 }  // namespace as::toolkit
 
 #endif  // TOOLKIT_IMPORT_FORMATRECOGNITION_H_
