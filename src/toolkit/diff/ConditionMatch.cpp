@@ -42,8 +42,10 @@ void joinBy(Key (*keyOf)(const ConditionFacts&), std::vector<ConditionPair>& pai
 std::vector<ConditionPair> matchConditions(const std::vector<ConditionFacts>& before,
                                            const std::vector<ConditionFacts>& after) {
   std::vector<ConditionPair> pairs;
+  pairs.reserve(before.size() + after.size());
   for (const ConditionFacts& condition : before) pairs.push_back({&condition, nullptr});
   std::vector<const ConditionFacts*> news;
+  news.reserve(after.size());
   for (const ConditionFacts& condition : after) news.push_back(&condition);
   for (const auto keyOf : {allOf, nameOf, valuesOf}) joinBy(keyOf, pairs, news);
   for (const ConditionFacts* const condition : news) {

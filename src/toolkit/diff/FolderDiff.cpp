@@ -47,6 +47,7 @@ std::vector<DocumentPair> pairsIn(const std::string& before, const std::string& 
     pair.after = fileIn(after, name);
   }
   std::vector<DocumentPair> all;
+  all.reserve(pairs.size());
   for (auto& [name, pair] : pairs) all.push_back(std::move(pair));
   return all;
 }
