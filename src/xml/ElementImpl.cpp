@@ -30,7 +30,7 @@ void CElementImpl::setUserData(void* data) { userData_ = data; }
 
 std::string CElementImpl::getAttributeValue(const char* name) {
   // Names are a few letters of ASCII, if nobody asks for what there cannot be.
-  std::array<XMLCh, 32> few;
+  std::array<XMLCh, 32> few;  // NOLINT(cppcoreguidelines-pro-type-member-init)
   for (std::size_t i = 0; name != nullptr && i < few.size(); i++) {
     const auto letter = static_cast<unsigned char>(name[i]);
     if (letter > 0x7F) break;

@@ -178,7 +178,7 @@ std::unique_ptr<XMLCh[]> CXStr::rendered() const {
 std::string textOf(const XMLCh* text) {
   if (text == nullptr) return {};
   // Most texts are a few letters.
-  std::array<char, 32> few;
+  std::array<char, 32> few;  // NOLINT(cppcoreguidelines-pro-type-member-init)
   for (std::size_t i = 0; i < few.size() && text[i] <= 0x7F; i++) {
     if (text[i] == 0) return {few.data(), i};
     few[i] = static_cast<char>(text[i]);
