@@ -45,16 +45,14 @@ Number numberIn(as::INumeric& item) {
     number.floatingDigits = digitsIn(usage == Usage::externalFloat ? Usage::comp2 : usage, bytes);
     return number;
   }
+  const bool usesAllBits = isOfAllBits(usage);
+  // Of most numbers the document says all there is.
+  if (!usesAllBits && (number.digits != 0 || bytes <= 0)) return number;
   // Digits that the bytes do not hold.
   const std::optional<Picture> picture = readAnyPicture(item.getPicture());
   const int scaling = picture ? picture->scaling : 0;
-  const int most = limited(digitsIn(usage, bytes)) + scaling;
-  if (isOfAllBits(usage)) {
-    number.digits = most;
-    if (scaling == 0) number.bits = limited(bitsOf(bytes));
-  } else if (number.digits == 0 && bytes > 0) {
-    number.digits = most;
-  }
+  number.digits = limited(digitsIn(usage, bytes)) + scaling;
+  if (usesAllBits && scaling == 0) number.bits = limited(bitsOf(bytes));
   return number;
 }
 
