@@ -31,8 +31,8 @@ ProgramFacts::ProgramFacts(as::IProgram& program) : program_(program) {
 std::string ProgramFacts::name() const { return program_.getName(); }
 
 as::IDataItem* ProgramFacts::find(const std::string& mapping) {
-  if (!index_) index_ = std::make_shared<const ItemIndex>(program_);
-  return index_->find(std::string_view(mapping).substr(0, mapping.find('(')));
+  if (!finder_) finder_.emplace(std::make_shared<const ItemIndex>(program_));
+  return finder_->find(std::string_view(mapping).substr(0, mapping.find('(')));
 }
 
 void ProgramFacts::findNames() {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "toolkit/text/NearNames.h"
-#include "toolkit/walk/ItemIndex.h"
+#include "toolkit/walk/ItemFinder.h"
 
 namespace as {
 class IDataItem;
@@ -34,7 +34,7 @@ class ProgramFacts {
   std::string name() const;
 
   // How items are found; null as long as none was looked for.
-  std::shared_ptr<const ItemIndex> index() const { return index_; }
+  std::shared_ptr<const ItemIndex> index() const { return finder_ ? finder_->index() : nullptr; }
 
   // The item that a mapping with that text leads to; null when there is none.
   as::IDataItem* find(const std::string& mapping);
@@ -64,7 +64,7 @@ class ProgramFacts {
   std::unordered_map<std::string, as::IDataItem*> recordsByName_;  // The first of each name.
   std::unordered_map<std::string, as::IEntryPoint*> entryPoints_;  // The first of each name.
   std::unordered_map<std::string, CallInterface> interfaces_;      // Those asked for.
-  std::shared_ptr<const ItemIndex> index_;                         // Once an item was looked for.
+  std::optional<ItemFinder> finder_;                               // Once an item was looked for.
   // All names of items with the first item of each; once an item was not found.
   std::optional<NearNames> names_;
   std::vector<as::IDataItem*> firstOfName_;  // In the order of names_.

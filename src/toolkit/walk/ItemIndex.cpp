@@ -20,16 +20,20 @@ bool isUnreachable(const std::string& name, std::size_t depth) {
 ItemIndex::ItemIndex(as::IProgram& program) {
   // The entries on the way to the current item; null from the first unreachable one on.
   std::vector<const Entry*> way = {&top_};
+  const Entry* last = &top_;
   walkItems(
       program.getDataItems(),
       [&](as::IDataItem& item, std::size_t depth) {
         const Entry* const around = way.back();
         std::string name = item.getName();
         const bool isReachable = around != nullptr && !isUnreachable(name, depth);
-        way.push_back(
-            isReachable
-                ? &entries_.try_emplace(Key{around, std::move(name)}, Entry{&item}).first->second
-                : nullptr);
+        if (!isReachable) {
+          way.push_back(nullptr);
+          return;
+        }
+        const auto [found, isNew] = entries_.insert(Entry{around, std::move(name), &item});
+        way.push_back(&*found);
+        if (isNew) last = last->next = &*found;
       },
       [&](as::IDataItem&) { way.pop_back(); });
 }
@@ -50,8 +54,8 @@ as::IDataItem* ItemIndex::find(std::string_view path) const {
 
 const ItemIndex::Entry* ItemIndex::below(const Entry* around, std::string_view name) const {
   if (around == nullptr) return nullptr;
-  const auto found = entries_.find(KeyView{around, name});
-  return found == entries_.end() ? nullptr : &found->second;
+  const auto found = entries_.find(Key{around, name});
+  return found == entries_.end() ? nullptr : &*found;
 }
 
 }  // namespace as::toolkit

@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <unordered_set>
 
 namespace as {
 class IDataItem;
@@ -21,7 +21,15 @@ namespace as::toolkit {
 class ItemIndex {
  public:
   struct Entry {
-    as::IDataItem* first;  // The one that a mapping leads to; null for the program.
+    const Entry* around = nullptr;  // Null for the program.
+    std::string name;
+    as::IDataItem* first = nullptr;  // The one that a mapping leads to; null for the program.
+    // That of the item behind it in the document, mostly.
+    mutable const Entry* next = nullptr;
+
+    bool is(const Entry* group, std::string_view word) const {
+      return around == group && name == word;
+    }
   };
 
   explicit ItemIndex(as::IProgram& program);
@@ -38,23 +46,19 @@ class ItemIndex {
   const Entry* below(const Entry* around, std::string_view name) const;
 
  private:
-  struct Key {
-    const Entry* around;
-    std::string name;
-  };
   // Looked up without a copy of the name.
-  struct KeyView {
+  struct Key {
     const Entry* around;
     std::string_view name;
   };
   struct Hash {
     using is_transparent = void;
-    std::size_t operator()(const KeyView& key) const noexcept {
+    std::size_t operator()(const Key& key) const noexcept {
       constexpr std::size_t odd = 0x9e3779b1;
       return std::hash<std::string_view>()(key.name) + std::hash<const void*>()(key.around) * odd;
     }
-    std::size_t operator()(const Key& key) const noexcept {
-      return (*this)(KeyView{key.around, key.name});
+    std::size_t operator()(const Entry& entry) const noexcept {
+      return (*this)(Key{entry.around, entry.name});
     }
   };
   struct Equal {
@@ -65,8 +69,8 @@ class ItemIndex {
     }
   };
 
-  Entry top_{nullptr};
-  std::unordered_map<Key, Entry, Hash, Equal> entries_;
+  Entry top_;
+  std::unordered_set<Entry, Hash, Equal> entries_;
 };
 
 }  // namespace as::toolkit
