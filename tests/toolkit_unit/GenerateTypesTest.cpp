@@ -8,7 +8,7 @@
 
 #include "support/TempDirectory.h"
 #include "toolkit/generate/Facets.h"
-#include "toolkit/generate/JsonSchemas.h"
+#include "toolkit/generate/JsonTypes.h"
 #include "toolkit/generate/SampleMaker.h"
 #include "toolkit/generate/TypeTable.h"
 #include "toolkit/generate/XsdTypes.h"

@@ -6,7 +6,8 @@
 #include <unordered_set>
 #include <vector>
 
-#include "toolkit/generate/NameRule.h"
+#include "toolkit/generate/Characters.h"
+#include "toolkit/generate/NameGiver.h"
 
 namespace {
 

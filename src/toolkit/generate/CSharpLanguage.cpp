@@ -1,5 +1,7 @@
 #include "toolkit/generate/CSharpLanguage.h"
 
+#include "toolkit/generate/Characters.h"
+
 namespace as::toolkit::gen {
 
 namespace {

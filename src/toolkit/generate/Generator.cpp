@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include "as/toolkit/Version.h"
+#include "toolkit/generate/Characters.h"
 #include "toolkit/generate/CodeText.h"
 #include "toolkit/generate/Facets.h"
 #include "toolkit/text/Phrases.h"

@@ -10,7 +10,7 @@
 
 #include "as/toolkit/Finding.h"
 #include "as/toolkit/Generate.h"
-#include "toolkit/generate/NameRule.h"
+#include "toolkit/generate/NameGiver.h"
 #include "toolkit/generate/ServiceModel.h"
 #include "toolkit/generate/TypeTable.h"
 

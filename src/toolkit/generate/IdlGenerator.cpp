@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "toolkit/generate/Characters.h"
 #include "toolkit/generate/CodeText.h"
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/IdlLanguage.h"

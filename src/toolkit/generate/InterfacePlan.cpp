@@ -5,6 +5,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "toolkit/generate/Characters.h"
 #include "toolkit/generate/Facets.h"
 #include "toolkit/text/Phrases.h"
 

@@ -138,10 +138,9 @@ Item::Table readTable(as::IDataItem& item) {
   return table;
 }
 
-// `facts` has its name and picture.
+// `facts` has its name, path and picture.
 void read(as::IDataItem& item, const std::optional<Picture>& picture, Item& facts) {
   facts.kind = kindOfItem(item);
-  facts.path = dottedPath(item);
   facts.bytes = limited(item.getLength());
   const std::optional<Usage> usage = usageOf(item);
   if (usage && *usage != Usage::display) facts.usage = wordOf(*usage);
@@ -164,6 +163,7 @@ std::size_t ItemFacts::numberOf(as::IDataItem& item) {
   if (isNew) {
     Item facts;
     facts.name = item.getName();
+    facts.path = pathOf(item, facts.name);
     facts.picture = item.getPicture();
     read(item, pictureOf(facts.picture), facts);
     facts.tables = tablesAround(item);
@@ -177,6 +177,17 @@ const std::optional<Picture>& ItemFacts::pictureOf(const std::string& text) {
   const auto [found, isNew] = pictures_.try_emplace(text);
   if (isNew) found->second = readAnyPicture(text);
   return found->second;
+}
+
+// As dottedPath() has it.
+std::string ItemFacts::pathOf(as::IDataItem& item, const std::string& name) {
+  as::IGroup* const group = item.getParent();
+  if (group == nullptr) return name;
+  if (group != group_) {
+    groupPath_ = dottedPath(*group);
+    group_ = group;
+  }
+  return groupPath_ + "." + name;
 }
 
 std::vector<Item::Table> ItemFacts::tablesAround(as::IDataItem& item) {

@@ -3,6 +3,7 @@
 #define TOOLKIT_GENERATE_ITEMFACTS_H_
 
 #include <cstddef>
+#include <deque>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -20,17 +21,21 @@ namespace as::toolkit::gen {
 // Each item is read once. The list must outlive it.
 class ItemFacts {
  public:
-  explicit ItemFacts(std::vector<Item>& items) : items_(items) {}
+  explicit ItemFacts(std::deque<Item>& items) : items_(items) {}
 
   // Its number in the list.
   std::size_t numberOf(as::IDataItem& item);
 
  private:
+  std::string pathOf(as::IDataItem& item, const std::string& name);
   std::vector<Item::Table> tablesAround(as::IDataItem& item);
   const std::optional<Picture>& pictureOf(const std::string& text);
 
-  std::vector<Item>& items_;
+  std::deque<Item>& items_;
   std::unordered_map<as::IDataItem*, std::size_t> known_;
+  // The group that the last item stands in, with its path. Most items stand behind one of theirs.
+  as::IDataItem* group_ = nullptr;
+  std::string groupPath_;
   std::unordered_map<as::IDataItem*, Item::Table> tables_;
   std::unordered_map<std::string, std::optional<Picture>> pictures_;
 };

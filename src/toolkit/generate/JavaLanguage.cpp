@@ -1,5 +1,7 @@
 #include "toolkit/generate/JavaLanguage.h"
 
+#include "toolkit/generate/Characters.h"
+
 namespace as::toolkit::gen {
 
 namespace {

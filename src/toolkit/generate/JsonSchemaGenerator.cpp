@@ -3,13 +3,12 @@
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/JsonSchemas.h"
 #include "toolkit/generate/JsonText.h"
+#include "toolkit/generate/JsonTypes.h"
 #include "toolkit/generate/MessagePlan.h"
 
 namespace as::toolkit::gen {
 
 namespace {
-
-using Json = JsonSchemas::Json;
 
 class JsonSchemaGenerator : public Generator {
  public:
@@ -29,17 +28,19 @@ class JsonSchemaGenerator : public Generator {
     for (const Operation* const operation : job.wantedOperations()) {
       addOperation(model, *operation, schemas);
     }
-    Json definitions = schemas.complete();
-    Json root = objectFor(5);
-    append(root, "$schema", "https://json-schema.org/draft/2020-12/schema");
-    append(root, "$comment", job.banner());
-    append(root, "title", model.name);
+    schemas.complete();
+    JsonText text;
+    text.member("$schema", "https://json-schema.org/draft/2020-12/schema");
+    text.member("$comment", job.banner());
+    text.member("title", model.name);
     // A single record is what the whole is about.
     if (model.flavour == nullptr && !job.options.record.empty()) {
-      append(root, "$ref", "#/$defs/" + definitions.begin().key());
+      text.member("$ref", "#/$defs/" + schemas.firstName());
     }
-    append(root, "$defs", std::move(definitions));
-    job.add(job.fileStem() + ".schema.json", jsonText(root));
+    text.open("$defs");
+    schemas.writeTo(text);
+    text.close();
+    job.add(job.fileStem() + ".schema.json", text.take());
   }
 
  private:

@@ -9,16 +9,12 @@
 #include <vector>
 
 #include "toolkit/generate/Generator.h"
-#include "toolkit/generate/SampleMaker.h"
+#include "toolkit/generate/JsonMembers.h"
+#include "toolkit/generate/JsonSamples.h"
+#include "toolkit/generate/JsonText.h"
 #include "toolkit/generate/TypeTable.h"
 
 namespace as::toolkit::gen {
-
-// What JSON knows: numbers that are exact in every reader, and strings for all others.
-const TypeTable& jsonTypes();
-
-// Keys of definitions and components.
-const NameRule& jsonNames();
 
 class JsonSchemas {
  public:
@@ -28,59 +24,48 @@ class JsonSchemas {
   // counts.
   JsonSchemas(const Job& job, std::string definitions);
 
-  // A definition of an object with some of these parameters in it; see complete(). What the answer
-  // points at keeps its name.
+  // A definition of an object with some of these parameters in it; see complete().
   std::size_t addObject(const NameWish& wish, const std::vector<Field>& members, bool goIn,
                         bool comeOut, const std::string& place);
-  // One of a field by itself.
-  std::size_t addValue(const NameWish& wish, const Field& field);
 
-  // Gives names and makes all definitions, those of types first. To be called once.
-  Json complete();
+  // Gives all definitions their names. To be called once, before anything is made.
+  void complete();
+  // Adds all definitions as members, those of types first.
+  void writeTo(JsonText& text) const;
 
-  std::string nameOf(std::size_t definition) const { return definitions_[definition].name; }
+  // The name of the definition that comes first, of a type. REQUIRES: there is a type.
+  const std::string& firstName() const { return typeNames_.front(); }
   Json referenceTo(std::size_t definition) const;
   // The schema of a field that has no definition of its own.
   Json schemaOf(const Field& field) const;
 
   // A sample of a definition; nothing for one of more than so many values.
   std::optional<Json> sampleOf(std::size_t number, std::size_t most);
-  Json sampleOf(const Field& field) const;
+  Json sampleOf(const Field& field) const { return samples_.sampleOf(field); }
 
  private:
   struct Definition {
     NameWish wish;
-    const Field* value;                   // Null for an object.
-    std::vector<const Field*> members{};  // Of an object.
-    std::vector<std::string> names{};     // Of its members.
+    std::vector<const Field*> members{};
+    std::vector<std::string> names{};  // Of its members.
     std::string name{};
   };
 
-  std::vector<std::string> namesOf(const std::vector<const Field*>& fields,
-                                   const std::string& place);
   Json schemaOfOne(const Field& field) const;
   Json schemaOfValue(const Field& field) const;
   Json schemaOfType(std::size_t number) const;
   Json objectOf(const std::vector<const Field*>& members,
                 const std::vector<std::string>& names) const;
-  Json sampleOfOne(const Field& field) const;
-  Json sampleOfValue(const Field& field) const;
-  Json sampleOfObject(const std::vector<const Field*>& members,
-                      const std::vector<std::string>& names) const;
-  // Fields, field attributes and the value, in this order.
-  std::vector<const Field*> membersOf(std::size_t type) const;
 
   const Job& job_;
-  NameGiver definitionNames_;
-  NameGiver memberNames_;
-  SampleMaker samples_;
+  NameGiver names_;
+  JsonMembers members_;
+  JsonSamples samples_;
   TypeLookup types_;
   std::string prefix_;
   bool withConditions_;
   std::vector<Definition> definitions_;
   std::vector<std::string> typeNames_;
-  std::vector<std::vector<std::string>> typeMembers_;  // Names of the members of types.
-  std::vector<std::optional<Field>> values_;           // Of structures that have one.
 };
 
 }  // namespace as::toolkit::gen

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace as::toolkit::gen {
 
@@ -15,8 +17,29 @@ nlohmann::ordered_json objectFor(std::size_t members);
 // (The object's own way looks for the key first, from the first member on.)
 void append(nlohmann::ordered_json& object, const std::string& key, nlohmann::ordered_json value);
 
-// The text of a document. What is no UTF-8 is replaced.
-std::string jsonText(const nlohmann::ordered_json& json);
+// The text of an object that is told member by member: a document is many times as large in memory
+// as its text is. What is no UTF-8 is replaced.
+class JsonText {
+ public:
+  JsonText() { begin(); }
+
+  void member(std::string_view key, const nlohmann::ordered_json& value);
+
+  // What comes next are members of the object of that key.
+  void open(std::string_view key);
+  void close();
+
+  // The document, which ends. REQUIRES: every object that was opened is closed.
+  std::string take();
+
+ private:
+  void begin();
+  void startMember(std::string_view key);
+  void startLine();
+
+  std::string text_;
+  std::vector<bool> areEmpty_;  // The objects that members stand in, outermost first.
+};
 
 }  // namespace as::toolkit::gen
 

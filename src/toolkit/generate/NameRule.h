@@ -22,10 +22,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_set>
-#include <vector>
-
-#include "as/toolkit/Finding.h"
-#include "as/toolkit/Generate.h"
 
 namespace as::toolkit::gen {
 
@@ -59,63 +55,6 @@ std::string legalName(const NameRule& rule, std::string_view name);
 
 // Eight digits made of a text: 32 bits in hexadecimal.
 std::string digitsOfText(std::string_view text);
-
-// A name that wants a place in a scope.
-struct NameWish {
-  std::string name;   // As the document has it.
-  std::string place;  // Where findings tell of it.
-  // It is made up, for a structure that has no name of its own: nothing is told of changes, and
-  // names of documents go before it.
-  bool isMade = false;
-};
-
-struct ServiceModel;
-
-// The wishes for the names of all types, in their order: what declared ones are called, and the
-// ways to the others, "quote.drivers".
-std::vector<NameWish> typeWishes(const ServiceModel& model);
-
-// Gives out the names of scopes, tells changes and takes what the user chose into account.
-class NameGiver {
- public:
-  // All of them must outlive it.
-  NameGiver(const NameRule& rule, const ChosenNames& chosen, Findings& findings)
-      : rule_(rule), chosen_(chosen), findings_(findings) {}
-
-  // The names of the members of one scope, in the order of the wishes. Changes are told, once for
-  // each place; a chosen name that the language forbids, or two alike, is an error.
-  std::vector<std::string> namesIn(const std::vector<NameWish>& wishes);
-
- private:
-  struct Claim {
-    std::size_t index;  // Of a wish.
-    int rank = 0;       // Chosen, as it was, changed.
-  };
-
-  std::string wantedName(const NameWish& wish, int& rank);
-  void tellApart(const std::vector<NameWish>& wishes, std::vector<Claim> claimants,
-                 std::vector<std::string>& names);
-  const std::string* chosenFor(const NameWish& wish) const;
-  void tellChange(const NameWish& wish, const std::string& name);
-
-  const NameRule& rule_;
-  const ChosenNames& chosen_;
-  Findings& findings_;
-  std::unordered_set<std::string> told_;
-};
-
-// Unicode code points of UTF-8 text; what is no UTF-8 counts as U+FFFD.
-std::u32string charactersOf(std::string_view text);
-std::string utf8Of(std::u32string_view text);
-
-// With letters of ASCII in their small form.
-std::string inSmallLetters(std::string_view text);
-
-// Letters of ASCII, digits, and what XML 1.0 takes in names (without the colon).
-bool isAsciiLetter(char32_t character);
-bool isDigit(char32_t character);
-bool isXmlNameStart(char32_t character);
-bool isXmlNameCharacter(char32_t character);
 
 }  // namespace as::toolkit::gen
 

@@ -4,9 +4,11 @@
 #include <string_view>
 #include <vector>
 
+#include "toolkit/generate/Characters.h"
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/JsonSchemas.h"
 #include "toolkit/generate/JsonText.h"
+#include "toolkit/generate/JsonTypes.h"
 #include "toolkit/generate/MessagePlan.h"
 
 namespace as::toolkit::gen {
@@ -61,27 +63,25 @@ class OpenApi {
 
   void make() {
     for (const Operation& operation : model_.operations) plan(operation);
-    Json components = schemas_.complete();
-    Json paths = objectFor(operations_.size());
-    for (const Planned& planned : operations_) {
-      append(paths, pathOf(planned.operation.name), {{"post", operationOf(planned)}});
-    }
-    std::string description = "Program " + model_.program;
-    for (const Property& property : model_.properties) {
-      description += "\n" + property.name + ": " + property.value;
-    }
-    Json root = objectFor(5);
-    append(root, "openapi", "3.1.0");
-    append(root, "info",
-           {{"title", model_.name},
-            {"description", description},
-            {"version", job_.option("version").empty() ? "1" : job_.option("version")},
-            {"x-generator", job_.banner()}});
+    schemas_.complete();
+    JsonText text;
+    text.member("openapi", "3.1.0");
+    writeInfo(text);
     const std::string server = job_.option("server");
-    if (!server.empty()) root["servers"] = Json::array({{{"url", server}}});
-    append(root, "paths", std::move(paths));
-    append(root, "components", {{"schemas", std::move(components)}});
-    job_.add(job_.fileStem() + ".openapi.json", jsonText(root));
+    if (!server.empty()) text.member("servers", Json::array({{{"url", server}}}));
+    text.open("paths");
+    for (const Planned& planned : operations_) {
+      text.open(pathOf(planned.operation.name));
+      text.member("post", operationOf(planned));
+      text.close();
+    }
+    text.close();
+    text.open("components");
+    text.open("schemas");
+    schemas_.writeTo(text);
+    text.close();
+    text.close();
+    job_.add(job_.fileStem() + ".openapi.json", text.take());
   }
 
  private:
@@ -109,6 +109,17 @@ class OpenApi {
     operations_.push_back(std::move(planned));
   }
 
+  void writeInfo(JsonText& text) const {
+    std::string description = "Program " + model_.program;
+    for (const Property& property : model_.properties) {
+      description += "\n" + property.name + ": " + property.value;
+    }
+    text.member("info", {{"title", model_.name},
+                         {"description", description},
+                         {"version", job_.option("version").empty() ? "1" : job_.option("version")},
+                         {"x-generator", job_.banner()}});
+  }
+
   Json operationOf(const Planned& planned) {
     const Operation& operation = planned.operation;
     Json made = objectFor(6);
@@ -119,15 +130,19 @@ class OpenApi {
     }
     Json parameters = headersOf(operation, true);
     if (!parameters.empty()) made["parameters"] = std::move(parameters);
-    made["requestBody"] = {{"required", true},
-                           {"content", contentOf(planned.request, operation, "request")}};
+    Json request = objectFor(2);
+    append(request, "required", true);
+    append(request, "content", contentOf(planned.request, operation, "request"));
+    append(made, "requestBody", std::move(request));
     Json answer = objectFor(3);
     append(answer, "description", "What the program answers");
     Json headers = headersOf(operation, false);
     if (!headers.empty()) answer["headers"] = std::move(headers);
-    answer["content"] = contentOf(planned.answer, operation, "answer");
-    made["responses"] = {{"200", std::move(answer)}};
-    if (!planned.faults.empty()) made["responses"]["500"] = faultsOf(planned);
+    append(answer, "content", contentOf(planned.answer, operation, "answer"));
+    Json responses = objectFor(2);
+    append(responses, "200", std::move(answer));
+    if (!planned.faults.empty()) append(responses, "500", faultsOf(planned));
+    append(made, "responses", std::move(responses));
     return made;
   }
 
@@ -146,7 +161,9 @@ class OpenApi {
                       " would be large and is left out; option 'examples' asks for it");
       }
     }
-    return {{"application/json", std::move(media)}};
+    Json content = objectFor(1);
+    append(content, "application/json", std::move(media));
+    return content;
   }
 
   Json faultsOf(const Planned& planned) {

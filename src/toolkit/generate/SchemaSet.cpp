@@ -1,8 +1,8 @@
 #include "toolkit/generate/SchemaSet.h"
 
-#include <algorithm>
 #include <utility>
 
+#include "toolkit/generate/FieldShape.h"
 #include "toolkit/generate/NamespaceUri.h"
 #include "toolkit/generate/XsdTypes.h"
 #include "toolkit/text/Phrases.h"
@@ -158,35 +158,9 @@ SchemaSet::Handle SchemaSet::findElement(const std::string& uri, const Field& fi
   const auto found = elementsByName_.find(uri + "\n" + field.name);
   if (found == elementsByName_.end()) return none;
   for (const Handle handle : found->second) {
-    if (isSameShape(*elements_[handle].field, field)) return handle;
+    if (areOfOneShape(job_.model, *elements_[handle].field, field)) return handle;
   }
   return none;
-}
-
-bool SchemaSet::isSameShape(const Field& left, const Field& right) const {
-  if (left.reference != right.reference) return false;
-  if (left.reference != none || &left == &right) return true;
-  if (left.dataType != right.dataType || left.elementForm != right.elementForm ||
-      left.attributeForm != right.attributeForm) {
-    return false;
-  }
-  const Item* const leftItem = job_.model.itemOf(left);
-  const Item* const rightItem = job_.model.itemOf(right);
-  if ((leftItem == nullptr) != (rightItem == nullptr)) return false;
-  if (leftItem != nullptr && !leftItem->isLike(*rightItem)) return false;
-  if (left.structure == right.structure) return true;
-  if (left.structure == none || right.structure == none) return false;
-  const auto areSame = [this](const std::vector<Field>& some, const std::vector<Field>& others) {
-    return std::equal(some.begin(), some.end(), others.begin(), others.end(),
-                      [this](const Field& one, const Field& other) {
-                        return one.name == other.name && one.occurs == other.occurs &&
-                               one.least == other.least && isSameShape(one, other);
-                      });
-  };
-  const Type& leftType = job_.model.types[left.structure];
-  const Type& rightType = job_.model.types[right.structure];
-  return areSame(leftType.fields, rightType.fields) &&
-         areSame(leftType.attributes, rightType.attributes);
 }
 
 SchemaSet::Handle SchemaSet::addType(const Field& field, const NameWish& name) {

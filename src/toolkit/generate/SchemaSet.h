@@ -126,7 +126,6 @@ class SchemaSet {
   void use(const Field& field);
   void useFrom(const Field& field, const Around& around, const std::string& place);
   void useWaiting();
-  bool isSameShape(const Field& left, const Field& right) const;
   void giveNames();
   void giveElementNames();
 

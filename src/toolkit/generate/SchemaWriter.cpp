@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "toolkit/generate/Characters.h"
 #include "toolkit/generate/XsdTypes.h"
 
 namespace as::toolkit::gen {
@@ -27,8 +28,7 @@ bool isLong(std::string_view numeral) {
 
 }  // namespace
 
-SchemaWriter::SchemaWriter(const Job& job, SchemaSet& set) : job_(job), set_(set) {
-  partOf(set_.targetNamespace());
+void SchemaWriter::write() {
   for (std::size_t i = 0; i < set_.types().size(); ++i) {
     if (set_.types()[i].isUsed) writeType(i);
   }
@@ -39,7 +39,7 @@ SchemaWriter::SchemaWriter(const Job& job, SchemaSet& set) : job_(job), set_(set
 void SchemaWriter::writeType(std::size_t number) {
   const Type& type = job_.model.types[number];
   const SchemaSet::TypeFacts& facts = set_.types()[number];
-  Part& part = partOf(facts.uri);
+  Part& part = texts_.partOf(facts.uri);
   if (type.isDeclared && type.self.structure != number) {
     writeSimpleType(part, type.self, facts.name);
     return;
@@ -52,7 +52,7 @@ void SchemaWriter::writeType(std::size_t number) {
     part.text.open("<xs:simpleContent>");
     part.text.open("<xs:extension" +
                    xmlAttribute("base", set_.hasFacets(*facts.value)
-                                            ? qualified(part, facts.uri, facts.valueName)
+                                            ? texts_.qualified(part, facts.uri, facts.valueName)
                                             : std::string(set_.builtIn(*facts.value))) +
                    ">");
     writeAttributes(part, type, around);
@@ -74,7 +74,7 @@ void SchemaWriter::writeType(std::size_t number) {
 }
 
 void SchemaWriter::writeElement(const SchemaSet::Element& element) {
-  Part& part = partOf(element.uri);
+  Part& part = texts_.partOf(element.uri);
   if (element.field != nullptr) {
     writeTyped(part, "element", xmlAttribute("name", element.name), *element.field);
     return;
@@ -90,7 +90,7 @@ void SchemaWriter::writeElement(const SchemaSet::Element& element) {
 
 void SchemaWriter::writeNamedType(const SchemaSet::NamedType& type) {
   if (type.field != nullptr && set_.isNamed(*type.field)) return;
-  Part& part = partOf(set_.targetNamespace());
+  Part& part = texts_.partOf(set_.targetNamespace());
   const bool isTable = type.field != nullptr && type.field->isTable();
   if (type.field != nullptr && !isTable) {
     writeSimpleType(part, *type.field, type.name);
@@ -124,7 +124,7 @@ void SchemaWriter::writeMember(Part& part, const Field& field, const std::string
     const SchemaSet::Handle handle = set_.findElement(field.namespaceUri, field);
     const std::string& uri = set_.elements()[handle].uri;
     part.text.line("<xs:element" +
-                   xmlAttribute("ref", qualified(part, uri, set_.elements()[handle].name)) +
+                   xmlAttribute("ref", texts_.qualified(part, uri, set_.elements()[handle].name)) +
                    occurrences(field) + "/>");
     return;
   }
@@ -172,7 +172,7 @@ void SchemaWriter::writeAttributes(Part& part, const Type& type, const Around& a
   }
 }
 
-void SchemaWriter::writeTyped(Part& part, const std::string& tag, const std::string& attributes,
+void SchemaWriter::writeTyped(Part& part, std::string_view tag, const std::string& attributes,
                               const Field& field, bool isAttribute) {
   const std::vector<std::string> lines = linesAbout(job_.model, field);
   std::string type;
@@ -180,7 +180,7 @@ void SchemaWriter::writeTyped(Part& part, const std::string& tag, const std::str
   bool isAny = false;
   const std::size_t own = field.reference != none ? field.reference : field.structure;
   if (own != none) {
-    type = qualified(part, set_.types()[own].uri, set_.types()[own].name);
+    type = texts_.qualified(part, set_.types()[own].uri, set_.types()[own].name);
   } else if (set_.builtIn(field) == anyType) {
     isAny = !isAttribute;
     if (isAttribute) type = "xs:string";
@@ -188,13 +188,12 @@ void SchemaWriter::writeTyped(Part& part, const std::string& tag, const std::str
     facets = set_.facetsIn(field);
     if (!SchemaSet::saysAnything(facets)) type = set_.builtIn(field);
   }
-  std::string start = "<xs:" + tag + attributes;
-  if (!type.empty()) start += xmlAttribute("type", type);
+  const std::string typed = type.empty() ? "" : xmlAttribute("type", type);
   if (!type.empty() && lines.empty()) {
-    part.text.line(start + "/>");
+    part.text.line({"<xs:", tag, attributes, typed, "/>"});
     return;
   }
-  part.text.open(start + ">");
+  part.text.open({"<xs:", tag, attributes, typed, ">"});
   writeDocumentation(part, lines);
   if (isAny) {
     writeAny(part, "");
@@ -203,7 +202,7 @@ void SchemaWriter::writeTyped(Part& part, const std::string& tag, const std::str
     writeRestriction(part, field, facets);
     part.text.close("</xs:simpleType>");
   }
-  part.text.close("</xs:" + tag + ">");
+  part.text.close({"</xs:", tag, ">"});
 }
 
 // Whatever XML there may be.
@@ -222,7 +221,7 @@ void SchemaWriter::writeSimpleType(Part& part, const Field& field, const std::st
   if (declared != none) {
     // Of a structure, or of what another name stands for.
     const SchemaSet::TypeFacts& facts = set_.types()[declared];
-    const std::string base = qualified(part, facts.uri, facts.name);
+    const std::string base = texts_.qualified(part, facts.uri, facts.name);
     if (field.structure == none) {
       part.text.open("<xs:simpleType" + named + ">");
       part.text.line("<xs:restriction" + xmlAttribute("base", base) + "/>");
@@ -247,14 +246,14 @@ void SchemaWriter::writeSimpleType(Part& part, const Field& field, const std::st
 }
 
 void SchemaWriter::writeRestriction(Part& part, const Field& field, const Facets& facets) {
-  const std::string start = "<xs:restriction" + xmlAttribute("base", set_.builtIn(field));
+  const std::string base = xmlAttribute("base", set_.builtIn(field));
   if (!SchemaSet::saysAnything(facets)) {
-    part.text.line(start + "/>");
+    part.text.line({"<xs:restriction", base, "/>"});
     return;
   }
-  part.text.open(start + ">");
+  part.text.open({"<xs:restriction", base, ">"});
   const auto facet = [&part](const char* word, std::string_view value) {
-    part.text.line("<xs:" + std::string(word) + xmlAttribute("value", value) + "/>");
+    part.text.line({"<xs:", word, xmlAttribute("value", value), "/>"});
   };
   for (const std::string& value : facets.values) facet("enumeration", value);
   if (!facets.pattern.empty()) facet("pattern", facets.pattern);
@@ -276,65 +275,9 @@ void SchemaWriter::writeDocumentation(Part& part, const std::vector<std::string>
   if (lines.empty()) return;
   part.text.open("<xs:annotation>");
   for (const std::string& line : lines) {
-    part.text.line("<xs:documentation>" + xmlText(line) + "</xs:documentation>");
+    part.text.line({"<xs:documentation>", xmlText(line), "</xs:documentation>"});
   }
   part.text.close("</xs:annotation>");
-}
-
-SchemaWriter::Part& SchemaWriter::partOf(const std::string& uri) {
-  set_.prefixOf(uri);
-  const auto [found, isNew] = parts_.try_emplace(uri);
-  if (isNew) found->second.text.indent();
-  return found->second;
-}
-
-std::string SchemaWriter::qualified(Part& part, const std::string& uri, const std::string& name) {
-  part.imports.insert(uri);
-  return set_.prefixOf(uri) + ":" + name;
-}
-
-std::string SchemaWriter::fileOf(const std::string& uri) const {
-  if (uri == set_.targetNamespace()) return job_.fileStem() + ".xsd";
-  constexpr std::size_t longest = 80;
-  std::string name;
-  for (const char byte : uri) {
-    const auto code = static_cast<unsigned char>(byte);
-    name += isAsciiLetter(code) || isDigit(code) ? byte : '-';
-  }
-  if (name.size() > longest) name.resize(longest);
-  // Two that differ in other characters alone are two.
-  return job_.fileStem() + "-" + name + "-" + digitsOfText(uri) + ".xsd";
-}
-
-std::vector<SchemaWriter::Schema> SchemaWriter::schemas(bool areFiles) const {
-  std::vector<Schema> schemas;
-  for (const auto& [uri, part] : parts_) {
-    if (!areFiles && part.text.text().empty()) continue;
-    TextWriter text;
-    std::string start = R"(<xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema")";
-    for (const std::string& imported : part.imports) {
-      start += xmlAttribute("xmlns:" + set_.prefixes().at(imported), imported);
-    }
-    if (!part.imports.contains(uri)) start += xmlAttribute("xmlns:" + set_.prefixes().at(uri), uri);
-    text.open(start + xmlAttribute("targetNamespace", uri) +
-              R"( elementFormDefault="qualified" attributeFormDefault="unqualified">)");
-    std::set<std::string> imports = part.imports;
-    if (areFiles && uri == set_.targetNamespace()) {
-      for (const auto& [other, otherPart] : parts_) imports.insert(other);
-    }
-    for (const std::string& imported : imports) {
-      if (imported == uri) continue;
-      text.line("<xs:import" + xmlAttribute("namespace", imported) +
-                (areFiles ? xmlAttribute("schemaLocation", fileOf(imported)) : "") + "/>");
-    }
-    Schema schema{uri, fileOf(uri), text.take() + part.text.text() + "</xs:schema>\n"};
-    if (uri == set_.targetNamespace()) {
-      schemas.insert(schemas.begin(), std::move(schema));
-    } else {
-      schemas.push_back(std::move(schema));
-    }
-  }
-  return schemas;
 }
 
 }  // namespace as::toolkit::gen

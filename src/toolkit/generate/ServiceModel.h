@@ -5,6 +5,7 @@
 #define TOOLKIT_GENERATE_SERVICEMODEL_H_
 
 #include <cstddef>
+#include <deque>
 #include <limits>
 #include <string>
 #include <vector>
@@ -175,7 +176,7 @@ struct ServiceModel {
   const Flavour* flavour = nullptr;  // Null for a dictionary.
   std::string source;                // What the output calls the document.
   std::vector<Property> properties;
-  std::vector<Item> items;
+  std::deque<Item> items;   // There may be many, and they are large: they stay where they are.
   std::vector<Type> types;  // Declared ones in the order of the document; any after its owner.
   std::vector<Operation> operations;
   // Whether every reference leads to a declared type.

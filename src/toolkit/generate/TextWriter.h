@@ -3,22 +3,35 @@
 #define TOOLKIT_GENERATE_TEXTWRITER_H_
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
 
 namespace as::toolkit::gen {
 
+// Makes room for so much more. A text of megabytes gets plenty: what nothing is written to costs
+// nothing, but to double the room over and over is to touch twice the memory that the text needs.
+void makeRoom(std::string& text, std::size_t more);
+
 class TextWriter {
  public:
+  // What stands on a line, in pieces that nobody has to join.
+  using Pieces = std::initializer_list<std::string_view>;
+
   explicit TextWriter(std::size_t step = 2) : step_(step) {}
 
   // A line of text that has no line ends of its own; an empty one is not indented.
-  void line(std::string_view text = {});
+  void line(std::string_view text = {}) { line(Pieces{text}); }
+  void line(Pieces pieces);
   // The same, and what follows stands a step deeper.
-  void open(std::string_view text);
+  void open(std::string_view text) { open(Pieces{text}); }
+  void open(Pieces pieces);
   // What follows stands a step higher, the line itself, too.
-  void close(std::string_view text);
+  void close(std::string_view text) { close(Pieces{text}); }
+  void close(Pieces pieces);
+  // Lines as they are.
+  void block(std::string_view lines);
   void indent() { ++depth_; }
   void outdent() { --depth_; }
 

@@ -1,8 +1,11 @@
 // xsd: XML Schemas of the data of a service, of one of its operations, or of a dictionary's
 // records.
+#include <utility>
+
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/MessagePlan.h"
 #include "toolkit/generate/SchemaSet.h"
+#include "toolkit/generate/SchemaTexts.h"
 #include "toolkit/generate/SchemaWriter.h"
 #include "toolkit/generate/XsdTypes.h"
 
@@ -58,9 +61,10 @@ class XsdGenerator : public Generator {
       }
     }
     schemas.complete();
-    for (const SchemaWriter::Schema& schema : SchemaWriter(job, schemas).schemas(true)) {
-      job.add(schema.file, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!-- " + job.banner() +
-                               " -->\n" + schema.text);
+    SchemaTexts texts(job, schemas, SchemaPlace::inFiles);
+    SchemaWriter(job, schemas, texts).write();
+    for (SchemaTexts::Schema& schema : texts.take()) {
+      job.add(std::move(schema.file), std::move(schema.text));
     }
   }
 };

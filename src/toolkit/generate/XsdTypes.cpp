@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "toolkit/generate/Characters.h"
+
 namespace as::toolkit::gen {
 
 namespace {
@@ -13,6 +15,9 @@ bool isMarked(char byte) {
   return byte == '&' || byte == '<' || byte == '>' || byte == '"' ||
          static_cast<unsigned char>(byte) < 0x20;
 }
+
+// Most texts hold nothing of the kind.
+bool isPlain(std::string_view text) { return std::none_of(text.begin(), text.end(), isMarked); }
 
 }  // namespace
 
@@ -45,8 +50,7 @@ const NameRule& xmlNames() {
 }
 
 std::string xmlText(std::string_view text) {
-  // Most texts hold nothing of the kind.
-  if (std::none_of(text.begin(), text.end(), isMarked)) return std::string(text);
+  if (isPlain(text)) return std::string(text);
   std::string result;
   result.reserve(text.size());
   for (const char byte : text) {
@@ -86,7 +90,13 @@ std::string xmlText(std::string_view text) {
 std::string xmlAttribute(std::string_view name, std::string_view value) {
   std::string result;
   result.reserve(name.size() + value.size() + 4);
-  return result.append(" ").append(name).append("=\"").append(xmlText(value)).append("\"");
+  result.append(" ").append(name).append("=\"");
+  if (isPlain(value)) {
+    result.append(value);
+  } else {
+    result.append(xmlText(value));
+  }
+  return result.append("\"");
 }
 
 }  // namespace as::toolkit::gen

@@ -1,0 +1,147 @@
+#include "toolkit/generate/WsdlPlan.h"
+
+#include <utility>
+
+#include "toolkit/generate/MessagePlan.h"
+
+namespace as::toolkit::gen {
+
+WsdlPlan::WsdlPlan(const Job& job, SchemaSet& schemas)
+    : job_(job), model_(job.model), schemas_(schemas) {
+  for (const Operation& operation : model_.operations) plan(operation);
+}
+
+void WsdlPlan::plan(const Operation& operation) {
+  WsdlOperation planned{operation};
+  planned.request = planMessage(planned, requestMembers(model_, operation),
+                                requestWish(model_, operation), operation.inputNamespace);
+  planned.answer = planMessage(planned, answerMembers(model_, operation),
+                               answerWish(model_, operation), operation.outputNamespace);
+  for (const Message& message : operation.messages) {
+    planned.messages.push_back({message, planMessage(operation, message)});
+  }
+  if (planned.isRpc() && (operation.isInputEncoded || operation.isOutputEncoded)) {
+    tellAttributes(operation);
+  }
+  operations_.push_back(std::move(planned));
+}
+
+// A request or an answer: one element with all parameters in it, or a part for each of them.
+std::size_t WsdlPlan::planMessage(const WsdlOperation& planned, const SchemaSet::Members& members,
+                                  const NameWish& element, const std::string& uri) {
+  // Messages are called as the elements of the bodies: some readers take one name for the other.
+  WsdlMessage message{{element.name, element.place, true}};
+  if (!planned.isRpc()) {
+    message.parts.push_back({"parameters", schemas_.addWrapper(uri, element, members)});
+  } else {
+    const std::vector<std::string> names = schemas_.memberNames(members);
+    const std::vector<const Field*> fields = members.chosen();
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+      message.parts.push_back({names[i], {}, typeOf(planned.operation, *fields[i])});
+    }
+  }
+  messages_.push_back(std::move(message));
+  return messages_.size() - 1;
+}
+
+// The same parameter has one type in the request and in the answer.
+SchemaSet::Handle WsdlPlan::typeOf(const Operation& operation, const Field& field) {
+  const auto known = types_.find(&field);
+  if (known != types_.end()) return known->second;
+  const NameWish wish{operation.name + "." + field.name + (field.isTable() ? ".list" : ""),
+                      model_.placeOf(operation) + "." + field.name + " type", true};
+  return types_[&field] = schemas_.addType(field, wish);
+}
+
+// A header or fault.
+std::size_t WsdlPlan::planMessage(const Operation& operation, const Message& message) {
+  const std::string place = model_.placeOf(operation, message);
+  const std::string& uri =
+      message.namespaceUri.empty() ? schemas_.targetNamespace() : message.namespaceUri;
+  const SchemaSet::Members members = membersOf(model_, operation, message);
+  const bool isFault = message.kind == "fault";
+  WsdlMessage planned{{operation.name + (isFault ? "Fault" : "Header") +
+                           (message.number == 1 ? "" : std::to_string(message.number)),
+                       place + " message", true}};
+  if (message.isEncoded) tellEncoded(place, message.kind);
+  if (isFault && message.isEncoded) {
+    NameWish wish = faultWish(model_, operation, message);
+    planned.parts.push_back({"fault", {}, schemas_.addGroup(wish, members)});
+  } else if (isFault) {
+    planned.parts.push_back(
+        {"fault", schemas_.addWrapper(uri, faultWish(model_, operation, message), members)});
+  } else {
+    planHeader(operation, message, members, uri, planned);
+  }
+  messages_.push_back(std::move(planned));
+  return messages_.size() - 1;
+}
+
+// A part for each parameter: each is a block of the header.
+void WsdlPlan::planHeader(const Operation& operation, const Message& message,
+                          const SchemaSet::Members& members, const std::string& uri,
+                          WsdlMessage& planned) {
+  const std::vector<std::string> names = schemas_.memberNames(members);
+  const std::vector<const Field*> fields = members.chosen();
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    const std::string place = members.place + "." + fields[i]->name;
+    if (message.isEncoded) {
+      planned.parts.push_back({names[i], {}, typeOf(operation, *fields[i])});
+      continue;
+    }
+    if (fields[i]->isTable()) {
+      job_.warn("repeated-header", place,
+                "a header has one block of a name: that it occurs " +
+                    std::to_string(fields[i]->occurs) + " times is not said",
+                "put it into a structure");
+    }
+    const std::string& own = fields[i]->namespaceUri.empty() ? uri : fields[i]->namespaceUri;
+    planned.parts.push_back({names[i], schemas_.addElement(own, *fields[i], place)});
+  }
+}
+
+void WsdlPlan::tellEncoded(const std::string& place, const std::string& kind) const {
+  job_.warn(kind == "fault" ? "encoded-fault" : "encoded-header", place,
+            "it is encoded: WSDL tells its type, but of no element that it travels in, and most "
+            "readers want one",
+            "make its use literal");
+}
+
+// What is encoded has no attributes.
+void WsdlPlan::tellAttributes(const Operation& operation) {
+  for (const Field& parameter : operation.parameters) {
+    if (parameter.structure == none || !hasAttributes(parameter.structure)) continue;
+    job_.warn("encoded-attribute", model_.placeOf(operation) + "." + parameter.name,
+              "it has field attributes, which SOAP's encoding does not know: the schema has them "
+              "all the same",
+              "make them fields, or the use literal");
+  }
+}
+
+// Of a structure, or one in it.
+bool WsdlPlan::hasAttributes(std::size_t type) {
+  const auto [known, isNew] = hasAttributes_.try_emplace(type, false);
+  if (!isNew) return known->second;
+  bool found = !model_.types[type].attributes.empty();
+  for (const Field& field : model_.types[type].fields) {
+    if (found) break;
+    found = field.structure != none && hasAttributes(field.structure);
+  }
+  return hasAttributes_[type] = found;
+}
+
+void WsdlPlan::giveNames() {
+  std::vector<NameWish> wishes;
+  for (const WsdlMessage& message : messages_) wishes.push_back(message.wish);
+  const std::vector<std::string> messages = schemas_.names().namesIn(wishes);
+  for (std::size_t i = 0; i < messages.size(); ++i) messages_[i].name = messages[i];
+  wishes.clear();
+  for (const Operation& operation : model_.operations) {
+    wishes.push_back(requestWish(model_, operation));
+  }
+  const std::vector<std::string> operations = schemas_.names().namesIn(wishes);
+  for (std::size_t i = 0; i < operations.size(); ++i) operations_[i].name = operations[i];
+  name_ = schemas_.names().namesIn({{model_.name, "service"}}).front();
+}
+
+}  // namespace as::toolkit::gen
