@@ -2,11 +2,11 @@
 
 #include <filesystem>
 #include <iostream>
-#include <system_error>
 #include <vector>
 
 #include "as/toolkit/Text.h"
 #include "cli/Command.h"
+#include "cli/Folder.h"
 #include "cli/Messages.h"
 
 namespace cli {
@@ -33,10 +33,7 @@ int Making::makeAll(const toolkit::DocumentReader& reader, const Make& make) {
   };
   const auto work = [&](const Input& input, Parcel& parcel) {
     const std::string target = targetOf(input);
-    std::error_code ignored;  // What cannot be written there says so.
-    if (isFolder) {
-      std::filesystem::create_directories(std::filesystem::path(target).parent_path(), ignored);
-    }
+    if (isFolder) makeFolder(std::filesystem::path(target).parent_path());
     const Made made = make(reader, input, target);
     parcel.put(made.notes.size());
     for (const toolkit::Finding& note : made.notes) parcel.put(note);

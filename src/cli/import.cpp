@@ -14,6 +14,7 @@
 #include "as/toolkit/Text.h"
 #include "cli/Command.h"
 #include "cli/FindingsReport.h"
+#include "cli/Folder.h"
 #include "cli/Messages.h"
 #include "cli/Parcel.h"
 #include "cli/Progress.h"
@@ -180,9 +181,7 @@ class Import : public Command {
     WorkOutcome outcome;
     Parcel parcel;
     try {
-      std::error_code failure;
-      const fs::path folder = fs::path(task.output).parent_path();
-      if (isFolder_ && !folder.empty()) fs::create_directories(folder, failure);
+      if (isFolder_) makeFolder(fs::path(task.output).parent_path());
       const toolkit::ImportedFile made =
           toolkit::importCobolFile(task.source, task.output, folders_, options_);
       const toolkit::Imported& imported = made.imported;

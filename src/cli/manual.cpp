@@ -4,11 +4,11 @@
 #include <filesystem>
 #include <iostream>
 #include <string>
-#include <system_error>
 
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Text.h"
 #include "cli/CommandTable.h"
+#include "cli/Folder.h"
 #include "cli/Messages.h"
 
 namespace cli {
@@ -133,8 +133,7 @@ class Manual : public Command {
   }
 
   int run(const std::optional<std::string>&) override {
-    std::error_code ignored;  // What cannot be written there says so.
-    std::filesystem::create_directories(folder_, ignored);
+    makeFolder(folder_);
     write(table_.name, pageOf(table_));
     for (const CommandEntry& row : table_.commands) {
       write(std::string(table_.name) + "-" + row.command->name(), pageOf(table_, row));

@@ -137,6 +137,23 @@ TEST_F(ToolOutputTest, ThatIsFullLeavesOtherFailuresAsTheyAre) {
 
 // The files that are to be written.
 
+// The reason is why there is no folder, not that a file has none to stand in.
+TEST_F(ToolOutputTest, IntoAFolderThatCannotBeMadeTellsWhy) {
+  write("second.xml", test::payProgram());
+  write("src/a.cbl", "       IDENTIFICATION DIVISION.\n       PROGRAM-ID. A.\n");
+  const std::vector<std::vector<std::string>> calls = {
+      {"new", "--flavour", "ws", "p.xml", "second.xml", "-o", "p.xml/made"},
+      {"import", "src", "-o", "p.xml/made"},
+      {"manual", "-o", "p.xml/made"}};
+  for (const std::vector<std::string>& call : calls) {
+    const ToolOutcome outcome = run(call);
+    EXPECT_EQ(outcome.exitCode, 1) << call[0];
+    EXPECT_THAT(outcome.err,
+                StartsWith("agentservices: error: the folder p.xml/made cannot be made: Not a dir"))
+        << call[0];
+  }
+}
+
 TEST_P(ToolOutputTest, IntoAFileThatCannotBeWrittenIsToldOnce) {
   if (!GetParam().writes) return;
   for (const char* const file : {"/dev/full", "missing/out.xml", "/proc/out.xml", "folder"}) {
