@@ -107,6 +107,9 @@ for (const [name, address] of views.filter(([name]) => name === "record" || name
   await page.evaluate(() => dispatchEvent(new Event("beforeprint")));
   await settle();
   await page.screenshot({ path: pictures + "/" + name + "-print.png" });
+  const cut = await page.$$eval(".line > *, .line .name, .field .type", (cells) => cells
+    .filter((cell) => cell.scrollWidth > cell.clientWidth + 1).map((cell) => cell.textContent));
+  check(cut.length === 0, name + ", on paper: nothing is cut off " + cut.slice(0, 3).join(", "));
   await page.emulateMediaType(null);
 }
 

@@ -4,7 +4,7 @@
 
 function documentCard(known) {
   const counts = Object.entries(known.counts).filter(([, number]) => number > 0)
-    .map(([name, number]) => plural(number, name.replace(/s$/, ""))).join(" \u00b7 ");
+    .map(([name, number]) => plural(number, name.replace(/s$/, "")).replaceAll(" ", "\u00a0")).join(" \u00b7 ");
   const isClean = known.errors === 0 && known.warnings === 0;
   return el("li.cardlink", {}, el("a", {href: "#/" + known.id}, clip(known.name) || "(unnamed)"),
     el("span.kind", {}, known.kind === "service" ? known.flavour + " service" : "Program"),
@@ -26,7 +26,7 @@ function overview() {
   };
   return [
     el("h1", {}, "Programs and services"),
-    el("p.lead", {}, "Press ", el("kbd", {}, "/"), " to search all names; in a record, the arrows walk through its items."),
+    el("p.lead.keys", {}, "Press ", el("kbd", {}, "/"), " to search all names; in a record, the arrows walk through its items."),
     group("Programs", "program"), group("Services", "service"),
   ];
 }
