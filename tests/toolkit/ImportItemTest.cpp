@@ -252,6 +252,10 @@ INSTANTIATE_TEST_SUITE_P(
                   "ARE 'B' 'C', \"D\"",
                   TEXTS("<alphanumericConstant value='B'/><alphanumericConstant "
                         "value='C'/><alphanumericConstant value='D'/>")},
+        ImportRow{"A PIC X. 88 C VALUE "
+                  "'B' OR 'C' THRU 'D' or 'F'",
+                  TEXTS("<alphanumericConstant value='B'/><alphanumericRange from='C' to='D'/>"
+                        "<alphanumericConstant value='F'/>")},
         ImportRow{"A PIC X. 88 C 'B' "
                   "THRU 'D'",
                   TEXTS("<alphanumericRange from='B' to='D'/>")},

@@ -131,7 +131,12 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"01 A PIC X. 01 B LIKE A (N).", "1:23 bad-clause"},
         ImportRow{"01 A PIC X. 01 B LIKE A (-1).", "1:13 bad-clause"},
         ImportRow{"01 A. 05 C PIC X. 01 B LIKE A (1).", "1:19 bad-clause"},
-        ImportRow{"01 T TYPEDEF. 05 A TYPE T.", "1:25 lost-type"}));
+        ImportRow{"01 T TYPEDEF. 05 A TYPE T.", "1:25 lost-type"},
+        ImportRow{"01 A PIC X. 88 C VALUE OR 'B'.", "1:24 no-value, 1:16 no-value"},
+        ImportRow{"01 T TYPEDEF. 05 A T.", "1:20 lost-type"},
+        ImportRow{"01 T PIC X. 01 A T.", "1:18 unknown-clause"},
+        ImportRow{"01 T TYPEDEF PIC X. 01 A PIC X T.", "1:32 unknown-clause"},
+        ImportRow{"01 A T. 01 T TYPEDEF PIC X.", "1:6 unknown-clause"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Values, ImportProblemTest,
@@ -215,6 +220,15 @@ TEST(ImportProblems, AreToldWithTheCopiesTheyStandIn) {
             "INNER.cpy:1:10: error: Q is no PICTURE that can be read\n"
             "OUTER.cpy:1:1: note: copied here\n"
             "T.cbl:5:1: note: copied here");
+}
+
+TEST(ImportProblems, SuggestATypeWhereANameStandsAlone) {
+  const auto imported = importOf(programOf("01 A T."));
+  ASSERT_EQ(imported.findings.size(), 1U);
+  EXPECT_EQ(
+      textOf(imported.findings.front()),
+      "T.cbl:5:6: error: T in the entry of A begins no clause that is known; if it is a type, "
+      "its TYPEDEF has to stand in front");
 }
 
 // Those of the words and those of the entries are told one behind the other.

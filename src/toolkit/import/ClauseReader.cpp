@@ -260,9 +260,16 @@ bool ClauseReader::readClause(DataEntry& entry) {
       break;
   }
   if (word.meaning.role == KeywordRole::usage) return usages_.read(entry);
-  problems_.tell(
-      EntryRule::unknownClause, place,
-      word.token.text + " in the entry of " + entry.name + " begins no clause that is known");
+  const bool isName = word.is(TokenKind::word) && keyword == Keyword::name;
+  const bool hasType = entry.type != none || entry.ownUsage || entry.picture != none;
+  if (isName && !hasType && references_.isType(names_.idOf(word.token.text))) {
+    return references_.read(entry, NameReference::Kind::type);
+  }
+  const bool mayBeType = isName && !hasType && words_.peek(1).is(TokenKind::period);
+  problems_.tell(EntryRule::unknownClause, place,
+                 words_.peek().token.text + " in the entry of " + entry.name +
+                     " begins no clause that is known" +
+                     (mayBeType ? "; if it is a type, its TYPEDEF has to stand in front" : ""));
   return false;
 }
 

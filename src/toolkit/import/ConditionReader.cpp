@@ -70,6 +70,7 @@ void ConditionReader::readValues() {
       value.isRange = true;
     }
     program_.values.push_back(std::move(value));
+    words_.accept(Keyword::orWord);
   }
 }
 

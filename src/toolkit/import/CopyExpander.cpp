@@ -239,11 +239,18 @@ bool CopyExpander::takeCopy(Frame& frame, const TextWord& word) {
     if (next.isRun("PRINTING")) frame.readOwn(next);
   }
   CopyChanges changes;
-  changes.joint = readJoint(frame.scanner, next, place, report_);
-  if (next.isRun("REPLACING")) {
-    frame.readOwn(next);
-    changes.replacements = readReplacements(frame.scanner, next, place, report_);
-  } else if (next.kind != TextWord::Kind::period) {
+  ReturnableWords words(frame.scanner);
+  changes.joint = readJoint(words, next, place, report_);
+  const bool isReplacing = next.isRun("REPLACING");
+  if (isReplacing) {
+    words.read(next);
+    changes.replacements = changes.joint.isNothing()
+                               ? readCopyReplacements(words, next, place, report_)
+                               : readReplacements(words, next, place, report_);
+  }
+  const bool isJoinedBehind = isReplacing && beginsJoint(next);
+  if (isJoinedBehind) changes.joint = readJoint(words, next, place, report_);
+  if ((!isReplacing || isJoinedBehind) && next.kind != TextWord::Kind::period) {
     report_.add(SourceRule::copyPeriod, place, "COPY " + nameOf(name) + " ends without a period",
                 "write a period behind it");
     frame.pushBack(next);
@@ -301,11 +308,14 @@ std::string CopyExpander::chainTo(const std::string& name) const {
 }
 
 // Items are in copybooks of other divisions. Those of the procedure division may have entry points,
-// but few do.
+// but few do; sections that are passed over have none.
 void CopyExpander::tellMissing(SourceRule rule, const std::string& problem,
                                const std::string& advice, const SourcePlace& place) {
   if (division_.isProcedureBody()) {
     report_.add(SourceRule::procedureCopybook, place, problem + ": entry points in it are left out",
+                advice);
+  } else if (division_.isPassedSection()) {
+    report_.add(SourceRule::sectionCopybook, place, problem + ": its section is passed over",
                 advice);
   } else {
     report_.add(rule, place, problem, advice);

@@ -1,4 +1,4 @@
-// Which division the words of a source are in.
+// Which division the words of a source are in, and which kind of section.
 #ifndef TOOLKIT_IMPORT_DIVISIONTRACKER_H_
 #define TOOLKIT_IMPORT_DIVISIONTRACKER_H_
 
@@ -21,6 +21,12 @@ class DivisionTracker {
     constexpr std::string_view division = "DIVISION";
     if (word.text.size() == division.size() && sameWord(word.text, division)) {
       procedure_ = sameWord(lastRun_, "PROCEDURE") ? Procedure::header : Procedure::none;
+      isPassedSection_ = false;
+    }
+    constexpr std::string_view section = "SECTION";
+    if (word.text.size() == section.size() && sameWord(word.text, section)) {
+      isPassedSection_ = sameWord(lastRun_, "SCREEN") || sameWord(lastRun_, "REPORT") ||
+                         sameWord(lastRun_, "COMMUNICATION");
     }
     lastRun_ = word.text;
   }
@@ -28,10 +34,15 @@ class DivisionTracker {
   // Whether the words are of a procedure division, behind its header: up to another division.
   bool isProcedureBody() const { return procedure_ == Procedure::body; }
 
+  // Whether they are of a section of the data division that holds no items: of the screen, reports
+  // or communication.
+  bool isPassedSection() const { return isPassedSection_; }
+
  private:
   enum class Procedure : std::uint8_t { none, header, body };
 
   Procedure procedure_ = Procedure::none;
+  bool isPassedSection_ = false;
   std::string_view lastRun_;
 };
 

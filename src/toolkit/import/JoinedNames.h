@@ -24,6 +24,11 @@ struct NameJoint {
   bool isNothing() const { return removed.empty() && added.empty(); }
 };
 
+inline bool beginsJoint(const TextWord& word) {
+  return word.isRun("JOINING") || word.isRun("DISJOINING") || word.isRun("PREFIXING") ||
+         word.isRun("SUFFIXING");
+}
+
 // Reads the phrase that `word` may begin; `word` is then the one behind. What is wrong is told, and
 // `place` is that of the statement.
 NameJoint readJoint(TextWordSource& source, TextWord& word, const SourcePlace& place,

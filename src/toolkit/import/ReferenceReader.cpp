@@ -1,5 +1,6 @@
 #include "toolkit/import/ReferenceReader.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <utility>
@@ -30,6 +31,20 @@ bool ReferenceReader::read(DataEntry& entry, NameReference::Kind kind) {
   program_.references.push_back(std::move(reference));
   slot = static_cast<Index>(program_.references.size() - 1);
   return true;
+}
+
+bool ReferenceReader::isType(Index name) const {
+  for (const CobolProgram* program = &program_; program != nullptr; program = program->outer) {
+    if (program->types.count(name) != 0) return true;
+  }
+  // The record in front is not closed yet.
+  if (program_.entries.empty()) return false;
+  const auto at = [this](Index entry) -> const DataEntry& {
+    return program_.entries[static_cast<std::size_t>(entry)];
+  };
+  auto record = static_cast<Index>(program_.entries.size() - 1);
+  while (at(record).parent != none) record = at(record).parent;
+  return at(record).isTypedef && at(record).nameId == name;
 }
 
 // LIKE X (+5) makes an item longer, LIKE X (-5) shorter.

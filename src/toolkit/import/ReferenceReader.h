@@ -20,6 +20,9 @@ class ReferenceReader {
   bool read(DataEntry& entry, NameReference::Kind kind);
   bool readRenames(DataEntry& entry);
 
+  // Whether a TYPEDEF of that name stands in front, in this program or one around it.
+  bool isType(Index name) const;
+
  private:
   bool readLikeChange(DataEntry& entry);
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "toolkit/import/Characters.h"
+#include "toolkit/import/JoinedNames.h"
 #include "toolkit/import/Token.h"
 
 namespace as::toolkit {
@@ -39,9 +40,10 @@ namespace {
 
 class ReplacementReader {
  public:
+  // `ofCopy` is the source where replacements end in front of JOINING, too; else null.
   ReplacementReader(TextWordSource& source, TextWord& word, const SourcePlace& place,
-                    SourceReport& report)
-      : source_(source), word_(word), place_(place), report_(report) {}
+                    SourceReport& report, ReturnableWords* ofCopy)
+      : source_(source), word_(word), place_(place), report_(report), ofCopy_(ofCopy) {}
 
   Replacements read() {
     Replacements all;
@@ -51,6 +53,11 @@ class ReplacementReader {
       if (word_.isRun("TRAILING")) one.part = Replacement::Part::trailing;
       if (one.part != Replacement::Part::whole) source_.read(word_);
       if (!operand(one.words)) return skip(all, "a text, a word or a literal is wanting");
+      if (isJoint(one)) {
+        ofCopy_->giveBack(word_);
+        word_ = one.words.front();
+        return all;
+      }
       if (one.words.empty()) return skip(all, "the text to be replaced is empty");
       if (!word_.isRun("BY")) return skip(all, "BY is wanting");
       source_.read(word_);
@@ -65,6 +72,13 @@ class ReplacementReader {
  private:
   bool isAtEnd() const {
     return word_.kind == TextWord::Kind::end || word_.kind == TextWord::Kind::barrier;
+  }
+
+  // Whether it is no replacement but what may stand behind them; words of that name can be
+  // replaced.
+  bool isJoint(const Replacement& one) const {
+    return ofCopy_ != nullptr && one.part == Replacement::Part::whole && one.words.size() == 1 &&
+           beginsJoint(one.words.front()) && !word_.isRun("BY");
   }
 
   // Pseudo-text, or a word with its qualifiers and subscripts; the word behind is read.
@@ -120,13 +134,19 @@ class ReplacementReader {
   TextWord& word_;
   const SourcePlace place_;
   SourceReport& report_;
+  ReturnableWords* const ofCopy_;
 };
 
 }  // namespace
 
 Replacements readReplacements(TextWordSource& source, TextWord& word, const SourcePlace& place,
                               SourceReport& report) {
-  return ReplacementReader(source, word, place, report).read();
+  return ReplacementReader(source, word, place, report, nullptr).read();
+}
+
+Replacements readCopyReplacements(ReturnableWords& source, TextWord& word, const SourcePlace& place,
+                                  SourceReport& report) {
+  return ReplacementReader(source, word, place, report, &source).read();
 }
 
 }  // namespace as::toolkit

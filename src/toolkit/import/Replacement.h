@@ -3,6 +3,7 @@
 #define TOOLKIT_IMPORT_REPLACEMENT_H_
 
 #include <deque>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -35,11 +36,37 @@ struct LiteralParts {
 
 LiteralParts partsOf(const TextWord& literal);
 
+// Words of which the last one can be read again.
+class ReturnableWords : public TextWordSource {
+ public:
+  // The source must outlive it.
+  explicit ReturnableWords(TextWordSource& source) : source_(source) {}
+
+  void read(TextWord& word) override {
+    if (returned_) {
+      word = *returned_;
+      returned_.reset();
+    } else {
+      source_.read(word);
+    }
+  }
+  void giveBack(const TextWord& word) { returned_ = word; }
+
+ private:
+  TextWordSource& source_;
+  std::optional<TextWord> returned_;
+};
+
 // Reads replacements up to the period, and that, too. `word` is the first word of the first, and in
 // the end what was read last: the period unless something is wrong, which is told, or the end.
 // `place` is that of the statement.
 Replacements readReplacements(TextWordSource& source, TextWord& word, const SourcePlace& place,
                               SourceReport& report);
+
+// The same of a COPY statement, where they may end in front of JOINING or its like as well, which
+// is `word` then.
+Replacements readCopyReplacements(ReturnableWords& source, TextWord& word, const SourcePlace& place,
+                                  SourceReport& report);
 
 }  // namespace as::toolkit
 
