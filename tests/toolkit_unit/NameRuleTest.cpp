@@ -6,7 +6,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "toolkit/generate/Characters.h"
+#include "toolkit/generate/NameCharacters.h"
 #include "toolkit/generate/NameGiver.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "toolkit/generate/CodeText.h"
 
-#include "toolkit/generate/Characters.h"
+#include "toolkit/generate/NameCharacters.h"
 #include "toolkit/generate/NameRule.h"
 
 namespace as::toolkit::gen {

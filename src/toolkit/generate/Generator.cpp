@@ -4,9 +4,9 @@
 #include <unordered_set>
 
 #include "as/toolkit/Version.h"
-#include "toolkit/generate/Characters.h"
 #include "toolkit/generate/CodeText.h"
 #include "toolkit/generate/Facets.h"
+#include "toolkit/generate/NameCharacters.h"
 #include "toolkit/text/Phrases.h"
 
 namespace as::toolkit::gen {

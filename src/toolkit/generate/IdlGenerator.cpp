@@ -6,11 +6,11 @@
 #include <utility>
 #include <vector>
 
-#include "toolkit/generate/Characters.h"
 #include "toolkit/generate/CodeText.h"
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/IdlLanguage.h"
 #include "toolkit/generate/InterfacePlan.h"
+#include "toolkit/generate/NameCharacters.h"
 #include "toolkit/generate/NameUuid.h"
 #include "toolkit/generate/TextWriter.h"
 #include "toolkit/text/Phrases.h"

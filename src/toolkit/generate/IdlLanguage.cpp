@@ -1,6 +1,6 @@
 #include "toolkit/generate/IdlLanguage.h"
 
-#include "toolkit/generate/Characters.h"
+#include "toolkit/generate/NameCharacters.h"
 
 namespace as::toolkit::gen {
 

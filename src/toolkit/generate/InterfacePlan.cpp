@@ -5,8 +5,8 @@
 #include <unordered_set>
 #include <utility>
 
-#include "toolkit/generate/Characters.h"
 #include "toolkit/generate/Facets.h"
+#include "toolkit/generate/NameCharacters.h"
 #include "toolkit/text/Phrases.h"
 
 namespace as::toolkit::gen {

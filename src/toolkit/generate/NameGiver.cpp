@@ -5,7 +5,7 @@
 #include <unordered_map>
 #include <utility>
 
-#include "toolkit/generate/Characters.h"
+#include "toolkit/generate/NameCharacters.h"
 #include "toolkit/generate/ServiceModel.h"
 #include "toolkit/text/Phrases.h"
 

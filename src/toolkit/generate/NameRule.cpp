@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "toolkit/generate/Characters.h"
+#include "toolkit/generate/NameCharacters.h"
 
 namespace as::toolkit::gen {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "toolkit/generate/Characters.h"
+#include "toolkit/generate/NameCharacters.h"
 #include "toolkit/generate/NameRule.h"
 
 namespace as::toolkit::gen {

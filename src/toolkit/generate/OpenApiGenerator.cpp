@@ -4,12 +4,12 @@
 #include <string_view>
 #include <vector>
 
-#include "toolkit/generate/Characters.h"
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/JsonSchemas.h"
 #include "toolkit/generate/JsonText.h"
 #include "toolkit/generate/JsonTypes.h"
 #include "toolkit/generate/MessagePlan.h"
+#include "toolkit/generate/NameCharacters.h"
 
 namespace as::toolkit::gen {
 

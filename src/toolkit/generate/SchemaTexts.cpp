@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "toolkit/generate/Characters.h"
+#include "toolkit/generate/NameCharacters.h"
 #include "toolkit/generate/XsdTypes.h"
 
 namespace as::toolkit::gen {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "toolkit/generate/Characters.h"
+#include "toolkit/generate/NameCharacters.h"
 #include "toolkit/generate/XsdTypes.h"
 
 namespace as::toolkit::gen {

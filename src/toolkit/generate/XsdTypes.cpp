@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "toolkit/generate/Characters.h"
+#include "toolkit/generate/NameCharacters.h"
 
 namespace as::toolkit::gen {
 

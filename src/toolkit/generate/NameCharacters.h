@@ -1,6 +1,6 @@
 // Characters of Unicode, as names and comments of target languages are judged by.
-#ifndef TOOLKIT_GENERATE_CHARACTERS_H_
-#define TOOLKIT_GENERATE_CHARACTERS_H_
+#ifndef TOOLKIT_GENERATE_NAMECHARACTERS_H_
+#define TOOLKIT_GENERATE_NAMECHARACTERS_H_
 
 #include <string>
 #include <string_view>
@@ -25,4 +25,4 @@ bool isXmlNameCharacter(char32_t character);
 
 }  // namespace as::toolkit::gen
 
-#endif  // TOOLKIT_GENERATE_CHARACTERS_H_
+#endif  // TOOLKIT_GENERATE_NAMECHARACTERS_H_

@@ -1,4 +1,4 @@
-#include "toolkit/generate/Characters.h"
+#include "toolkit/generate/NameCharacters.h"
 
 #include <algorithm>
 
