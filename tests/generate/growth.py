@@ -104,7 +104,7 @@ def prove(tool: str, folder: Path) -> bool:
         growth = took[1] / took[0]
         to_reading = took[1] / reading[flavour]
         # Ten times and twice, with room for what else a machine does.
-        is_fine = growth < 15 and to_reading < 2.2
+        is_fine = growth < 15 and to_reading < 2.1
         print(f'{"" if is_fine else "FAILED "}{kind}: {took[1]:.2f} s, {growth:.1f} times that of 200 '
               f'operations, {to_reading:.2f} times that of reading', flush=True)
         fine = fine and is_fine

@@ -66,12 +66,7 @@ std::vector<const Field*> JsonMembers::membersOf(std::size_t type) const {
 
 std::vector<std::string> JsonMembers::namesOf(const std::vector<const Field*>& fields,
                                               const std::string& place) {
-  std::vector<NameWish> wishes;
-  wishes.reserve(fields.size());
-  for (const Field* const field : fields) {
-    wishes.push_back({field->name, place + "." + field->name});
-  }
-  return names_.namesIn(wishes);
+  return names_.namesIn(fieldWishes(fields, place));
 }
 
 }  // namespace as::toolkit::gen

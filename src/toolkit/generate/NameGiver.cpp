@@ -61,6 +61,16 @@ std::vector<NameWish> typeWishes(const ServiceModel& model) {
   return wishes;
 }
 
+std::vector<NameWish> fieldWishes(const std::vector<const Field*>& fields,
+                                  const std::string& place) {
+  std::vector<NameWish> wishes;
+  wishes.reserve(fields.size());
+  for (const Field* const field : fields) {
+    wishes.push_back({field->name, place + "." + field->name});
+  }
+  return wishes;
+}
+
 const std::string* NameGiver::chosenFor(const NameWish& wish) const {
   if (chosen_.empty()) return nullptr;
   auto found = chosen_.find(wish.place);

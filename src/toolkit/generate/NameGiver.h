@@ -22,11 +22,15 @@ struct NameWish {
   bool isMade = false;
 };
 
+struct Field;
 struct ServiceModel;
 
 // The wishes for the names of all types, in their order: what declared ones are called, and the
 // ways to the others, "quote.drivers".
 std::vector<NameWish> typeWishes(const ServiceModel& model);
+// Those for the names of fields that stand in something, at `place`.
+std::vector<NameWish> fieldWishes(const std::vector<const Field*>& fields,
+                                  const std::string& place);
 
 // Gives out the names of scopes, tells changes and takes what the user chose into account.
 class NameGiver {

@@ -215,12 +215,7 @@ void SchemaSet::giveElementNames() {
 
 std::vector<std::string> SchemaSet::namesOf(const std::vector<const Field*>& fields,
                                             const std::string& place) {
-  std::vector<NameWish> wishes;
-  wishes.reserve(fields.size());
-  for (const Field* const field : fields) {
-    wishes.push_back({field->name, place + "." + field->name});
-  }
-  return names_.namesIn(wishes);
+  return names_.namesIn(fieldWishes(fields, place));
 }
 
 std::string SchemaSet::elementName(Handle element) const {
