@@ -153,10 +153,11 @@ class Wsdl {
         if (message.message.kind != "fault") continue;
         const std::string name = xmlAttribute("name", plan_.messages()[message.number].name);
         text_.open("<wsdl:fault" + name + ">");
-        text_.line(prefix + "fault" + name +
-                   useOf(soap, message.message.isEncoded, message.message.namespaceUri,
-                         message.message.isEncoded) +
-                   "/>");
+        text_.line((prefix + "fault")
+                       .append(name)
+                       .append(useOf(soap, message.message.isEncoded, message.message.namespaceUri,
+                                     message.message.isEncoded))
+                       .append("/>"));
         text_.close("</wsdl:fault>");
       }
       text_.close("</wsdl:operation>");

@@ -35,7 +35,7 @@ bool ReferenceReader::read(DataEntry& entry, NameReference::Kind kind) {
 
 bool ReferenceReader::isType(Index name) const {
   for (const CobolProgram* program = &program_; program != nullptr; program = program->outer) {
-    if (program->types.count(name) != 0) return true;
+    if (program->types.contains(name)) return true;
   }
   // The record in front is not closed yet.
   if (program_.entries.empty()) return false;
