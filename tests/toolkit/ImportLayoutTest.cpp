@@ -194,6 +194,20 @@ INSTANTIATE_TEST_SUITE_P(
         LayoutRow{"ibm", "78 K VALUE LENGTH OF X'A0B1C2'. 01 A PIC X(K).", "A 0+3"},
         LayoutRow{"ibm", "01 K CONSTANT AS LENGTH OF Z'AB'. 01 A PIC X(K).", "A 0+3"}));
 
+INSTANTIATE_TEST_SUITE_P(
+    Constants, ImportLayoutTest,
+    testing::Values(LayoutRow{"ibm", "78 K VALUE 9 - 2. 01 A PIC X(K).", "A 0+7"},
+                    LayoutRow{"ibm", "78 K VALUE 9 -2. 01 A PIC X(K).", "A 0+7"},
+                    LayoutRow{"ibm", "78 K VALUE 7 / 2. 01 A PIC X(K).", "A 0+3"},
+                    LayoutRow{"ibm", "78 K VALUE (2 + 3) * 2 - 1. 01 A PIC X(K).", "A 0+9"},
+                    LayoutRow{"ibm", "78 K VALUE 2 + 3 * 2. 01 A PIC X(K).", "A 0+8"},
+                    LayoutRow{"ibm", "78 K VALUE X#1F. 01 A PIC X(K).", "A 0+31"},
+                    LayoutRow{"ibm", "78 K VALUE H#1f. 01 A PIC X(K).", "A 0+31"},
+                    LayoutRow{"ibm", "78 K VALUE B#101. 01 A PIC X(K).", "A 0+5"},
+                    LayoutRow{"ibm", "78 K VALUE O#17. 01 A PIC X(K).", "A 0+15"},
+                    LayoutRow{"ibm", "78 K VALUE H'1F'. 01 A PIC X(K).", "A 0+31"},
+                    LayoutRow{"ibm", "78 J VALUE 4. 78 K VALUE J. 01 A PIC X(K).", "A 0+4"}));
+
 TEST(ImportPointers, AreAsLargeAsTold) {
   auto options = freeFormat("ibm");
   options.pointerSize = 8;
