@@ -18,11 +18,16 @@ namespace fs = std::filesystem;
 namespace toolkit = as::toolkit;
 using test::contentOf;
 
-// Each kind of each example, and each flavour somewhere.
+// Each kind of each example, and each flavour somewhere; and what examples do not have.
 struct Row {
   const char* kind;
   const char* source;
+  const char* folder = AS_EXAMPLES_DIR;
+  // Whether conditions are the only values that there are.
+  bool hasEnumerations = false;
 };
+
+constexpr const char* oddities = AS_GOLDEN_DIR "/documents";
 
 void PrintTo(const Row& row, std::ostream* out) { *out << row.kind << " of " << row.source; }
 
@@ -52,8 +57,10 @@ std::set<std::string> namesIn(const fs::path& folder) {
 TEST_P(GenerateGolden, IsAsItWas) {
   const std::string source = GetParam().source;
   const fs::path kept = fs::path(AS_GOLDEN_DIR) / "generate" / (source + "-" + GetParam().kind);
+  toolkit::GenerateOptions options;
+  if (GetParam().hasEnumerations) options.values = {{"conditions", "enumerations"}};
   toolkit::generateFiles(reader(), *toolkit::findGeneratorKind(GetParam().kind),
-                         AS_EXAMPLES_DIR "/" + source + ".xml", "made/");
+                         GetParam().folder + ("/" + source + ".xml"), "made/", options);
   if (std::getenv("AS_RENEW_GOLDEN") != nullptr) {
     fs::remove_all(kept);
     fs::create_directories(kept);
@@ -85,5 +92,17 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"idl", "DEPINT01-com"}, Row{"idl", "MOTPREM-com"}, Row{"idl", "PAYSLIP-com"},
         Row{"idl", "WHSLOTS-com"}, Row{"markdown", "DEPINT01-ws"}, Row{"markdown", "MOTPREM-ws"},
         Row{"markdown", "PAYSLIP-ws"}, Row{"markdown", "WHSLOTS-ws"}));
+
+INSTANTIATE_TEST_SUITE_P(Oddities, GenerateGolden,
+                         testing::Values(Row{"wsdl", "ODDITIES-ws", oddities, true},
+                                         Row{"xsd", "ODDITIES-ws", oddities, true},
+                                         Row{"xsd", "ODDITIES-com", oddities},
+                                         Row{"jsonschema", "ODDITIES-com", oddities},
+                                         Row{"jsonschema", "ODDITIES-java", oddities},
+                                         Row{"openapi", "ODDITIES-ws", oddities, true},
+                                         Row{"java", "ODDITIES-java", oddities},
+                                         Row{"csharp", "ODDITIES-dotnet", oddities},
+                                         Row{"idl", "ODDITIES-com", oddities},
+                                         Row{"markdown", "ODDITIES-ws", oddities}));
 
 }  // namespace
