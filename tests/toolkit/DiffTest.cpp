@@ -1,6 +1,7 @@
 // Tests of the comparison of documents beside the kinds of changes: equal documents, services, what
 // is allowed, what is printed, how long it takes.
 #include <algorithm>
+#include <string_view>
 
 #include "support/Documents.h"
 #include "support/Toolkit.h"
@@ -54,6 +55,22 @@ class DiffTest : public test::ToolkitTest {
     return nlohmann::json::parse(out.str());
   }
 };
+
+TEST_F(DiffTest, ItemsBreakCallersWhoSawThemOrSeeThemNow) {
+  const std::string unseen = "01 R PIC X. WORKING-STORAGE SECTION. 01 A PIC 9(4).";
+  const std::string unseenWider = "01 R PIC X. WORKING-STORAGE SECTION. 01 A PIC 9(6).";
+  const std::string seenWider = "01 R PIC X. 01 A PIC 9(6).";
+  const auto breaks = [](const toolkit::Diff& diff) {
+    const auto widened =
+        std::find_if(diff.changes.begin(), diff.changes.end(), [](const toolkit::Change& change) {
+          return std::string_view(change.kind) == "picture-widened";
+        });
+    return widened != diff.changes.end() && widened->breaks;
+  };
+  EXPECT_FALSE(breaks(diffOf(unseen, unseenWider)));
+  EXPECT_TRUE(breaks(diffOf(unseen, seenWider)));
+  EXPECT_TRUE(breaks(diffOf("01 R PIC X. 01 A PIC 9(4).", unseenWider)));
+}
 
 TEST(DiffKindsTest, IdsAreUniqueAndMirrorsMirrorEachOther) {
   for (const toolkit::ChangeKind& kind : toolkit::changeKinds()) {
