@@ -60,7 +60,7 @@ def measure(root: Path, build: Path) -> dict:
     suites = {}
     with tempfile.TemporaryDirectory() as scratch:
         # Beside each file of counts gcov looks for what the compiler told about the source.
-        for note in build.glob('CMakeFiles/*/src/**/*.gcno'):
+        for note in build.glob('CMakeFiles/*/**/*.gcno'):
             place = Path(scratch + str(note.parent))
             place.mkdir(parents=True, exist_ok=True)
             (place / note.name).symlink_to(note)
