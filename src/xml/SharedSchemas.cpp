@@ -10,6 +10,7 @@
 
 #include "xml/BuiltInSchemas.h"
 #include "xml/SchemaCompiler.h"
+#include "xml/TypeNames.h"
 #include "xml/XStr.h"
 
 using xercesc::Grammar;
@@ -101,6 +102,7 @@ Grammar* SharedSchemas::builtIn(const XMLCh* uri, const LocalFile& file) {
   if (pool == nullptr) return nullptr;
   Grammar* const grammar = grammarIn(*pool, uri);
   quickenNumbers(*grammar, numbers_, &memory_);
+  shortenTypeNames(*grammar, &memory_);
   builtIn_.push_back(std::move(pool));
   schemas_.emplace(uri, Schema{schema->text, grammar});
   return grammar;

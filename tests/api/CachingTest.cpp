@@ -186,6 +186,7 @@ std::vector<Document> unusual() {
       {"WithAPlaceOnANetwork", programWith(located(dd + " http://host/vorcobol.xsd"), item)},
       {"WithADirectoryForAPlace", programWith(located(dd + " ."), item)},
       {"WithAllLocations", programWith(located(own + " " + ws + " " + ws), item)},
+      {"WithTheLocationOfAnotherInFront", programWith(located(ws + " " + ws + " " + own), item)},
       {"WithTheLocationTwice", programWith(located(own + " " + own), item)},
       {"WithTheLocationInside",
        programWith("", "<dataItems " + located(own) + "><numeric name='N'/></dataItems>")},
