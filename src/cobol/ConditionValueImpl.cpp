@@ -14,9 +14,7 @@ constexpr WordCode types[] = {
 
 }  // namespace
 
-int CConditionValueImpl::getType() {
-  return codeOfWord(types, getElement()->getLocalName(), TYPE_RANGE);
-}
+int CConditionValueImpl::getType() { return codeOfWord(types, localName(), TYPE_RANGE); }
 
 std::string CConditionValueImpl::getConstant() { return text(DD::value); }
 

@@ -7,6 +7,13 @@
 namespace DD {
 #define AS_WORD(constant, text) inline constexpr XMLCh constant[] = u##text;
 #include "cobol/DDVocabulary.def"
+
+// All of them.
+inline constexpr const XMLCh* words[] = {
+#define AS_WORD(constant, text) constant,
+#include "cobol/DDVocabulary.def"
+};
+
 }  // namespace DD
 
 #endif  // COBOL_DDVOCABULARY_H_

@@ -1,9 +1,9 @@
 #include "cobol/DataItemImpl.h"
 
-#include "as/IProgram.h"
 #include "cobol/DDVocabulary.h"
 #include "cobol/DataItemPath.h"
 #include "cobol/GroupImpl.h"
+#include "cobol/ProgramImpl.h"
 #include "xml/WordTable.h"
 
 AS_DEFINE_IDENTITY2(CDataItemImpl, as::IDataItem, CElementImpl)
@@ -26,9 +26,7 @@ constexpr WordCode dataTypes[] = {
 
 }  // namespace
 
-int CDataItemImpl::getDataType() {
-  return codeOfWord(dataTypes, getElement()->getLocalName(), TYPE_ALPHANUMERIC);
-}
+int CDataItemImpl::getDataType() { return codeOfWord(dataTypes, localName(), TYPE_ALPHANUMERIC); }
 
 std::string CDataItemImpl::getName() { return text(DD::name); }
 
@@ -45,8 +43,10 @@ int CDataItemImpl::getOffset() { return integer(DD::offset); }
 int CDataItemImpl::getLine() { return integer(DD::line); }
 
 as::IDataItem* CDataItemImpl::getODO() {
-  if (!hasODO()) return nullptr;
-  return findDataItem(text(DD::odo), as::interface_cast<as::IProgram>(rootOf(getElement())));
+  const XMLCh* const path = wide(DD::odo);
+  if (*path == 0) return nullptr;
+  auto* const program = as::interface_cast<CProgramImpl>(rootOf(getElement()));
+  return program == nullptr ? nullptr : findDataItem(path, *program);
 }
 
 bool CDataItemImpl::hasODO() { return *wide(DD::odo) != 0; }
@@ -61,6 +61,6 @@ bool CDataItemImpl::isRenamed() { return truth(DD::renames); }
 
 as::IList* CDataItemImpl::getConditions() { return &conditions_; }
 
-as::IGroup* CDataItemImpl::getParent() { return as::interface_cast<as::IGroup>(parent_); }
+as::IGroup* CDataItemImpl::getParent() { return parent_; }
 
 void CDataItemImpl::collectChildren() { conditions_.addChildrenOf(*this); }

@@ -16,7 +16,7 @@ CList* membersOf(CElementImpl* item) {
 
 }  // namespace
 
-const NameIndex::Entry* DataItemIndex::find(const NameIndex::Entry* around, const XMLCh* name) {
+const NameIndex::Entry* DataItemIndex::find(const NameIndex::Entry* around, NameIndex::View name) {
   if (seen_.insert(around).second) lookInto(around);
   return names_.find(around, name);
 }

@@ -19,7 +19,7 @@ class DataItemIndex {
 
   // The entry of the items called `name` in the groups of `around`, null for the top level; null
   // when none is called so. Of no use any more when it has thrown.
-  const NameIndex::Entry* find(const NameIndex::Entry* around, const XMLCh* name);
+  const NameIndex::Entry* find(const NameIndex::Entry* around, NameIndex::View name);
 
  private:
   // Looks at what stands in the groups of an entry, null for the top level.

@@ -1,5 +1,6 @@
 #include "cobol/DataItemPath.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #include "as/IGroup.h"
@@ -10,18 +11,6 @@
 namespace {
 
 using Components = std::vector<CXStr>;
-
-// Follows the components through a program of the library's own.
-as::IDataItem* follow(Components& components, CProgramImpl& program) {
-  // All at once: nothing fails between two look-ups, so the program prepares for all or for none.
-  const std::vector<const XMLCh*> names(components.begin(), components.end());
-  const NameIndex::Entry* at = nullptr;
-  for (const XMLCh* const name : names) {
-    at = program.dataItems(at, name);
-    if (at == nullptr) break;
-  }
-  return at == nullptr ? nullptr : as::interface_cast<as::IDataItem>(at->first);
-}
 
 // Follows the components from number `at` on through `items`, of whatever making.
 as::IDataItem* follow(Components& components, std::size_t at, as::IList* items) {
@@ -54,9 +43,25 @@ std::vector<std::string> splitDataItemPath(const std::string& path) {
 
 as::IDataItem* findDataItem(const std::string& path, as::IProgram* program) {
   if (program == nullptr) return nullptr;
+  if (CProgramImpl* const own = CProgramImpl::own(program)) {
+    CXStr wide(path);
+    return findDataItem(static_cast<const XMLCh*>(wide), *own);
+  }
   const std::vector<std::string> names = splitDataItemPath(path);
   if (names.empty()) return nullptr;
   Components components(names.begin(), names.end());
-  if (CProgramImpl* const own = CProgramImpl::own(program)) return follow(components, *own);
   return follow(components, 0, program->getDataItems());
+}
+
+as::IDataItem* findDataItem(const XMLCh* path, CProgramImpl& program) {
+  NameIndex::View left(path == nullptr ? u"" : path);
+  left = left.substr(0, left.find(u'('));
+  const NameIndex::Entry* at = nullptr;
+  while (!left.empty()) {
+    const std::size_t end = std::min(left.find(u'.'), left.size());
+    at = program.dataItems(at, left.substr(0, end));
+    if (at == nullptr) return nullptr;
+    left.remove_prefix(std::min(end + 1, left.size()));
+  }
+  return at == nullptr ? nullptr : as::interface_cast<as::IDataItem>(at->first);
 }

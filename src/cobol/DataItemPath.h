@@ -4,9 +4,12 @@
 
 #include <string>
 #include <vector>
+#include <xercesc/util/XercesDefs.hpp>
 
 #include "as/IDataItem.h"
 #include "as/IProgram.h"
+
+class CProgramImpl;
 
 // The components of a dotted name, in order. Subscripts, from the first "(" on, are dropped. Every
 // piece between dots counts, empty ones included, but a name that ends in a dot has no empty last
@@ -17,5 +20,8 @@ std::vector<std::string> splitDataItemPath(const std::string& path);
 // groups; at every level the first item in document order that leads on wins. Null for a null
 // program, an empty name, and a name that leads nowhere.
 as::IDataItem* findDataItem(const std::string& path, as::IProgram* program);
+
+// The same in a program of the library's own, without a copy of the name; null for a null name.
+as::IDataItem* findDataItem(const XMLCh* path, CProgramImpl& program);
 
 #endif  // COBOL_DATAITEMPATH_H_

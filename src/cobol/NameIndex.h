@@ -3,6 +3,7 @@
 #define COBOL_NAMEINDEX_H_
 
 #include <cstddef>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -17,6 +18,7 @@
 // name, however many objects there are and however many of them are called the same.
 class NameIndex {
  public:
+  using View = std::basic_string_view<XMLCh>;
   struct Entry {
     CElementImpl* first;  // The first object that was added.
   };
@@ -27,29 +29,28 @@ class NameIndex {
   // The entry of the objects called `name` below those of `around`, null for the outermost; a new
   // one starts with `object`. Entries keep their places.
   const Entry* add(const Entry* around, const XMLCh* name, CElementImpl* object) {
-    return &entries_.try_emplace(Key(around, name), Entry{object}).first->second;
+    return &entries_.try_emplace(Key(around, viewOf(name)), Entry{object}).first->second;
   }
 
   // The same; null when nothing is called so.
-  const Entry* find(const Entry* around, const XMLCh* name) const {
+  const Entry* find(const Entry* around, View name) const {
     const auto found = entries_.find(Key(around, name));
     return found == entries_.end() ? nullptr : &found->second;
   }
 
   // The first of the outermost objects called so; null for none.
   CElementImpl* first(const XMLCh* name) const {
-    const Entry* const entry = find(nullptr, name);
+    const Entry* const entry = find(nullptr, viewOf(name));
     return entry == nullptr ? nullptr : entry->first;
   }
 
  private:
-  using View = std::basic_string_view<XMLCh>;
+  // No name is the same as an empty one.
+  static View viewOf(const XMLCh* name) { return name == nullptr ? View() : View(name); }
 
   // Knows its hash: the table asks for that of every key that it passes.
   struct Key {
-    // No name is the same as an empty one.
-    Key(const Entry* outer, const XMLCh* text)
-        : around(outer), name(text == nullptr ? View() : View(text)) {
+    Key(const Entry* outer, View text) : around(outer), name(text) {
       constexpr std::size_t odd = 0x9e3779b1;
       hash = std::hash<View>()(name) + std::hash<const void*>()(around) * odd;
     }
@@ -63,7 +64,8 @@ class NameIndex {
     std::size_t operator()(const Key& key) const noexcept { return key.hash; }
   };
 
-  std::unordered_map<Key, Entry, Hash> entries_;
+  std::pmr::monotonic_buffer_resource memory_;  // Nothing is ever taken out.
+  std::pmr::unordered_map<Key, Entry, Hash> entries_{&memory_};
 };
 
 #endif  // COBOL_NAMEINDEX_H_

@@ -48,7 +48,8 @@ CProgramImpl* CProgramImpl::own(as::IProgram* program) {
   return static_cast<as::IProgram*>(own) == program ? own : nullptr;
 }
 
-const NameIndex::Entry* CProgramImpl::dataItems(const NameIndex::Entry* around, const XMLCh* name) {
+const NameIndex::Entry* CProgramImpl::dataItems(const NameIndex::Entry* around,
+                                                NameIndex::View name) {
   try {
     if (!dataItemsByName_) dataItemsByName_ = std::make_unique<DataItemIndex>(dataItems_);
     return dataItemsByName_->find(around, name);

@@ -31,7 +31,7 @@ class CProgramImpl : virtual public as::IProgram, virtual public CElementImpl {
   // The entry of the data items of that name below those of `around` (see DataItemIndex), and the
   // entry points by their names. Nothing changes a program, so what is needed for this is made
   // once, when it is first asked for; where memory runs out on the way, nothing is kept of it.
-  const NameIndex::Entry* dataItems(const NameIndex::Entry* around, const XMLCh* name);
+  const NameIndex::Entry* dataItems(const NameIndex::Entry* around, NameIndex::View name);
   const NameIndex& entryPointsByName();
 
   // Hand over what lives as long as the program: the parser that holds its document, and the

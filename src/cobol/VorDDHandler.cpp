@@ -62,6 +62,8 @@ void CVorDDHandler::newElement(DOMNode* node) {
 
 bool CVorDDHandler::takes(const DOMNode* node) const { return rowFor(node, rows) != nullptr; }
 
+void CVorDDHandler::tellNames(NamePool& names) const { names.expect(DD::words); }
+
 bool CVorDDHandler::keepsBlanks() const { return false; }
 
 void CVorDDHandler::startDocument(DOMNode* root) {

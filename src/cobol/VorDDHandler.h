@@ -14,6 +14,7 @@ class CVorDDHandler final : public ModelBuilder {
   void startDocument(xercesc::DOMNode* root) override;
   void endParse(xercesc::DOMDocument* document) override;
   bool takes(const xercesc::DOMNode* node) const override;
+  void tellNames(NamePool& names) const override;
   // No: dictionaries are never written, and nothing that reads one can see them. As nodes they take
   // about as long to make as the wrappers.
   bool keepsBlanks() const override;

@@ -7,6 +7,13 @@
 namespace CS {
 #define AS_WORD(constant, text) inline constexpr XMLCh constant[] = u##text;
 #include "com/CSVocabulary.def"
+
+// All of them.
+inline constexpr const XMLCh* words[] = {
+#define AS_WORD(constant, text) constant,
+#include "com/CSVocabulary.def"
+};
+
 }  // namespace CS
 
 #endif  // COM_CSVOCABULARY_H_

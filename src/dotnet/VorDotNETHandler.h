@@ -12,6 +12,7 @@
 // What a .NET service has of its own.
 struct DotNETFlavour {
   using Factory = CDotNETFactory;
+  static constexpr std::span<const XMLCh* const> words = {};
   static constexpr ModelBuilder::ElementWrapping rows[] = {
       {SS::field, ModelBuilder::wrapAs<CDotNETParameterImpl>},
       {SS::parameter, ModelBuilder::wrapAs<CDotNETParameterImpl>},

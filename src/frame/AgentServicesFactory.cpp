@@ -78,7 +78,7 @@ AS_DEFINE_IDENTITY_COMMON(CAgentServicesFactory)
 CAgentServicesFactory::~CAgentServicesFactory() = default;
 
 void* CAgentServicesFactory::RTTI_cast(RTTItypeid id) {
-  return id.designates(RTTI_obj) ? this : nullptr;
+  return isDesignated(RTTI_obj, id) ? this : nullptr;
 }
 
 IAgentServices* CAgentServicesFactory::CreateAgentServices() {

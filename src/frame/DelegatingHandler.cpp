@@ -42,6 +42,10 @@ bool CDelegatingHandler::takes(const DOMNode* node) const {
   return !delegate_ || delegate_->takes(node);
 }
 
+void CDelegatingHandler::tellNames(NamePool& names) const {
+  if (delegate_ != nullptr) delegate_->tellNames(names);
+}
+
 CServiceImpl* CDelegatingHandler::getService() const {
   return delegate_ != nullptr ? delegate_->getService() : nullptr;
 }

@@ -20,6 +20,7 @@ class CDelegatingHandler : public CElementHandler {
   void startDocument(xercesc::DOMNode* root) override;
   void endParse(xercesc::DOMDocument* document) override;
   bool takes(const xercesc::DOMNode* node) const override;
+  void tellNames(NamePool& names) const override;
   virtual ~CDelegatingHandler();
 
   // The service that the delegate built; null without a delegate.

@@ -33,7 +33,7 @@ constinit RTTITypeinfo* recordsOf[] = {&Bases::RTTI_obj..., nullptr};
   Interface::~Interface() = default;               \
   AS_DEFINE_IDENTITY_COMMON(Interface)             \
   void* Interface::RTTI_cast(RTTItypeid id) {      \
-    if (id.designates(RTTI_obj)) return this;      \
+    if (isDesignated(RTTI_obj, id)) return this;   \
     return castThrough<AS_BASES bases>(this, id);  \
   }
 #include "frame/Interfaces.def"

@@ -7,6 +7,13 @@
 namespace JS {
 #define AS_WORD(constant, text) inline constexpr XMLCh constant[] = u##text;
 #include "java/JSVocabulary.def"
+
+// All of them.
+inline constexpr const XMLCh* words[] = {
+#define AS_WORD(constant, text) constant,
+#include "java/JSVocabulary.def"
+};
+
 }  // namespace JS
 
 #endif  // JAVA_JSVOCABULARY_H_

@@ -2,6 +2,7 @@
 #ifndef JAVA_VORJHANDLER_H_
 #define JAVA_VORJHANDLER_H_
 
+#include "java/JSVocabulary.h"
 #include "java/JavaFactory.h"
 #include "java/JavaOperationImpl.h"
 #include "java/JavaParameterImpl.h"
@@ -11,6 +12,7 @@
 // What a Java service has of its own; the service element is a plain one.
 struct JavaFlavour {
   using Factory = CJavaFactory;
+  static constexpr std::span<const XMLCh* const> words = JS::words;
   static constexpr ModelBuilder::ElementWrapping rows[] = {
       {SS::parameter, ModelBuilder::wrapAs<CJavaParameterImpl>},
       {SS::field, ModelBuilder::wrapAs<CJavaParameterImpl>},

@@ -33,6 +33,8 @@ void CVorSHandler::newElement(DOMNode* node) {
 
 bool CVorSHandler::takes(const DOMNode* node) const { return rowFor(node, rows) != nullptr; }
 
+void CVorSHandler::tellNames(NamePool& names) const { names.expect(SS::words); }
+
 void CVorSHandler::endParse(DOMDocument* document) { setService(complete<CServiceImpl>(document)); }
 
 std::unique_ptr<CServiceImpl> CVorSHandler::takeService() { return take(service_); }

@@ -15,6 +15,7 @@ class CVorSHandler : public ModelBuilder {
   void newElement(xercesc::DOMNode* node) override;
   void endParse(xercesc::DOMDocument* document) override;
   bool takes(const xercesc::DOMNode* node) const override;
+  void tellNames(NamePool& names) const override;
 
   // The service, null until endParse() and when the root is none. The handler owns it until the
   // caller takes it with takeService().
@@ -32,7 +33,7 @@ class CVorSHandler : public ModelBuilder {
 };
 
 // A flavour: what it wraps by classes of its own, and the factory that its services get. Flavour
-// has a table `rows` of ElementWrapping, and a type Factory.
+// has a table `rows` of ElementWrapping, `words` of its own vocabulary, and a type Factory.
 template <class Flavour>
 class FlavourHandler : public CVorSHandler {
  public:
@@ -47,6 +48,10 @@ class FlavourHandler : public CVorSHandler {
   }
   bool takes(const xercesc::DOMNode* node) const override {
     return rowFor(node, Flavour::rows) != nullptr || CVorSHandler::takes(node);
+  }
+  void tellNames(NamePool& names) const override {
+    CVorSHandler::tellNames(names);
+    names.expect(Flavour::words);
   }
 };
 

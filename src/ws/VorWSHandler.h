@@ -15,6 +15,7 @@
 // What a Web service has of its own.
 struct WebFlavour {
   using Factory = CWebServiceFactory;
+  static constexpr std::span<const XMLCh* const> words = WSS::words;
   static constexpr ModelBuilder::ElementWrapping rows[] = {
       {SS::field, ModelBuilder::wrapAs<CWSParameterImpl>},
       {SS::parameter, ModelBuilder::wrapAs<CWSParameterImpl>},

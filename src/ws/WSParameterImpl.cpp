@@ -136,7 +136,7 @@ CWSParameterImpl* CWSParameterImpl::definition() const {
 }
 
 bool CWSParameterImpl::isParameter() const {
-  return xercesc::XMLString::equals(getElement()->getLocalName(), SS::parameter);
+  return xercesc::XMLString::equals(localName(), SS::parameter);
 }
 
 as::IWSField::FORM CWSParameterImpl::form(const XMLCh* attribute) {

@@ -17,15 +17,6 @@ inline const XMLCh* valueOf(const xercesc::DOMAttr& attribute) {
   return isOneText ? text->getNodeValue() : attribute.getValue();
 }
 
-// What element.getAttribute(name) answers. Elements that were read tell it without the DOM.
-inline const XMLCh* valueOf(const xercesc::DOMElement& element, const XMLCh* name) {
-  if (typeid(element) == typeid(ReadElement)) {
-    return static_cast<const ReadElement&>(element).attributes().valueOf(name);
-  }
-  const xercesc::DOMAttr* const found = element.getAttributeNode(name);
-  return found == nullptr ? u"" : valueOf(*found);
-}
-
 // Calls visit(name, value) for each attribute of an element in the order of names.
 template <class Visit>
 void visitAttributes(const xercesc::DOMElement& element, const Visit& visit) {

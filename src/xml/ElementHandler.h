@@ -5,6 +5,8 @@
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/dom/DOMNode.hpp>
 
+#include "xml/NamePool.h"
+
 // For a root R with children A and B the parser calls startDocument(R), startElement(R),
 // startElement(A), newElement(A), startElement(B), newElement(B), newElement(R),
 // endParse(document): wrappers are made from the leaves up, the root last.
@@ -27,6 +29,8 @@ class CElementHandler {
   // the schema judges an element's place only as its parent ends, and refuses the document that has
   // another. Every one unless overridden.
   virtual bool takes(const xercesc::DOMNode* node) const;
+  // Tells the names that the model will ask for, as the root begins. None unless overridden.
+  virtual void tellNames(NamePool& names) const;
   // Whether the blanks between elements are to stand in the document, where the schema lets nothing
   // but elements in: they do unless overridden, for documents that are written back.
   virtual bool keepsBlanks() const;

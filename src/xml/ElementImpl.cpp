@@ -1,6 +1,7 @@
 #include "xml/ElementImpl.h"
 
 #include <array>
+#include <typeinfo>
 #include <xercesc/dom/DOMAttr.hpp>
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/util/XMLString.hpp>
@@ -18,7 +19,16 @@ using xercesc::XMLString;
 
 AS_DEFINE_IDENTITY1(CElementImpl, as::IElement)
 
-CElementImpl::CElementImpl(DOMElement* element) : element_(element) {
+namespace {
+
+const ReadElement* asRead(const DOMElement* element) {
+  const bool isRead = element != nullptr && typeid(*element) == typeid(ReadElement);
+  return isRead ? static_cast<const ReadElement*>(element) : nullptr;
+}
+
+}  // namespace
+
+CElementImpl::CElementImpl(DOMElement* element) : element_(element), read_(asRead(element)) {
   if (element != nullptr) bind(element, this);
 }
 
@@ -40,7 +50,7 @@ std::string CElementImpl::getAttributeValue(const char* name) {
   }
   CXStr attribute(name);
   if (attribute.isEmpty() || element_ == nullptr) return {};
-  return text(attribute);
+  return text(static_cast<const XMLCh*>(attribute));
 }
 
 void CElementImpl::collectChildren() {}
@@ -78,14 +88,29 @@ CElementImpl* CElementImpl::rootOf(const DOMNode* node) {
   return node == nullptr ? nullptr : wrapperOf(node->getOwnerDocument());
 }
 
-std::string CElementImpl::text(const XMLCh* attribute) const { return textOf(wide(attribute)); }
+std::string CElementImpl::text(AttributeName attribute) const { return textOf(wide(attribute)); }
 
-int CElementImpl::integer(const XMLCh* attribute) const { return integerOf(wide(attribute)); }
+int CElementImpl::integer(AttributeName attribute) const { return integerOf(wide(attribute)); }
 
-bool CElementImpl::truth(const XMLCh* attribute) const { return truthOf(wide(attribute)); }
+bool CElementImpl::truth(AttributeName attribute) const { return truthOf(wide(attribute)); }
 
-const XMLCh* CElementImpl::wide(const XMLCh* attribute) const {
-  return valueOf(*element_, attribute);
+const XMLCh* CElementImpl::wide(AttributeName attribute) const {
+  if (read_ != nullptr) return read_->attributes().valueOf(attribute);
+  const DOMAttr* const found = element_->getAttributeNode(attribute.text());
+  return found == nullptr ? u"" : valueOf(*found);
+}
+
+void CElementImpl::fetchElement() const {
+  if (read_ != nullptr) read_->fetch();
+}
+
+const XMLCh* CElementImpl::localName() const {
+  return read_ != nullptr ? read_->localName() : element_->getLocalName();
+}
+
+void CElementImpl::pointAt(DOMElement* element) {
+  element_ = element;
+  read_ = asRead(element);
 }
 
 void CElementImpl::write(const XMLCh* attribute, const char* value) {

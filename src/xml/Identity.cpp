@@ -14,12 +14,7 @@ AS_IMPLEMENTATIONS_NEXT const IdentityRegistration registrationOfNullType(RTTITy
 }
 
 bool RTTItypeid::designates(const RTTITypeinfo& other) const noexcept {
-  if (record_ == &other) return true;
-  if (record_ == nullptr || record_->name == nullptr || other.name == nullptr) return false;
-  // Casts walk whole class trees, so most comparisons fail, and most of those at the second letter.
-  const char* const name = record_->name;
-  return name[0] == other.name[0] && name[0] != '\0' && name[1] == other.name[1] &&
-         std::strcmp(name, other.name) == 0;
+  return isDesignated(other, *this);
 }
 
 IdentityRegistration::IdentityRegistration(RTTITypeinfo& record, const char* name,

@@ -25,7 +25,11 @@ void CList::onAddChild(CElementImpl* /*child*/) {}
 DOMElement* CList::getNode(int index) const { return getElement(index)->getElement(); }
 
 CElementImpl* CList::getElement(int index) const {
-  return members_[static_cast<std::size_t>(index)];
+  const auto place = static_cast<std::size_t>(index);
+  const std::size_t left = members_.size() - place;
+  if (left > 2) members_[place + 2]->fetch();
+  if (left > 1) members_[place + 1]->fetchElement();
+  return members_[place];
 }
 
 int CList::find(const XMLCh* attribute, const XMLCh* value, int from) const {

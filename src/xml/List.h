@@ -25,7 +25,8 @@ class CList : virtual public as::IList, virtual public CElementImpl {
   // Called for every member as the list is filled.
   virtual void onAddChild(CElementImpl* child);
 
-  // REQUIRES (both): 0 <= index < getLength().
+  // REQUIRES (both): 0 <= index < getLength(). Members are asked for in their order, nearly always:
+  // those that come next are fetched meanwhile.
   xercesc::DOMElement* getNode(int index) const;
   CElementImpl* getElement(int index) const;
   using CElementImpl::getElement;

@@ -1,6 +1,5 @@
 #include "xml/ReadAttributes.h"
 
-#include <bit>
 #include <utility>
 #include <xercesc/dom/DOMMemoryManager.hpp>
 #include <xercesc/dom/impl/DOMDocumentImpl.hpp>
@@ -16,27 +15,6 @@ using xercesc::DOMNode;
 using xercesc::XMLString;
 
 namespace {
-
-constexpr std::size_t signsThere = 8;
-constexpr unsigned bitsOfASign = 8;
-constexpr std::uint64_t lowestOfEach = 0x0101010101010101;
-constexpr std::uint64_t highestOfEach = lowestOfEach << (bitsOfASign - 1);
-
-// The factors tell the attributes of items apart, as far as three letters can.
-std::uint64_t signOf(const XMLCh* name) {
-  const unsigned first = name[0];
-  const unsigned second = first == 0 ? 0U : name[1];
-  const unsigned third = second == 0 ? 0U : name[2];
-  // The highest bit tells that there is one.
-  return ((2 * first + 6 * second + 7 * third) & 0xFF) | 0x80;
-}
-
-bool areEqual(const XMLCh* one, const XMLCh* other) {
-  for (; *one == *other; one++, other++) {
-    if (*one == 0) return true;
-  }
-  return false;
-}
 
 DOMDocumentImpl* documentOf(const DOMNode* node) {
   return static_cast<DOMDocumentImpl*>(node->getOwnerDocument());
@@ -60,30 +38,17 @@ void ReadAttributes::add(const XMLCh* name, const XMLCh* value) {
   read_[place] = added;
   count_++;
   if (place >= signsThere) return;
-  const auto shift = static_cast<unsigned>(place) * bitsOfASign;
+  const auto shift = static_cast<unsigned>(place) * AttributeName::bitsOfASign;
   const std::uint64_t before = (std::uint64_t{1} << shift) - 1;
-  signs_ = (signs_ & before) | signOf(added.name) << shift | (signs_ & ~before) << bitsOfASign;
+  signs_ = (signs_ & before) | AttributeName::signOf(added.name) << shift |
+           (signs_ & ~before) << AttributeName::bitsOfASign;
 }
 
-inline const ReadAttributes::Attribute* ReadAttributes::find(const XMLCh* name) const {
-  // Zero where a sign is the one that is looked for.
-  const std::uint64_t different = signs_ ^ (signOf(name) * lowestOfEach);
-  // A bit in each such place, and sometimes in the one behind it.
-  std::uint64_t places = (different - lowestOfEach) & ~different & highestOfEach;
-  for (; places != 0; places &= places - 1) {
-    const auto place = static_cast<unsigned>(std::countr_zero(places)) / bitsOfASign;
-    if (areEqual(read_[place].name, name)) return &read_[place];
-  }
+const ReadAttributes::Attribute* ReadAttributes::findBehindSigns(AttributeName name) const {
   for (std::size_t i = signsThere; i < count_; i++) {
-    if (areEqual(read_[i].name, name)) return &read_[i];
+    if (name == read_[i].name) return &read_[i];
   }
   return nullptr;
-}
-
-const XMLCh* ReadAttributes::valueOf(const XMLCh* name) const {
-  if (count_ == 0) return valueOfNode(name);
-  const Attribute* const found = find(name);
-  return found == nullptr ? u"" : found->value;
 }
 
 const XMLCh* ReadAttributes::valueOfNode(const XMLCh* name) const {

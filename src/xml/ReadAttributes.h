@@ -2,10 +2,13 @@
 #ifndef XML_READATTRIBUTES_H_
 #define XML_READATTRIBUTES_H_
 
+#include <bit>
 #include <cstdint>
 #include <span>
 #include <xercesc/dom/impl/DOMAttrMapImpl.hpp>
 #include <xercesc/util/XercesDefs.hpp>
+
+#include "xml/AttributeName.h"
 
 // A document has more attributes than anything else, and of each the DOM makes three nodes and
 // buffers: the attribute, a text below it, and what that text holds. All that a model asks for is
@@ -35,7 +38,11 @@ class ReadAttributes final : public xercesc::DOMAttrMapImpl {
   // What was read, in the order of names; nothing once the nodes have been made.
   std::span<const Attribute> read() const { return {read_, count_}; }
   // The value of the attribute of that name; empty for none.
-  const XMLCh* valueOf(const XMLCh* name) const;
+  const XMLCh* valueOf(AttributeName name) const {
+    if (count_ == 0) return valueOfNode(name.text());
+    const Attribute* const found = find(name);
+    return found == nullptr ? u"" : found->value;
+  }
 
   XMLSize_t getLength() const override;
   xercesc::DOMNode* item(XMLSize_t index) const override;
@@ -60,8 +67,23 @@ class ReadAttributes final : public xercesc::DOMAttrMapImpl {
   // as they were.
   void makeNodes() const;
   void makeNodes();
-  const Attribute* find(const XMLCh* name) const;
+  const Attribute* find(AttributeName name) const {
+    // Zero where a sign is the one that is looked for.
+    const std::uint64_t different = signs_ ^ name.signs();
+    // A bit in each such place, and sometimes in the one behind it.
+    std::uint64_t places =
+        (different - AttributeName::lowestOfEach) & ~different & AttributeName::highestOfEach;
+    for (; places != 0; places &= places - 1) {
+      const auto place =
+          static_cast<unsigned>(std::countr_zero(places)) / AttributeName::bitsOfASign;
+      if (name == read_[place].name) return &read_[place];
+    }
+    return count_ <= signsThere ? nullptr : findBehindSigns(name);
+  }
+  const Attribute* findBehindSigns(AttributeName name) const;
   const XMLCh* valueOfNode(const XMLCh* name) const;
+
+  static constexpr std::size_t signsThere = 8;
 
   std::uint32_t count_ = 0;
   Attribute* read_ = nullptr;  // In the document's memory.

@@ -20,13 +20,6 @@ namespace {
 
 bool isEmpty(const XMLCh* text) { return text == nullptr || *text == 0; }
 
-bool areEqual(const XMLCh* one, const XMLCh* other) {
-  for (; *one == *other; one++, other++) {
-    if (*one == 0) return true;
-  }
-  return false;
-}
-
 }  // namespace
 
 void TreeParser::beginElement(const XMLElementDecl& declaration, unsigned int uriId,
@@ -60,7 +53,8 @@ void TreeParser::ignorableWhitespace(const XMLCh* characters, XMLSize_t length, 
 
 ReadElement* TreeParser::makeElement(const XMLCh* name, unsigned int uriId, const XMLCh* prefix) {
   if (isEmpty(prefix) || uriId == fScanner->getEmptyNamespaceId()) {
-    return new (fDocument) ReadElement(fDocument, pooledUri(uriId), pooledName(name));
+    return new (fDocument)
+        ReadElement(fDocument, pooledUri(uriId), names_.pooled(name, *fDocument));
   }
   xercesc::XMLBufBid bid(&fBufMgr);
   xercesc::XMLBuffer& qualified = bid.getBuffer();
@@ -78,7 +72,8 @@ void TreeParser::addAttributes(ReadAttributes& map, const RefVectorOf<XMLAttr>& 
   if (areSimple) {
     map.makeRoom(count);
     for (XMLSize_t i = 0; i < count; i++) {
-      map.add(pooledName(read.elementAt(i)->getName()), read.elementAt(i)->getValue());
+      const XMLAttr& attribute = *read.elementAt(i);
+      map.add(names_.pooled(attribute.getName(), *fDocument), attribute.getValue());
     }
   } else {
     map.reserve(count);
@@ -117,15 +112,6 @@ const XMLCh* TreeParser::pooledUri(unsigned int uriId) {
     lastUriId_ = uriId;
   }
   return lastUri_;
-}
-
-const XMLCh* TreeParser::pooledName(const XMLCh* name) {
-  const unsigned first = name[0];
-  const unsigned second = first == 0 ? 0U : name[1];
-  const unsigned third = second == 0 ? 0U : name[2];
-  const XMLCh*& last = lastNames_[(first + 3 * second + 7 * third) % lastNames_.size()];
-  if (last == nullptr || !areEqual(last, name)) last = fDocument->getPooledString(name);
-  return last;
 }
 
 // All elements of the document are made here.

@@ -2,9 +2,9 @@
 #ifndef XML_TREEPARSER_H_
 #define XML_TREEPARSER_H_
 
-#include <array>
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
+#include "xml/NamePool.h"
 #include "xml/ReadElement.h"
 
 class ReadAttribute;
@@ -27,6 +27,9 @@ class TreeParser : public xercesc::XercesDOMParser {
                     const XMLCh* prefix, const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
                     XMLSize_t attributeCount);
 
+  // For what the model will ask for.
+  NamePool& names() { return names_; }
+
  private:
   ReadElement* makeElement(const XMLCh* name, unsigned int uriId, const XMLCh* prefix);
   void addAttributes(ReadAttributes& map, const xercesc::RefVectorOf<xercesc::XMLAttr>& read,
@@ -35,17 +38,13 @@ class TreeParser : public xercesc::XercesDOMParser {
   ReadAttribute* makeAttribute(const xercesc::XMLAttr& read);
   // The text of a namespace, pooled by the document; null for none.
   const XMLCh* pooledUri(unsigned int uriId);
-  // A name, pooled by the document.
-  const XMLCh* pooledName(const XMLCh* name);
   // The element that is being read; null outside of the root.
   ReadElement* parent() const;
 
   // The namespace that was asked for last: nearly always it is the one that all elements are in.
   unsigned int lastUriId_ = 0;
   const XMLCh* lastUri_ = nullptr;
-  // The last name of each place, found without a look at the whole of it: a document has the same
-  // few names over and over.
-  std::array<const XMLCh*, 64> lastNames_{};
+  NamePool names_;
 };
 
 #endif  // XML_TREEPARSER_H_

@@ -178,7 +178,10 @@ void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int ur
   beginElement(declaration, uriId, prefix, attributes, attributeCount);
   DOMNode* const element = getCurrentNode();
   if (isRoot) {
-    if (handler_ != nullptr) handler_->startDocument(element);
+    if (handler_ != nullptr) {
+      handler_->startDocument(element);
+      handler_->tellNames(names());
+    }
     rootSeen_ = true;
     if (firstMessage_) throw as::CASParseException(*firstMessage_);
   }

@@ -194,6 +194,17 @@ std::string textOf(const XMLCh* text) {
 
 int integerOf(const XMLCh* text) {
   const XMLCh* at = text == nullptr ? u"" : text;
+  // Nearly all are a few digits and nothing else, or not there.
+  constexpr int mostDigits = 9;
+  unsigned few = 0;
+  for (int i = 0; i <= mostDigits; i++) {
+    const unsigned digit = at[i] - unsigned{u'0'};
+    if (digit > 9) {
+      if (at[i] == 0) return static_cast<int>(few);
+      break;
+    }
+    few = 10 * few + digit;
+  }
   while (*at == u' ' || (*at >= u'\t' && *at <= u'\r')) at++;
   // What else may count as a blank is for the C library to say.
   if (*at > 0x7F) return CXStr(text, false);
