@@ -148,7 +148,7 @@ std::optional<std::int64_t> ConstantReader::takeSum() {
   std::vector<std::int64_t> numbers;
   std::vector<char> operators;
   const auto applyLast = [&] {
-    if (numbers.size() < 2) return false;
+    // Every operator stands between operands.
     const std::int64_t right = numbers.back();
     numbers.pop_back();
     const std::optional<std::int64_t> result = apply(operators.back(), numbers.back(), right);
@@ -194,7 +194,7 @@ std::optional<std::int64_t> ConstantReader::takeSum() {
       break;
     }
   }
-  if (!applyDownTo(1) || !operators.empty() || numbers.size() != 1) return std::nullopt;
+  if (!applyDownTo(1) || !operators.empty()) return std::nullopt;
   return numbers.front();
 }
 

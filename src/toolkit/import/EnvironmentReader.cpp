@@ -47,7 +47,7 @@ void EnvironmentReader::read() {
     if (words_.peek().is(Keyword::decimalPoint)) {
       words_.skip();
       words_.accept(Keyword::isWord);
-      program_.isDecimalPointComma = words_.accept(Keyword::comma) || program_.isDecimalPointComma;
+      if (words_.accept(Keyword::comma)) program_.isDecimalPointComma = true;
     } else if (words_.peek().is(Keyword::currency)) {
       readCurrency();
     } else if (words_.peek().is(Keyword::callConvention)) {

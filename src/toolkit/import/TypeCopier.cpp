@@ -47,7 +47,7 @@ bool TypeCopier::putTypeIn(Index target, Index record, int depth) {
   const NameReference& reference = program_.references[static_cast<std::size_t>(at(target).type)];
   const CobolProgram* from = &program_;
   const Index source = sourceOf(reference, record, &from);
-  if (source == none || (from == &program_ && source == target)) {
+  if (source == none) {
     problems_.tell(EntryRule::lostType, reference.place,
                    textOf(reference.names) + (reference.kind == Kind::type
                                                   ? " is no type that stands in front"
@@ -137,11 +137,10 @@ void TypeCopier::takeDescription(const DataEntry& type, DataEntry& entry) {
   entry.isJustified = entry.isJustified || type.isJustified;
   entry.isBlankWhenZero = entry.isBlankWhenZero || type.isBlankWhenZero;
   entry.isDamaged = entry.isDamaged || type.isDamaged;
-  if (entry.conditionCount == 0) {
-    entry.firstCondition = type.firstCondition;
-    entry.conditionCount = type.conditionCount;
-  }
-  entry.hasMembers = entry.hasMembers || type.hasMembers;
+  // Its own conditions and members stand behind it, and are not read yet.
+  entry.firstCondition = type.firstCondition;
+  entry.conditionCount = type.conditionCount;
+  entry.hasMembers = type.hasMembers;
   entry.copyOf = type.copyOf;
 }
 
