@@ -198,6 +198,67 @@ INSTANTIATE_TEST_SUITE_P(
                     ImportRow{"CONSTANT RECORD PIC X",
                               "<alphanumeric name='A' picture='X' offset='0' length='1'"}));
 
+INSTANTIATE_TEST_SUITE_P(
+    MorePassedOver, ImportItemTest,
+    testing::Values(
+        ImportRow{"PIC Z(5) BLANK ZEROS",
+                  "<numericEdited name='A' picture='Z(5)' digits='5' alignment='0' "
+                  "blankWhenZero='true' offset='0' length='5'"},
+        ImportRow{"PIC Z(5) BLANK WHEN ZEROES",
+                  "<numericEdited name='A' picture='Z(5)' digits='5' alignment='0' "
+                  "blankWhenZero='true' offset='0' length='5'"},
+        ImportRow{"EXTERNAL PIC X", "<alphanumeric name='A' picture='X' offset='0' length='1'"},
+        ImportRow{"EXTERNAL BY X PIC XX",
+                  "<alphanumeric name='A' picture='XX' offset='0' length='2'"},
+        ImportRow{"PIC X(9) DYNAMIC LENGTH",
+                  "<alphanumeric name='A' picture='X(9)' offset='0' length='9'"},
+        ImportRow{"DYNAMIC LENGTH SHORT-TEXT LIMIT 40 PIC X(9)",
+                  "<alphanumeric name='A' picture='X(9)' offset='0' length='9'"},
+        ImportRow{"PIC X(9) DYNAMIC LENGTH SHORT-TEXT VALUE 'A'",
+                  "<alphanumeric name='A' picture='X(9)' offset='0' length='9'"},
+        ImportRow{"PIC X ALIGNED", "<alphanumeric name='A' picture='X' offset='0' length='1'"},
+        ImportRow{"IS EXTERNAL-FORM PIC X",
+                  "<alphanumeric name='A' picture='X' offset='0' length='1'"},
+        ImportRow{"PROPERTY WITH NO SET PIC X",
+                  "<alphanumeric name='A' picture='X' offset='0' length='1'"},
+        ImportRow{"PIC X PROPERTY", "<alphanumeric name='A' picture='X' offset='0' length='1'"},
+        ImportRow{"VALUE 'A' IS GLOBAL PIC XX",
+                  "<alphanumeric name='A' picture='XX' offset='0' length='2'"},
+        ImportRow{"PIC 9 VALUES ARE 1 5 FROM (1) TO (2)",
+                  "<numeric name='A' picture='9' usage='display' sign='false' "
+                  "digits='1' alignment='0' offset='0' length='1'"},
+        ImportRow{"PIC N(2)/N(2)",
+                  "<national name='A' picture='N(2)/N(2)' usage='unicode' offset='0' "
+                  "length='10'"},
+        ImportRow{"PIC G(5)",
+                  "<national name='A' picture='G(5)' usage='display' offset='0' "
+                  "length='10'"},
+        ImportRow{"PIC ZZ9 NATIONAL",
+                  "<national name='A' picture='ZZ9' usage='unicode' offset='0' "
+                  "length='6'"},
+        ImportRow{"PIC 9(4) COMP BLANK WHEN ZERO",
+                  "<numeric name='A' picture='9(4)' usage='comp' sign='false' "
+                  "digits='4' alignment='0' offset='0' length='2'"},
+        ImportRow{"PIC X JUSTIFIED LEFT",
+                  "<alphanumeric name='A' picture='X' offset='0' length='1'"},
+        ImportRow{"PIC S9(4) COMP-3 SIGNED",
+                  "<numeric name='A' picture='S9(4)' usage='comp-3' sign='true' "
+                  "digits='4' alignment='0' offset='0' length='3'"},
+        ImportRow{"PIC 9(4) COMP-3 NO SIGN",
+                  "<numeric name='A' picture='9(4)' usage='comp-6' sign='false' "
+                  "digits='4' alignment='0' offset='0' length='2'"},
+        ImportRow{"POINTER TO T", "<pointer name='A' offset='0' length='4'"},
+        ImportRow{"OBJECT REFERENCE VALUE NULL", "<cobolObject name='A' offset='0' length='4'"},
+        ImportRow{"HANDLE OF WINDOW VALUE NULL",
+                  "<numeric name='A' usage='comp-5' sign='true' digits='10' "
+                  "alignment='0' offset='0' length='4'"},
+        ImportRow{"PIC 9(4) COMP-4 COMP",
+                  "<numeric name='A' picture='9(4)' usage='comp-4' sign='false' "
+                  "digits='4' alignment='0' offset='0' length='2'"},
+        ImportRow{"PIC 9(5) USAGE NATIONAL SIGN LEADING",
+                  "<national name='A' picture='9(5)' usage='unicode' offset='0' "
+                  "length='10'"}));
+
 // Names that are words of clauses,
 // too.
 class ImportNameTest : public testing::TestWithParam<ImportRow> {};
@@ -221,7 +282,87 @@ INSTANTIATE_TEST_SUITE_P(Rows, ImportNameTest,
                                          ImportRow{"BASED USAGE COMP-1", "name='BASED' usage"},
                                          ImportRow{"LINE PIC X", "name='LINE' picture"},
                                          ImportRow{"Straße PIC X", "name='Straße' picture"},
+                                         ImportRow{"DATE COMP-1", "name='DATE' usage"},
+                                         ImportRow{"DATE. 10 PIC X", "name='DATE' offset"},
+                                         ImportRow{"DATE IS PIC X", "name='DATE' picture"},
+                                         ImportRow{"DATE FORMAT YY PIC X", "name='FILLER' picture"},
+                                         ImportRow{"IS PIC X", "name='FILLER' picture"},
+                                         ImportRow{"BIT PIC X", "name='BIT' picture"},
+                                         ImportRow{"OBJECT PIC X", "name='OBJECT' picture"},
+                                         ImportRow{"OBJECT COMP-1", "name='OBJECT' usage"},
+                                         ImportRow{"OBJECT REFERENCE", "name='FILLER' offset"},
                                          ImportRow{"8-BYTES PIC X", "name='8-BYTES' picture"}));
+
+// What B has of the item or type that it is like: entries and its element.
+class ImportLikeTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportLikeTest, IsTheElementOfTheRow) {
+  const std::string dictionary = dictionaryOf(importOf(programOf(GetParam().source)));
+  EXPECT_THAT(test::partsOf(dictionary, "<[a-zA-Z]+ name=\"B\"[^>]*[^/>]"),
+              testing::ElementsAre(GetParam().expected));
+}
+
+// A numeric item B that is written out.
+#define NUMBER(rest) "<numeric name='B' picture=" rest
+
+INSTANTIATE_TEST_SUITE_P(
+    Clauses, ImportLikeTest,
+    testing::Values(
+        ImportRow{"01 T TYPEDEF PIC X(3) JUST. 01 B TYPE T.",
+                  "<alphanumeric name='B' picture='X(3)' justified='right' offset='0' length='3'"},
+        ImportRow{"01 T TYPEDEF PIC X(3). 01 B TYPE T JUST.",
+                  "<alphanumeric name='B' picture='X(3)' justified='right' offset='0' length='3'"},
+        ImportRow{"01 T TYPEDEF PIC 9(3) BLANK ZERO. 01 B TYPE T.",
+                  "<numericEdited name='B' picture='9(3)' digits='3' alignment='0' "
+                  "blankWhenZero='true' offset='0' length='3'"},
+        ImportRow{"01 T TYPEDEF PIC 9(3). 01 B TYPE T BLANK ZERO.",
+                  "<numericEdited name='B' picture='9(3)' digits='3' alignment='0' "
+                  "blankWhenZero='true' offset='0' length='3'"},
+        ImportRow{"01 A PIC X(5). 01 B LIKE A PIC X(3).",
+                  "<alphanumeric name='B' picture='X(3)' offset='0' length='3'"},
+        ImportRow{"01 T TYPEDEF PIC S9(3). 01 B TYPE T SIGN LEADING SEPARATE.",
+                  NUMBER("'S9(3)' usage='display' sign='ls' digits='3' alignment='0' offset='0' "
+                         "length='4'")},
+        ImportRow{"01 Q. 05 A PIC S9(3) LEADING SEPARATE. 01 B LIKE A.",
+                  NUMBER("'S9(3)' usage='display' sign='ls' digits='3' alignment='0' offset='0' "
+                         "length='4'")},
+        ImportRow{"01 Q SIGN LEADING SEPARATE. 05 A PIC S9(3). 01 B LIKE A.",
+                  NUMBER("'S9(3)' usage='display' sign='ls' digits='3' alignment='0' offset='0' "
+                         "length='4'")},
+        ImportRow{"01 Q SIGN LEADING SEPARATE. 05 A PIC S9(3) TRAILING. 01 B LIKE A.",
+                  NUMBER("'S9(3)' usage='display' sign='ti' digits='3' alignment='0' offset='0' "
+                         "length='3'")},
+        ImportRow{"01 Q. 05 G. 10 A PIC 9(5). 01 B LIKE A.",
+                  NUMBER("'9(5)' usage='display' sign='false' digits='5' alignment='0' offset='0' "
+                         "length='5'")},
+        ImportRow{"01 Q COMP. 05 A PIC 9(5) COMP-3. 01 B LIKE A.",
+                  NUMBER("'9(5)' usage='comp-3' sign='false' digits='5' alignment='0' offset='0' "
+                         "length='3'")},
+        ImportRow{"01 T TYPEDEF PIC 9(4). 01 R COMP-3. 05 B USAGE COMP TYPE T.",
+                  NUMBER("'9(4)' usage='comp' sign='false' digits='4' alignment='0' offset='0' "
+                         "length='2'")},
+        ImportRow{"01 R. 05 G. 10 A PIC X(3). 05 H. 10 A PIC X(5). 05 B LIKE A OF H.",
+                  "<alphanumeric name='B' picture='X(5)' offset='8' length='5'"},
+        ImportRow{"01 R. 05 G. 10 A PIC X(3). 05 H. 10 A PIC X(5). 05 B SAME AS A OF G OF R.",
+                  "<alphanumeric name='B' picture='X(3)' offset='8' length='3'"}));
+
+// Longer and shorter ones.
+INSTANTIATE_TEST_SUITE_P(
+    Lengths, ImportLikeTest,
+    testing::Values(
+        ImportRow{"01 A PIC A(3). 01 B LIKE A (2).",
+                  "<alphanumeric name='B' picture='A(5)' offset='0' length='5'"},
+        ImportRow{"01 A PIC N(3). 01 B LIKE A (2).",
+                  "<national name='B' picture='N(5)' usage='unicode' offset='0' length='10'"},
+        ImportRow{"01 A PIC 9(5). 01 B LIKE A (1).",
+                  NUMBER("'9(6)' usage='display' sign='false' digits='6' alignment='0' offset='0' "
+                         "length='6'")},
+        ImportRow{"01 A PIC V99. 01 B LIKE A (1).",
+                  NUMBER("'9(1)V9(2)' usage='display' sign='false' digits='3' alignment='2' "
+                         "offset='0' length='3'")},
+        ImportRow{"01 A PIC S9V99. 01 B LIKE A (-1).",
+                  NUMBER("'SV9(2)' usage='display' sign='true' digits='2' alignment='2' offset='0' "
+                         "length='2'")}));
 
 // Condition names and their values.
 class ImportConditionTest : public testing::TestWithParam<ImportRow> {};
@@ -241,6 +382,40 @@ TEST_P(ImportConditionTest, HasTheElementsOfTheRow) {
 }
 #define TEXTS(values) "<alphanumericCondition name='C'>" values
 #define NUMBERS(values) "<numericCondition name='C'>" values
+
+// Constants of another kind than K.
+INSTANTIATE_TEST_SUITE_P(
+    Constants, ImportConditionTest,
+    testing::Values(
+        ImportRow{"Z PIC X. 78 L VALUE 'AB' & 'C'. 01 A PIC X(3). 88 C VALUE L",
+                  TEXTS("<alphanumericConstant value='ABC'/>")},
+        ImportRow{"Z PIC X. 78 L VALUE SPACES. 01 A PIC X(3). 88 C VALUE L",
+                  TEXTS("<alphanumericConstant value='SPACES'/>")},
+        ImportRow{"Z PIC X. 78 L VALUE 1.5. 01 A PIC 9V9. 88 C VALUE L",
+                  NUMBERS("<numericConstant value='1.5'/>")},
+        ImportRow{"Z PIC X. 78 L VALUE 'AB'. 78 M VALUE L. 01 A PIC X(2). 88 C VALUE M",
+                  TEXTS("<alphanumericConstant value='AB'/>")},
+        ImportRow{"Z PIC X.\n>>DEFINE D AS 'AB'\n01 L CONSTANT FROM D. 01 A PIC X(2). 88 C VALUE L",
+                  TEXTS("<alphanumericConstant value='AB'/>")},
+        ImportRow{"Z PIC X.\n>>DEFINE D AS 15\n01 L CONSTANT FROM D. 01 A PIC 99. 88 C VALUE L",
+                  NUMBERS("<numericConstant value='15'/>")}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Words, ImportConditionTest,
+    testing::Values(
+        ImportRow{"A PIC X. 88 C VALUE ALL ZEROS", TEXTS("<alphanumericConstant value='ZEROS'/>")},
+        ImportRow{"A PIC 99. 88 C VALUE X#1F", NUMBERS("<numericConstant value='31'/>")},
+        ImportRow{"A PIC X. 88 C VALUES 'B' 'D' IN EBCDIC",
+                  TEXTS("<alphanumericConstant value='B'/><alphanumericConstant value='D'/>")},
+        ImportRow{"A PIC X. 88 C VALUE IS B'01000001'",
+                  TEXTS("<alphanumericConstant value='B'01000001''/>")},
+        ImportRow{"A PIC 9(4) COMP-5. 88 C VALUE H'1F'",
+                  NUMBERS("<numericConstant value='H'1F''/>")},
+        ImportRow{"T TYPEDEF PIC X. 88 B VALUE '1'. 01 U PIC X. 88 D VALUE '4'. 01 A TYPE T. "
+                  "88 C VALUE '2'",
+                  "<alphanumericCondition name='D'><alphanumericConstant value='4'/>"
+                  "<alphanumericCondition name='B'><alphanumericConstant value='1'/>" TEXTS(
+                      "<alphanumericConstant value='2'/>")}));
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, ImportConditionTest,
@@ -352,6 +527,12 @@ INSTANTIATE_TEST_SUITE_P(
                               "ACCESS MODE "
                               "SEQUENTIAL",
                               "<fd name='F' accessMode='sequential' organization='relative'"},
+                    ImportRow{"F ASSIGN X ORGANISATION INDEXED",
+                              "<fd name='F' organization='indexed'"},
+                    ImportRow{"F ASSIGN TO LINE ADVANCING FILE X", "<fd name='F'"},
+                    ImportRow{"F ASSIGN X RECORD DELIMITER IS Y", "<fd name='F'"},
+                    ImportRow{"F ASSIGN X RELATIVE IS K", "<fd name='F'"},
+                    ImportRow{"F ASSIGN X SELECT G INDEXED", "<fd name='F'"},
                     ImportRow{"F ASSIGN X LINE "
                               "SEQUENTIAL",
                               "<fd name='F' organization='lineSequential'"},

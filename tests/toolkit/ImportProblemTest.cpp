@@ -65,6 +65,81 @@ INSTANTIATE_TEST_SUITE_P(
                     ImportRow{"01 A PIC U BYTE-LENGTH B.", "1:12 bad-clause, 1:1 other-kind"}));
 
 INSTANTIATE_TEST_SUITE_P(
+    Clauses, ImportProblemTest,
+    testing::Values(
+        ImportRow{"01 R. 05 A PIC X. 05 B REDEFINES A REDEFINES A PIC X.", "1:36 bad-clause"},
+        ImportRow{"01 R. 05 A PIC X. 05 B REDEFINES.", "1:33 bad-clause"},
+        ImportRow{"01 A ANY PIC X.", "1:6 bad-clause"},
+        ImportRow{"01 A PIC U BYTE-LENGTH 0.", "1:12 bad-clause, 1:1 other-kind"},
+        ImportRow{"01 A PIC U BYTE-LENGTH 1000000001.", "1:12 bad-clause, 1:1 other-kind"},
+        ImportRow{"01 A PIC X SQL.", "1:12 unknown-clause"},
+        ImportRow{"01 A USAGE SQL.", "1:6 bad-clause"},
+        ImportRow{"01 A GROUP-USAGE DISPLAY. 05 B PIC X.", "1:6 bad-clause"},
+        ImportRow{"01 A PIC.", "1:9 bad-clause"}, ImportRow{"01 A PIC 'X'.", "1:10 bad-clause"},
+        ImportRow{"01 R. 05 A PIC X. 66 B RENAMES.", "1:24 bad-clause"},
+        ImportRow{"01 R. 05 A PIC X. 66 B RENAMES A THRU.", "1:24 bad-clause"},
+        ImportRow{"01 R. 05 A PIC X. 66 B RENAMES A RENAMES A.", "1:34 bad-clause"},
+        ImportRow{"01 R. 05 A PIC X. 05 B RENAMES A.", "1:24 bad-clause"},
+        ImportRow{"01 T TYPEDEF PIC X. 01 A TYPE T TYPE T.", "1:38 bad-clause"},
+        ImportRow{"01 A USAGE OBJECT.", "1:6 bad-clause"},
+        ImportRow{"01 A COMP HANDLE.", "1:11 bad-clause"},
+        ImportRow{"01 A PIC 9 COMP USAGE T.", "1:17 bad-clause, 1:1 dialect-decides"},
+        ImportRow{"01 A CONSTANT.", "1:1 no-picture"},
+        ImportRow{"01 A VALUE X'41'.", "1:1 no-picture"},
+        ImportRow{"01 A VARYING.", "1:6 host-variable, 1:1 no-picture"},
+        ImportRow{"DATA A.\n01 B PIC X.", "1:1 unknown-text"},
+        ImportRow{"PROCEDURE A.\n01 B PIC X.", "1:1 unknown-text"},
+        ImportRow{"01 A PIC X.\nEND.\n01 B PIC X.", "2:1 unknown-text"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Likes, ImportProblemTest,
+    testing::Values(ImportRow{"01 A COMP-1. 01 B LIKE A (1).", "1:14 bad-clause"},
+                    ImportRow{"01 A PIC 9(3)P. 01 B LIKE A (1).", "1:17 bad-clause"},
+                    ImportRow{"01 A PIC ZZ9. 01 B LIKE A (1).", "1:15 bad-clause"},
+                    ImportRow{"01 A PIC 9V99. 01 B LIKE A (-2).", "1:16 bad-clause"},
+                    ImportRow{"01 A PIC X(3). 01 B LIKE A (-3).", "1:16 bad-clause"},
+                    ImportRow{"01 A PIC X. 01 B LIKE A (1000001).", "1:23 bad-clause"},
+                    ImportRow{"01 A PIC X. 01 B LIKE A (-1000001).", "1:23 bad-clause"},
+                    ImportRow{"01 A PIC X. 01 B LIKE A (1.", "1:23 bad-clause"},
+                    ImportRow{"01 R. 05 G. 10 A PIC X. 05 B LIKE A OF H.", "1:35 lost-type"},
+                    ImportRow{"01 T TYPEDEF PIC X COLOUR RED. 01 A TYPE T.", "1:20 unknown-clause"},
+                    ImportRow{"01 T TYPEDEF COLOUR RED. 01 A TYPE T.", "1:14 unknown-clause"},
+                    ImportRow{"01 T TYPEDEF. 05 A U.", "1:20 unknown-clause"}));
+
+// Where an entry ends though there is no period.
+INSTANTIATE_TEST_SUITE_P(
+    Ends, ImportProblemTest,
+    testing::Values(
+        ImportRow{"01 A PIC X VALUE 'A'\nLINKAGE SECTION.\n01 B PIC X.", "2:1 no-period"},
+        ImportRow{"01 A PIC X VALUE 'A'\nPROCEDURE DIVISION.", "2:1 no-period"},
+        ImportRow{"01 A PIC X\nPROCEDURE DIVISION.", "2:1 no-period"},
+        ImportRow{"01 A PIC X VALUE 'A'\n01 B.\n05 C PIC X.", "2:1 no-period"},
+        ImportRow{"01 A PIC X EXTERNAL-FORM\n01 B PIC X.", "2:1 no-period"},
+        ImportRow{"01 A PIC X PROPERTY NO GET\n01 B PIC X.",
+                  "2:1 passed-over-clause, 2:1 no-period"},
+        ImportRow{"01 A HANDLE OF FONT\n01 B PIC X.", "2:1 no-period"},
+        ImportRow{"01 A USAGE OBJECT REFERENCE\n01 B PIC X.", "2:1 no-period, 1:1 dialect-decides"},
+        ImportRow{"78 K VALUE 5\n01 A PIC X(K).", "2:1 no-period"},
+        ImportRow{"01 T TYPEDEF PIC X. 01 A TYPE\n01 B PIC X.", "2:1 bad-clause"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    SqlTypes, ImportProblemTest,
+    testing::Values(ImportRow{"01 A SQL TYPE IS CLOB(0).", "1:25 bad-clause"},
+                    ImportRow{"01 A SQL TYPE IS CLOB(0g).", "1:26 bad-clause"},
+                    ImportRow{"01 A SQL TYPE IS CLOB(2147483648).", "1:34 bad-clause"},
+                    ImportRow{"01 A SQL TYPE IS CLOB(ZK).", "1:23 bad-clause"},
+                    ImportRow{"01 A SQL TYPE IS CLOB(9999999999K).", "1:23 bad-clause"},
+                    ImportRow{"01 A SQL TYPE IS CLOB(-5K).", "1:23 bad-clause"},
+                    ImportRow{"01 A SQL TYPE IS CLOB('5').", "1:23 bad-clause"},
+                    ImportRow{"01 A SQL TYPE IS CLOB(2 KB).", "1:25 bad-clause"},
+                    ImportRow{"01 A SQL TYPE IS CLOB(5.", "1:24 bad-clause"},
+                    ImportRow{"01 A SQL TYPE IS XML.", "1:21 bad-clause"},
+                    ImportRow{"01 A SQL TYPE IS TIME('0').", "1:23 bad-clause"},
+                    ImportRow{"01 A COMP SQL TYPE IS ROWID.", "1:11 bad-clause"},
+                    ImportRow{"01 A SQL TYPE IS ROWID SQL TYPE IS ROWID.",
+                              "1:6 host-variable, 1:24 bad-clause"}));
+
+INSTANTIATE_TEST_SUITE_P(
     Items, ImportProblemTest,
     testing::Values(ImportRow{"01 A.", "1:1 no-picture"}, ImportRow{"01 A COMP.", "1:1 no-picture"},
                     ImportRow{"01 A PIC Q.", "1:10 bad-picture"},
@@ -74,6 +149,11 @@ INSTANTIATE_TEST_SUITE_P(
                     ImportRow{"01 A PIC S9V9 COMP-1.", "1:1 needless-picture"},
                     ImportRow{"01 A PIC S9(5) COMP-1.", "1:1 short-binary"},
                     ImportRow{"01 A PIC Z9Q.", "1:10 bad-picture"},
+                    ImportRow{"01 A PIC Q. 01 B PIC Q.", "1:10 bad-picture, 1:22 bad-picture"},
+                    ImportRow{"01 A PIC S9(3)P COMP-1.", "1:1 needless-picture"},
+                    ImportRow{"01 A VALUE 'AB' COMP.", "1:1 no-picture"},
+                    ImportRow{"01 R COMP. 05 A PIC 9(19).", "1:12 bad-usage"},
+                    ImportRow{"01 A PIC ZZ9 NATIONAL.", "1:1 other-kind"},
                     ImportRow{"01 A SQL TYPE IS CLOB(5).", "1:6 host-variable"},
                     ImportRow{"01 A SQL TYPE IS CLOB.", "1:22 bad-clause"},
                     ImportRow{"01 A SQL TYPE IS CLOB(3G).", "1:26 bad-clause"},
@@ -90,6 +170,21 @@ INSTANTIATE_TEST_SUITE_P(
                     ImportRow{"01 R. 05 G SYNC. 10 A PIC X.", "1:7 group-sync"},
                     ImportRow{"01 A PIC 1(8) BIT.", "1:1 bit-storage, 1:1 other-kind"}));
 
+// What some compilers edit with.
+INSTANTIATE_TEST_SUITE_P(OddPictures, ImportProblemTest,
+                         testing::Values(ImportRow{"01 A PIC zz.z9.", "1:10 odd-picture"},
+                                         ImportRow{"01 A PIC *9*.", "1:10 odd-picture"},
+                                         ImportRow{"01 A PIC 9Z(2).", "1:10 odd-picture"},
+                                         ImportRow{"01 A PIC 9Z(999).", "1:10 odd-picture"},
+                                         ImportRow{"01 A PIC 9Z(999)Z.", "1:10 bad-picture"},
+                                         ImportRow{"01 A PIC 9Z(1000).", "1:10 bad-picture"},
+                                         ImportRow{"01 A PIC 9Z(0).", "1:10 bad-picture"},
+                                         ImportRow{"01 A PIC 9Z(K).", "1:10 bad-picture"},
+                                         ImportRow{"01 A PIC 9Z().", "1:10 bad-picture"},
+                                         ImportRow{"01 A PIC 9Z(3.", "1:10 bad-picture"},
+                                         ImportRow{"01 A PIC 9.9.9.", "1:10 bad-picture"},
+                                         ImportRow{"01 A PIC 9Z.Z.9.", "1:10 bad-picture"}));
+
 INSTANTIATE_TEST_SUITE_P(
     Tables, ImportProblemTest,
     testing::Values(
@@ -98,6 +193,11 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"01 R. 05 A PIC X OCCURS 5 TO 3 DEPENDING ON B. 05 B PIC 9.", "1:25 bad-occurs"},
         ImportRow{"01 R. 05 A PIC X OCCURS NOWHERE.", "1:25 bad-occurs"},
         ImportRow{"01 R. 05 A PIC X OCCURS 9999999999.", "1:25 bad-occurs"},
+        ImportRow{"01 R. 05 A PIC X OCCURS 1.5.", "1:25 bad-occurs"},
+        ImportRow{"01 R. 05 A PIC X OCCURS 1 TO MANY.", "1:25 bad-occurs"},
+        ImportRow{"01 R.\n>>DEFINE N AS 'FIVE'\n05 A PIC X OCCURS N.", "3:19 bad-occurs"},
+        ImportRow{"01 R. 05 A PIC X OCCURS 1 TO 5 DEPENDING ON.", "1:32 bad-clause"},
+        ImportRow{"77 A PIC X OCCURS 5.", "1:12 table-on-top"},
         ImportRow{"01 R. 05 A PIC X OCCURS 3 OCCURS 3.", "1:27 bad-clause"},
         ImportRow{"01 R. 05 A PIC X OCCURS 1 TO 5.", "1:18 no-depending"},
         ImportRow{"01 A PIC X OCCURS 5.", "1:12 table-on-top"},
@@ -110,6 +210,12 @@ INSTANTIATE_TEST_SUITE_P(
                   "1:37 too-large"},
         ImportRow{"01 R. 05 A PIC X(2) OCCURS 2000000000.", "1:7 too-large"},
         ImportRow{"01 R. 05 G OCCURS 60000. 10 A PIC X(60000).", "1:7 too-large"},
+        ImportRow{
+            "01 R. 05 G OCCURS 2. 10 B COMP-1 SYNC. 10 A PIC XX OCCURS 1073741820. 10 C PIC X.",
+            "1:7 too-large"},
+        ImportRow{"01 R.\n05 G. 10 N PIC 9. 10 H. 15 N PIC 9.\n"
+                  "05 A PIC X OCCURS 1 TO 2 DEPENDING ON N IN G.",
+                  "3:39 unclear-depending"},
         ImportRow{"01 A PIC X(99999999999).", "1:10 bad-picture"}));
 
 INSTANTIATE_TEST_SUITE_P(
@@ -125,6 +231,13 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"01 R. 05 A PIC X. 66 B RENAMES C.", "1:32 lost-renamed"},
         ImportRow{"01 R. 05 A PIC X. 05 B PIC X. 66 C RENAMES B THRU A.", "1:44 lost-renamed"},
         ImportRow{"01 R. 05 A PIC X. 66 C.", "1:19 bad-clause"},
+        ImportRow{"01 R. 05 A PIC X. 05 B REDEFINES X PIC X. 05 C REDEFINES B PIC X.",
+                  "1:34 lost-redefined"},
+        ImportRow{"01 R. 05 A PIC X. 66 B RENAMES A. 66 C RENAMES B.", "1:48 lost-renamed"},
+        ImportRow{"01 R. 05 A PIC X(2) OCCURS 2000000000. 66 B RENAMES A.", "1:7 too-large"},
+        ImportRow{"01 R. 05 A. 10 X PIC X(5). 10 Y PIC X. 05 B REDEFINES A. 10 Z PIC X.\n"
+                  "66 D RENAMES Y THRU Z.",
+                  "2:14 lost-renamed"},
         ImportRow{"01 A TYPE T.", "1:11 lost-type"}, ImportRow{"01 A LIKE B.", "1:11 lost-type"},
         ImportRow{"01 A. 05 B LIKE A.", "1:17 lost-type"},
         ImportRow{"01 A. 05 B. 10 C SAME AS A.", "1:26 lost-type"},
@@ -140,22 +253,50 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Values, ImportProblemTest,
-    testing::Values(ImportRow{"78 K VALUE 1 / 0.", "1:12 bad-constant"},
-                    ImportRow{"78 K VALUE NEXT.", "1:12 bad-constant"},
-                    ImportRow{"78 K VALUE H\"0G\".", "1:12 bad-constant"},
-                    ImportRow{"01 K CONSTANT FROM NOWHERE.", "1:20 bad-constant"},
-                    ImportRow{"78 K VALUE 9223372036854775807 + 1.", "1:12 bad-constant"},
-                    ImportRow{"78 K VALUE ((((1).", "1:12 bad-constant"},
-                    ImportRow{"78 K VALUE B#102.", "1:12 bad-constant"},
-                    ImportRow{"78 K VALUE O#8.", "1:12 bad-constant"},
-                    ImportRow{"78 K VALUE X#-1.", "1:12 bad-constant"},
-                    ImportRow{"78 K VALUE 9223372036854775807 * 2.", "1:12 bad-constant"},
-                    ImportRow{"78 K VALUE 0 - 9223372036854775807 - 2.", "1:12 bad-constant"},
-                    ImportRow{"78 K VALUE LENGTH OF N'AB'.", "1:12 bad-constant"},
-                    ImportRow{"01 A PIC X. 88 C.", "1:16 no-value"},
-                    ImportRow{"01 A PIC X. 88 C VALUE NOWHERE.", "1:24 no-value, 1:16 no-value"},
-                    ImportRow{"88 C VALUE 1.", "1:4 no-item"},
-                    ImportRow{"01 A PIC X. 88 C VALUE X'00' X'01'.", "1:24 coded-literal"}));
+    testing::Values(
+        ImportRow{"78 K VALUE 1 / 0.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE NEXT.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE H\"0G\".", "1:12 bad-constant"},
+        ImportRow{"01 K CONSTANT FROM NOWHERE.", "1:20 bad-constant"},
+        ImportRow{"78 K VALUE 9223372036854775807 + 1.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE ((((1).", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE B#102.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE O#8.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE X#-1.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE 9223372036854775807 * 2.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE 0 - 9223372036854775807 - 2.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE LENGTH OF N'AB'.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE Z#1.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE LENGTH OF NOWHERE.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE LENGTH OF 5.", "1:12 bad-constant"},
+        ImportRow{"01 R. 05 A PIC X. 78 K VALUE LENGTH OF 5.", "1:30 bad-constant"},
+        ImportRow{"01 R. 05 A PIC X. 78 K VALUE LENGTH OF B.", "1:30 bad-constant"},
+        ImportRow{"01 R. 05 A PIC X. 78 K VALUE LENGTH OF A OF B.", "1:30 bad-constant"},
+        ImportRow{"01 R. 05 A PIC X(2) OCCURS 2000000000. 78 L VALUE LENGTH OF R.",
+                  "1:51 bad-constant, 1:7 too-large"},
+        ImportRow{"78 K VALUE 'AB'. 01 A PIC X(K).", "1:27 bad-picture"},
+        ImportRow{"01 A PIC X. 88 C VALUE 'B' & 5.", "1:28 no-value"},
+
+        ImportRow{"78 K VALUE 1 + 'A'.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE 'A' & 1.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE 1.5 + 1.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE 2 1.5.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE 1).", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE 1 + 2).", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE H\"FFFFFFFFFFFFFFFFF\".", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE 9223372036854775807 + 1 + 1.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE 9223372036854775807 + 1 -1.", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE (9223372036854775807 + 1).", "1:12 bad-constant"},
+        ImportRow{"78 K VALUE (0 - 9223372036854775807 - 1) / -1.", "1:12 bad-constant"},
+        ImportRow{"01 K CONSTANT FROM 'N'.", "1:20 bad-constant"},
+        ImportRow{"78 VALUE 5.", "1:10 bad-constant"},
+        ImportRow{"01 A PIC X. 88 VALUE 'B'.", "1:16 no-value"},
+        ImportRow{"01 A PIC X. 88 C VALUE 'B' THRU NOWHERE.", "1:33 no-value, 1:16 no-value"},
+        ImportRow{"01 A PIC X. 88 C VALUE ALL NOWHERE.", "1:24 no-value, 1:16 no-value"},
+        ImportRow{"01 A PIC X. 88 C.", "1:16 no-value"},
+        ImportRow{"01 A PIC X. 88 C VALUE NOWHERE.", "1:24 no-value, 1:16 no-value"},
+        ImportRow{"88 C VALUE 1.", "1:4 no-item"},
+        ImportRow{"01 A PIC X. 88 C VALUE X'00' X'01'.", "1:24 coded-literal"}));
 
 // Whole sources.
 class ImportSourceProblemTest : public testing::TestWithParam<ImportRow> {};
@@ -206,6 +347,36 @@ INSTANTIATE_TEST_SUITE_P(
                   "3:7 system-copybook, 2:1 no-picture, 3:1 system-record"},
         ImportRow{"01 A PIC ZZ.ZZZ.ZZ9,99.", "1:1 copybook, 1:10 comma-assumed"},
         ImportRow{"DATA DIVISION.", "1:1 copybook, 1:1 no-program"},
+        ImportRow{"SCREEN SECTION.\n01 A.", "1:1 copybook, 1:1 passed-over-section"},
+        ImportRow{"REPORT SECTION.\nRD A.", "1:1 copybook, 1:1 passed-over-section"},
+        ImportRow{"PROGRAM-ID. T.\nCOMMUNICATION SECTION.\nCD A.", "2:1 passed-over-section"},
+        ImportRow{"78 K VALUE NEXT.", "1:1 copybook, 1:12 bad-constant"},
+        ImportRow{"01 A PIC Q.", "1:1 copybook, 1:10 bad-picture"},
+        ImportRow{"INDEX A.", "1:8 no-program"},
+        ImportRow{"PROGRAM-ID. T AS ''.", "1:1 no-program-name"},
+        ImportRow{"PROGRAM-ID. T. PROCEDURE DIVISION\nMAIN SECTION.", "1:26 no-period"},
+        ImportRow{"PROGRAM-ID. T. SPECIAL-NAMES.\nCALL-CONVENTION 99999999999 IS FAST.\n"
+                  "PROCEDURE DIVISION FAST.",
+                  "3:20 lost-convention"},
+        ImportRow{"PROGRAM-ID. T. SPECIAL-NAMES.\nCALL-CONVENTION -99999999999 IS FAST.\n"
+                  "PROCEDURE DIVISION FAST.",
+                  "3:20 lost-convention"},
+        ImportRow{"PROGRAM-ID. T. SPECIAL-NAMES.\nCALL-CONVENTION EIGHT IS FAST.\n"
+                  "PROCEDURE DIVISION FAST.",
+                  "3:20 lost-convention"},
+        ImportRow{"PROGRAM-ID. T. SPECIAL-NAMES.\nCALL-CONVENTION 8 IS 'FAST'.\n"
+                  "PROCEDURE DIVISION FAST.",
+                  "3:20 lost-convention"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION.\nBASED-STORAGE SECTION.\n01 A PIC X.",
+                  "2:1 passed-over-clause"},
+        ImportRow{
+            "PROGRAM-ID. T. DATA DIVISION. FILE SECTION.\nFD F\nLINKAGE SECTION.\n01 A PIC X.",
+            "2:4 no-select"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION. FILE SECTION.\nFD F", "2:4 no-select"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION. FILE SECTION.\nFD .\n01 A PIC X.",
+                  "2:4 unknown-text"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION. FILE SECTION.\nFD .", "2:4 unknown-text"},
+        ImportRow{"PROGRAM-ID. T. DATA DIVISION.\nFANCY SECTION.\n01 A PIC X.", "2:1 unknown-text"},
         ImportRow{"78 A VALUE 1.", "1:1 copybook"}, ImportRow{"SELECT A ASSIGN B.", "1:1 copybook"},
         ImportRow{"FUNCTION-ID. F.\nPROCEDURE DIVISION.\nEND FUNCTION F.",
                   "1:1 passed-over-program, 3:15 nothing-to-import"}));

@@ -99,8 +99,8 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{". P. IF A = B ENTRY 'E' USING A DISPLAY B END-IF.", "T; E A/reference"},
         ImportRow{". P. ENTRY 'E' USING A MOVE B TO C.", "T; E A/reference"},
         ImportRow{". P. SET X TO ENTRY 'E'.", "T"}, ImportRow{". P. DISPLAY 'ENTRY \"E\"'.", "T"},
-        ImportRow{". P. PERFORM ENTRY-POINT.", "T"}, ImportRow{".\n*> ENTRY 'E'.\nP. GOBACK.", "T"},
-        ImportRow{". P. ENTRY FOR GO TO 'E'.", "T"},
+        ImportRow{". P. ENTRY ''. ENTRY A.", "T"}, ImportRow{". P. PERFORM ENTRY-POINT.", "T"},
+        ImportRow{".\n*> ENTRY 'E'.\nP. GOBACK.", "T"}, ImportRow{". P. ENTRY FOR GO TO 'E'.", "T"},
         ImportRow{". DECLARATIVES. S SECTION. USE AFTER ERROR PROCEDURE ON F. END DECLARATIVES. "
                   "P. ENTRY 'E'.",
                   "T; E"},
@@ -149,11 +149,128 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"FUNCTION-ID. F. DATA DIVISION. WORKING-STORAGE SECTION. 01 X PIC X. "
                   "PROCEDURE DIVISION. GOBACK. END FUNCTION F. PROGRAM-ID. A.",
                   "A: "},
+        ImportRow{"PROGRAM-ID. A. DATA DIVISION. WORKING-STORAGE SECTION. 01 X PIC X. "
+                  "IDENTIFICATION DIVISION. PROGRAM-ID. B.",
+                  "A: X 0+1; B: "},
+        ImportRow{"PROGRAM-ID. A. DATA DIVISION. WORKING-STORAGE SECTION. 01 X PIC X. "
+                  "ID DIVISION. PROGRAM-ID. B.",
+                  "A: X 0+1; B: "},
+        ImportRow{"PROGRAM-ID. A. SPECIAL-NAMES. DECIMAL-POINT IS COMMA. END PROGRAM A. "
+                  "PROGRAM-ID. B. DATA DIVISION. WORKING-STORAGE SECTION. 01 X PIC Z,ZZ9.99.",
+                  "A: ; B: X 0+8"},
+        ImportRow{"PROGRAM-ID. A. SPECIAL-NAMES. DECIMAL-POINT IS COMMA. "
+                  "PROGRAM-ID. B. SPECIAL-NAMES. DECIMAL-POINT IS COMMA. DATA DIVISION. "
+                  "WORKING-STORAGE SECTION. 01 X PIC Z.ZZ9,99.",
+                  "A: ; B: X 0+8"},
+        ImportRow{"PROGRAM-ID. A. ENVIRONMENT DIVISION. LINKAGE SECTION. 01 X PIC X.", "A: X 0+1"},
+        ImportRow{"PROGRAM-ID. A. ENVIRONMENT DIVISION. LOCAL-STORAGE SECTION. 01 X PIC X.",
+                  "A: X 0+1"},
+        ImportRow{"PROGRAM-ID. A. ENVIRONMENT DIVISION. FILE SECTION. FD F. 01 X PIC X.",
+                  "A: X 0+1"},
+        ImportRow{"PROGRAM-ID. A. BASED-STORAGE SECTION. 01 X PIC X.", "A: X 0+1"},
+        ImportRow{
+            "PROGRAM-ID. A. CONSTANT SECTION. 01 N CONSTANT 3. LINKAGE SECTION. 01 X PIC X(N).",
+            "A: X 0+3"},
+        ImportRow{"PROGRAM-ID. A. INPUT-OUTPUT SECTION. FILE-CONTROL. SELECT F ASSIGN G "
+                  "DATA DIVISION. FILE SECTION. FD F. 01 X PIC X.",
+                  "A: X 0+1"},
+        ImportRow{"PROGRAM-ID. A. FILE SECTION. FD F. 01 X PIC X. FD F. 01 Y PIC XX.",
+                  "A: X 0+1, Y 0+2"},
+        ImportRow{"PROGRAM-ID A. DATA DIVISION. WORKING-STORAGE SECTION. 01 X PIC X.", "A: X 0+1"},
+        ImportRow{"PROGRAM-ID. A DATA DIVISION. WORKING-STORAGE SECTION. 01 X PIC X.", "A: X 0+1"},
+        ImportRow{"END PROGRAM A. PROGRAM-ID. B.", "B: "},
+        ImportRow{"FUNCTION-ID. F. PROGRAM-ID. A.", "A: "},
+        ImportRow{"ENUM-ID. E. END ENUM E. PROGRAM-ID. A.", "A: "},
+        ImportRow{
+            "CLASS-ID. C. METHOD-ID. M. END CLASS C. END METHOD M. END CLASS C. PROGRAM-ID. A.",
+            "A: "},
+        ImportRow{"INTERFACE-ID. I. END INTERFACE I. VALUETYPE-ID. V. PROGRAM-ID. A.", "A: "},
+        ImportRow{"77 X PIC X.", "T: X 0+1"}, ImportRow{"SD F. 01 X PIC X.", "T: X 0+1"},
+        ImportRow{"SELECT F ASSIGN G. SD F. 01 X PIC X.", "T: X 0+1"},
+        ImportRow{"INPUT-OUTPUT SECTION. FILE-CONTROL. SELECT F ASSIGN G. FD F. 01 X PIC X.",
+                  "T: X 0+1"},
+        ImportRow{"ENVIRONMENT DIVISION. FILE-CONTROL. SELECT F ASSIGN G. FILE SECTION. "
+                  "FD F. 01 X PIC X.",
+                  "T: X 0+1"},
+        ImportRow{"DATA DIVISION. WORKING-STORAGE SECTION. 01 X PIC X.", "T: X 0+1"},
         ImportRow{"01 X PIC X. 01 Y PIC XX.", "T: X 0+1, Y 0+2"},
         ImportRow{"05 X PIC X. 05 Y PIC XX.", "T: T 0+3, X 0+1, Y 1+2"},
         ImportRow{"10 X PIC X. 05 Y PIC XX. 01 Z PIC X.", "T: T 0+3, X 0+1, Y 1+2, Z 0+1"},
         ImportRow{"FD F. 01 X PIC X.", "T: X 0+1"},
         ImportRow{"LINKAGE SECTION. 01 X PIC X.", "T: X 0+1"}));
+
+// What SPECIAL-NAMES says of pictures: a paragraph with entries behind it.
+class ImportSymbolTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportSymbolTest, CountsInPictures) {
+  const std::string source = std::string("PROGRAM-ID. T. SPECIAL-NAMES. ") + GetParam().source;
+  EXPECT_EQ(test::placesOf(dictionaryOf(importOf(source))), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ImportSymbolTest,
+    testing::Values(
+        ImportRow{"CURRENCY SIGN IS '#'. WORKING-STORAGE SECTION. 01 A PIC ##9.", "A 0+3"},
+        ImportRow{"CURRENCY '#'. WORKING-STORAGE SECTION. 01 A PIC ##9.", "A 0+3"},
+        ImportRow{"CURRENCY 'EUR' PICTURE SYMBOL 'E'. WORKING-STORAGE SECTION. 01 A PIC EE9.",
+                  "A 0+5"},
+        ImportRow{"CURRENCY 'EUR' WITH PIC SYMBOL 'E'. WORKING-STORAGE SECTION. 01 A PIC EE9.",
+                  "A 0+5"},
+        ImportRow{"CURRENCY '#' CURRENCY 'EUR' PICTURE SYMBOL 'E'. WORKING-STORAGE SECTION. "
+                  "01 A PIC ##9. 01 B PIC EE9.",
+                  "A 0+3, B 0+5"},
+        ImportRow{"CURRENCY 'EUR'. WORKING-STORAGE SECTION. 01 A PIC $$9.", "A 0+3"},
+        ImportRow{"CURRENCY SIGN IS CUR. WORKING-STORAGE SECTION. 01 A PIC $$9.", "A 0+3"},
+        ImportRow{"DECIMAL-POINT IS PERIOD. WORKING-STORAGE SECTION. 01 A PIC Z,ZZ9.99.",
+                  "A 0+8"}));
+
+// Copybooks are called like their files.
+class ImportStemTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportStemTest, IsTheNameOfTheProgram) {
+  const Imported imported =
+      as::toolkit::importCobol("01 A PIC X.", GetParam().source, nullptr, freeFormat());
+  ASSERT_EQ(imported.programs.size(), 1U);
+  EXPECT_EQ(imported.programs.front().name, GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ImportStemTest,
+                         testing::Values(ImportRow{"A.cpy", "A"}, ImportRow{"lib\\a_b", "a_b"},
+                                         ImportRow{"a b.c.cpy", "a-b-c"}, ImportRow{".cpy", "-cpy"},
+                                         ImportRow{"lib/", "COPYBOOK"},
+                                         ImportRow{"stra\xC3\x9F"
+                                                   "e.cpy",
+                                                   "stra\xC3\x9F"
+                                                   "e"}));
+
+TEST(ImportPrograms, AreNoneOfAnEmptyCopybook) {
+  auto options = freeFormat();
+  options.isCopybook = true;
+  const Imported imported = as::toolkit::importCobol("", "T.cpy", nullptr, options);
+  EXPECT_TRUE(imported.programs.empty());
+  EXPECT_EQ(test::findingsOf(imported), "0:0 no-program");
+}
+
+TEST(ImportPrograms, TellTheCodePageThatWasTold) {
+  auto options = freeFormat();
+  options.encoding = "ISO-8859-1";
+  EXPECT_THAT(dictionaryOf(importOf("PROGRAM-ID. T.", options)),
+              testing::HasSubstr("name=\"codePage\" value=\"ISO-8859-1\""));
+}
+
+// Whoever nests deeper forgot to end programs: the names of the first ones are not those of the
+// last ones.
+TEST(ImportPrograms, HaveNamesOfTheProgramsAroundThem) {
+  const auto nested = [](int count) {
+    std::string source =
+        "PROGRAM-ID. A. DATA DIVISION. WORKING-STORAGE SECTION. 78 N VALUE 3.\n"
+        "PROCEDURE DIVISION. GOBACK.\n";
+    for (int i = 1; i < count; ++i) source += "PROGRAM-ID. B. PROCEDURE DIVISION. GOBACK.\n";
+    return source + "PROGRAM-ID. C. DATA DIVISION. WORKING-STORAGE SECTION. 01 X PIC X(N).";
+  };
+  EXPECT_FALSE(importOf(nested(50)).programs.back().isRefused());
+  EXPECT_TRUE(importOf(nested(51)).programs.back().isRefused());
+}
 
 TEST(ImportPrograms, AreNamedByLiteralsToo) {
   const Imported imported = importOf("PROGRAM-ID. \"a b\" AS \"c&d\". PROCEDURE DIVISION.");
@@ -326,5 +443,104 @@ INSTANTIATE_TEST_SUITE_P(
                   "  T.cbl:6: starts where A starts, at offset 0\n"
                   "  T.cbl:7: ends where G ends: 28 bytes\n"},
         ImportRow{"NOWHERE", ""}));
+
+// Entries from line 5 on, an item, and how its place came about.
+struct ReasonRow {
+  const char* entries;
+  const char* item;
+  const char* explanation;
+};
+
+void PrintTo(const ReasonRow& row, std::ostream* out) { *out << row.entries; }
+
+class ImportReasonTest : public testing::TestWithParam<ReasonRow> {};
+
+TEST_P(ImportReasonTest, IsThatOfTheRow) {
+  const Imported imported = importOf(test::programOf(GetParam().entries));
+  ASSERT_EQ(imported.programs.size(), 1U);
+  std::string text;
+  for (const auto& item : explainItem(imported.programs.front(), GetParam().item)) {
+    text += textOf(item) + "\n";
+  }
+  EXPECT_EQ(text, GetParam().explanation) << test::problemsOf(imported);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ImportReasonTest,
+    testing::Values(ReasonRow{"01 T TYPEDEF.\n05 A PIC X(2).\n01 R TYPE T.", "R.A",
+                              "R.A: bytes 0 to 1\n"
+                              "  T.cbl:6: described like T.A\n"
+                              "  T.cbl:6: PICTURE X(2): 2 characters\n"
+                              "  T.cbl:6: 2 bytes as DISPLAY in dialect ibm\n"
+                              "  T.cbl:7: first in R, which starts at offset 0\n"
+                              "  T.cbl:6: offset 0\n"},
+                    ReasonRow{"01 A PIC X(2).\n01 B LIKE A.", "B",
+                              "B: bytes 0 to 1\n"
+                              "  T.cbl:5: described like A\n"
+                              "  T.cbl:6: PICTURE X(2): 2 characters\n"
+                              "  T.cbl:6: 2 bytes as DISPLAY in dialect ibm\n"
+                              "  T.cbl:6: a record: starts at offset 0\n"
+                              "  T.cbl:6: offset 0\n"},
+                    ReasonRow{"01 A PIC 9(3)P(2).", "A",
+                              "A: bytes 0 to 2\n"
+                              "  T.cbl:5: PICTURE 9(3)P(2): 5 digits, 2 not stored, unsigned\n"
+                              "  T.cbl:5: 3 bytes as DISPLAY in dialect ibm\n"
+                              "  T.cbl:5: a record: starts at offset 0\n"
+                              "  T.cbl:5: offset 0\n"},
+                    ReasonRow{"01 A INDEX.", "a",
+                              "A: bytes 0 to 3\n"
+                              "  T.cbl:5: USAGE INDEX\n"
+                              "  T.cbl:5: 4 bytes as INDEX in dialect ibm\n"
+                              "  T.cbl:5: a record: starts at offset 0\n"
+                              "  T.cbl:5: offset 0\n"},
+                    ReasonRow{"01 A PIC +9.9E+99 DISPLAY.", "A",
+                              "A: bytes 0 to 7\n"
+                              "  T.cbl:5: PICTURE +9.9E+99: 2 digits, 1 behind the point, signed\n"
+                              "  T.cbl:5: 8 bytes in dialect ibm\n"
+                              "  T.cbl:5: a record: starts at offset 0\n"
+                              "  T.cbl:5: offset 0\n"},
+                    ReasonRow{"01 R SIGN TRAILING SEPARATE.\n05 A PIC S9.", "A",
+                              "R.A: bytes 0 to 1\n"
+                              "  T.cbl:6: PICTURE S9: 1 digit, signed\n"
+                              "  T.cbl:5: SIGN SEPARATE: a character of its own\n"
+                              "  T.cbl:6: 2 bytes as DISPLAY in dialect ibm\n"
+                              "  T.cbl:5: first in R, which starts at offset 0\n"
+                              "  T.cbl:6: offset 0\n"},
+                    ReasonRow{"01 G.\n05 A PIC X.", "G",
+                              "G: bytes 0 to 0\n"
+                              "  T.cbl:5: a group: its members take 1 byte\n"
+                              "  T.cbl:5: a record: starts at offset 0\n"
+                              "  T.cbl:5: offset 0\n"},
+                    ReasonRow{
+                        "01 R.\n05 A PIC X(4).\n05 B REDEFINES A PIC X SYNC.\n05 C OCCURS 3 PIC X.",
+                        "R.C",
+                        "R.C: bytes 4 to 4\n"
+                        "  T.cbl:8: PICTURE X: 1 character\n"
+                        "  T.cbl:8: 1 byte as DISPLAY in dialect ibm\n"
+                        "  T.cbl:6: follows A, which ends at offset 4\n"
+                        "  T.cbl:8: offset 4\n"
+                        "  T.cbl:8: occurs 3 times: 3 bytes\n"},
+                    ReasonRow{"01 R.\n05 A PIC X(4).\n05 B REDEFINES A PIC X SYNC.", "R.B",
+                              "R.B: bytes 0 to 0\n"
+                              "  T.cbl:7: PICTURE X: 1 character\n"
+                              "  T.cbl:7: 1 byte as DISPLAY in dialect ibm\n"
+                              "  T.cbl:6: redefines A: starts where that starts\n"
+                              "  T.cbl:7: offset 0\n"},
+                    ReasonRow{"01 R.\n05 A PIC X.\n05 B PIC X.", "Q.B", ""},
+                    ReasonRow{"01 A PIC Q.", "A", ""}));
+
+TEST(ImportReasons, AreNoneWithoutAProgram) {
+  EXPECT_TRUE(explainItem(ImportedProgram(), "A").empty());
+  ImportedProgram program;
+  program.dictionary = "<dictionary/>";
+  EXPECT_TRUE(explainItem(program, "A").empty());
+}
+
+TEST(ImportReasons, TellOfItemsWithoutBytes) {
+  as::toolkit::ItemExplanation explanation;
+  explanation.item = "R.A";
+  explanation.steps = {{{"T.cbl", 3, 0}, "offset 0"}};
+  EXPECT_EQ(textOf(explanation), "R.A: no bytes\n  T.cbl:3: offset 0");
+}
 
 }  // namespace

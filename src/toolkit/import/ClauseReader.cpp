@@ -48,7 +48,7 @@ void ClauseReader::readName(DataEntry& entry) {
   } else if (role == KeywordRole::usage) {
     const bool mayBeName = word.meaning.usage == Usage::bit || word.is(Keyword::object);
     // "77 FLOAT COMP-1" is called FLOAT.
-    const bool isBeforeUsage = next.meaning.role == KeywordRole::usage && !word.is(Keyword::object);
+    const bool isBeforeUsage = next.meaning.role == KeywordRole::usage;
     isName = isBeforeUsage || (mayBeName && next.meaning.role == KeywordRole::clause);
   }
   if (!isName) return;
@@ -161,11 +161,11 @@ bool ClauseReader::readClause(DataEntry& entry) {
       return references_.read(entry, NameReference::Kind::like);
     case Keyword::any:
       words_.skip();
-      entry.impliedSize = 1;
       entry.isImpliedNumeric = words_.accept(Keyword::numeric);
       if (!entry.isImpliedNumeric && !words_.accept(Keyword::length)) {
         return problems_.badClause(entry.name, place, "ANY is not followed by LENGTH or NUMERIC");
       }
+      entry.impliedSize = 1;
       problems_.tell(EntryRule::notThatLong, place,
                      entry.name + " is of any length: it counts with that of its PICTURE");
       return true;

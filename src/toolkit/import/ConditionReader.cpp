@@ -16,7 +16,10 @@ bool isCoded(const std::string& prefix) {
 void ConditionReader::read(DataEntry* item) {
   ConditionEntry condition;
   condition.place = words_.peek().token.place;
-  if (words_.peek().is(TokenKind::word)) condition.name = words_.take().token.text;
+  const Word& name = words_.peek();
+  const bool isNamed =
+      name.is(TokenKind::word) && !name.is(Keyword::value) && !name.is(Keyword::values);
+  if (isNamed) condition.name = words_.take().token.text;
   condition.firstValue = static_cast<Index>(program_.values.size());
   if (!words_.accept(Keyword::value)) words_.accept(Keyword::values);
   words_.accept(Keyword::isWord);

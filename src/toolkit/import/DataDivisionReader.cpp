@@ -116,8 +116,11 @@ void DataDivisionReader::skipSection() {
 void DataDivisionReader::readFile() {
   records_.enter(DataSection::file);
   words_.skip();
-  const Word name = words_.take();
-  if (!name.is(TokenKind::word)) {
+  const Word name = words_.peek();
+  const bool isNamed = name.is(TokenKind::word);
+  if (isNamed) {
+    words_.skip();
+  } else {
     problems_.tell(EntryRule::unknownText, name.token.place, "FD is followed by no name");
   }
   // A record whose level number stands behind a missing period would be lost.
@@ -132,7 +135,7 @@ void DataDivisionReader::readFile() {
     file.nameId = id;
     program_.files.push_back(std::move(file));
     files_[id] = at;
-    if (!program_.isCopybook) {
+    if (isNamed && !program_.isCopybook) {
       problems_.tell(EntryRule::noSelect, name.token.place,
                      name.token.text + " has no SELECT entry");
     }

@@ -32,11 +32,13 @@ class EntryFinder {
   // its answer is kept.
   Found find(const std::vector<NameReference::Name>& names, Range range);
 
+  // Whether the entry, which may not be added yet, stands in groups of the names behind the first.
+  bool isQualified(Index entry, const std::vector<NameReference::Name>& names) const;
+
  private:
   using Entries = std::vector<Index>;
 
   const Entries* entriesOf(Index nameId) const;
-  bool isQualified(Index entry, const std::vector<NameReference::Name>& names) const;
   Found search(const std::vector<NameReference::Name>& names, Range range) const;
 
   const CobolProgram& program_;

@@ -21,6 +21,23 @@ int lengthOf(const std::string& text) {
   }));
 }
 
+bool isSectionOfData(const Word& word) {
+  switch (word.meaning.keyword) {
+    case Keyword::file:
+    case Keyword::workingStorage:
+    case Keyword::localStorage:
+    case Keyword::basedStorage:
+    case Keyword::constant:
+    case Keyword::linkage:
+    case Keyword::communication:
+    case Keyword::report:
+    case Keyword::screen:
+      return true;
+    default:
+      return false;
+  }
+}
+
 }  // namespace
 
 bool EnvironmentReader::isAtEnd() {
@@ -29,8 +46,7 @@ bool EnvironmentReader::isAtEnd() {
   const Word& next = words_.peek(1);
   if (word.is(Keyword::end)) return next.is(TokenKind::word);
   if (next.is(Keyword::division)) return !word.is(Keyword::environment);
-  return next.is(Keyword::section) && (word.is(Keyword::file) || word.is(Keyword::workingStorage) ||
-                                       word.is(Keyword::localStorage) || word.is(Keyword::linkage));
+  return next.is(Keyword::section) && isSectionOfData(word);
 }
 
 // In a copybook entries follow without a header.

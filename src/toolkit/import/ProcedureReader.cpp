@@ -39,10 +39,11 @@ void ProcedureReader::readHeader(const std::string& name) {
   words_.skip();
   const SourcePlace division = words_.take().token.place;
   const Word& next = words_.peek();
-  const bool isParagraph = next.is(TokenKind::word) && next.meaning.keyword == Keyword::name &&
-                           next.token.place.line != division.line &&
-                           words_.peek(1).is(TokenKind::period);
-  if (isParagraph) {
+  const bool isParagraphOrSection =
+      next.is(TokenKind::word) && next.meaning.keyword == Keyword::name &&
+      next.token.place.line != division.line &&
+      (words_.peek(1).is(TokenKind::period) || words_.peek(1).is(Keyword::section));
+  if (isParagraphOrSection) {
     problems_.tell(EntryRule::noPeriod, division, "there is no period behind PROCEDURE DIVISION");
     program_.entryPoints.push_back(std::move(entryPoint));
     return;

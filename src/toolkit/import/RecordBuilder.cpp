@@ -194,7 +194,7 @@ std::optional<std::int64_t> RecordBuilder::lengthOf(const NameReference& referen
   };
   const Index end = record_ == none ? size() : record_;
   const Index known = finder_.find(reference.names, {0, end}).entry;
-  if (known != none || record_ == none || reference.names.size() != 1) return sizeOf(known);
+  if (known != none || record_ == none || reference.names.empty()) return sizeOf(known);
   relaidEntries_ += size() - record_;
   if (relaidEntries_ > mostRelaid) return std::nullopt;
   // What stands there of the open record so far; what it does not say yet is said when it is
@@ -202,7 +202,8 @@ std::optional<std::int64_t> RecordBuilder::lengthOf(const NameReference& referen
   EntryProblems silent([](EntryRule, const SourcePlace&, const std::string&) {});
   placeRecord(silent);
   for (Index i = record_; i < size(); ++i) {
-    if (at(i).nameId == reference.names.front().id) return sizeOf(i);
+    const bool isMeant = at(i).nameId == reference.names.front().id;
+    if (isMeant && finder_.isQualified(i, reference.names)) return sizeOf(i);
   }
   return std::nullopt;
 }

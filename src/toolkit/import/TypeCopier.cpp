@@ -34,9 +34,9 @@ Index TypeCopier::sourceOf(const NameReference& reference, Index record,
   const Index known = finder_.find(reference.names, {0, record}).entry;
   if (known != none) return known;
   // Of the record that is being built, what stands in front.
-  for (Index before = size() - 2; reference.names.size() == 1 && before >= record; --before) {
+  for (Index before = size() - 2; before >= record; --before) {
     if (++looked_ > mostLooked) return none;
-    if (at(before).nameId == name) return before;
+    if (at(before).nameId == name && finder_.isQualified(before, reference.names)) return before;
   }
   return none;
 }

@@ -93,7 +93,9 @@ void UsageReader::readPhrases(DataEntry& entry) {
   }
   if (usage != Usage::objectReference) return;
   if (words_.accept(Keyword::factory)) words_.accept(Keyword::of);
-  if (words_.peek().is(TokenKind::word) && !isClause(words_.peek())) words_.skip();
+  const bool isClass =
+      words_.peek().is(TokenKind::word) && !isClause(words_.peek()) && !isAtNextEntry(words_);
+  if (isClass) words_.skip();
   words_.accept(Keyword::only);
 }
 
