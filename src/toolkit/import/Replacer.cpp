@@ -19,13 +19,10 @@ Replacer::Replacer(TextWordSource& source, const Replacements& replacements, Tex
                    ImportBudget& budget)
     : replacements_(replacements), budget_(budget), words_(source, arena) {}
 
-// Whether there are so many words in the window, in front of a barrier.
-bool Replacer::fill(std::size_t count) {
+// Reads until there are so many words in the window. No text matches a barrier or the end, so that
+// none is looked for behind them.
+void Replacer::fill(std::size_t count) {
   while (window_.size() - first_ < count) {
-    if (window_.size() > first_ && (window_.back().kind == TextWord::Kind::barrier ||
-                                    window_.back().kind == TextWord::Kind::end)) {
-      return false;
-    }
     // What was given is left behind when it is as much as what was not.
     if (first_ > window_.size() / 2) {
       window_.erase(window_.begin(), window_.begin() + static_cast<std::ptrdiff_t>(first_));
@@ -33,7 +30,6 @@ bool Replacer::fill(std::size_t count) {
     }
     words_.read(window_.emplace_back());
   }
-  return true;
 }
 
 void Replacer::drop(std::size_t count) { first_ += count; }
@@ -42,7 +38,7 @@ bool Replacer::matches(const Replacement& replacement) {
   const std::vector<TextWord>& wanted = replacement.words;
   for (std::size_t i = 0; i < wanted.size(); i++) {
     comparisons_++;
-    if (!fill(i + 1)) return false;
+    fill(i + 1);
     const TextWord& word = window_[first_ + i];
     const bool isLeading = replacement.part == Replacement::Part::leading && i + 1 == wanted.size();
     const bool isTrailing = replacement.part == Replacement::Part::trailing && i == 0;

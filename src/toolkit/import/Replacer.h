@@ -26,7 +26,7 @@ class Replacer : public TextWordSource {
   void read(TextWord& word) override;
 
  private:
-  bool fill(std::size_t count);
+  void fill(std::size_t count);
   bool matches(const Replacement& replacement);
   void replace(const Replacement& replacement);
   void drop(std::size_t count);
