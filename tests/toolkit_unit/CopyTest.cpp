@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "toolkit/import/ImportLimits.h"
@@ -95,6 +96,24 @@ const ReadingRow rows[] = {
      {"SOURCE-COMPUTER. X DEBUGGING MODE.\nCOPY B.", {{"B", ">>D A\n"}}},
      "SOURCE-COMPUTER . X DEBUGGING MODE . A"},
     {"PanvaletInclude", {"++INCLUDE B\nA", {{"B", "D"}}}, "D A"},
+    {"PanvaletIncludeOfNoName", {"++INCLUDE = B\nA"}, "A", "copy-syntax main:1:1"},
+    {"TitleOfNothing", {"TITLE\nA"}, "TITLE A"},
+    {"TitleThatIsNone", {"TITLE A"}, "TITLE A"},
+    {"CopyThatIsAName", {"COPY = A"}, "COPY = A"},
+    {"CopybookCalledResource", {"COPY RESOURCE. A", {{"RESOURCE", "D"}}}, "D A"},
+    {"LongLibrary",
+     {"COPY B OF " + std::string(2000, 'L') + ". A", {{std::string(2000, 'L') + "/B", "D"}}},
+     "A",
+     "copybook-not-found main:1:1"},
+    {"LibraryWithAZeroByte",
+     {std::string("COPY B OF \"L\0\". A", 17), {{"B", "D"}}},
+     "A",
+     "control-character main:1:13\ncopybook-not-found main:1:1"},
+    {"SqlIncludeOfNoName",
+     {"EXEC SQL INCLUDE (B) END-EXEC. A", {{"B", "D"}}},
+     "A",
+     "exec-statement main:1:1"},
+    {"ExecOfALiteral", {"EXEC 'x' END-EXEC. A"}, "A", "exec-statement main:1:1"},
     {"PanvaletIncludeOfNothing", {"++INCLUDE\nA"}, "A", "copy-syntax main:1:1"},
 
     {"Resource", {"COPY RESOURCE \"A.BMP\". B"}, "B"},
@@ -156,6 +175,20 @@ const ReadingRow joiningRows[] = {
             "01 O-X PIC IS <X(3)> . 01 O-A PICTURE <A(X)> ."),
     joining("NamesThatBeginClausesElsewhere", "JOINING O AS PREFIX", "01 TYPE PIC X.",
             "01 O-TYPE PIC <X> ."),
+    joining("NamesInFrontOfUsages", "JOINING O AS PREFIX", "01 DATE COMP-1.", "01 O-DATE COMP-1 ."),
+    joining("NamesInFrontOfFillings", "JOINING O AS PREFIX", "01 DATE IS GLOBAL.",
+            "01 O-DATE IS GLOBAL ."),
+    joining("NamesInFrontOfTypes", "JOINING O AS PREFIX", "01 DATE TYPE T.", "01 O-DATE TYPE T ."),
+    joining("NamesOfGroupsThatBeginClausesElsewhere", "JOINING O AS PREFIX", "01 TYPE. 02 A PIC X.",
+            "01 O-TYPE . 02 O-A PIC <X> ."),
+    joining("TypesOfEntriesWithoutAName", "JOINING O AS PREFIX", "01 TYPE T. 01 A PIC X.",
+            "01 TYPE T . 01 O-A PIC <X> ."),
+    joining("LiteralsBehindWordsOfClauses", "JOINING O AS PREFIX", "01 TYPE 'T'. 01 A PIC X.",
+            "01 TYPE 'T' . 01 O-A PIC <X> ."),
+    joining("EntriesWithoutAName", "JOINING O AS PREFIX", "01 . 02 A PIC X.",
+            "01 . 02 O-A PIC <X> ."),
+    joining("NumbersThatAreNoLevels", "JOINING O AS PREFIX", "123 X. GO X. 01 A PIC X.",
+            "123 X . GO X . 01 O-A PIC <X> ."),
     joining("NoEntries", "JOINING O AS PREFIX", "MOVE A TO B.", "MOVE A TO B ."),
     joining("Disjoining", "DISJOINING I AS PREFIX", "01 I-A. 02 IB PIC X. 02 I- PIC X.",
             "01 A . 02 IB PIC <X> . 02 I- PIC <X> ."),
@@ -184,6 +217,7 @@ const ReadingRow joiningRows[] = {
      "copy-period main:1:1"},
     joining("NeitherPrefixNorSuffix", "JOINING O", "01 A PIC X.", "01 A PIC <X> .",
             "copy-syntax main:1:1"),
+    joining("DisjoiningOther", "DISJOINING I AS PREFIX", "01 XX-A PIC X.", "01 XX-A PIC <X> ."),
     joining("NoWord", "JOINING", "01 A PIC X.", "01 A PIC <X> .", "copy-syntax main:1:1"),
     joining("NoWordToPrefix", "PREFIXING", "01 A PIC X.", "01 A PIC <X> .", "copy-syntax main:1:1"),
     {"NestedCopies",
@@ -248,6 +282,13 @@ TEST(CopyLimits, NestingIsBounded) {
   const test::Reading beyond = test::readingOf({"COPY B0. C", chain(most, 1)});
   EXPECT_EQ(beyond.words, "C");
   EXPECT_THAT(beyond.texts, HasSubstr("copybooks nest deeper than 100"));
+}
+
+TEST(CopyLimits, KindsOfExecStatementsAreBounded) {
+  std::string text;
+  for (int i = 0; i < 30; i++) text += "EXEC K" + std::to_string(i) + " X END-EXEC. ";
+  const std::string findings = test::readingOf({text + text}).findings;
+  EXPECT_EQ(std::count(findings.begin(), findings.end(), '\n') + 1, 20);
 }
 
 TEST(CopyLimits, InclusionsAreBounded) {

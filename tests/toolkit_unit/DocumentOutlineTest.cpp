@@ -2,6 +2,7 @@
 // they are.
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
 
 #include "toolkit/outline/DocumentOutline.h"
@@ -51,6 +52,32 @@ TEST(DocumentOutline, HasNothingOfWhatIsNoDocument) {
                                  "<?xml encoding="}) {
     EXPECT_TRUE(DocumentOutline(text).elements().empty()) << text;
     EXPECT_TRUE(DocumentOutline(text).comments().empty()) << text;
+  }
+}
+
+// Declarations in front of an element, which are passed over, and the elements that there are.
+struct DeclarationRow {
+  const char* declarations;
+  std::size_t elements;
+};
+
+TEST(DocumentOutline, PassesOverDeclarations) {
+  for (const DeclarationRow& row :
+       {DeclarationRow{"<!DOCTYPE a>", 1}, DeclarationRow{"<!DOCTYPE a SYSTEM 'x[>.dtd'>", 1},
+        DeclarationRow{"<!DOCTYPE a PUBLIC \"[>'\" '>['>", 1},
+        DeclarationRow{"<!DOCTYPE a SYSTEM 'x", 0}, DeclarationRow{"<!DOCTYPE a []>", 1},
+        DeclarationRow{"<!DOCTYPE a [<!-- ]> --><?b ]>?><!ELEMENT a ANY>] >", 1},
+        DeclarationRow{"<!DOCTYPE a [<!ATTLIST a b CDATA '>]'>]>", 1},
+        DeclarationRow{"<!DOCTYPE a [<!-- ]>", 0}, DeclarationRow{"<!DOCTYPE a [<?b ]>", 0},
+        DeclarationRow{"<!DOCTYPE a [<!ENTITY e '<b/>'>]>", 2},
+        DeclarationRow{"<!DOCTYPE a [<!ENTITY e \"<b/>\"><!ENTITY e ''>]>", 2},
+        DeclarationRow{"<!DOCTYPE a [<!ENTITY e '&#x3C;b/&#x3e;&#60;b/>'>]>", 3},
+        DeclarationRow{"<!DOCTYPE a [<!ENTITY e SYSTEM 'b.xml'>]>", 1},
+        DeclarationRow{"<!DOCTYPE a [<!ENTITY e>]>", 1},
+        DeclarationRow{"<!DOCTYPE a [<!ENTITY e >]>", 1},
+        DeclarationRow{"<!DOCTYPE a [<!ENTITY f '<b/>'>]>", 1}}) {
+    const DocumentOutline outline(std::string(row.declarations) + "<a>&e;</a>");
+    EXPECT_EQ(outline.elements().size(), row.elements) << row.declarations;
   }
 }
 

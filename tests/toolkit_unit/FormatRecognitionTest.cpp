@@ -31,6 +31,12 @@ std::string literal(std::size_t size) { return "       A '" + std::string(size, 
 // A line up to that column.
 std::string code(std::size_t columns) { return "       " + std::string(columns - 7, 'A'); }
 
+std::string lines(int count, const std::string& line) {
+  std::string text;
+  for (int i = 0; i < count; ++i) text += line;
+  return text;
+}
+
 const Row rows[] = {
     {"Nothing", "", unknown},
     {"BlankLines", "\n   \n            \n", unknown},
@@ -43,6 +49,22 @@ const Row rows[] = {
     {"OffsetsInFrontOfEntries", " 01 24    05 A-B.\n 25 03       10 C PIC X.\n105 9     05 D.\n",
      fixed},
     {"LevelsInFrontOfNumbers", "01 A.\n 05 9 10 B.\n", free},
+    {"NumbersInFrontOfNumbers", " 01 24    05 12 A.\n", free},
+    {"NumbersInFrontOfAMark", " 01 24    05 (A).\n", free},
+    {"SmallDebuggingLine", "      d A\n", unknown},
+    {"DollarInColumn7", "      $IF A\n", unknown},
+    {"ArrowsInColumn7", "      >>IF A DEFINED\n", unknown},
+    {"NumbersWithSmallDebuggingLines", "000100d A.\n", fixed},
+    {"NumbersWithDollars", "000100$XFD A\n", fixed},
+    {"NumbersWithContinuations", "000100-A.\n", fixed},
+    {"NumbersWithPages", "000100/A.\n", fixed},
+    {"MoreThanSixDigits", "12345678\n", unknown},
+    {"LetterInColumn7AtTheEnd", "ABC   D\n", fixed},
+    {"WordBehindALetter", "    A DATE-OF\n", unknown},
+    {"ItemCalledDInSmallLetters", "    5 d PIC X.\n", unknown},
+    {"WordWithADInColumn7OfText", "RECORDER.\n", free},
+    {"LinesFarBehindAreNotLookedAt", lines(4000, "       A.\n") + star, unknown},
+    {"LinesNotSoFarBehindAre", lines(3999, "       A.\n") + star, fixed},
     {"SequenceNumbersOnly", "000100\n", fixed},
     {"SequenceNumbersWithComments", "000100*A.\n", fixed},
     {"ChangeMarksWithComments", "CR4711* A.\nCR4711 B\n", fixed},
@@ -73,6 +95,13 @@ const Row rows[] = {
     {"TextBehindTheIdentification", star + code(72) + "        A.\n", variable},
     {"TextThroughTheIdentification", star + code(79) + "AAAA\n", variable},
     {"IdentificationAndMore", star + code(72) + "ABCD0010 A.\n", fixed},
+    {"PageBehindTheMargin", star + "      / " + std::string(80, 'x') + "\n", fixed},
+    {"DollarBehindTheMargin", star + "      $XFD " + std::string(80, 'x') + "\n", fixed},
+    {"TabsInALongLine", star + "       A\t" + std::string(80, 'x') + "\n", fixed},
+    {"UmlautsInFrontOfTheMargin", star + "       " + lines(40, "\xC3\xA4") + "\n", fixed},
+    {"TextFarBehindNothing", star + std::string(85, ' ') + "B\n", variable},
+    {"BlanksBehindTheRecord", star + code(72) + std::string(20, ' ') + "\n", fixed},
+    {"LiteralInFrontOfAShortLine", star + literal(60) + " y'.\nB\n", variable},
     {"CommentBehindTheMargin", star + "      * " + std::string(80, 'x') + "\n", fixed},
     {"InlineCommentBehindTheMargin", star + "       A. *> it's " + std::string(80, 'x') + "'\n",
      fixed},

@@ -73,7 +73,7 @@ inline Reading readingOf(const Source& source, bool withPlaces = false) {
   options.format = source.format;
   options.encoding = source.encoding;
   options.most = source.most;
-  options.definitions = {{"OUTSIDE", "7"}};
+  options.definitions = {{"OUTSIDE", "7"}, {"VERSION", "7 8"}};
   as::toolkit::SourceReader reader(source.text, "main", options, &copybooks, map, findings);
   Reading result;
   as::toolkit::Token token;

@@ -62,6 +62,13 @@ std::string padded(std::string line) {
 // "A", a character of two bytes between the shifts, and "B".
 const std::string japaneseEbcdic = "\xC1\x0E\x45\x5D\x0F\xC2\x15";
 
+// So many characters that stand for what is none.
+std::string replaced(int count) {
+  std::string text;
+  for (int i = 0; i < count; ++i) text += "\xEF\xBF\xBD";
+  return text;
+}
+
 const Row rows[] = {
     {"Nothing", "", "", ""},
     {"Ascii", "A\nB\n", "", "A\nB\n"},
@@ -108,6 +115,45 @@ const Row rows[] = {
     {"Told", "A\xE4", "ISO-8859-1", "A\xC3\xA4"},
     {"ToldUtf8", "A\xC3\xA4", "UTF-8", "A\xC3\xA4"},
     {"ToldUtf8ThatIsNone", "A\xE4", "UTF-8", "A\xEF\xBF\xBD", "source-encoding main"},
+    {"Utf8OfThreeBytes", "\xE0\xA0\x80\xED\x9F\xBF\xEF\xBF\xBD", "UTF-8",
+     "\xE0\xA0\x80\xED\x9F\xBF\xEF\xBF\xBD"},
+    {"Utf8OfFourBytes", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", "UTF-8",
+     "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"},
+    {"ToldUtf8OverlongInThree", "\xE0\x9F\xBF", "UTF-8", replaced(3), "source-encoding main"},
+    {"ToldUtf8OverlongInFour", "\xF0\x8F\xBF\xBF", "UTF-8", replaced(4), "source-encoding main"},
+    {"ToldUtf8Surrogate", "\xED\xA0\x80", "UTF-8", replaced(3), "source-encoding main"},
+    {"ToldUtf8BeyondAll", "\xF4\x90\x80\x80\xF5\x80\x80\x80", "UTF-8", replaced(8),
+     "source-encoding main"},
+    {"ToldUtf8CutInTwo",
+     "\xC3"
+     "A",
+     "UTF-8", replaced(1) + "A", "source-encoding main"},
+    {"ToldUtf8CutInThree",
+     "\xE6"
+     "A\xE6\x97"
+     "A",
+     "UTF-8", replaced(1) + "A" + replaced(2) + "A", "source-encoding main"},
+    {"ToldUtf8CutInFour",
+     "\xF0"
+     "A\xF0\x9F"
+     "A\xF0\x9F\x98"
+     "A",
+     "UTF-8", replaced(1) + "A" + replaced(2) + "A" + replaced(3) + "A", "source-encoding main"},
+    {"ToldUtf8Cut", "A\xF0\x9F\x98", "UTF-8", "A" + replaced(3), "source-encoding main"},
+    {"ToldUtf8WithMark",
+     "\xEF\xBB\xBF"
+     "A",
+     "UTF-8", "A"},
+    {"Utf16WithHalfAPair",
+     std::string("\xFF\xFE\x3D\xD8"
+                 "A\0",
+                 6),
+     "", replaced(1) + "A", "source-encoding main"},
+    {"Utf16WithHalvesInTheWrongOrder", std::string("\xFF\xFE\0\xDC\x3D\xD8\0\xE0", 8), "",
+     replaced(2) + "\xEE\x80\x80", "source-encoding main"},
+    {"ToldEbcdicOfOneLine", "\xC1\xC2", "IBM-1047", "AB"},
+    {"LinesOf160CharactersAreNoRecords", std::string(79, ' ') + "\n" + std::string(80, ' '), "",
+     std::string(79, ' ') + "\n" + std::string(80, ' ')},
     {"ToldWindows", "\x80\x81", "WINDOWS-1252", "\xE2\x82\xAC\xEF\xBF\xBD"},
     {"ToldGermanEbcdic", encoded("       01 \xC3\xA4\xC3\x96\xC3\x9F#.\n", "IBM273", "\x15"),
      "IBM273", "       01 \xC3\xA4\xC3\x96\xC3\x9F#.\n"},
@@ -123,6 +169,19 @@ const Row rows[] = {
      "A\x0E\xF3\xB4\x95\x9D\x0F\x42\n", "two-byte-text main:1:2"},
     {"ShiftThatDoesNotEnd", "\xC1\x0E\x45\x5D\xC2\x15", "IBM-1047", "A\x0E\xC3\xA1)B\n",
      "control-character main:1:2"},
+    {"ShiftBehindHalfAPair", "\xC1\x0E\x45\x0F\xC2\x15", "IBM-1047",
+     "A\x0E\xC3\xA1\x0F"
+     "B\n",
+     "control-character main:1:2"},
+    {"ShiftWithAByteOfNoPair", "\xC1\x0E\x45\xFF\x0F\xC2\x15", "IBM-1047",
+     "A\x0E\xC3\xA1\xC2\x9F\x0F"
+     "B\n",
+     "control-character main:1:2"},
+    {"ShiftAtTheEnd", "\xC1\x0E\x45\x5D", "IBM-1047", "A\x0E\xC3\xA1)",
+     "control-character main:1:2"},
+    {"PairThatIsNoCharacter", "\xC1\x0E\xFE\xFE\x0F\xC2\x15", "IBM939",
+     "A\x0E\xEF\xBF\xBD \x0F"
+     "B\n"},
     {"PaddedWithZeros", std::string("A\n\0\0\0", 5), "", "A\n"},
     {"NoText", "A" + std::string(100, '\1'), "", "", "source-not-text main"},
     {"Controls", std::string("A\n\xC3\xA4\0\x01\tB\f\x7F", 10), "",

@@ -153,7 +153,6 @@ void LineLayout::layColumns(std::string_view line, LaidLine& laid) {
   if (isDrawn(line)) return;
   const Cut parts = cut(line);
   laid.isPlain = parts.isPlain;
-  if (line.size() > recordLength && format_ == SourceFormat::fixed) tellWide(line, laid);
   laid.room = parts.room;
   if (const char first = parts.sequence.empty() ? ' ' : parts.sequence.front();
       first == '>' || first == '$' || first == '@' || first == '-' || first == ' ' ||
@@ -161,6 +160,7 @@ void LineLayout::layColumns(std::string_view line, LaidLine& laid) {
     const std::string_view sequence = withoutBlanksInFront(parts.sequence);
     if ((!sequence.empty() || !codeSeen_) && layOddStart(line, laid)) return;
   }
+  if (line.size() > recordLength && format_ == SourceFormat::fixed) tellWide(line, laid);
   laid.setText(parts.code, parts.column);
   switch (parts.indicator) {
     case '*':
@@ -202,7 +202,7 @@ void LineLayout::layColumns(std::string_view line, LaidLine& laid) {
 // Records have names of 8 characters behind the margin; what is longer was hardly meant to be left
 // out, least of all when it stands together with what is in front of it.
 void LineLayout::tellWide(std::string_view line, const LaidLine& laid) {
-  if (wideTold_ || !laid.isPlain || laid.kind == LineKind::directive) return;
+  if (wideTold_ || !laid.isPlain) return;
   const bool isComment = line[indicatorColumn - 1] == '*' || line[indicatorColumn - 1] == '/';
   if (isComment || isBlank(line[lastColumn - 1]) || isBlank(line[lastColumn])) return;
   wideTold_ = true;
