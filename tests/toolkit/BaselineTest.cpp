@@ -70,7 +70,8 @@ TEST_F(BaselineTest, IsTheSameWhateverTheOrder) {
 
 TEST_F(BaselineTest, RefusesWhatIsNone) {
   for (const char* const text :
-       {"", "{", "[]", "{\"kind\": 1}", "{\"kind\": \"agentservices lint baseline 1\"}",
+       {"", "{", "[]", "[\"kind\", [], {\"findings\": []}]", "{\"kind\": 1}",
+        "{\"kind\": \"agentservices lint baseline 1\"}",
         "{\"kind\": \"agentservices lint baseline 2\", \"findings\": []}"}) {
     write("known.json", text);
     EXPECT_EQ(test::refusalOf([] { toolkit::Baseline("known.json").read(); }).text,
@@ -103,6 +104,28 @@ TEST_F(BaselineTest, PassesOverRowsThatAreNone) {
   known.read();
   EXPECT_TRUE(known.take("s.xml", finding("r", "p")));
   EXPECT_FALSE(known.take("s.xml", finding("r", "p")));
+}
+
+// Neither objects elsewhere nor what a row may hold besides are rows.
+TEST_F(BaselineTest, TakesRowsOfFindingsAlone) {
+  const std::string row = R"({"file": "s.xml", "rule": "r", "place": ")";
+  write("known.json", R"({"kind": "agentservices lint baseline 1", "version": -1, "part": 1.5,
+    "isWhole": true, "nothing": null, "other": [)" +
+                          row + R"(a"}], "object": )" + row + R"(b"},
+    "findings": [true, -1, 1.5, [)" +
+                          row + R"(c"}], )" + row + R"(d", "more": )" + row +
+                          R"(e", "count": 9}, "isOld": false}, )" + row +
+                          R"(f", "count": 2}], "behind": [)" + row + R"(g"}]})");
+  toolkit::Baseline known("known.json");
+  known.read();
+  for (const char* const place : {"a", "b", "c", "e", "g"}) {
+    EXPECT_FALSE(known.take("s.xml", finding("r", place))) << place;
+  }
+  EXPECT_TRUE(known.take("s.xml", finding("r", "d")));
+  EXPECT_FALSE(known.take("s.xml", finding("r", "d")));
+  EXPECT_TRUE(known.take("s.xml", finding("r", "f")));
+  EXPECT_TRUE(known.take("s.xml", finding("r", "f")));
+  EXPECT_FALSE(known.take("s.xml", finding("r", "f")));
 }
 
 TEST_F(BaselineTest, FoldersAreSearchedForFiles) {

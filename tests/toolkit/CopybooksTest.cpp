@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 #include "as/toolkit/Copybooks.h"
@@ -41,6 +42,14 @@ const Row rows[] = {
     {"Dcl", {"one/CUST.dcl"}, "CUST", "", "one/CUST.dcl"},
     {"CapitalCpb", {"one/CUST.CPB"}, "CUST", "", "one/CUST.CPB"},
     {"MixedNameInOtherLetters", {"one/cUST.Cpy"}, "Cust", "", "one/cUST.Cpy"},
+    {"MixedNameInOtherLettersThanTwo",
+     {"one/cUST.Cpy", "one/CUst.inc", "one/cUSTX", "one/CUst.txt"},
+     "Cust",
+     "",
+     "one/CUst.inc"},
+    {"MixedNameOfAFolderInOtherLetters", {"one/cUST/x", "two/cUST"}, "Cust", "", "two/cUST"},
+    {"MixedNameInTheSecondFolder", {"two/cUST.cpy"}, "Cust", "", "two/cUST.cpy"},
+    {"MixedNameOfNothing", {"one/CUSTX", "one/Cus"}, "Cust", "", ""},
     {"CapitalNameInMixedLetters", {"one/Cust.cpy"}, "CUST", "", ""},
     {"PathOfAnotherMachine", {"two/cust.cpy"}, "C:\\LIB\\CUST.CPY", "", "two/cust.cpy"},
     {"PathThatLeadsOut", {"one/CUST.cpy"}, "../lib/CUST", "", "one/CUST.cpy"},
@@ -119,6 +128,37 @@ TEST(FolderCopybooks, FileThatIsTooLongIsAnError) {
   fs::resize_file(directory.write("CUST", ""), 67108865);
   FolderCopybooks folders({directory.path()}, "main.cbl");
   EXPECT_THROW(folders.find("CUST", ""), CopybookError);
+}
+
+TEST(FolderCopybooks, AreFoundInTheCurrentFolderInOtherLetters) {
+  const test::CurrentDirectory current;
+  std::ofstream("cUST.Cpy") << "05 A PIC X.";
+  const auto found = FolderCopybooks({}, "main.cbl").find("Cust", "");
+  ASSERT_TRUE(found);
+  EXPECT_EQ(found->text, "05 A PIC X.");
+}
+
+TEST(FolderCopybooks, FileThatMustNotBeReadIsAnError) {
+  const test::TempDirectory directory;
+  const std::string file = directory.write("CUST", "05 A PIC X.");
+  fs::permissions(file, fs::perms::none);
+  // Nothing is closed to the superuser.
+  const bool isSuperuser = geteuid() == 0;
+  if (isSuperuser) {
+    fs::permissions(directory.path(), fs::perms::all);
+    ASSERT_EQ(seteuid(65534), 0);
+  }
+  FolderCopybooks folders({directory.path()}, "main.cbl");
+  std::string message;
+  try {
+    folders.find("CUST", "");
+  } catch (const CopybookError& error) {
+    message = error.what();
+  }
+  if (isSuperuser) {
+    ASSERT_EQ(seteuid(0), 0);
+  }
+  EXPECT_EQ(message, "the file cannot be read");
 }
 
 }  // namespace

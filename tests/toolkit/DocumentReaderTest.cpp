@@ -138,6 +138,27 @@ TEST_P(ProgramRefusalTest, AServiceThatNamesNoDictionaryIsTold) {
 
 // Refusals
 
+TEST_F(DocumentReaderTest, WhatIsOfAnotherKindIsToldSo) {
+  write("d.xml", test::payProgram());
+  write("s.xml", test::payService(""));
+  const std::string other = "<other/>";
+  const auto isOfAnotherKind = [](const auto& read) {
+    const toolkit::Refusal refusal = refusalOf(read);
+    EXPECT_EQ(refusal.line, 0);
+    return refusal.isOfAnotherKind ? refusal.text.substr(0, refusal.text.find(':')) : "";
+  };
+  EXPECT_EQ(isOfAnotherKind([&] { reader().readService("d.xml"); }), "not a service");
+  EXPECT_EQ(isOfAnotherKind([&] { reader().readDictionary("s.xml"); }), "not a data dictionary");
+  EXPECT_EQ(isOfAnotherKind([&] { reader().readServiceText(test::payProgram(), "d.xml"); }),
+            "not a service");
+  const toolkit::Refusal neither = refusalOf([&] {
+    reader().read(toolkit::DocumentSource{"o.xml", other});
+  });
+  EXPECT_TRUE(neither.isOfAnotherKind);
+  EXPECT_THAT(neither.text, testing::AllOf(StartsWith("not a data dictionary: "),
+                                           HasSubstr("; and not a service: ")));
+}
+
 // A document that is refused, and the whole of what is said about it.
 struct RefusalCase {
   std::string label;

@@ -96,12 +96,84 @@ TEST_F(FilesTest, AFolderThatCannotBeWrittenIsTold) {
   EXPECT_EQ(std::distance(fs::directory_iterator("closed"), fs::directory_iterator()), 1);
 }
 
+TEST_F(FilesTest, AFileThatMustNotBeWrittenIsToldAndStays) {
+  write("closed.txt", "old");
+  ASSERT_EQ(chmod("closed.txt", 0444), 0);
+  // What a file's mode allows counts for who runs the process, unless that is the superuser.
+  const bool isSuperuser = getuid() == 0;
+  if (isSuperuser) {
+    ASSERT_EQ(setreuid(65534, 0), 0);
+  }
+  const std::string closed = fileErrorOf([] { toolkit::replaceFile("closed.txt", "new"); });
+  if (isSuperuser) {
+    ASSERT_EQ(setreuid(0, 0), 0);
+  }
+  EXPECT_EQ(closed, "closed.txt cannot be written and is as it was: Permission denied");
+  EXPECT_EQ(contentOf("closed.txt"), "old");
+}
+
+TEST_F(FilesTest, ASocketIsNoFileToWriteTo) {
+  ASSERT_EQ(mknod("socket", S_IFSOCK | 0600, 0), 0);
+  EXPECT_EQ(fileErrorOf([] { toolkit::replaceFile("socket", "x"); }),
+            "socket cannot be written: No such device or address");
+}
+
+TEST_F(FilesTest, ALinkThatLeadsToNothingYetStaysOne) {
+  fs::create_directory("there");
+  fs::create_symlink("second.txt", "first.txt");
+  fs::create_symlink("there/third.txt", "second.txt");
+  toolkit::replaceFile("first.txt", "new");
+  EXPECT_TRUE(fs::is_symlink("first.txt"));
+  EXPECT_TRUE(fs::is_symlink("second.txt"));
+  EXPECT_EQ(contentOf("there/third.txt"), "new");
+}
+
+TEST_F(FilesTest, FilesThatHoldThatAlreadyAreNotWritten) {
+  write("same.txt", "abc");
+  write("longer.txt", "abcd");
+  write("other.txt", "abd");
+  EXPECT_THAT(toolkit::replaceFiles({{"same.txt", "abc"},
+                                     {"longer.txt", "abc"},
+                                     {"other.txt", "abc"},
+                                     {"new.txt", "abc"},
+                                     {"/dev/null", "abc"}}),
+              testing::ElementsAre("longer.txt", "other.txt", "new.txt", "/dev/null"));
+  for (const char* const file : {"same.txt", "longer.txt", "other.txt", "new.txt"}) {
+    EXPECT_EQ(contentOf(file), "abc") << file;
+  }
+  EXPECT_EQ(std::distance(fs::directory_iterator("."), fs::directory_iterator()), 4);
+}
+
+TEST_F(FilesTest, AllFilesAreAsTheyWereWhenOneFails) {
+  write("there.txt", "old");
+  EXPECT_THAT(
+      fileErrorOf([] {
+        toolkit::replaceFiles({{"there.txt", "new"}, {"new.txt", "new"}, {"/dev/full", "x"}});
+      }),
+      StartsWith("/dev/full cannot be written"));
+  EXPECT_EQ(contentOf("there.txt"), "old");
+  EXPECT_EQ(std::distance(fs::directory_iterator("."), fs::directory_iterator()), 1);
+}
+
+// Nothing keeps what a file held where its other name is taken.
+TEST_F(FilesTest, AFileThatCannotBeKeptIsNew) {
+  write("there.txt", "old");
+  write("there.txt.agentservices-old/x", "");
+  EXPECT_THAT(fileErrorOf([] {
+                toolkit::replaceFiles({{"there.txt", "new"}, {"/dev/full", "x"}});
+              }),
+              StartsWith("/dev/full cannot be written"));
+  EXPECT_EQ(contentOf("there.txt"), "new");
+  EXPECT_TRUE(fs::is_directory("there.txt.agentservices-old"));
+}
+
 TEST_F(FilesTest, AFolderThatIsGoneIsTold) {
   fs::create_directory("gone");
   fs::current_path("gone");
   fs::remove("../gone");
   EXPECT_EQ(fileErrorOf([] { toolkit::replaceFile("a.txt", "a"); }),
             "a.txt cannot be written: No such file or directory");
+  EXPECT_EQ(toolkit::nameSeenFrom("s.xml", "a/p.xml"), "a/p.xml");
 }
 
 TEST_F(FilesTest, AServiceIsWrittenAsItsDocument) {

@@ -77,6 +77,30 @@ TEST_F(ImportFiles, HaveCopybooksFromTheFolderOfTheSource) {
   EXPECT_EQ(test::placesOf(test::dictionaryOf(file.imported)), "X 0+9");
 }
 
+// A copybook, as a statement names it, and what is told of where it was found.
+TEST_F(ImportFiles, TellOfCopybooksThatStandElsewhere) {
+  directory_.write("REC.cpy", "01 X PIC X(9).");
+  directory_.write("lib/DEEP.cpy", "01 X PIC X(9).");
+  const struct {
+    const char* name;
+    const char* finding;
+  } rows[] = {{"REC", ""},
+              {"'REC.cpy'", ""},
+              {"'../lib/REC'", "1:41 copybook-elsewhere"},
+              {"'C:\\LIB\\REC.cpy'", "1:41 copybook-elsewhere"},
+              {"'/lib/REC'", "1:41 copybook-elsewhere"},
+              {"REC OF '../lib'", "1:41 copybook-elsewhere"},
+              {"DEEP OF lib", ""},
+              {"'lib/DEEP'", ""},
+              {"'lib\\DEEP'", ""}};
+  for (const auto& row : rows) {
+    const ImportedFile file =
+        importOf(std::string("PROGRAM-ID. A. WORKING-STORAGE SECTION. COPY ") + row.name + ".");
+    EXPECT_EQ(test::findingsOf(file.imported), row.finding) << row.name;
+    EXPECT_EQ(test::placesOf(test::dictionaryOf(file.imported)), "X 0+9") << row.name;
+  }
+}
+
 TEST_F(ImportFiles, ThatAreFoldersAreRefused) {
   EXPECT_THAT(messageOf(directory_.path()),
               testing::HasSubstr("it cannot be read: Is a directory"));

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "as/CASException.h"
+#include "as/toolkit/Copybooks.h"
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Files.h"
 
@@ -35,6 +36,15 @@ TEST(ToolkitException, AFileErrorIsCopiedAndAssigned) {
   toolkit::FileError other("b.xml: gone");
   other = copy;
   EXPECT_STREQ(other.what(), "a.xml: full");
+}
+
+TEST(ToolkitException, ACopybookErrorIsCopiedAndAssigned) {
+  const toolkit::CopybookError error("it is locked");
+  const toolkit::CopybookError copy(error);
+  EXPECT_STREQ(copy.what(), "it is locked");
+  toolkit::CopybookError other("it is gone");
+  other = copy;
+  EXPECT_STREQ(other.what(), "it is locked");
 }
 
 TEST(ToolkitException, BothAreRunTimeErrors) {

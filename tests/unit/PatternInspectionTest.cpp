@@ -51,6 +51,12 @@ TEST(PatternInspection, LetsThroughWhatLeavesNoChoice) {
                               "()",
                               "(a*)?b",
                               "(a|)b",
+                              "\\n\\r\\t",
+                              "\\n*\\t",
+                              "(|a)b",
+                              "(a|b?)c",
+                              "[\\d-]+x",
+                              "\\{a\\}",
                               "a{256}"}) {
     EXPECT_TRUE(leavesNoChoice(pattern)) << pattern;
   }
@@ -58,27 +64,36 @@ TEST(PatternInspection, LetsThroughWhatLeavesNoChoice) {
 
 TEST(PatternInspection, RefusesWhatLeavesAChoice) {
   for (const char* pattern :
-       {"a|a", "ab|ac", "a?a", "a*a", "a*a*b", "(a|b)?b", ".*a", "[a-c]*b", "\\d*5", "\\w+a",
-        "a{1,3}a", "(a|aa)b", "a?a?a?b", "[^a]*b", "\\p{L}a|b", "[^\\w]*x", "[\\d]*7"}) {
+       {"a|a",     "ab|ac",   "a?a",     "a*a",     "a*a*b",   "(a|b)?b",  ".*a",       "[a-c]*b",
+        "\\d*5",   "\\w+a",   "a{1,3}a", "(a|aa)b", "a?a?a?b", "[^a]*b",   "\\p{L}a|b", "[^\\w]*x",
+        "[\\d]*7", "\\n*\\s", "\\r?\\s", "\\t|\\s", "\\S*x",   "\\P{L}*1", "\\1*1"}) {
     EXPECT_FALSE(leavesNoChoice(pattern)) << pattern;
   }
 }
 
 TEST(PatternInspection, RefusesRepetitionsThatRecurseOrMultiply) {
-  for (const char* pattern :
-       {"(ab)*", "(ab)+", "(ab){2,}", "(a|b)*", "(a*)*", "(a+)+", "(a?)*", "(a?){3}", "(a*){0,5}",
-        "a**", "a{3}{3}", "a{257}", "(a{20}b){20}", "a{99999999999999999999}"}) {
+  for (const char* pattern : {"(ab)*", "(ab)+", "(ab){2,}", "(a|b)*", "(a*)*", "(a+)+", "(a?)*",
+                              "(a?){3}", "(a*){0,5}", "a**", "a+?", "a?+", "a*{2}", "a{3}{3}",
+                              "a{257}", "(a{20}b){20}", "a{99999999999999999999}"}) {
     EXPECT_FALSE(leavesNoChoice(pattern)) << pattern;
   }
 }
 
 TEST(PatternInspection, RefusesWhatItDoesNotUnderstand) {
   for (const char* pattern :
-       {"(",      ")",    "(a", "a)",  "[",     "[a",      "[]",      "]",      "}",
-        "{",      "{3}",  "*",  "+",   "?",     "a{",      "a{}",     "a{,3}",  "a{3",
-        "a{3,2}", "a{x}", "\\", "[\\", "[z-a]", "[a-[b]]", "[a-\\s]", "[\\s-z]"}) {
+       {"(",   ")",   "(a",    "a)",      "[",       "[a",      "[]",    "]",    "}",      "{",
+        "{3}", "*",   "+",     "?",       "a{",      "a{}",     "a{,3}", "a{3",  "a{3,2}", "a{x}",
+        "\\",  "[\\", "[z-a]", "[a-[b]]", "[a-\\s]", "[\\s-z]", "[a-",   "[[a]]"}) {
     EXPECT_FALSE(leavesNoChoice(pattern)) << pattern;
   }
+}
+
+TEST(PatternInspection, RefusesGroupsThatNestTooDeep) {
+  const auto nested = [](std::size_t depth) {
+    return std::string(depth, '(') + "a" + std::string(depth, ')');
+  };
+  EXPECT_TRUE(leavesNoChoice(nested(256)));
+  EXPECT_FALSE(leavesNoChoice(nested(257)));
 }
 
 // Copies of them may lie beside documents.

@@ -104,6 +104,30 @@ TEST(Serialiser, RefusesCharactersThatXmlCannotHold) {
   EXPECT_ANY_THROW(written(dom));
 }
 
+TEST(Serialiser, WritesTextAsItIsReadAgain) {
+  const std::string root =
+      "<r a=\"&amp;&lt;>&quot;'&#xA;&#xD;&#x9;\">&amp;&lt;&gt;\"'\n&#xD;\t</r>\n";
+  test::Dom dom(root);
+  EXPECT_EQ(written(dom), declaration + root);
+}
+
+TEST(Serialiser, RefusesTextThatXmlCannotHold) {
+  test::Dom dom("<r/>");
+  for (const XMLCh* const text : {u"\u0001", u"\xD800", u"\xD800x", u"\xDC00", u"\xFFFE"}) {
+    dom.root()->setTextContent(text);
+    EXPECT_THROW(written(dom), std::runtime_error);
+  }
+  dom.root()->setTextContent(u"\xD83D\xDE00");
+  EXPECT_NE(written(dom).find("<r>\xF0\x9F\x98\x80</r>"), std::string::npos);
+}
+
+TEST(Serialiser, LaysOutNothingBelowNothing) {
+  prettyPrintTree(nullptr, 0);
+  test::Dom dom("<r/>");
+  prettyPrintTree(dom.root(), 0);
+  EXPECT_EQ(written(dom), declaration + "<r/>\n");
+}
+
 TEST(Serialiser, LeavesTheDocumentTypeOut) {
   test::Dom dom("<!DOCTYPE r [<!ENTITY e 'x'>]><r/>");
   EXPECT_EQ(written(dom).find("DOCTYPE"), std::string::npos);
