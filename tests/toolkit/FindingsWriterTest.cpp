@@ -130,6 +130,8 @@ TEST(UriTest, EncodesWhatIsNoPlainCharacter) {
               {"a%20b", "a%2520b"},
               {"a b?#[]\\", "a%20b%3F%23%5B%5D%5C"},
               {"größe", "gr%C3%B6%C3%9Fe"},
+              {"aZ09-._~", "aZ09-._~"},
+              {"a:b@c[d]`e{f|g", "a%3Ab%40c%5Bd%5D%60e%7Bf%7Cg"},
               {"", ""}};
   for (const auto& row : rows) EXPECT_EQ(toolkit::uriOf(row.file), row.uri);
 }

@@ -55,6 +55,17 @@ TEST(DocumentOutline, HasNothingOfWhatIsNoDocument) {
   }
 }
 
+TEST(DocumentOutline, TellsPlacesWhateverLinesEndIn) {
+  const DocumentOutline outline("<a>\r\n<b/>\r<c/>\n\xC3\xA4<d/></a>\r");
+  ASSERT_EQ(outline.elements().size(), 4U);
+  const int lines[] = {1, 2, 3, 4};
+  const int columns[] = {1, 1, 1, 2};
+  for (std::size_t i = 0; i < 4; ++i) {
+    EXPECT_EQ(outline.elements()[i].place.line, lines[i]) << i;
+    EXPECT_EQ(outline.elements()[i].place.column, columns[i]) << i;
+  }
+}
+
 // Declarations in front of an element, which are passed over, and the elements that there are.
 struct DeclarationRow {
   const char* declarations;

@@ -1,6 +1,8 @@
 // Tests of the words that text is cut into.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "toolkit_unit/ReadSource.h"
@@ -50,6 +52,9 @@ const ReadingRow rows[] = {
      {"'X'-A 'X' -B 'Y Z'-C"},
      "X-A 'X' - B 'Y Z' - C",
      "unreplaced-tag main:1:1"},
+    {"TagsWithBlanksAreNone", {":A : B (A )-B"}, ": A : B ( A ) - B"},
+    {"SubscriptsInFrontOfNumbersAreNoTags", {"X (I)-1 (J)-"}, "X ( I ) #-1 ( J ) -"},
+    {"LiteralsInFrontOfNamesAreNoTags", {"X'41'-A ''-B 'C'-"}, "X'41' - A '' - B 'C' -"},
     {"Literals", {"\"a\" 'b' \"\" '' \"it's\" '\"'"}, "\"a\" 'b' \"\" '' \"it's\" '\"'"},
     {"DoubledQuotes", {"\"a\"\"b\" '''' \"\"\"\" \"''\""}, "\"a\"b\" ''' \"\"\" \"''\""},
     {"Prefixes",
@@ -106,6 +111,14 @@ const ReadingRow rows[] = {
      "control-character main:1:2"},
 };
 AS_READING_ROWS(Words, rows);
+
+TEST(WordSequence, TagsAreToldUpToAHundred) {
+  std::string text;
+  for (int i = 0; i < 150; i++) text += "01 :T" + std::to_string(i) + ":-A. ";
+  const test::Reading reading = test::readingOf({text + text});
+  EXPECT_EQ(std::count(reading.findings.begin(), reading.findings.end(), '\n') + 1, 100);
+  EXPECT_THAT(reading.words, testing::EndsWith("01 T149-A ."));
+}
 
 TEST(WordSequence, EndStays) {
   test::MemoryCopybooks copybooks(std::map<std::string, std::string>{});
