@@ -82,6 +82,18 @@ TEST_F(FileName, OfADocumentMayBeRelative) {
   EXPECT_EQ(outcomeOfFile("./a b.xml").result, Result::parseException);
 }
 
+// What is relative to a folder that is gone leads nowhere; what is not is read.
+TEST_F(FileName, OfADocumentMayBeRelativeToNothing) {
+  const test::CurrentDirectory current;
+  std::filesystem::create_directory("gone");
+  std::filesystem::current_path("gone");
+  std::filesystem::remove("../gone");
+  const auto outcome = outcomeOfFile("d.xml");
+  EXPECT_EQ(outcome.result, Result::parseException) << outcome.text;
+  EXPECT_NE(outcome.text, "");
+  EXPECT_EQ(outcomeOfFile(path("a%20b.xml")).result, Result::root);
+}
+
 // Where a name is no URL, "%20" is the one escape there is.
 TEST_F(FileName, OfASchemaHasItsEscapes) {
   directory_.write("a%20b.xsd", "no schema");
