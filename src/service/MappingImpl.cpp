@@ -100,7 +100,7 @@ int CMappingImpl::getDataItemSubscripts(int* subscripts) {
   const std::string item = getRawMapping();
   const std::size_t open = item.find('(');
   const std::size_t close = item.find(')');
-  if (open == std::string::npos || close != item.size() - 1 || close < open) return 0;
+  if (open == std::string::npos || close != item.size() - 1) return 0;
   return readSubscripts(std::string_view(item).substr(open + 1, close - open - 1), subscripts);
 }
 
