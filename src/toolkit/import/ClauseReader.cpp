@@ -279,8 +279,7 @@ bool ClauseReader::readPicture(DataEntry& entry) {
   const SourcePlace place = words_.peek().token.place;
   if (entry.picture != none)
     return problems_.badClause(entry.name, place, "PICTURE stands there twice");
-  const bool isText = words_.peek().is(TokenKind::picture) || words_.peek().is(TokenKind::word) ||
-                      words_.peek().is(TokenKind::number);
+  const bool isText = words_.peek().is(TokenKind::picture) || words_.peek().is(TokenKind::word);
   if (!isText) return problems_.badClause(entry.name, place, "PICTURE is followed by nothing");
   std::string text = words_.take().token.text;
   if (isPointOfPicture(text, place)) {

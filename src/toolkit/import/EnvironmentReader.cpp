@@ -86,8 +86,7 @@ void EnvironmentReader::readCurrency() {
   words_.accept(Keyword::with);
   if (words_.peek().is(Keyword::picture) || words_.peek().is(Keyword::pic)) {
     words_.skip();
-    // The word behind PICTURE may have been taken for one.
-    if (!words_.accept(Keyword::symbol) && words_.peek().is(TokenKind::picture)) words_.skip();
+    words_.accept(Keyword::symbol);
     if (words_.peek().is(TokenKind::literal)) {
       currency = {words_.take().token.text, lengthOf(sign)};
     }
