@@ -155,6 +155,22 @@ TEST_F(ReportTest, ARefusedDocumentIsLeftOutAndTold) {
   EXPECT_EQ(report.programs, 1U);
 }
 
+// Who silences lint about it still gets no page of it.
+TEST_F(ReportTest, ADictionaryThatIsLeftOutIsToldByLintOrElseAsARefusal) {
+  const auto textFor = [](const std::string& comment) {
+    return comment + test::javaService("name='S' implementation='java' dataDictFilename='none.xml'",
+                                       "<operations/>");
+  };
+  write("told.xml", textFor(""));
+  write("silent.xml", textFor("<!-- lint: off unusable-dictionary -->"));
+  const toolkit::Report told = reportOf({"told.xml"});
+  EXPECT_THAT(told.refusals, IsEmpty());
+  EXPECT_THAT(dataOf(told, "s1")["findings"].dump(), HasSubstr("the dictionary cannot be used"));
+  const toolkit::Report silent = reportOf({"silent.xml"});
+  ASSERT_THAT(silent.refusals, SizeIs(1));
+  EXPECT_EQ(silent.refusals[0].file, "none.xml");
+}
+
 TEST_F(ReportTest, ADictionaryThatIsNamedTwiceIsShownOnce) {
   const toolkit::Report report =
       reportOf({example("MOTPREM.xml"), example("../examples/MOTPREM.xml"),

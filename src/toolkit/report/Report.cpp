@@ -133,13 +133,22 @@ class ReportMaker {
     const std::string id = "s" + std::to_string(++report_.services);
     const ServiceFacts facts(service);
     const Dictionary* dictionary = nullptr;
-    if (!facts.dictionary.empty()) dictionary = findDictionary(besideFile(file, facts.dictionary));
+    std::optional<Refusal> unread;
+    if (!facts.dictionary.empty()) {
+      try {
+        dictionary = &findDictionary(besideFile(file, facts.dictionary));
+      } catch (const RefusedDocument& refused) {
+        unread = refused.refusal();
+      }
+    }
     Findings findings;
     try {
       findings = lintDocument(reader_, origin);
     } catch (const RefusedDocument& refused) {
       report_.refusals.push_back(refused.refusal());
     }
+    // Lint reads it by itself: it may be that nothing is wrong there.
+    if (unread && !isUnusable(findings)) report_.refusals.push_back(*std::move(unread));
     const std::size_t errors = countOf(findings, Severity::error);
     const std::size_t warnings = countOf(findings, Severity::warning);
     report_.findings += errors + warnings;
@@ -195,15 +204,18 @@ class ReportMaker {
     return all;
   }
 
-  // The dictionary of a service; null when it cannot be read, which lint tells.
-  const Dictionary* findDictionary(const std::string& file) {
+  // Whether lint tells that the dictionary cannot be read.
+  static bool isUnusable(const Findings& findings) {
+    return std::any_of(findings.begin(), findings.end(), [](const Finding& finding) {
+      return std::string_view(finding.rule) == "unusable-dictionary";
+    });
+  }
+
+  // The dictionary of a service. Throws RefusedDocument when it cannot be read.
+  const Dictionary& findDictionary(const std::string& file) {
     const auto found = dictionaries_.find(keyOf(file));
-    if (found != dictionaries_.end()) return &found->second;
-    try {
-      return &addDictionary(*reader_.readDictionary(file), DocumentSource{file});
-    } catch (const RefusedDocument&) {
-      return nullptr;
-    }
+    if (found != dictionaries_.end()) return found->second;
+    return addDictionary(*reader_.readDictionary(file), DocumentSource{file});
   }
 
   const DocumentReader& reader_;
