@@ -65,11 +65,4 @@ std::string commentText(std::string_view text) {
   return utf8Of(result);
 }
 
-std::string capitalized(std::string name) {
-  if (!name.empty() && name[0] >= 'a' && name[0] <= 'z') {
-    name[0] = static_cast<char>(name[0] - 'a' + 'A');
-  }
-  return name;
-}
-
 }  // namespace as::toolkit::gen

@@ -15,9 +15,6 @@ std::string docText(std::string_view text);
 // "--", "??/", control characters) made harmless.
 std::string commentText(std::string_view text);
 
-// `name` with a capital letter in front.
-std::string capitalized(std::string name);
-
 }  // namespace as::toolkit::gen
 
 #endif  // TOOLKIT_GENERATE_CODETEXT_H_

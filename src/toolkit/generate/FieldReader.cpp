@@ -85,10 +85,6 @@ void FieldReader::readTree(as::IField& root, Way& way, std::size_t definition) {
         const Level& around = levels.back();
         const std::size_t structure = around.structure;
         way.tables.resize(around.tables);
-        if (structure == none) {
-          levels.push_back({none, around.tables});
-          return;
-        }
         const std::size_t member = model_.types[structure].fields.size();
         Field read = readMember(field);
         if (read.isTable()) way.tables.push_back({structure, member, false});
@@ -97,7 +93,7 @@ void FieldReader::readTree(as::IField& root, Way& way, std::size_t definition) {
         model_.types[structure].fields.push_back(std::move(read));
         readMappings(field, way, {structure, member, false});
         if (hasParts) readAttributes(field, way, own);
-        levels.push_back({hasParts ? own : none, way.tables.size()});
+        levels.push_back({own, way.tables.size()});
       },
       [&](as::IField&) { levels.pop_back(); });
 }

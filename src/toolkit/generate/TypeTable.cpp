@@ -30,8 +30,6 @@ std::string wordsOf(const TypeRow& row) {
       return "text";
     case Kind::bytes:
       return "bytes";
-    case Kind::group:
-      return "groups";
     default:
       return std::string("what is of data type `") + row.word + "`";
   }
@@ -59,8 +57,6 @@ const TypeRow* TypeLookup::rowFor(const Field& field) const {
   if (isNew) found->second = gen::rowFor(table_, field);
   return found->second;
 }
-
-bool holds(const TypeRow& row, const Item& item) { return contains(row.capacity, item.capacity); }
 
 std::string textOf(const TypeTable& table) {
   std::string text;

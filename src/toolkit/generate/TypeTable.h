@@ -35,9 +35,6 @@ class TypeLookup {
   mutable std::unordered_map<std::string, const TypeRow*> rows_;  // By the words of data types.
 };
 
-// Whether the row's type holds all that the item does.
-bool holds(const TypeRow& row, const Item& item);
-
 // The rows of the table as documentation shows it: what is held, and by which type.
 std::string textOf(const TypeTable& table);
 
