@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <iterator>
 #include <string>
 
 #include "toolkit/generate/FieldShape.h"
@@ -80,5 +81,31 @@ TEST_P(FieldShapeTest, IsThatOfValuesAlike) {
 
 INSTANTIATE_TEST_SUITE_P(Changes, FieldShapeTest, testing::ValuesIn(changes),
                          [](const auto& row) { return std::string(row.param.name); });
+
+TEST(FieldShapeTest, IsAFieldsOwn) {
+  const Pair pair;
+  EXPECT_TRUE(areOfOneShape(pair.model, pair.left, pair.left));
+}
+
+TEST(ItemTest, IsLikeOneWithTheSameValues) {
+  void (*const differences[])(Item & item) = {[](Item& item) { item.kind = Item::Kind::number; },
+                                              [](Item& item) { item.digits = 1; },
+                                              [](Item& item) { item.scale = 1; },
+                                              [](Item& item) { item.isSigned = true; },
+                                              [](Item& item) { item.bits = 8; },
+                                              [](Item& item) { item.floatingDigits = 6; },
+                                              [](Item& item) { item.characters = 3; },
+                                              [](Item& item) { item.bytes = 3; }};
+  for (std::size_t i = 0; i < std::size(differences); i++) {
+    Item item;
+    Item other;
+    other.name = other.path = other.picture = "OTHER";
+    EXPECT_TRUE(item.isLike(other));
+    differences[i](other);
+    EXPECT_FALSE(item.isLike(other)) << i;
+    differences[i](item);
+    EXPECT_TRUE(item.isLike(other)) << i;
+  }
+}
 
 }  // namespace

@@ -2,8 +2,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "support/TempDirectory.h"
@@ -63,6 +65,9 @@ INSTANTIATE_TEST_SUITE_P(
             "thirtyDigitsWhole", {Kind::decimal, 30, 0, true, 0}, "xs:integer", "string of digits"},
         TypeRowTest{"float", {Kind::floating, 6}, "xs:float", "number"},
         TypeRowTest{"double", {Kind::floating, 15}, "xs:double", "number"},
+        TypeRowTest{"integerOfAnySize", {Kind::integer}, "xs:integer", "string of digits"},
+        TypeRowTest{"bytes", {Kind::bytes}, "xs:base64Binary", "string in base 64"},
+        TypeRowTest{"group", {Kind::group}, "none", "none"},
         TypeRowTest{"text", {Kind::text}, "xs:string", "string"}),
     [](const auto& row) { return std::string(row.param.label); });
 
@@ -200,6 +205,180 @@ TEST(FacetsTest, ConditionsThatAreNeverTrueMakeNoValues) {
   }
 }
 
+// What callers may send where a value has no item, or one that tells little.
+TEST(FacetsTest, TypesLimitWhatNoItemDoes) {
+  struct Row {
+    Capacity capacity;
+    int totalDigits;
+    int fractionDigits;
+    const char* least;
+    const char* most;
+  };
+  const Row rows[] = {
+      {{Kind::integer, 2, 8}, 0, 0, "-128", "127"},
+      {{Kind::integer, 19, 64, false}, 0, 0, "0", "18446744073709551615"},
+      {{Kind::integer, 18, 64}, 0, 0, "-9223372036854775808", "9223372036854775807"},
+      {{Kind::integer}, 0, 0, "", ""},
+      {{Kind::integer, 0, 128}, 0, 0, "", ""},
+      {{Kind::decimal}, 0, -1, "", ""},
+      {{Kind::decimal, 28}, 28, -1, "", ""},
+      {{Kind::decimal, 0, 0, true, 0}, 0, 0, "", ""},
+      {{Kind::decimal, 5, 0, true, 2}, 5, 2, "-999.99", "999.99"},
+      {{Kind::decimal, 5, 0, false, 0}, 5, 0, "0", "99999"},
+      {{Kind::decimal, 0, 0, true, 4, 15}, 19, 4, "-999999999999999.9999", "999999999999999.9999"},
+      {{Kind::floating, 6}, 0, -1, "", ""},
+  };
+  for (const Row& row : rows) {
+    const Facets facets = facetsOf(ServiceModel(), fieldOf(row.capacity));
+    EXPECT_EQ(facets.totalDigits, row.totalDigits) << row.most;
+    EXPECT_EQ(facets.fractionDigits, row.fractionDigits) << row.most;
+    EXPECT_EQ(facets.least, row.least);
+    EXPECT_EQ(facets.most, row.most);
+  }
+}
+
+Item itemOf(Item::Kind kind, int bytes, int digits = 0) {
+  Item item;
+  item.kind = kind;
+  item.bytes = bytes;
+  item.digits = digits;
+  return item;
+}
+
+TEST(FacetsTest, NumbersOfNoDigitsOrTooManyHaveNoLimits) {
+  for (const Item& item : {numberOf(0, 0, true), numberOf(1001, 0, true), numberOf(5, 1001, true),
+                           numberOf(5, -1001, true)}) {
+    const Facets facets = Mapped(item, {Kind::decimal}).facets();
+    EXPECT_EQ(facets.totalDigits, 0);
+    EXPECT_EQ(facets.most, "");
+    EXPECT_EQ(Mapped(item, {Kind::text}).facets().longest, -1);
+  }
+}
+
+TEST(FacetsTest, ZerosInFrontOfThePointCountAsDigits) {
+  const Mapped mapped(numberOf(3, -2, true), {Kind::decimal});
+  EXPECT_EQ(mapped.facets().totalDigits, 5);
+  EXPECT_EQ(mapped.facets().most, "99999");
+  EXPECT_EQ(Mapped(numberOf(3, -2, false), {Kind::text}).facets().pattern, "[0-9]{1,5}");
+  EXPECT_EQ(Mapped(numberOf(3, -2, false), {Kind::text}).sample(), "12345");
+}
+
+TEST(FacetsTest, AddressesAreIntegersOfAnySize) {
+  for (const Item::Kind kind : {Item::Kind::pointer, Item::Kind::index}) {
+    const Facets facets = Mapped(itemOf(kind, 4), {Kind::decimal, 9, 0, false, 2}).facets();
+    EXPECT_EQ(facets.fractionDigits, 0);
+    EXPECT_EQ(facets.most, "");
+  }
+}
+
+TEST(FacetsTest, EditedNumbersHaveTheLimitsOfNumbers) {
+  EXPECT_EQ(Mapped(itemOf(Item::Kind::numberEdited, 6, 4), {Kind::decimal}).facets().most, "9999");
+}
+
+TEST(FacetsTest, TextsHoldGroupsAndBytes) {
+  struct Row {
+    Item item;
+    Capacity capacity;
+    int longest;
+  };
+  for (const Row& row : {Row{itemOf(Item::Kind::group, 12), {Kind::text}, 12},
+                         Row{itemOf(Item::Kind::group, 0), {Kind::text}, -1},
+                         Row{itemOf(Item::Kind::pointer, 4), {Kind::text}, -1},
+                         Row{itemOf(Item::Kind::text, 4), {Kind::text}, -1},
+                         Row{itemOf(Item::Kind::text, 4), {Kind::bytes}, 4},
+                         Row{itemOf(Item::Kind::text, 0), {Kind::bytes}, -1}}) {
+    EXPECT_EQ(Mapped(row.item, row.capacity).facets().longest, row.longest);
+  }
+}
+
+TEST(FacetsTest, FloatingPointNumbersHaveNoPattern) {
+  Item item = numberOf(0, 0, true);
+  item.floatingDigits = 6;
+  EXPECT_EQ(Mapped(item, {Kind::text}).facets().pattern, "");
+}
+
+// What COBOL takes for a number, and XML Schema does not.
+TEST(FacetsTest, ValuesOfConditionsAreNumerals) {
+  struct Row {
+    const char* text;
+    const char* numeral;  // Null for none.
+  };
+  for (const Row& row :
+       {Row{"+1", "1"}, Row{".50", "0.5"}, Row{"-.5", "-0.5"}, Row{"1.", "1"}, Row{"007", "7"},
+        Row{"0.00", "0"}, Row{"", nullptr}, Row{"-", nullptr}, Row{".", nullptr},
+        Row{"1E3", nullptr}, Row{"1.2.3", nullptr}, Row{"--1", nullptr}, Row{"ZERO", nullptr}}) {
+    Item item = numberOf(7, 2, true);
+    item.conditions = {{"IS", {{row.text, "", false}}}};
+    const std::vector<std::string> values = Mapped(item, {Kind::decimal}).facets(true).values;
+    if (row.numeral == nullptr) {
+      EXPECT_THAT(values, IsEmpty()) << row.text;
+    } else {
+      EXPECT_THAT(values, ElementsAre(row.numeral));
+    }
+  }
+}
+
+TEST(FacetsTest, ConditionsAreNoValuesOfOtherTypes) {
+  Item item = textOf(3);
+  item.conditions = {{"IS", {{"ABCD", "", false}}}};
+  EXPECT_THAT(Mapped(item, {Kind::text}).facets(true).values, IsEmpty());
+  item.conditions = {{"IS", {{"ABC", "", false}}}};
+  EXPECT_THAT(Mapped(item, {Kind::bytes}).facets(true).values, IsEmpty());
+  item.conditions = {{"IS", {{"ÄÖÜ ", "", false}}}};
+  item.characters = 4;
+  EXPECT_THAT(Mapped(item, {Kind::text}).facets(true).values, ElementsAre("ÄÖÜ"));
+  item.characters = 0;
+  EXPECT_THAT(Mapped(item, {Kind::text}).facets(true).values, ElementsAre("ÄÖÜ"));
+}
+
+TEST(FacetsTest, AConditionOfAnAddressIsLimitedByItsType) {
+  for (const auto& [value, fits] :
+       {std::pair("4294967295", true), std::pair("4294967296", false), std::pair("-1", false)}) {
+    Item item = itemOf(Item::Kind::pointer, 4);
+    item.conditions = {{"IS", {{value, "", false}}}};
+    EXPECT_EQ(Mapped(item, {Kind::integer, 0, 32, false}).facets(true).values.empty(), !fits)
+        << value;
+  }
+  // An address of a length that nobody tells.
+  Item item = itemOf(Item::Kind::pointer, 0);
+  item.conditions = {{"IS", {{"-99999999999999999999", "", false}}}};
+  EXPECT_THAT(Mapped(item, {Kind::integer}).facets(true).values,
+              ElementsAre("-99999999999999999999"));
+}
+
+TEST(FacetsTest, AValueOfTwoConditionsIsOne) {
+  Item item = numberOf(2, 0, false);
+  item.conditions = {{"A", {{"1", "", false}, {"2", "", false}}}, {"B", {{"01", "", false}}}};
+  EXPECT_THAT(Mapped(item, {Kind::integer, 2, 8}).facets(true).values, ElementsAre("1", "2"));
+}
+
+TEST(FacetsTest, NothingIsOtherThanTheConditionsOfNoItem) {
+  EXPECT_FALSE(hasOtherConditions(ServiceModel(), fieldOf({Kind::text})));
+  EXPECT_FALSE(hasOtherConditions(Mapped(textOf(3), {Kind::text}).model,
+                                  Mapped(textOf(3), {Kind::text}).field));
+}
+
+TEST(FacetsTest, PatternsAreOfAnyNumberOfDigitsBehindThePoint) {
+  EXPECT_EQ(numeralPattern(0, -1, true), "-?[0-9]+([.][0-9]+)?");
+  EXPECT_EQ(numeralPattern(28, -1, false), "[0-9]{1,28}([.][0-9]+)?");
+  EXPECT_EQ(numeralPattern(2, 2, false), "0?([.][0-9]{1,2})?");
+  EXPECT_EQ(ninesOf(2, 2), "0.99");
+  EXPECT_EQ(ninesOf(3, 0), "999");
+}
+
+TEST(FacetsTest, NoMoreIsToldOfAFieldThanAnyoneReads) {
+  Item item = textOf(1);
+  item.conditions.resize(40);
+  item.conditions[0].values.resize(40);
+  Mapped mapped(item, {Kind::text});
+  mapped.field.mappings.resize(40);
+  mapped.field.occurs = 5;
+  const std::vector<std::string> lines = linesAbout(mapped.model, mapped.field);
+  EXPECT_EQ(lines.size(), 30U + 1U + 30U);
+  EXPECT_EQ(lines[30], "occurs 5 times");
+  EXPECT_EQ(std::count(lines[31].begin(), lines[31].end(), ','), 29);
+}
+
 TEST(FacetsTest, RangesAndWordsMakeNoValues) {
   Item item = textOf(3);
   item.conditions = {{"IS", {{"A", "", false}, {"B", "D", true}}}};
@@ -221,6 +400,45 @@ TEST(SampleMakerTest, CountersTellHowOftenTablesOccur) {
   type.fields = {table};
   mapped.model.types.push_back(type);
   EXPECT_EQ(mapped.sample(), "3");
+}
+
+// Each is one that its type takes.
+TEST(SampleMakerTest, EveryTypeHasASample) {
+  struct Row {
+    Capacity capacity;
+    const char* sample;
+  };
+  for (const Row& row :
+       {Row{{Kind::integer, 2, 8}, "20"}, Row{{Kind::integer, 2, 8, false}, "155"},
+        Row{{Kind::integer, 0, 1, false}, "0"}, Row{{Kind::integer, 0, 3, false}, "6"},
+        Row{{Kind::integer}, "12345"}, Row{{Kind::decimal}, "123.45"},
+        Row{{Kind::decimal, 0, 0, true, 0}, "12345"}, Row{{Kind::decimal, 5, 0, true, 2}, "123.45"},
+        Row{{Kind::floating, 6}, "1.5"}, Row{{Kind::text}, "text"}, Row{{Kind::bytes}, "AQID"},
+        Row{{Kind::open}, ""}}) {
+    EXPECT_EQ(SampleMaker(ServiceModel()).valueOf(fieldOf(row.capacity)), row.sample);
+  }
+  Field date = fieldOf({Kind::open});
+  date.dataType = "date";
+  EXPECT_EQ(SampleMaker(ServiceModel()).valueOf(date), "2001-02-03T04:05:06Z");
+}
+
+TEST(SampleMakerTest, BytesAreNoMoreThanTheItemHas) {
+  EXPECT_EQ(Mapped(itemOf(Item::Kind::text, 1), {Kind::bytes}).sample(), "AQ==");
+  EXPECT_EQ(Mapped(itemOf(Item::Kind::text, 2), {Kind::bytes}).sample(), "AQI=");
+  EXPECT_EQ(Mapped(itemOf(Item::Kind::text, 3), {Kind::bytes}).sample(), "AQID");
+}
+
+TEST(SampleMakerTest, WhatNeedNotBeThereIsNotCounted) {
+  ServiceModel model;
+  model.types.resize(1);
+  model.types[0].attributes.resize(2);
+  model.types[0].fields.resize(3);
+  model.types[0].fields[1].least = 0;
+  Field root;
+  root.structure = 0;
+  EXPECT_EQ(SampleMaker(model).countOf(root, 500), 5U);
+  root.least = 0;
+  EXPECT_EQ(SampleMaker(model).countOf(root, 500), 0U);
 }
 
 TEST(SampleMakerTest, CountsDoNotOverflow) {

@@ -109,6 +109,16 @@ TEST(CommentText, HoldsNothingThatEndsAComment) {
   EXPECT_EQ(gen::commentText("*/ *\\ -- \\u000a\n\xC2\x85\xE2\x80\xA9."), "* / * / - - /u000a   .");
 }
 
+TEST(DocText, HoldsNothingThatXmlOrCompilersRefuse) {
+  EXPECT_EQ(gen::docText("a\x7F\xC2\x9F\xC2\xA0\xEF\xBF\xBE\xEF\xBF\xBFz"), "a  \xC2\xA0  z");
+  EXPECT_EQ(gen::docText("\u200D\u200E\u200F\u2010\u202A\u2065\u2069\u206A"),
+            "\u200D&#8206;&#8207;\u2010&#8234;\u2065&#8297;\u206A");
+}
+
+TEST(CommentText, SeparatesOnlyWhatMeansSomethingTogether) {
+  EXPECT_EQ(gen::commentText("a/b *x -y ?z /* -- */"), "a/b *x -y ?z / * - - * /");
+}
+
 TEST(CommentText, HoldsNothingThatTurnsTextOrStandsForOtherCharacters) {
   EXPECT_EQ(gen::commentText("a\xE2\x80\xAE"
                              "b ?"
@@ -131,6 +141,13 @@ TEST(ReadUuid, TakesBraces) {
             "e01b3295-3b29-5706-99fa-193c6e82c6d2");
 }
 
-TEST(ReadUuid, TakesNothingElse) { EXPECT_EQ(gen::readUuid("e01b3295-3b29-5706-99fa"), ""); }
+TEST(ReadUuid, TakesNothingElse) {
+  for (const char* const text :
+       {"", "e01b3295-3b29-5706-99fa", "{E01B3295-3B29-5706-99FA-193C6E82C6D2)",
+        "(E01B3295-3B29-5706-99FA-193C6E82C6D2}", "{E01B3295-3B29-5706-99FA-193C6E82C6}",
+        "E01B3295-3B29-5706-99FA-193C6E82C6DX"}) {
+    EXPECT_EQ(gen::readUuid(text), "") << text;
+  }
+}
 
 }  // namespace

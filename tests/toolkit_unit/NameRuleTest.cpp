@@ -64,6 +64,16 @@ INSTANTIATE_TEST_SUITE_P(Names, LegalName,
                                          Row{"Prämie", "Pr_mie", "prMie", "PrMie"},
                                          Row{"a\n*/\"b", "a_b", "aB", "AB"}));
 
+TEST(NameRuleTest, NamesOfOtherScriptsAreCountedInCharacters) {
+  NameRule rule{"Test", isXmlNameStart, isXmlNameCharacter};
+  rule.reserved = &reservedWords;
+  rule.mostCharacters = 4;
+  for (const char* const name : {"äbcd", "ä1", "日本語"}) EXPECT_TRUE(isLegal(rule, name)) << name;
+  for (const char* const name : {"äbcde", "1ä", "·ä", "ä/", "ä\xFF"}) {
+    EXPECT_FALSE(isLegal(rule, name)) << name;
+  }
+}
+
 TEST(NameRuleTest, LongNamesAreCutAndToldApart) {
   NameRule rule = underscores;
   rule.mostCharacters = 20;
@@ -160,6 +170,44 @@ TEST(CharactersTest, ComeBackAsTheyWere) {
 
 TEST(CharactersTest, WhatIsNoUtf8CountsAsUnknown) {
   EXPECT_EQ(charactersOf("\xFF\xC3"), std::u32string(2, U'\uFFFD'));
+  EXPECT_EQ(charactersOf("\x80\xBF"), std::u32string(2, U'\uFFFD'));
+  EXPECT_EQ(charactersOf("\xC3z"), U"\uFFFDz");
+}
+
+TEST(CharactersTest, CapitalsAreMadeOfSmallLettersOfAsciiAlone) {
+  EXPECT_EQ(capitalOf(U'q'), U'Q');
+  EXPECT_EQ(smallOf(U'Q'), U'q');
+  for (const char32_t character : U"`{@[7\u00E4") {
+    EXPECT_EQ(capitalOf(character), character);
+    EXPECT_EQ(smallOf(character), character);
+  }
+}
+
+// The letters that every version of XML allows in names, range by range.
+TEST(CharactersTest, NamesOfXmlStartWithLettersOfAllScripts) {
+  constexpr struct {
+    char32_t first;
+    char32_t last;
+  } ranges[] = {{U'A', U'Z'},     {U'_', U'_'},     {U'a', U'z'},     {0xC0, 0xD6},
+                {0xD8, 0xF6},     {0xF8, 0x131},    {0x134, 0x13E},   {0x141, 0x148},
+                {0x14A, 0x17E},   {0x391, 0x3A1},   {0x3A3, 0x3CE},   {0x410, 0x44F},
+                {0x3041, 0x3094}, {0x30A1, 0x30FA}, {0x4E00, 0x9FA5}, {0xAC00, 0xD7A3}};
+  for (const auto& range : ranges) {
+    for (const char32_t inside : {range.first, range.last}) {
+      EXPECT_TRUE(isXmlNameStart(inside)) << std::hex << static_cast<unsigned>(inside);
+      EXPECT_TRUE(isXmlNameCharacter(inside)) << std::hex << static_cast<unsigned>(inside);
+    }
+    for (const char32_t outside : {range.first - 1, range.last + 1}) {
+      EXPECT_FALSE(isXmlNameStart(outside)) << std::hex << static_cast<unsigned>(outside);
+    }
+  }
+  for (const char32_t further : U"059-.") {
+    if (further == U'\0') continue;
+    EXPECT_FALSE(isXmlNameStart(further));
+    EXPECT_TRUE(isXmlNameCharacter(further));
+  }
+  EXPECT_FALSE(isXmlNameCharacter(U'/'));
+  EXPECT_FALSE(isXmlNameCharacter(U':'));
 }
 
 }  // namespace

@@ -13,14 +13,18 @@ TEST(NamespaceUri, TellsUrisFromOtherTexts) {
   for (const char* const text :
        {"urn:quote", "http://tempuri.org/", "http://a_b/c", "http://u:p@host:8080/x?y=1?z#part",
         "http://[::1]/x", "http://[::1]:80", "urn:a%20b%C3%A4", "urn:a*b", "quote", "//host",
-        "../x", "#part", "urn:", "mailto:x@y", "urn:x:y", "a/b:c", "http://"}) {
+        "../x", "#part", "urn:", "mailto:x@y", "urn:x:y", "a/b:c", "http://", "a+b-c.1:x",
+        "urn:%Fa%aF%09"}) {
     EXPECT_TRUE(isUri(text)) << text;
   }
   for (const char* const text :
-       {"a b",           "urn:a\tb", "urn:\x7f", "urn:\xC3\xA4", "urn:a#b#c",     "urn:a%b",
-        "urn:a%2",       "urn:a%",   "urn:a%g0", "urn:a[b]",     "http://a[::1]", "http://[::1",
-        "http://[::1]a", "1:a",      ":a",       "a_b:c",        "http://x:y/z",  "urn:<a>",
-        "urn:\"",        "urn:{a}",  "urn:a|b",  "urn:a\\b",     "urn:a^b",       "urn:`"}) {
+       {"a b",           "urn:a\tb",     "urn:\x7f",      "urn:\xC3\xA4", "urn:a#b#c",
+        "urn:a%b",       "urn:a%2",      "urn:a%",        "urn:a%g0",     "urn:a[b]",
+        "http://a[::1]", "http://[::1",  "http://[::1]a", "1:a",          ":a",
+        "a_b:c",         "http://x:y/z", "urn:<a>",       "urn:\"",       "urn:{a}",
+        "urn:a|b",       "urn:a\\b",     "urn:a^b",       "urn:`",        "urn:a%0g",
+        "urn:a%@0",      "urn:a%/0",     "urn:a%G0",      "urn:a%:0",     "urn:a%`0",
+        "a~b:c",         "a\"b:c",       "http://u[@host"}) {
     EXPECT_FALSE(isUri(text)) << text;
   }
 }
