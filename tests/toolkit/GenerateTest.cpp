@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -89,6 +90,73 @@ TEST_F(GenerateTest, OptionsAreThoseOfTheKind) {
   options.values = {{"schema", "both"}};
   EXPECT_EQ(toolkit::wrongOption(kindOf("wsdl"), options),
             "option 'schema' takes inline|separate, not 'both'");
+}
+
+TEST_F(GenerateTest, OptionsAreSuggestedAndSeveralAreLookedAt) {
+  toolkit::GenerateOptions options;
+  options.values = {{"adress", "x"}};
+  EXPECT_EQ(toolkit::wrongOption(kindOf("wsdl"), options),
+            "wsdl has no option 'adress'; did you mean 'address'?");
+  // Of some options any value will do; of others the first word is as good as the last.
+  options.values = {{"address", "any|thing"}, {"conditions", "enumerations"}, {"schema", "inline"}};
+  EXPECT_EQ(toolkit::wrongOption(kindOf("wsdl"), options), "");
+  options.values["schema"] = "inlin";
+  EXPECT_EQ(toolkit::wrongOption(kindOf("wsdl"), options),
+            "option 'schema' takes inline|separate, not 'inlin'");
+}
+
+TEST_F(GenerateTest, KindsThatNobodyMakesAreRefused) {
+  const toolkit::GeneratorKind unknown = {"smoke", "", {"ws"}, true, {}};
+  EXPECT_THROW(toolkit::generateFrom(reader(), unknown, {example}), std::invalid_argument);
+}
+
+TEST_F(GenerateTest, AFolderThatCannotBeMadeIsTold) {
+  write("file", "");
+  EXPECT_THAT(test::fileErrorOf([&] { make("wsdl", example, "file/"); }),
+              HasSubstr("file/ cannot be made"));
+  EXPECT_THAT(test::fileErrorOf([&] { make("xsd", example, "file/below"); }),
+              HasSubstr("file/below cannot be made"));
+}
+
+TEST_F(GenerateTest, AFolderThatIsThereTakesWhatIsMade) {
+  fs::create_directory("there");
+  EXPECT_THAT(make("wsdl", example, "there").files, ElementsAre("there/Kfz-Pr_mie.wsdl"));
+  EXPECT_THAT(make("wsdl", example, "").files, ElementsAre("Kfz-Pr_mie.wsdl"));
+}
+
+// Neither of the documents that it is made of is overwritten.
+TEST_F(GenerateTest, DocumentsAreNotOverwritten) {
+  write("MOTPREM.xml", contentOf(AS_EXAMPLES_DIR "/MOTPREM.xml"));
+  write("other.xml", contentOf(AS_EXAMPLES_DIR "/MOTPREM.xml"));
+  write("s.xml", contentOf(example));
+  EXPECT_EQ(test::refusalOf([&] { make("wsdl", "s.xml", "s.xml"); }).text, "this is the document");
+  EXPECT_EQ(test::refusalOf([&] { make("wsdl", "s.xml", "MOTPREM.xml"); }).text,
+            "this is the dictionary");
+  EXPECT_EQ(test::refusalOf([&] {
+              toolkit::generateFiles(reader(), kindOf("wsdl"), std::string("s.xml"), "other.xml",
+                                     {}, "other.xml");
+            }).text,
+            "this is the dictionary");
+  EXPECT_EQ(make("wsdl", "s.xml", "other.xml").files.size(), 1U);
+}
+
+TEST_F(GenerateTest, WithoutADictionaryOfItsOwnNoneIsMissed) {
+  write("s.xml", "<!-- lint: off no-dictionary -->" +
+                     test::webService("name='S' implementation='ws'", "<operations/>"));
+  EXPECT_THAT(make("wsdl", "s.xml", "out").files, ElementsAre("out"));
+}
+
+// The program of a service that has one is as good as one that is told.
+TEST_F(GenerateTest, ServicesMayBringTheirPrograms) {
+  writeService("<alphanumeric name='A' picture='X' length='1'/>");
+  const toolkit::ServiceDocument document = reader().readServiceWithProgram("s.xml");
+  const toolkit::Generated own = toolkit::generate(kindOf("java"), *document.service);
+  const auto program = reader().readDictionary("p.xml");
+  const auto bare = reader().readService("s.xml");
+  const toolkit::Generated told = toolkit::generate(kindOf("java"), *bare, {}, program.get());
+  ASSERT_THAT(own.files, SizeIs(1));
+  ASSERT_THAT(told.files, SizeIs(1));
+  EXPECT_EQ(own.files[0].content, told.files[0].content);
 }
 
 TEST_F(GenerateTest, WhatLintRefusesIsNotMade) {
@@ -282,6 +350,11 @@ TEST_F(GenerateTest, NamesAreOnePerLine) {
   const toolkit::Refusal refusal =
       test::refusalOf([] { toolkit::readChosenNames("A = B\nnothing\n", "names"); });
   EXPECT_EQ(refusal.line, 2);
+  for (const char* const text : {"= B\n", "A =\n", "A = \t\n", "=\n"}) {
+    EXPECT_EQ(test::refusalOf([text] { toolkit::readChosenNames(text, "names"); }).text,
+              "this is no name for another")
+        << text;
+  }
   EXPECT_EQ(toolkit::readChosenNames("a=b = c \r\n", "names").at("a=b"), "c");
 }
 

@@ -91,7 +91,8 @@ std::vector<FileContent> placed(std::vector<GeneratedFile>& files, const std::st
     contents.push_back(
         {isFolder ? (fs::path(output) / file.name).string() : output, std::move(file.content)});
   }
-  if (isFolder) {
+  // The empty name is that of the current folder, which is there.
+  if (isFolder && !output.empty()) {
     fs::create_directories(output, failure);
     if (failure) throw FileError(output + " cannot be made: " + failure.message());
   }
