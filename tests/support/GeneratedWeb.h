@@ -80,6 +80,8 @@ struct Service {
   std::string properties{};
   // The rules that a comment of the document switches off.
   std::vector<const char*> withoutRules{};
+  // New .NET services stand in the namespace of Web services.
+  const char* implementation = "ws";
 };
 
 inline std::string operation(const std::string& name, const std::string& parameters,
@@ -100,10 +102,11 @@ class GenerateWebTest : public GenerateTest {
     for (const char* const rule : service.withoutRules) {
       text += std::string("<!-- lint: off ") + rule + " -->";
     }
-    text += webService(
-        service.attributes + " implementation='ws' programName='PAYROLL' dataDictFilename='p.xml'",
-        element("properties", service.properties) + element("parameterTypeDefs", service.types) +
-            element("operations", service.operations));
+    text += webService(service.attributes + " implementation='" + service.implementation +
+                           "' programName='PAYROLL' dataDictFilename='p.xml'",
+                       element("properties", service.properties) +
+                           element("parameterTypeDefs", service.types) +
+                           element("operations", service.operations));
     write("s.xml", text);
     return toolkit::generateFrom(reader(), *toolkit::findGeneratorKind(kind), {"s.xml"}, options);
   }

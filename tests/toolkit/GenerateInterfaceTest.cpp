@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "support/Documents.h"
 #include "support/Generated.h"
@@ -110,6 +111,46 @@ TEST_F(GenerateInterface, IdlReturnsWhatTheDocumentSays) {
   EXPECT_THAT(idl, HasSubstr("[out, retval] BSTR *a);"));
 }
 
+TEST_F(GenerateInterface, IdlReturnsOneThing) {
+  const toolkit::Generated idl =
+      made("idl", parameter("name='a' byType='out' dataType='string' returnParameter='1'") +
+                      parameter("name='b' byType='out' dataType='string' returnParameter='1'"));
+  EXPECT_THAT(textOf(idl), HasSubstr("[out, retval] BSTR *a);"));
+  EXPECT_THAT(textOf(idl), HasSubstr("[out] BSTR *b,"));
+  EXPECT_THAT(textsOf(idl.findings).back(),
+              HasSubstr("do-it.b: another one is returned: it is a parameter"));
+}
+
+TEST_F(GenerateInterface, IdlHandsStructuresOverByAddressAndTablesAsArrays) {
+  const std::string inner = "<mappings/><field name='f' dataType='string'/>";
+  const std::string idl =
+      text("idl", test::element("parameter", inner, "name='a' byType='in'") +
+                      test::element("parameter", inner, "name='b' byType='in' occurs='3'"));
+  EXPECT_THAT(idl, HasSubstr("[in] DoItA *a,"));
+  EXPECT_THAT(idl, HasSubstr("[in] SAFEARRAY(DoItB) b);"));
+}
+
+// What compilers of C read in another way, and as much as a help string holds.
+TEST_F(GenerateInterface, TextsOfIdlAreLiterals) {
+  const auto helpOf = [this](const std::string& name) {
+    write("p.xml", test::dictionaryOf(test::importOf(program)));
+    write("s.xml", test::serviceDocument(toolkit::findFlavour("com")->documents.uri,
+                                         "name='" + name +
+                                             "' implementation='com' programName='T' "
+                                             "dataDictFilename='p.xml'",
+                                         "<operations/>"));
+    const std::string idl =
+        textOf(toolkit::generateFrom(reader(), *toolkit::findGeneratorKind("idl"), {"s.xml"}));
+    const std::string start = "helpstring(";
+    const std::size_t at = idl.find(start) + start.size();
+    return idl.substr(at, idl.find(")]", at) - at);
+  };
+  const std::string rest = ": what program T does for its callers\"";
+  EXPECT_EQ(helpOf("a&quot;b\\c"), R"("a\"b\\c)" + rest);
+  EXPECT_EQ(helpOf("&#xE4;\x7F?x"), "\"? ? ?x" + rest);
+  EXPECT_EQ(helpOf(std::string(300, 'n')), "\"" + std::string(200, 'n') + "\"");
+}
+
 TEST_F(GenerateInterface, IdlReturnsNothingThatGoesIn) {
   const toolkit::Generated idl =
       made("idl", parameter("name='a' byType='io' dataType='string' returnParameter='1'"));
@@ -162,6 +203,55 @@ TEST_F(GenerateInterface, NamesAreChosen) {
   toolkit::GenerateOptions options;
   options.names["do-it"] = "perform";
   EXPECT_THAT(textOf(made("java", in, "", options)), HasSubstr("void perform(String a);"));
+}
+
+TEST_F(GenerateInterface, WhatHasNoItemIsToldAsSuch) {
+  const std::string java =
+      text("java", test::element("parameter", "", "name='a' byType='in' dataType='String'") +
+                       test::element("parameter", "<mappings/><field name='f' dataType='String'/>",
+                                     "name='b' byType='in'"));
+  EXPECT_THAT(java, HasSubstr("@param a no item of the program\n"));
+  EXPECT_THAT(java, HasSubstr("@param b see {@link DoItB}\n"));
+}
+
+// A method takes 255 words of 32 bits, its object's included; long numbers take two.
+TEST_F(GenerateInterface, JavaTakesSoManyParametersAndNoMore) {
+  const auto parametersOf = [](int number, const std::string& type) {
+    std::string parameters;
+    for (int i = 0; i < number; ++i) {
+      parameters +=
+          "<parameter name='p" + std::to_string(i) + "' byType='in' dataType='" + type + "'/>";
+    }
+    return parameters;
+  };
+  EXPECT_THAT(text("java", parametersOf(254, "int")), HasSubstr("int p253);"));
+  EXPECT_THAT(text("java", parametersOf(127, "double")), HasSubstr("double p126);"));
+  const std::pair<int, std::string> rows[] = {{255, "int"}, {128, "long"}, {128, "double"}};
+  for (const auto& [number, type] : rows) {
+    const toolkit::Generated java = made("java", parametersOf(number, type));
+    EXPECT_THAT(java.files, IsEmpty()) << type;
+    EXPECT_THAT(textsOf(java.findings).back(),
+                HasSubstr("do-it: Java takes no " + std::to_string(number) +
+                          " parameters in one "
+                          "place; make groups of them"));
+  }
+}
+
+TEST_F(GenerateInterface, JavaTakesSoManyFieldsOfAClassAndNoMore) {
+  for (const int number : {8000, 8001}) {
+    std::string items;
+    for (int i = 0; i < number; ++i) {
+      items += "<numeric name='F" + std::to_string(i) + "' offset='0' length='1' digits='1'/>";
+    }
+    write("p.xml",
+          test::dictionaryOf("<group name='R' offset='0' length='8'>" + items + "</group>"));
+    const toolkit::Generated java =
+        toolkit::generateFrom(reader(), *toolkit::findGeneratorKind("java"), {"p.xml"});
+    EXPECT_EQ(java.files.empty(), number > 8000);
+    if (!java.files.empty()) continue;
+    EXPECT_THAT(textsOf(java.findings).back(),
+                HasSubstr("type R: Java takes no 8001 fields in one place"));
+  }
 }
 
 TEST_F(GenerateInterface, LargeStructuresAreNoRecords) {
