@@ -5,11 +5,13 @@
 #include <optional>
 #include <set>
 
-#include "support/Toolkit.h"
+#include "support/Diffs.h"
 
 namespace {
 
 namespace toolkit = as::toolkit;
+using test::lineOf;
+using test::summaryOf;
 
 struct DiffRow {
   const char* example;
@@ -300,29 +302,6 @@ const DiffRow rows[] = {
      "item=\"LK-RESULT.LK-RES-NET\"/>\n        </mappings>\n      </field>\n",
      "field-reordered type Premium.net: 4 -> 5 !\n"},
 };
-
-std::string lineOf(const toolkit::Change& change) {
-  std::string text = change.kind + " " + change.oldPlace;
-  if (change.newPlace != change.oldPlace) text += " -> " + change.newPlace;
-  if (change.oldValue.empty() && change.newValue.empty()) return text;
-  return text + ": " + change.oldValue + " -> " + change.newValue;
-}
-
-std::string summaryOf(const toolkit::Diff& diff) {
-  std::map<std::size_t, int> followers;
-  for (const toolkit::Change& change : diff.changes) {
-    if (change.cause) ++followers[*change.cause];
-  }
-  std::string text;
-  for (std::size_t i = 0; i < diff.changes.size(); ++i) {
-    const toolkit::Change& change = diff.changes[i];
-    if (change.cause) continue;
-    text += lineOf(change);
-    if (followers.count(i) > 0) text += " +" + std::to_string(followers[i]);
-    text += change.breaks ? " !\n" : "\n";
-  }
-  return text;
-}
 
 // What is told of each change without regard to what it follows from, with old and new in each
 // other's place or not. Of two that changed places one is told, which one is open.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "support/Diffs.h"
 #include "support/Documents.h"
 #include "support/Toolkit.h"
 
@@ -17,44 +18,7 @@ std::string example(const std::string& name) {
   return (std::filesystem::path(AS_EXAMPLES_DIR) / name).string();
 }
 
-class DiffTest : public test::ToolkitTest {
- protected:
-  // The dictionary of a program with such entries in its linkage section, in a file.
-  std::string dictionary(const std::string& name, const std::string& entries) const {
-    toolkit::ImportOptions options;
-    options.format = toolkit::SourceFormat::free;
-    const toolkit::Imported imported = toolkit::importCobol(
-        "IDENTIFICATION DIVISION.\nPROGRAM-ID. T.\nDATA DIVISION.\nLINKAGE SECTION.\n" + entries +
-            "\nPROCEDURE DIVISION USING R.\n",
-        "T.cbl", nullptr, options);
-    EXPECT_FALSE(imported.programs.front().isRefused());
-    write(name, imported.programs.front().dictionary);
-    return name;
-  }
-
-  toolkit::Diff diffOf(const std::string& before, const std::string& after) const {
-    return toolkit::diffFiles(reader(), dictionary("old.xml", before),
-                              dictionary("new.xml", after));
-  }
-
-  static std::vector<std::string> kindsOf(const toolkit::Diff& diff) {
-    std::vector<std::string> kinds;
-    for (const toolkit::Change& change : diff.changes) kinds.push_back(change.kind);
-    return kinds;
-  }
-
-  static std::string textOf(const toolkit::Diff& diff) {
-    std::ostringstream out;
-    toolkit::renderText(out, diff);
-    return out.str();
-  }
-
-  static nlohmann::json jsonOfDiff(const toolkit::Diff& diff) {
-    std::ostringstream out;
-    toolkit::renderJson(out, diff);
-    return nlohmann::json::parse(out.str());
-  }
-};
+using test::DiffTest;
 
 TEST_F(DiffTest, ItemsBreakCallersWhoSawThemOrSeeThemNow) {
   const std::string unseen = "01 R PIC X. WORKING-STORAGE SECTION. 01 A PIC 9(4).";
