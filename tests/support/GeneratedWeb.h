@@ -31,6 +31,9 @@ inline const char* const program = R"xml(<dataItems>
   <numeric name="CELL" offset="22" length="1" picture="9" digits="1" minOccurs="3" maxOccurs="3"/>
  </group>
  <alphanumeric name="SECOND" offset="40" length="2" picture="X(2)" minOccurs="2" maxOccurs="4" odo="R.M"/>
+ <numeric name="CODED" offset="48" length="1" picture="9" digits="1">
+  <numericCondition name="YES"><numericConstant value="1"/></numericCondition>
+  <numericCondition name="NO"><numericConstant value="+2"/></numericCondition></numeric>
  <alphanumeric name="OTHER" offset="48" length="8" picture="X(8)"/>
  <alphanumeric name="THIRD" offset="68" length="2" picture="X(2)" minOccurs="2" maxOccurs="4" odo="R.NONE"/>
  <group name="GROUP" offset="56" length="12"><alphanumeric name="PART" offset="56" length="12" picture="X(12)"/></group>

@@ -119,6 +119,43 @@ TEST_F(GenerateMessages, ExamplesOfOpenApiAreSmallAllOrNone) {
   EXPECT_THAT(text("openapi", service, {{"examples", "none"}}), Not(HasSubstr("\"example\"")));
 }
 
+TEST_F(GenerateMessages, ExamplesEndWhereTypesStandInThemselves) {
+  const json made =
+      openApi({operation("op", parameter("name='p' byType='in' ref='Node'", "")),
+               parameter("name='Node'", "<mappings/>" + field("name='next' ref='Node'", "") +
+                                            field("name='v'" + in))});
+  EXPECT_EQ(made["paths"]["/op"]["post"]["requestBody"]["content"]["application/json"]["example"],
+            json::parse(R"({"p": {"v": "ABCDEFGH"}})"));
+}
+
+TEST_F(GenerateMessages, ValuesOfConditionsAreOfTheFieldsType) {
+  const std::string parameters =
+      parameter("name='number' byType='in' dataType='int'", mapped("CODED")) +
+      parameter("name='text'" + in, mapped("CODED"));
+  const Service service = {operation("op", parameters)};
+  const auto propertiesOf = [](const json& made) {
+    return made["components"]["schemas"]["op"]["properties"];
+  };
+  const json told = propertiesOf(openApi(service, {{"conditions", "enumerations"}}));
+  EXPECT_EQ(told["number"]["enum"], json::parse("[1, 2]"));
+  EXPECT_EQ(told["text"]["enum"], json::parse(R"(["1", "2"])"));
+  EXPECT_EQ(told["text"]["pattern"], "^[0-9]{1,1}$");
+  EXPECT_FALSE(propertiesOf(openApi(service))["number"].contains("enum"));
+}
+
+// A group without fields has no value that any schema knows.
+TEST_F(GenerateMessages, WhatHasNoTypeMayBeAnything) {
+  const Service service = {operation("op", parameter("name='p' byType='in' dataType='Array'", ""))};
+  const toolkit::Generated made = this->made("openapi", service);
+  const json told = json::parse(allOf(made));
+  EXPECT_EQ(told["components"]["schemas"]["op"]["properties"]["p"], json::object());
+  EXPECT_EQ(told["paths"]["/op"]["post"]["requestBody"]["content"]["application/json"]["example"],
+            json::parse(R"({"p": ""})"));
+  EXPECT_THAT(textsOf(made.findings),
+              Contains("op.p: there is no type for 'Array': it may hold anything; give it fields, "
+                       "or a data type of a value"));
+}
+
 TEST_F(GenerateMessages, SchemasOfWsdlStandInFilesOfTheirOwnWhereTheyAreAskedFor) {
   const Service service = {
       operation("op", parameter("name='a' namespace='urn:own'" + in), "", document), ""};

@@ -91,6 +91,28 @@ TEST_F(LintManyTest, TheFirstLostRecordsOfAnEntryPointAreTold) {
             "dictionary; make the dictionary anew");
 }
 
+TEST_F(LintManyTest, TheFirstWrongRecordsOfADefinitionAreTold) {
+  const auto definitionOf = [](std::size_t records) {
+    std::string fields;
+    for (std::size_t i = 0; i < records; ++i) {
+      fields += "<field name='" + numbered("f", i) + "'" + mapped(numbered("R", i)) + "</field>";
+    }
+    return "<parameter name='T'>" + fields + "</parameter>";
+  };
+  const auto told = [](std::size_t number, const char* more) {
+    return "pay.p: " + numbered("R", number) + " is nothing that entry point 'PAY' is called with" +
+           more + "; it takes no parameters";
+  };
+  writeProgram(30, {});
+  for (const std::size_t records : {20U, 21U}) {
+    const std::vector<std::string> all =
+        found(definitionOf(records), "<parameter name='p' ref='T'/>");
+    ASSERT_EQ(all.size(), 20U);
+    for (std::size_t i = 0; i < 19; ++i) EXPECT_EQ(all[i], told(i, ""));
+    EXPECT_EQ(all[19], told(19, records == 20 ? "" : " (and there are others)"));
+  }
+}
+
 // Definitions that refer to others by chance, and parameters that refer to them. A definition's
 // records are told in the order in which they are met, the first 20 of them.
 class LintTypeStorage : public LintManyTest, public testing::WithParamInterface<unsigned int> {

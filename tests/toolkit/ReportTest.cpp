@@ -208,6 +208,35 @@ TEST_F(ReportTest, ALongNameIsCutInTheIndexOnly) {
   EXPECT_LT(contentOf(report, "data/names.js").size(), 2000U);
 }
 
+TEST_F(ReportTest, NamesAreCutBetweenCharacters) {
+  // The character that the limit of 200 bytes falls into is left out.
+  for (const std::size_t inFront : {197U, 198U, 199U, 200U}) {
+    const std::string name = std::string(inFront, 'N') + "\xE2\x82\xAC" + "END";
+    write("l.xml", test::dictionaryOf("<alphanumeric name='" + name + "'/>"));
+    const nlohmann::json names = dataOf(reportOf({"l.xml"}), "names")["d1"];
+    const std::string whole =
+        inFront == 197 ? std::string(197, 'N') + "\xE2\x82\xAC" : std::string(inFront, 'N');
+    EXPECT_EQ(names[1][2], whole + "\xE2\x80\xA6") << inFront;
+  }
+}
+
+// Files are sections, whether they have records or not.
+TEST_F(ReportTest, FilesAreShownAndFound) {
+  write("d.xml", test::dictionary("<fileSection><fd name='EMPTY' organization='indexed' "
+                                  "accessMode='random'/></fileSection><dataItems><alphanumeric "
+                                  "name='A' linkage='true'/></dataItems>"));
+  const toolkit::Report report = reportOf({"d.xml"});
+  const nlohmann::json sections = dataOf(report, "d1")["sections"];
+  ASSERT_THAT(sections, SizeIs(2));
+  EXPECT_EQ(sections[0]["title"], "fd EMPTY");
+  EXPECT_EQ(sections[0]["organization"], "indexed");
+  EXPECT_EQ(sections[0]["access"], "random");
+  EXPECT_THAT(sections[0]["records"], IsEmpty());
+  EXPECT_EQ(sections[1]["title"], "linkage section");
+  EXPECT_THAT(dataOf(report, "names")["d1"],
+              Contains(nlohmann::json::parse(R"(["file", 0, "EMPTY", ""])")));
+}
+
 // The first page waits for the index: what it takes is told of documents, not of their names.
 TEST_F(ReportTest, NamesAreNoPartOfTheIndex) {
   std::string items;
