@@ -76,6 +76,21 @@ TEST_F(ConvertEdge, AnItemThatNoTypeHoldsLeavesTheFieldWithout) {
   EXPECT_THAT(output(), Not(HasSubstr("dataType")));
 }
 
+// What a document writes with a prefix is written with it.
+TEST_F(ConvertEdge, FieldAttributesOfPrefixedDocumentsBecomePrefixedFields) {
+  const std::string ws = as::namespaces::ws.uri;
+  write(
+      "s.xml",
+      test::element("w:service",
+                    "<w:operations><w:operation name='o'><w:parameters><w:parameter name='p' "
+                    "dataType='string'><w:fieldAttribute name='a' dataType='string'/></w:parameter>"
+                    "</w:parameters></w:operation></w:operations>",
+                    test::declarations(ws, ws + " " + ws, "w") + " name='S' implementation='ws'"));
+  toolkit::convertServiceFile(reader(), "s.xml", "out.xml", *toolkit::findFlavour("java"));
+  EXPECT_THAT(output(), HasSubstr("<w:field dataType=\"String\" name=\"a\"/>"));
+  EXPECT_THAT(output(), Not(HasSubstr("fieldAttribute")));
+}
+
 TEST_F(ConvertEdge, WithoutADefaultNothingIsReadInstead) {
   EXPECT_THAT(textsOf(convertJava(parameterFor("OBJ", "byteArray"), "ws")),
               ElementsAre("o.p: data type 'byteArray' has no equivalent in Web services: left "

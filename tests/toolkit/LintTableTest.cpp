@@ -19,9 +19,9 @@ class LintTable : public test::ToolkitTest {
  protected:
   // What is found in a field of a parameter, which occur so often, mapped to one of the items of
   // payProgram(): LINE occurs 3 times, CELL twice in each.
-  std::vector<std::string> found(int parameterOccurs, int fieldOccurs,
-                                 const std::string& mapping) const {
-    write("PAY.xml", test::payProgram());
+  std::vector<std::string> found(int parameterOccurs, int fieldOccurs, const std::string& mapping,
+                                 const std::string& program = test::payProgram()) const {
+    write("PAY.xml", program);
     write("s.xml",
           test::payService("<operations><operation name='pay' entryPoint='PAY'><parameters>"
                            "<parameter name='p' occurs='" +
@@ -52,6 +52,14 @@ TEST_F(LintTable, OneMoreThanTheOpenOnesIsTooMany) {
 TEST_F(LintTable, AnOccurrenceOfTheInterfaceIsATableThatIsThere) {
   EXPECT_THAT(found(3, 2, "item='REQ.LINE.CELL(*,1)' subscript='*,1'"), IsEmpty());
   EXPECT_THAT(found(3, 2, "item='REQ.LINE.CELL(1,2)' subscript='1,2'"), IsEmpty());
+}
+
+TEST_F(LintTable, ATableOfOneOccurrenceNeedsNoneOnTheOtherSide) {
+  std::string program = test::payProgram();
+  const std::string twice = "minOccurs=\"2\" maxOccurs=\"2\"";
+  program.replace(program.find(twice), twice.size(), "minOccurs=\"1\" maxOccurs=\"1\"");
+  EXPECT_THAT(found(3, 1, "item='REQ.LINE.CELL(*,*)' subscript='*,*'", program), IsEmpty());
+  EXPECT_THAT(found(1, 1, "item='REQ.LINE.CELL(1,*)' subscript='1,*'", program), IsEmpty());
 }
 
 TEST_F(LintTable, OneFewerThanTheOpenOnesIsTooFew) {

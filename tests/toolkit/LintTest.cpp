@@ -636,6 +636,17 @@ TEST_F(LintTest, TheDictionaryMayBeNamed) {
   EXPECT_THAT(toolkit::lintFile(reader(), "s.xml", "elsewhere/OTHER.xml"), IsEmpty());
 }
 
+TEST_F(LintTest, AServiceThatNamesNoDictionaryMayBeGivenOne) {
+  write("PAY.xml", test::payProgram());
+  write("s.xml", test::javaService("name='Pay' implementation='java'",
+                                   "<operations><operation name='pay' entryPoint='NONE'/>"
+                                   "</operations>"));
+  EXPECT_THAT(test::textsOf(toolkit::lintFile(reader(), "s.xml", "PAY.xml")),
+              testing::Contains(HasSubstr("PAYROLL has no entry point 'NONE'")));
+  EXPECT_THAT(test::textsOf(toolkit::lintFile(reader(), "s.xml")),
+              ElementsAre("service: the service names no dictionary; write \"dataDictFilename\""));
+}
+
 TEST_F(LintTest, TheDictionaryIsLookedForBesideTheService) {
   write("services/s.xml", payService(mapped("dataType='int'", "item='REQ.ID'")));
   write("services/PAY.xml", test::payProgram());

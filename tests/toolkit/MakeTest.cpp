@@ -474,6 +474,32 @@ TEST_F(MakeTest, AnUnknownEntryPointIsRefusedWithThoseThereAre) {
   EXPECT_EQ(contentOf("s.xml"), "old");
 }
 
+TEST_F(MakeTest, AnEntryPointOfAProgramWithoutAnyIsRefused) {
+  EXPECT_EQ(refusalOf([this] {
+              make(test::dictionary(""), "java", {"", {"Z"}});
+            }).hint,
+            "the program has none");
+}
+
+// COM returns one thing.
+TEST_F(MakeTest, OneParameterIsReturned) {
+  const auto item = [](const std::string& name) {
+    return "<numeric name='" + name + "' length='4' digits='4' linkage='true'/>";
+  };
+  const auto by = [](const std::string& name, const std::string& type) {
+    return "<parameter dataItem='" + name + "' byType='" + type + "'/>";
+  };
+  make(dictionary("<dataItems>" + item("A") + item("B") + item("C") +
+                  "</dataItems><entryPoints><entryPoint name='GO'>" + by("A", "reference") +
+                  by("B", "returning") + by("C", "returning") + "</entryPoint></entryPoints>"),
+       "com");
+  const nlohmann::json parameters = made()["operations"][0]["parameters"];
+  ASSERT_EQ(parameters.size(), 3U);
+  for (std::size_t i = 0; i < 3; ++i) {
+    EXPECT_EQ(parameters[i]["returnParameter"], i == 1 ? 1 : 0) << parameters[i];
+  }
+}
+
 TEST_F(MakeTest, ATwinOfAnEntryPointIsLeftOut) {
   const toolkit::MadeService outcome = make(programWithEntryPoints({"A", "A"}));
   EXPECT_THAT(textsOf(outcome.notes),

@@ -130,6 +130,40 @@ OPERATIONS
 )text");
 }
 
+// A table stands below an operation where there is something in it.
+TEST_F(ServiceRenderTest, ShowPrintsNoTableOfNothing) {
+  const auto shownOf = [this](const std::string& inside) {
+    return shown(test::webService(
+        "name='S' implementation='ws'",
+        "<operations><operation name='o'>" + inside + "</operation></operations>"));
+  };
+  const std::string head = "SERVICE S\n\n  flavour       Web\n\nOPERATIONS\n\n  o\n";
+  EXPECT_EQ(shownOf(""), head);
+  EXPECT_EQ(shownOf("<hiddenParameters/><parameters/>"), head);
+  EXPECT_EQ(shownOf("<hiddenParameters><hiddenParameter item='A'/></hiddenParameters>"),
+            head + "\n  name      mapped to\n  (hidden)  A\n");
+  EXPECT_EQ(shownOf("<parameters><parameter name='p'/></parameters>"), head + "\n  name\n  p\n");
+  EXPECT_EQ(shownOf("<header/>"), head + "\n  name\n  (header)\n");
+}
+
+// Field attributes hold what fields do; those of a reference stand where it leads.
+TEST_F(ServiceRenderTest, ShowPrintsWhatFieldAttributesHold) {
+  const std::string tree = shown(test::webService(
+      "name='S' implementation='ws'",
+      "<parameterTypeDefs><parameter name='T'><fieldAttribute name='a'><fieldAttribute name='b'/>"
+      "<field name='c'/></fieldAttribute><fieldAttribute name='d' ref='T'><field name='e'/>"
+      "</fieldAttribute><fieldAttribute name='f' ref='NONE'/></parameter></parameterTypeDefs>"));
+  EXPECT_EQ(tree,
+            "SERVICE S\n\n  flavour       Web\n\nTYPE DEFINITIONS\n\n"
+            "  name    clauses\n"
+            "  T\n"
+            "    @a\n"
+            "      @b\n"
+            "      c\n"
+            "    @d    like T\n"
+            "    @f    like NONE (not found)\n");
+}
+
 TEST_F(ServiceRenderTest, JsonHoldsWhatTheAccessorsAnswer) {
   writeBoth();
   const json service = jsonOfFile("s/pay.xml");

@@ -79,6 +79,30 @@ TEST(TypeTableTest, WordsOfFlavoursStandForThemselves) {
   EXPECT_EQ(rowFor(xsdTypes(), date), nullptr);
 }
 
+TEST(TypeTableTest, ARowTellsWhatItHolds) {
+  const TypeTable table = {{"a", {Kind::integer, 9, 32}},
+                           {"b", {Kind::integer, 9, 32, false}},
+                           {"c", {Kind::floating, 6}},
+                           {"d", {Kind::decimal}},
+                           {"e", {Kind::decimal, 28}},
+                           {"f", {Kind::decimal, 0, 0, true, 0}},
+                           {"g", {Kind::decimal, 0, 0, true, 4, 15}},
+                           {"h", {Kind::text}},
+                           {"i", {Kind::bytes}},
+                           {"j", {Kind::open}, "date"}};
+  EXPECT_EQ(textOf(table),
+            "| integers of 32 bits, signed | `a` |\n"
+            "| integers of 32 bits, unsigned | `b` |\n"
+            "| floating-point numbers of 6 digits | `c` |\n"
+            "| decimal numbers | `d` |\n"
+            "| decimal numbers of 28 digits | `e` |\n"
+            "| decimal numbers, integers only | `f` |\n"
+            "| decimal numbers of 15 digits before the point, 4 behind it | `g` |\n"
+            "| text | `h` |\n"
+            "| bytes | `i` |\n"
+            "| what is of data type `date` | `j` |\n");
+}
+
 TEST(TypeTableTest, DocumentationShowsTheTables) {
   const std::string guide = test::contentOf(AS_EXAMPLES_DIR "/../docs/generate.md");
   const auto shown = [&guide](const std::string& kind) {
