@@ -140,8 +140,7 @@ class Planner {
                                            ? model_.operations[type.operation].parameters
                                            : model_.types[type.owner].fields;
     const auto field = std::find_if(around.begin(), around.end(), isIts);
-    return field == around.end() ? language_.text
-                                 : typeOf(*field, model_.placeOf(type), true).first;
+    return typeOf(*field, model_.placeOf(type), true).first;
   }
 
   void add(const Field& field, const std::string& place, std::vector<Member>& members,

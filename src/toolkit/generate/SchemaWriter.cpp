@@ -216,7 +216,7 @@ void SchemaWriter::writeAny(Part& part, const std::string& attributes) {
 
 // A restriction of a built-in type or, for what has no restriction, of one that is declared.
 void SchemaWriter::writeSimpleType(Part& part, const Field& field, const std::string& name) {
-  const std::string named = name.empty() ? "" : xmlAttribute("name", name);
+  const std::string named = xmlAttribute("name", name);
   const std::size_t declared = field.reference != none ? field.reference : field.structure;
   if (declared != none) {
     // Of a structure, or of what another name stands for.
