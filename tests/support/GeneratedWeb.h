@@ -74,7 +74,6 @@ inline const std::string document =
     "outputNamespace='urn:out'";
 inline const std::string in = " byType='in' dataType='string'";
 inline const std::string out = " byType='out' dataType='string'";
-inline const std::string both = " byType='io' dataType='string'";
 
 struct Service {
   std::string operations;

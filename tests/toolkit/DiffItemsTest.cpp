@@ -7,6 +7,7 @@
 #include <string>
 
 #include "support/Diffs.h"
+#include "support/Documents.h"
 
 namespace {
 
@@ -73,6 +74,21 @@ const Row rows[] = {
      "item-added  -> R.B:  -> numeric 9(4)\n"},
     {"01 R. 05 A PIC X(4). 05 B PIC 9(4).", "01 R. 05 A PIC X(4). 05 B REDEFINES A PIC 9(4).",
      "redefinition-changed R.B: none -> A +2 !\n"},
+    {"01 R. 05 A PIC X(4). 05 Z PIC X(4). 05 B REDEFINES Z PIC 9(4).",
+     "01 R. 05 A PIC X(4). 05 B REDEFINES A PIC 9(4).",
+     "item-removed R.Z -> : alphanumeric X(4) ->  +2 !\n"},
+    {"01 R. 05 A PIC X(4). 05 Z PIC X(3). 05 B REDEFINES Z PIC 9(3).",
+     "01 R. 05 A PIC X(4). 05 Y PIC 9(7) COMP-3. 05 B REDEFINES Y PIC 9(3).",
+     "item-removed R.Z -> : alphanumeric X(3) ->  !\n"
+     "item-added  -> R.Y:  -> numeric 9(7) comp-3 +1 !\n"},
+    // A record is another one within a group.
+    {"01 R PIC X. 01 A PIC X(7).", "01 R PIC X. 01 G. 05 A PIC X(7).",
+     "item-removed A -> : alphanumeric X(7) ->  !\n"
+     "item-added  -> G:  -> group of 7 bytes\n"},
+    // What renamed others is an item of its own.
+    {"01 R. 05 A PIC X. 66 V RENAMES A. 66 W RENAMES A.", "01 R. 05 A PIC X. 05 V PIC X.",
+     "renames-changed R.V: yes -> no +2 !\n"
+     "item-removed R.W -> : alphanumeric X ->  !\n"},
     // Tables.
     {"01 R. 05 N PIC 9. 05 M PIC 9. 05 T PIC X OCCURS 1 TO 3 DEPENDING ON N.",
      "01 R. 05 N PIC 9. 05 M PIC 9. 05 T PIC X OCCURS 1 TO 5 DEPENDING ON M.",
@@ -173,5 +189,92 @@ const Row rows[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Pairs, DiffItems, testing::ValuesIn(rows));
+
+// What dictionaries hold beside items.
+class DiffDictionaries : public test::DiffTest, public testing::WithParamInterface<Row> {};
+
+TEST_P(DiffDictionaries, TellWhatElseChanged) {
+  const auto documentOf = [](const char* content) {
+    return test::dictionary(std::string(content) +
+                            "<dataItems><alphanumeric name='A' length='1' linkage='true'/>"
+                            "<alphanumeric name='B' length='2' linkage='true'/></dataItems>");
+  };
+  std::string before = documentOf(GetParam().before);
+  std::string after = documentOf(GetParam().after);
+  // Entry points stand behind the items.
+  for (std::string* const text : {&before, &after}) {
+    const std::string mark = "<entryPoints>";
+    const std::string end = "</entryPoints>";
+    const std::size_t at = text->find(mark);
+    if (at == std::string::npos) continue;
+    const std::string part = text->substr(at, text->find(end) + end.size() - at);
+    text->erase(at, part.size());
+    text->insert(text->find("</program>"), part);
+  }
+  write("old.xml", before);
+  write("new.xml", after);
+  EXPECT_EQ(summaryOf(toolkit::diffFiles(reader(), "old.xml", "new.xml")), GetParam().expected);
+}
+
+#define PROPERTY(name, value) "<property name='" name "' value='" value "'/>"
+#define PROPERTIES(content) "<properties>" content "</properties>"
+#define ENTRY(name, content) "<entryPoint name='" name "'>" content "</entryPoint>"
+#define ENTRIES(content) "<entryPoints>" content "</entryPoints>"
+#define TAKES(item) "<parameter dataItem='" item "' byType='reference'/>"
+#define GIVEN(item) "<parameter dataItem='" item "' byType='value'/>"
+
+const Row others[] = {
+    // Of two of a name the first counts.
+    {PROPERTIES(PROPERTY("p", "1") PROPERTY("p", "2")), PROPERTIES(PROPERTY("p", "1")), ""},
+    {PROPERTIES(PROPERTY("p", "1") PROPERTY("q", "2")), PROPERTIES(PROPERTY("p", "3")),
+     "property-changed property p: 1 -> 3\nproperty-removed property q -> : 2 -> \n"},
+    {ENTRIES(ENTRY("E", TAKES("A")) ENTRY("E", TAKES("B"))), ENTRIES(ENTRY("E", TAKES("A"))), ""},
+    // New names, each for the first that is called so.
+    {ENTRIES(ENTRY("E", TAKES("A")) ENTRY("F", TAKES("A"))),
+     ENTRIES(ENTRY("G", TAKES("A")) ENTRY("H", TAKES("A"))),
+     "entry-point-renamed entry point E -> entry point G: E -> G !\n"
+     "entry-point-renamed entry point F -> entry point H: F -> H !\n"},
+    {ENTRIES(ENTRY("E", TAKES("A")) ENTRY("F", TAKES("B"))),
+     ENTRIES(ENTRY("G", TAKES("B")) ENTRY("H", TAKES("A"))),
+     "entry-point-renamed entry point E -> entry point H: E -> H !\n"
+     "entry-point-renamed entry point F -> entry point G: F -> G !\n"},
+    {ENTRIES(ENTRY("E", TAKES("A"))), ENTRIES(ENTRY("F", GIVEN("A"))),
+     "entry-point-removed entry point E ->  !\nentry-point-added  -> entry point F\n"},
+    // What is no record of the dictionary is known by its name.
+    {ENTRIES(ENTRY("E", TAKES("LOST"))), ENTRIES(ENTRY("E", TAKES("LOST"))), ""},
+    {ENTRIES(ENTRY("E", TAKES("LOST"))), ENTRIES(ENTRY("E", TAKES("A"))),
+     "entry-parameter-removed entry point E LOST -> : reference ->  !\n"
+     "entry-parameter-added  -> entry point E A:  -> reference !\n"},
+    {ENTRIES(ENTRY("E", TAKES("A"))), ENTRIES(ENTRY("E", TAKES("LOST"))),
+     "entry-parameter-removed entry point E A -> : reference ->  !\n"
+     "entry-parameter-added  -> entry point E LOST:  -> reference !\n"},
+    // The same record twice is two parameters.
+    {ENTRIES(ENTRY("E", TAKES("A") TAKES("A"))), ENTRIES(ENTRY("E", TAKES("A") TAKES("A"))), ""},
+    {ENTRIES(ENTRY("E", TAKES("A") TAKES("B"))),
+     ENTRIES(ENTRY("E", TAKES("B") TAKES("A") TAKES("A"))),
+     "entry-parameter-added  -> entry point E A:  -> reference !\n"
+     "entry-parameters-reordered entry point E: A, B -> B, A, A !\n"},
+    // Files that are called in another way, and hold nothing that tells them.
+    {"<fileSection><fd name='F'/><fd name='G' organization='indexed'/></fileSection>",
+     "<fileSection><fd name='G'/></fileSection>",
+     "file-organization-changed fd G: indexed -> none !\nfile-removed fd F ->  !\n"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Documents, DiffDictionaries, testing::ValuesIn(others));
+
+// Many values are told by the first of them.
+TEST_F(DiffDictionaries, LongListsOfValuesAreCut) {
+  const auto entriesOf = [](int number) {
+    std::string values;
+    for (int i = 100; i < 100 + number; ++i) values += " " + std::to_string(i);
+    return "01 R PIC 9(3). 88 C VALUES" + values + ".";
+  };
+  const toolkit::Diff diff = diffOf(entriesOf(60), entriesOf(61));
+  ASSERT_EQ(diff.changes.size(), 1U);
+  EXPECT_EQ(diff.changes[0].oldValue.size(), diff.changes[0].newValue.size());
+  EXPECT_EQ(diff.changes[0].newValue.substr(0, 8), "100, 101");
+  EXPECT_EQ(diff.changes[0].newValue.substr(diff.changes[0].newValue.size() - 5), ", ...");
+  EXPECT_LT(diff.changes[0].newValue.size(), 220U);
+}
 
 }  // namespace

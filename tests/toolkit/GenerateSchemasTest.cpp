@@ -32,8 +32,10 @@ TEST_F(GenerateSchemas, FieldAttributesAreAttributesOfTheValue) {
                 ""});
   };
   // Of a value that any text may be, with no type of its own.
-  const std::string plain = xsd("dataType='string'", "GROUP", attribute("name='code'" + in));
-  EXPECT_THAT(plain, HasSubstr("<xs:simpleContent>"));
+  const std::string plain =
+      text("xsd", operation("op", parameter("name='p'" + in, attribute("name='code'" + in))));
+  EXPECT_THAT(plain, HasSubstr("<xs:simpleContent>\n      <xs:extension base=\"xs:string\">"));
+  EXPECT_THAT(plain, Not(HasSubstr("<xs:simpleType name=")));
   const std::string limited = xsd("dataType='string'", "NAME", attribute("name='code'" + in));
   EXPECT_THAT(limited, HasSubstr("<xs:extension base=\"tns:op.p.value\">"));
   EXPECT_THAT(limited, HasSubstr("<xs:simpleType name=\"op.p.value\">"));
@@ -174,6 +176,8 @@ TEST_F(GenerateSchemas, FieldsOfSeveralItemsAlikeHaveTheLimitsOfOne) {
   };
   EXPECT_THAT(xsd("OTHER"), HasSubstr("<xs:maxLength value=\"8\"/>"));
   EXPECT_THAT(xsd("GROUP.PART"), Not(HasSubstr("<xs:maxLength")));
+  // Nor does a third one help that is as the first.
+  EXPECT_THAT(xsd("GROUP.PART'/><mapping item='R.OTHER"), Not(HasSubstr("<xs:maxLength")));
 }
 
 TEST_F(GenerateSchemas, WhatIsMappedToItemsThatThereAreNotHasNoLimits) {
