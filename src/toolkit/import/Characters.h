@@ -23,12 +23,9 @@ enum class CharacterClass : std::uint8_t {
 namespace characters {
 
 constexpr std::array<CharacterClass, 256> makeClasses() {
-  std::array<CharacterClass, 256> made{};
-  for (std::size_t i = 0; i < made.size(); i++) {
-    made[i] = i <= ' ' || i == 0x7F ? CharacterClass::blank
-              : i >= 0x80           ? CharacterClass::word
-                                    : CharacterClass::inRun;
-  }
+  std::array<CharacterClass, 256> made{};  // All blank.
+  for (std::size_t i = '!'; i <= '~'; i++) made[i] = CharacterClass::inRun;
+  for (std::size_t i = 0x80; i < made.size(); i++) made[i] = CharacterClass::word;
   const auto set = [&](std::string_view all, CharacterClass to) {
     for (const char one : all) made[static_cast<unsigned char>(one)] = to;
   };

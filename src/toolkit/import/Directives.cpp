@@ -61,9 +61,7 @@ void Directives::take(const SourceLine& line, std::int32_t file, SourceLines& li
   DirectiveText text(line.text.substr(mark.size()));
   try {
     const std::string_view word = text.take().text;
-    bool isConditional = false;
-    takeConditional(word, text, isConditional);
-    if (isConditional || isSkipping()) return;
+    if (takeConditional(word, text) || isSkipping()) return;
     if (isAny(word, {"DEFINE"})) {
       takeDefine(text);
     } else if (isAny(word, {"SOURCE"})) {
@@ -80,8 +78,7 @@ void Directives::take(const SourceLine& line, std::int32_t file, SourceLines& li
   }
 }
 
-void Directives::takeConditional(std::string_view word, DirectiveText& text, bool& isConditional) {
-  isConditional = true;
+bool Directives::takeConditional(std::string_view word, DirectiveText& text) {
   if (isAny(word, {"IF"})) {
     open(false);
     if (!branches_.back().isWithinSkipped) turn(definitions_.isTrue(text, tellUndefined_));
@@ -97,7 +94,7 @@ void Directives::takeConditional(std::string_view word, DirectiveText& text, boo
   } else if (isAny(word, {"EVALUATE"})) {
     open(true);
     Branch& branch = branches_.back();
-    if (branch.isWithinSkipped) return;
+    if (branch.isWithinSkipped) return true;
     branch.comparesWithTrue = text.accept("TRUE");
     if (!branch.comparesWithTrue) branch.subject = definitions_.valueOf(text, tellUndefined_);
   } else if (isAny(word, {"WHEN"})) {
@@ -111,8 +108,9 @@ void Directives::takeConditional(std::string_view word, DirectiveText& text, boo
     current("END-IF", false);
     branches_.pop_back();
   } else {
-    isConditional = false;
+    return false;
   }
+  return true;
 }
 
 void Directives::open(bool isEvaluate) {

@@ -43,7 +43,8 @@ class Directives {
     std::optional<DirectiveValue> subject;
   };
 
-  void takeConditional(std::string_view word, DirectiveText& text, bool& isConditional);
+  // False when the word is none of a condition's.
+  bool takeConditional(std::string_view word, DirectiveText& text);
   void takeDefine(DirectiveText& text);
   void takeSource(DirectiveText& text, SourceLines& lines);
   void takeSet(std::string_view line, DirectiveText& text, SourceLines& lines);

@@ -44,7 +44,8 @@ bool looksLikeShiftJis(std::string_view bytes) {
     if (first < 0x80 || between(first, 0xA1, 0xDF)) continue;
     const bool isLow = between(first, 0x81, 0x9F);
     if (!isLow && !between(first, 0xE0, 0xFC)) return false;
-    const auto second = i + 1 < bytes.size() ? static_cast<Byte>(bytes[++i]) : Byte{0};
+    if (++i == bytes.size()) return false;
+    const auto second = static_cast<Byte>(bytes[i]);
     if (!between(second, 0x40, 0xFC) || second == 0x7F) return false;
     pairs++;
     if (isLow) lowFirst++;

@@ -218,8 +218,8 @@ std::string_view LineLayout::withoutMark(std::string_view line) {
   const std::size_t directive = line.find(">>");
   if (directive == 0 || directive == std::string_view::npos || directive > firstColumn) return line;
   const std::string_view mark = withoutBlanksBehind(line.substr(0, directive));
-  const bool isMark = mark.size() < indicatorColumn && mark.find(' ') == std::string_view::npos &&
-                      std::all_of(mark.begin(), mark.end(), isWordCharacter);
+  const bool isMark =
+      mark.size() < indicatorColumn && std::all_of(mark.begin(), mark.end(), isWordCharacter);
   return isMark ? line.substr(directive) : line;
 }
 

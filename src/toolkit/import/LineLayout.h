@@ -16,14 +16,14 @@ namespace as::toolkit {
 enum class LineKind : std::uint8_t { blank, code, debugging, continuation, directive };
 
 struct LaidLine {
-  LineKind kind = LineKind::blank;
-  bool isPlain = false;  // Only ASCII without tabs.
-  bool areaA = false;    // It begins in columns 8 to 11 of a format that has them.
-  std::int32_t number = 0;
-  std::int32_t column = 0;
+  LineKind kind;
+  bool isPlain;  // Only ASCII without tabs.
+  bool areaA;    // It begins in columns 8 to 11 of a format that has them.
+  std::int32_t number;
+  std::int32_t column;
   std::string_view text;   // Without blanks at its ends.
   std::string_view whole;  // With those at its end, up to the right margin.
-  std::size_t room = 0;    // How many columns are left up to the right margin.
+  std::size_t room;        // How many columns are left up to the right margin.
 
   // The text is `code` without the blanks at its ends, and `code` begins in that column. REQUIRES:
   // isPlain.

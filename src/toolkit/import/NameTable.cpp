@@ -1,6 +1,6 @@
 #include "toolkit/import/NameTable.h"
 
-#include <utility>
+#include <algorithm>
 
 namespace as::toolkit {
 
@@ -18,43 +18,40 @@ std::uint64_t hashOf(std::string_view name) {
 
 }  // namespace
 
-bool NameTable::isName(Index id, std::string_view name) const {
+std::string_view NameTable::textOf(Index id) const {
   const auto at = static_cast<std::size_t>(id);
-  const std::size_t begin = begins_[at];
   const std::size_t end = at + 1 < begins_.size() ? begins_[at + 1] : texts_.size();
-  if (end - begin != name.size()) return false;
-  for (std::size_t i = 0; i < name.size(); ++i) {
-    if (texts_[begin + i] != capital(name[i])) return false;
-  }
-  return true;
+  return std::string_view(texts_).substr(begins_[at], end - begins_[at]);
+}
+
+bool NameTable::isName(Index id, std::string_view name) const {
+  const std::string_view text = textOf(id);
+  return std::equal(text.begin(), text.end(), name.begin(), name.end(),
+                    [](char known, char wanted) { return known == capital(wanted); });
+}
+
+// The slot with the number of that name, or the free one where it belongs.
+Index& NameTable::slotOf(std::string_view name) {
+  const std::size_t mask = slots_.size() - 1;
+  std::size_t at = static_cast<std::size_t>(hashOf(name)) & mask;
+  while (slots_[at] != none && !isName(slots_[at], name)) at = (at + 1) & mask;
+  return slots_[at];
 }
 
 Index NameTable::idOf(std::string_view name) {
-  const std::uint64_t hash = hashOf(name);
-  const std::size_t mask = slots_.size() - 1;
-  std::size_t at = static_cast<std::size_t>(hash) & mask;
-  while (slots_[at].id != none) {
-    if (slots_[at].hash == hash && isName(slots_[at].id, name)) return slots_[at].id;
-    at = (at + 1) & mask;
-  }
+  Index& slot = slotOf(name);
+  if (slot != none) return slot;
   const auto id = static_cast<Index>(begins_.size());
   begins_.push_back(texts_.size());
   for (const char c : name) texts_ += capital(c);
-  slots_[at] = {hash, id};
+  slot = id;
   if (2 * begins_.size() > slots_.size()) grow();
   return id;
 }
 
 void NameTable::grow() {
-  std::vector<Slot> old(2 * slots_.size());
-  std::swap(old, slots_);
-  const std::size_t mask = slots_.size() - 1;
-  for (const Slot& slot : old) {
-    if (slot.id == none) continue;
-    std::size_t at = static_cast<std::size_t>(slot.hash) & mask;
-    while (slots_[at].id != none) at = (at + 1) & mask;
-    slots_[at] = slot;
-  }
+  slots_.assign(2 * slots_.size(), none);
+  for (Index id = 0; static_cast<std::size_t>(id) < begins_.size(); ++id) slotOf(textOf(id)) = id;
 }
 
 }  // namespace as::toolkit

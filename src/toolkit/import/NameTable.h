@@ -16,7 +16,7 @@ namespace as::toolkit {
 // the text.
 class NameTable {
  public:
-  NameTable() : slots_(firstSlots) {}
+  NameTable() : slots_(firstSlots, none) {}
 
   Index idOf(std::string_view name);
 
@@ -26,15 +26,12 @@ class NameTable {
  private:
   static constexpr std::size_t firstSlots = 1024;
 
-  struct Slot {
-    std::uint64_t hash = 0;
-    Index id = none;
-  };
-
+  std::string_view textOf(Index id) const;
   bool isName(Index id, std::string_view name) const;
+  Index& slotOf(std::string_view name);
   void grow();
 
-  std::vector<Slot> slots_;          // A power of two, at most half of them taken.
+  std::vector<Index> slots_;         // A power of two, at most half of them taken.
   std::vector<std::size_t> begins_;  // Of the texts, by number.
   std::string texts_;                // In capitals.
 };

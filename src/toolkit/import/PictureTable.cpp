@@ -41,7 +41,7 @@ std::optional<Picture> oddPicture(const std::string& text, bool isDecimalPointCo
   }
   const auto points = std::count(plain.begin(), plain.end(), point);
   const auto digits = std::count(plain.begin(), plain.end(), '9');
-  if (!hasFiller || points > 1 || digits == 0) return std::nullopt;
+  if (!hasFiller || points > 1) return std::nullopt;
   Picture picture;
   picture.category = Picture::Category::numericEdited;
   picture.characters = static_cast<int>(characters);

@@ -19,9 +19,9 @@ namespace as::toolkit {
 struct SourceLine {
   // Where the text of another line of the file goes on.
   struct Seam {
-    std::size_t offset = 0;
-    std::int32_t line = 0;
-    std::int32_t column = 0;
+    std::size_t offset;
+    std::int32_t line;
+    std::int32_t column;
   };
 
   std::string_view text;    // Without blanks at its ends; of a directive from its first mark on.
@@ -73,8 +73,8 @@ class SourceLines {
   bool debugging_ = false;
   std::size_t at_ = 0;
   std::int32_t number_ = 0;
-  LaidLine current_;
-  LaidLine ahead_;
+  LaidLine current_{};
+  LaidLine ahead_{};
   bool hasAhead_ = false;
 };
 

@@ -39,45 +39,46 @@ Statement statementOf(const TextWord& word) {
   struct Row {
     std::string_view word;
     Statement statement;
-    bool beginsLine;
   };
-  static constexpr Row rows[] = {
-      {"COPY", Statement::copy, false},
-      {"EXEC", Statement::exec, false},
-      {"EXECUTE", Statement::exec, false},
-      {"EJECT", Statement::eject, true},
-      {"SKIP1", Statement::eject, true},
-      {"SKIP2", Statement::eject, true},
-      {"SKIP3", Statement::eject, true},
-      {"TITLE", Statement::title, true},
-      {"BASIS", Statement::basis, true},
-      {"INSERT", Statement::insert, true},
-      {"DELETE", Statement::insert, true},
-      {"++INCLUDE", Statement::include, true},
-      {"-INC", Statement::include, true},
-      {"ID", Statement::identification, true},
-      {"IDENTIFICATION", Statement::identification, true},
-      {"PROGRAM-ID", Statement::identification, true},
-      {"ENVIRONMENT", Statement::otherDivision, true},
-      {"DATA", Statement::otherDivision, true},
-      {"PROCEDURE", Statement::otherDivision, true},
-      {"AUTHOR", Statement::commentEntry, true},
-      {"INSTALLATION", Statement::commentEntry, true},
-      {"DATE-WRITTEN", Statement::commentEntry, true},
-      {"DATE-COMPILED", Statement::commentEntry, true},
-      {"SECURITY", Statement::commentEntry, true},
-      {"REMARKS", Statement::commentEntry, true},
+  static constexpr Row anywhere[] = {
+      {"COPY", Statement::copy},
+      {"EXEC", Statement::exec},
+      {"EXECUTE", Statement::exec},
   };
-  // Most words begin with no letter that these begin with, or stand within their line.
-  const char first = static_cast<char>(word.text.front() & ~0x20);
-  if (!word.lineStart && first != 'C' && first != 'E') return Statement::none;
-  for (const Row& row : rows) {
-    if (row.word.size() == word.text.size() && (word.lineStart || !row.beginsLine) &&
-        sameWord(row.word, word.text)) {
-      return row.statement;
+  static constexpr Row atLineStart[] = {
+      {"EJECT", Statement::eject},
+      {"SKIP1", Statement::eject},
+      {"SKIP2", Statement::eject},
+      {"SKIP3", Statement::eject},
+      {"TITLE", Statement::title},
+      {"BASIS", Statement::basis},
+      {"INSERT", Statement::insert},
+      {"DELETE", Statement::insert},
+      {"++INCLUDE", Statement::include},
+      {"-INC", Statement::include},
+      {"ID", Statement::identification},
+      {"IDENTIFICATION", Statement::identification},
+      {"PROGRAM-ID", Statement::identification},
+      {"ENVIRONMENT", Statement::otherDivision},
+      {"DATA", Statement::otherDivision},
+      {"PROCEDURE", Statement::otherDivision},
+      {"AUTHOR", Statement::commentEntry},
+      {"INSTALLATION", Statement::commentEntry},
+      {"DATE-WRITTEN", Statement::commentEntry},
+      {"DATE-COMPILED", Statement::commentEntry},
+      {"SECURITY", Statement::commentEntry},
+      {"REMARKS", Statement::commentEntry},
+  };
+  const auto find = [&word](const auto& rows) {
+    for (const Row& row : rows) {
+      if (row.word.size() == word.text.size() && sameWord(row.word, word.text)) {
+        return row.statement;
+      }
     }
-  }
-  return Statement::none;
+    return Statement::none;
+  };
+  const Statement found = find(anywhere);
+  return found == Statement::none && word.lineStart ? find(atLineStart) : found;
 }
 
 }  // namespace as::toolkit

@@ -19,21 +19,23 @@ using namespace std::string_view_literals;
 struct Start {
   std::string_view bytes;
   const char* encoding;  // Null: the XML declaration tells.
-  bool isMark;
 };
 
 constexpr std::array<Start, 10> starts = {{
-    {"\0\0\xFE\xFF"sv, "UCS-4BE", true},
-    {"\xFF\xFE\0\0"sv, "UCS-4LE", true},
-    {"\0\0\0<"sv, "UCS-4BE", false},
-    {"<\0\0\0"sv, "UCS-4LE", false},
-    {"\xEF\xBB\xBF"sv, "UTF-8", true},
-    {"\xFE\xFF"sv, "UTF-16BE", true},
-    {"\xFF\xFE"sv, "UTF-16LE", true},
-    {"\0<"sv, "UTF-16BE", false},
-    {"<\0"sv, "UTF-16LE", false},
-    {"\x4C\x6F\xA7\x94"sv, nullptr, false},
+    {"\0\0\xFE\xFF"sv, "UCS-4BE"},
+    {"\xFF\xFE\0\0"sv, "UCS-4LE"},
+    {"\0\0\0<"sv, "UCS-4BE"},
+    {"<\0\0\0"sv, "UCS-4LE"},
+    {"\xEF\xBB\xBF"sv, "UTF-8"},
+    {"\xFE\xFF"sv, "UTF-16BE"},
+    {"\xFF\xFE"sv, "UTF-16LE"},
+    {"\0<"sv, "UTF-16BE"},
+    {"<\0"sv, "UTF-16LE"},
+    {"\x4C\x6F\xA7\x94"sv, nullptr},
 }};
+
+// What marks of the order of bytes become.
+constexpr std::string_view mark = "\xEF\xBB\xBF";
 
 // An open conversion to UTF-8.
 class Conversion {
@@ -112,9 +114,11 @@ std::optional<std::string> documentInUtf8(std::string bytes) {
         converted(std::string_view(bytes).substr(0, longest), "IBM037");
     return declaration ? converted(bytes, declaredEncoding(*declaration)) : std::nullopt;
   }
-  if (start->isMark) bytes.erase(0, start->bytes.size());
-  return start->encoding == "UTF-8"sv ? std::optional<std::string>(std::move(bytes))
-                                      : converted(bytes, start->encoding);
+  std::optional<std::string> text = start->encoding == "UTF-8"sv
+                                        ? std::optional<std::string>(std::move(bytes))
+                                        : converted(bytes, start->encoding);
+  if (text && text->starts_with(mark)) text->erase(0, mark.size());
+  return text;
 }
 
 }  // namespace as::toolkit

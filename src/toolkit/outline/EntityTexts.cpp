@@ -91,7 +91,7 @@ std::size_t EntityTexts::readDeclaration(std::string_view text, std::size_t at) 
   if (end == nowhere || name == nowhere) return nowhere;
   const std::size_t nameEnd = text.find_first_of(blanks, name);
   const std::size_t value = afterBlanks(text, nameEnd);
-  if (nameEnd >= end || value >= end || (text[value] != '"' && text[value] != '\'')) return end;
+  if (value >= end || (text[value] != '"' && text[value] != '\'')) return end;
   const std::size_t valueEnd = text.find(text[value], value + 1);
   if (valueEnd == nowhere) return nowhere;
   store_.push_back(replacementOf(text.substr(value + 1, valueEnd - value - 1)));

@@ -1,6 +1,7 @@
 #include "as/toolkit/Storage.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstddef>
 #include <iterator>
@@ -154,8 +155,7 @@ std::optional<int> bytesOf(const Dialect& dialect, Usage usage,
 }
 
 int boundaryOf(const Dialect& dialect, Usage usage, int bytes) {
-  const bool isPowerOfTwo = bytes > 0 && (bytes & (bytes - 1)) == 0;
-  if (!isPowerOfTwo) return 1;
+  if (!std::has_single_bit(static_cast<unsigned>(std::max(bytes, 0)))) return 1;
   switch (rowOf(usage).form) {
     case Form::binary:
     case Form::allBits:
