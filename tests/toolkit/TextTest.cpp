@@ -42,4 +42,10 @@ TEST(CountText, IsPluralUnlessThereIsOne) {
   EXPECT_EQ(count(2, "table"), "2 tables");
 }
 
+// Half a character and a control.
+TEST(PrintableText, WritesAControlBehindTheFirstByteOfACharacter) {
+  EXPECT_EQ(printable("\xC2\x7F"), "\xC2\\u007F");
+  EXPECT_EQ(printable("\xC2\x1F"), "\xC2\\u001F");
+}
+
 }  // namespace

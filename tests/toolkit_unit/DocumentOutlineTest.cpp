@@ -104,4 +104,77 @@ TEST(DocumentOutline, EndsWithEntitiesThatDoNot) {
   EXPECT_TRUE(DocumentOutline(many + "</a>").elements().empty());
 }
 
+TEST(DocumentOutline, HasNoCommentOfWhatIsNoDocument) {
+  EXPECT_TRUE(DocumentOutline("<a><!--b--><c></a>").comments().empty());
+  EXPECT_TRUE(DocumentOutline("<a><!--b--><c></a>").elements().empty());
+}
+
+std::string namesOf(const DocumentOutline& outline) {
+  std::string names;
+  for (const auto& element : outline.elements()) names += std::string(element.name) + " ";
+  return names;
+}
+
+TEST(DocumentOutline, KnowsTheElementsOfEntities) {
+  struct Row {
+    const char* type;  // Behind <!DOCTYPE a, and up to its >.
+    const char* names;
+  };
+  for (const Row& row : {
+           Row{"[<!ENTITY e '<b/>'>]", "a b "},
+           Row{"[<!ENTITY e \"<b c='d'/>\">]", "a b "},
+           Row{"[\n<!ENTITY\te\r'<b/>'\n>\t]", "a b "},
+           Row{"[<!ENTITY e '&#60;b/&#62;'>]", "a b "},
+           Row{"[<!ENTITY e '&#x3C;&#x62;/&#x3e;'>]", "a b "},
+           Row{"[<!ENTITY e '&#x3c;&#98;&#57;&#x2F;&#x3E;'>]", "a b9 "},
+           Row{"[<!ENTITY e '<b/>'><!ENTITY e '<c/>'>]", "a b "},
+           Row{"[<!ENTITY e '&f;'><!ENTITY f '<b/>'>]", "a b "},
+           Row{"[<!ENTITY f '<b/>'>]", "a "},
+           Row{"[<!ENTITY e SYSTEM '<b/>'>]", "a "},
+           Row{"[<!ENTITY e PUBLIC '<b/>P' 'x'>]", "a "},
+           Row{"[<!ENTITY % e '<b/>'>]", "a "},
+           Row{"[<!ENTITY e><!ENTITY f '<b/>'>]", "a "},
+           Row{"[<!ENTITY e ><!ENTITY f '<b/>'>]", "a "},
+           Row{"[<!-- ' <!ENTITY e '<c/>'> --><!ENTITY e '<b/>'>]", "a b "},
+           Row{"[<?p ' <!ENTITY e '<c/>'> ?><!ENTITY e '<b/>'>]", "a b "},
+           Row{"[<!ATTLIST a b CDATA '>'><!ENTITY e '<b/>'>]", "a b "},
+           Row{"[<!NOTATION n SYSTEM \"]>\"> <!ENTITY e '<b/>'>]", "a b "},
+           Row{"SYSTEM 'x[>y' [<!ENTITY e '<b/>'>]", "a b "},
+           Row{"SYSTEM \"x'[\"", "a "},
+           Row{"", "a "},
+       }) {
+    EXPECT_EQ(namesOf(DocumentOutline("<!DOCTYPE a " + std::string(row.type) + "><a>&e;</a>")),
+              row.names)
+        << row.type;
+  }
+}
+
+TEST(DocumentOutline, TellsPlaces) {
+  const DocumentOutline outline("<a>\n\xC3\xA4<b/>\r\n <c/>\r<d/><!--e--></a>");
+  std::string places;
+  for (const auto& element : outline.elements()) {
+    places += std::string(element.name) + std::to_string(element.place.line) + ":" +
+              std::to_string(element.place.column) + " ";
+  }
+  EXPECT_EQ(places, "a1:1 b2:2 c3:2 d4:1 ");
+  ASSERT_EQ(outline.comments().size(), 1U);
+  EXPECT_EQ(outline.comments()[0].place.column, 5);
+}
+
+TEST(DocumentOutline, HasAsManyExpansionsAsTheLibraryReads) {
+  std::string text = "<!DOCTYPE a [<!ENTITY e '<b/>'>]><a>";
+  for (int i = 0; i < 1000; ++i) text += "&e;";
+  EXPECT_EQ(DocumentOutline(text + "</a>").elements().size(), 1001U);
+  EXPECT_TRUE(DocumentOutline(text + "&e;</a>").elements().empty());
+}
+
+// What stands in an entity has no place of its own.
+TEST(DocumentOutline, PlacesWhatEntitiesHoldWhereTheyAreReferredTo) {
+  const DocumentOutline outline("<!DOCTYPE a [<!ENTITY e '\n\n<b/><!--c-->'>]>\n<a> &e;</a>");
+  ASSERT_EQ(outline.elements().size(), 2U);
+  EXPECT_EQ(outline.elements()[1].place.line, 4);
+  EXPECT_EQ(outline.elements()[1].place.column, 5);
+  EXPECT_TRUE(outline.comments().empty());
+}
+
 }  // namespace

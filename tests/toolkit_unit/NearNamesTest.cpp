@@ -76,4 +76,16 @@ TEST(NearNames, OfAnyLengthAreSafe) {
   EXPECT_FALSE(names.nearestTo("\xFF\x80"));
 }
 
+TEST(EditDistance, OfTheLongestNames) {
+  const std::string longest(100, 'A');
+  const std::string other = longest.substr(1) + "B";
+  EXPECT_EQ(editDistance(longest, other, 2), 1U);
+  EXPECT_EQ(editDistance(longest + "A", longest, 2), 3U);
+  EXPECT_EQ(editDistance(longest, longest + "A", 2), 3U);
+  NearNames names;
+  names.add(other);
+  EXPECT_EQ(names.nearestTo(longest), 0U);
+  EXPECT_FALSE(names.nearestTo(longest + "A"));
+}
+
 }  // namespace

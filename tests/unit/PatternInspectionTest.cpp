@@ -110,4 +110,13 @@ TEST(PatternInspection, LetsTheShippedSchemasThrough) {
   EXPECT_GT(patterns, 10);
 }
 
+TEST(PatternInspection, RefusesRepetitionsOfRepetitions) {
+  for (const std::string first : {"*", "+", "?", "{2}", "{2,3}", "{2,}"}) {
+    EXPECT_TRUE(leavesNoChoice("a" + first)) << first;
+    for (const std::string second : {"*", "+", "?", "{2}", "{0}"}) {
+      EXPECT_FALSE(leavesNoChoice("a" + first + second)) << first << second;
+    }
+  }
+}
+
 }  // namespace

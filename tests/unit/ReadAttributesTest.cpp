@@ -289,4 +289,13 @@ TEST_F(ReadAttributesTest, EmptyValuesAreThere) {
   EXPECT_EQ(visited(element()), "name= ");
 }
 
+TEST_F(ReadAttributesTest, AreReadOnlyWhenTheDomSaysSo) {
+  read({u"name"});
+  attributes().setReadOnly(true, true);
+  EXPECT_THROW(element().getAttributeNode(u"name")->setValue(u"7"), DOMException);
+  attributes().setReadOnly(false, true);
+  element().getAttributeNode(u"name")->setValue(u"7");
+  EXPECT_EQ(valueOf(u"name"), "7");
+}
+
 }  // namespace

@@ -1,0 +1,97 @@
+// Tests of what schemas that documents bring come to: each count at its limit and behind it.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "as/CASParseException.h"
+#include "xml/SchemaInspection.h"
+
+namespace {
+
+bool isRefused(const std::string& content) {
+  SchemaInspection inspection;
+  return inspection
+      .refusalOf(
+          "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>" + content + "</xs:schema>",
+          u"s.xsd")
+      .has_value();
+}
+
+// The schema is an element itself: 2000 are allowed.
+TEST(SchemaCounts, CountsElementsAsOftenAsTheyOccur) {
+  for (const char* const name : {"minOccurs", "maxOccurs"}) {
+    const auto occurring = [&](const char* times) {
+      return isRefused("<xs:element name='a' " + std::string(name) + "='" + times + "'/>");
+    };
+    for (const char* const few : {"1999", "+1999", " 1999 ", "01999", "unbounded", "", "-2000"}) {
+      EXPECT_FALSE(occurring(few)) << few;
+    }
+    for (const char* const many :
+         {"2000", "+2000", " +2000", "\t\n2000", "02000", "2000x", "99999999999999999999"}) {
+      EXPECT_TRUE(occurring(many)) << many;
+    }
+  }
+}
+
+TEST(SchemaCounts, CountsWhatIsWithinAsOftenAsBothSay) {
+  const auto sequence = [](int times) {
+    return "<xs:sequence maxOccurs='" + std::to_string(times) + "'>";
+  };
+  const std::string element = "<xs:element name='a' maxOccurs='20'/>";
+  // 1 and 95 and 20 * 95; one more is 2001 and more.
+  EXPECT_FALSE(isRefused(sequence(95) + element + "</xs:sequence>"));
+  EXPECT_TRUE(isRefused(sequence(96) + element + "</xs:sequence>"));
+  // A type within counts once.
+  EXPECT_FALSE(
+      isRefused(sequence(96) + "<xs:complexType>" + element + "</xs:complexType></xs:sequence>"));
+}
+
+TEST(SchemaCounts, CountsGroupsWhereTheyAreReferredTo) {
+  const auto schema = [](const std::string& times, const std::string& reference) {
+    return "<xs:group name='g'><xs:element name='a' maxOccurs='98'/></xs:group><xs:group ref='" +
+           reference + "' maxOccurs='" + times + "'/>";
+  };
+  // 1 for the schema, and for each time that it is referred to 1 and the group with its elements.
+  EXPECT_FALSE(isRefused(schema("19", "g")));
+  EXPECT_FALSE(isRefused(schema("19", "p:g")));
+  EXPECT_TRUE(isRefused(schema("20", "g")));
+  EXPECT_TRUE(isRefused(schema("20", "p:g")));
+  EXPECT_FALSE(isRefused(schema("20", "other")));
+}
+
+TEST(SchemaCounts, CountsMembersOfUnions) {
+  const auto members = [](const std::string& types, int simple) {
+    std::string text = "<xs:simpleType><xs:union memberTypes='" + types + "'>";
+    for (int i = 0; i < simple; ++i) text += "<xs:simpleType/>";
+    return text + "</xs:union></xs:simpleType>";
+  };
+  EXPECT_FALSE(isRefused(members(" a  b\tc\n", 13)));
+  EXPECT_TRUE(isRefused(members(" a  b\tc\n", 14)));
+  EXPECT_FALSE(isRefused(members("", 16)));
+  EXPECT_TRUE(isRefused(members("", 17)));
+}
+
+TEST(SchemaCounts, CountsAlternativesOfPaths) {
+  const auto path = [](const std::string& alternatives) {
+    return "<xs:selector xpath='" + alternatives + "'/>";
+  };
+  const std::string fifteen = "a|a|a|a|a|a|a|a|a|a|a|a|a|a|a";
+  EXPECT_FALSE(isRefused(path(fifteen + "|a")));
+  EXPECT_TRUE(isRefused(path(fifteen + "|a|a")));
+  EXPECT_FALSE(isRefused(path(fifteen) + path("a")));
+  EXPECT_TRUE(isRefused(path(fifteen) + path("a") + path("a")));
+}
+
+TEST(SchemaCounts, CountsWhatEarlierOnesHeld) {
+  SchemaInspection inspection;
+  const std::string half = "<xs:element xmlns:xs='http://www.w3.org/2001/XMLSchema' maxOccurs='";
+  EXPECT_FALSE(inspection.refusalOf(half + "1000'/>", u"a.xsd"));
+  EXPECT_FALSE(inspection.refusalOf(half + "1000'/>", u"b.xsd"));
+  const auto refusal = inspection.refusalOf(half + "1'/>", u"c.xsd");
+  ASSERT_TRUE(refusal);
+  EXPECT_EQ(refusal->getErrorText(),
+            "the schemas that the document brings are refused: there are more than 2000 "
+            "elements, as many times as they are laid out");
+}
+
+}  // namespace
