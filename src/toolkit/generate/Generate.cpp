@@ -119,7 +119,7 @@ MadeOfDocument makeOfDocument(const DocumentReader& reader, const GeneratorKind&
     }
     return {generate(kind, *document.dictionary, named), ""};
   }
-  LintedService linted = lintRead(reader, *document.service, source.name, dictionary);
+  LintedService linted = lintRead(reader, *document.service, source, {dictionary, {}});
   const std::shared_ptr<as::IProgram> program = linted.program;
   const std::string own = document.service->getDDFilename();
   return {

@@ -108,11 +108,8 @@ LintedService lintWith(as::IService& service, as::IProgram* program) {
   return linted;
 }
 
-namespace {
-
-// `service` was read from `source`.
-LintedService lintService(const DocumentReader& reader, as::IService& service,
-                          const DocumentSource& source, const LintOptions& options) {
+LintedService lintRead(const DocumentReader& reader, as::IService& service,
+                       const DocumentSource& source, const LintOptions& options) {
   LintedText text(service, bytesOf(source));
   LintReport report({&text, &options.rules});
   lookAtService(service, report);
@@ -124,17 +121,10 @@ LintedService lintService(const DocumentReader& reader, as::IService& service,
   return linted;
 }
 
-}  // namespace
-
-LintedService lintRead(const DocumentReader& reader, as::IService& service, const std::string& file,
-                       const std::optional<std::string>& dictionary) {
-  return lintService(reader, service, {file}, {dictionary, {}});
-}
-
 Findings lintDocument(const DocumentReader& reader, const DocumentSource& source,
                       const LintOptions& options) {
   const std::unique_ptr<as::IService> service = reader.readService(source);
-  return lintService(reader, *service, source, options).findings;
+  return lintRead(reader, *service, source, options).findings;
 }
 
 Findings lintFile(const DocumentReader& reader, const std::string& file,

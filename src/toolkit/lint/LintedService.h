@@ -3,13 +3,12 @@
 #define TOOLKIT_LINT_LINTEDSERVICE_H_
 
 #include <memory>
-#include <optional>
-#include <string>
 
 #include "as/IProgram.h"
 #include "as/IService.h"
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Finding.h"
+#include "as/toolkit/Lint.h"
 #include "toolkit/walk/ItemIndex.h"
 
 namespace as::toolkit {
@@ -20,9 +19,9 @@ struct LintedService {
   std::shared_ptr<const ItemIndex> index;  // Of the program's items; null when none was made.
 };
 
-// What lintFile() does of a service that was read from `file` already.
-LintedService lintRead(const DocumentReader& reader, as::IService& service, const std::string& file,
-                       const std::optional<std::string>& dictionary);
+// What lintDocument() does of a service that was read from `source` already.
+LintedService lintRead(const DocumentReader& reader, as::IService& service,
+                       const DocumentSource& source, const LintOptions& options = {});
 
 // What lint() does with that program, null for none, in place of the service's own. Only what it
 // answers of findings and items is told.

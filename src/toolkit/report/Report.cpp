@@ -11,7 +11,7 @@
 
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Generate.h"
-#include "as/toolkit/Lint.h"
+#include "toolkit/lint/LintedService.h"
 #include "toolkit/report/ReportData.h"
 #include "toolkit/report/ReportSource.h"
 #include "toolkit/report/SiteFiles.h"
@@ -141,12 +141,7 @@ class ReportMaker {
         unread = refused.refusal();
       }
     }
-    Findings findings;
-    try {
-      findings = lintDocument(reader_, origin);
-    } catch (const RefusedDocument& refused) {
-      report_.refusals.push_back(refused.refusal());
-    }
+    const Findings findings = lintRead(reader_, service, origin).findings;
     // Lint reads it by itself: it may be that nothing is wrong there.
     if (unread && !isUnusable(findings)) report_.refusals.push_back(*std::move(unread));
     const std::size_t errors = countOf(findings, Severity::error);
