@@ -60,7 +60,8 @@ bool isAuthority(std::string_view text) {
   const std::size_t sign = text.find(':', end);
   const std::string_view host = end > 0 ? text.substr(1, end - 1) : text.substr(0, sign);
   const std::string_view rest = text.substr(std::min(end > 0 ? end + 1 : sign, text.size()));
-  return isText(host, end > 0 ? ":" : "") && (rest.empty() || rest.front() == ':') &&
+  // Without brackets a host ends at the first ":".
+  return isText(host, ":") && (rest.empty() || rest.front() == ':') &&
          std::all_of(rest.begin() + (rest.empty() ? 0 : 1), rest.end(),
                      [](char byte) { return isDigit(static_cast<unsigned char>(byte)); });
 }
@@ -79,9 +80,9 @@ bool isUri(std::string_view text) {
          isText(text.substr(std::min(fragment + 1, text.size())), ":@/?");
 }
 
-std::string namespaceOf(std::string_view name) {
+std::string partOfUri(std::string_view name) {
   static constexpr char digits[] = "0123456789ABCDEF";
-  std::string result = "urn:agentservices:";
+  std::string result;
   for (const char byte : name) {
     if (isPlain(byte)) {
       result += byte;
@@ -92,5 +93,7 @@ std::string namespaceOf(std::string_view name) {
   }
   return result;
 }
+
+std::string namespaceOf(std::string_view name) { return "urn:agentservices:" + partOfUri(name); }
 
 }  // namespace as::toolkit::gen

@@ -10,6 +10,7 @@
 #include "toolkit/generate/JsonTypes.h"
 #include "toolkit/generate/MessagePlan.h"
 #include "toolkit/generate/NameCharacters.h"
+#include "toolkit/generate/NamespaceUri.h"
 
 namespace as::toolkit::gen {
 
@@ -37,22 +38,6 @@ const NameRule& headerNames() {
   return rule;
 }
 
-// The name as a part of a path.
-std::string pathOf(std::string_view name) {
-  static constexpr char digits[] = "0123456789ABCDEF";
-  std::string path = "/";
-  for (const char byte : name) {
-    const auto code = static_cast<unsigned char>(byte);
-    if (isAsciiLetter(code) || isDigit(code) || byte == '-' || byte == '.' || byte == '_' ||
-        byte == '~') {
-      path += byte;
-    } else {
-      path.append({'%', digits[code >> 4U], digits[code & 0xFU]});
-    }
-  }
-  return path;
-}
-
 class OpenApi {
  public:
   explicit OpenApi(const Job& job)
@@ -71,7 +56,7 @@ class OpenApi {
     if (!server.empty()) text.member("servers", Json::array({{{"url", server}}}));
     text.open("paths");
     for (const Planned& planned : operations_) {
-      text.open(pathOf(planned.operation.name));
+      text.open("/" + partOfUri(planned.operation.name));
       text.member("post", operationOf(planned));
       text.close();
     }

@@ -1,5 +1,6 @@
 #include "toolkit/generate/WsdlPlan.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "toolkit/generate/MessagePlan.h"
@@ -122,12 +123,12 @@ void WsdlPlan::tellAttributes(const Operation& operation) {
 bool WsdlPlan::hasAttributes(std::size_t type) {
   const auto [known, isNew] = hasAttributes_.try_emplace(type, false);
   if (!isNew) return known->second;
-  bool found = !model_.types[type].attributes.empty();
-  for (const Field& field : model_.types[type].fields) {
-    if (found) break;
-    found = field.structure != none && hasAttributes(field.structure);
-  }
-  return hasAttributes_[type] = found;
+  const std::vector<Field>& fields = model_.types[type].fields;
+  return hasAttributes_[type] =
+             !model_.types[type].attributes.empty() ||
+             std::any_of(fields.begin(), fields.end(), [this](const Field& field) {
+               return field.structure != none && hasAttributes(field.structure);
+             });
 }
 
 void WsdlPlan::giveNames() {

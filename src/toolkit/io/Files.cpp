@@ -64,34 +64,32 @@ class TemporaryFile {
   // In the folder of that file: only there can it take the file's place.
   explicit TemporaryFile(const std::string& beside)
       : path_((fs::path(beside).parent_path() / ".agentservices-XXXXXX").string()),
-        file_(::mkstemp(path_.data())) {}
+        file_(::mkstemp(path_.data())),
+        isThere_(file_.isOpen()) {}
   ~TemporaryFile() {
-    if (!taken_ && file_.isOpen()) ::unlink(path_.c_str());
-    if (!taken_ && closed_) ::unlink(path_.c_str());
+    if (isThere_) ::unlink(path_.c_str());
   }
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
 
-  bool isOpen() const { return file_.isOpen(); }
+  bool isThere() const { return isThere_; }
 
   // False, with errno, when the content is not on the disk.
   bool fill(const std::string& content, mode_t mode) {
     if (!file_.write(content) || ::fchmod(file_.number(), mode) != 0) return false;
     if (::fsync(file_.number()) != 0) return false;
-    closed_ = true;
     return file_.close();
   }
 
   bool takePlaceOf(const std::string& other) {
-    taken_ = ::rename(path_.c_str(), other.c_str()) == 0;
-    return taken_;
+    isThere_ = ::rename(path_.c_str(), other.c_str()) != 0;
+    return !isThere_;
   }
 
  private:
   std::string path_;
   Descriptor file_;
-  bool closed_ = false;
-  bool taken_ = false;
+  bool isThere_;  // Under its own name.
 };
 
 mode_t modeOfNewFiles() {
@@ -147,7 +145,7 @@ class Replacement {
       fail(file + " cannot be written", errno);
     }
     new_.emplace(target_);
-    if (!new_->isOpen() || !new_->fill(content, mode)) failAsIs(errno);
+    if (!new_->isThere() || !new_->fill(content, mode)) failAsIs(errno);
   }
 
   // Puts the new content in place. Throws FileError.

@@ -28,7 +28,6 @@ class LintReport {
   void add(const LintRule& rule, const Place& place, const std::string& problem,
            const std::string& advice);
 
-  const Findings& findings() const { return findings_; }
   Findings& findings() { return findings_; }
 
  private:
