@@ -1,0 +1,127 @@
+// Tests of how much generators make: what a language has no room for, and how large examples get.
+// Each limit is looked at from both sides.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/Documents.h"
+#include "support/Toolkit.h"
+
+namespace {
+
+namespace toolkit = as::toolkit;
+using test::textsOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+class GenerateLimits : public test::ToolkitTest {
+ protected:
+  // Of a service of that flavour with those parameters, each of an item of its own.
+  toolkit::Generated made(const std::string& kind, const std::string& flavour,
+                          const std::string& parameters,
+                          const toolkit::GenerateOptions& options = {},
+                          const std::string& operation = "ask") const {
+    write("p.xml",
+          test::dictionary(
+              "<dataItems><group name='R' offset='0' length='8' linkage='true'>"
+              "<numeric name='N' offset='0' length='4' picture='S9(9)' usage='comp-5' sign='true' "
+              "digits='9'/><numeric name='W' offset='0' length='8' picture='S9(18)' "
+              "usage='comp-5' sign='true' digits='18'/><numeric name='F' usage='comp-2' "
+              "sign='true' offset='0' length='8'/></group></dataItems>"
+              "<entryPoints><entryPoint name='E'><parameter dataItem='R' byType='reference'/>"
+              "</entryPoint></entryPoints>"));
+    const toolkit::Flavour& of = *toolkit::findFlavour(flavour);
+    write("s.xml", test::serviceDocument(of.documents.uri,
+                                         "name='Tests' implementation='" + flavour +
+                                             "' programName='PAYROLL' dataDictFilename='p.xml'",
+                                         "<operations><operation name='" + operation +
+                                             "' entryPoint='E'><parameters>" + parameters +
+                                             "</parameters></operation></operations>"));
+    return toolkit::generateFrom(reader(), *toolkit::findGeneratorKind(kind), {"s.xml"}, options);
+  }
+
+  // So many of a tag, of that data type and item.
+  static std::string fields(const std::string& tag, int count, const std::string& dataType,
+                            const std::string& item, const std::string& more = "") {
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+      text += "<" + tag + " name='" + item + std::to_string(i) + "' dataType='" + dataType + "'" +
+              more + "><mappings><mapping item='R." + item + "'/></mappings></" + tag + ">";
+    }
+    return text;
+  }
+
+  // Of a Java service with a parameter of such fields.
+  std::string javaOf(const std::string& members) const {
+    const toolkit::Generated java =
+        made("java", "java", "<parameter name='p' byType='in'>" + members + "</parameter>");
+    EXPECT_EQ(java.files.size(), 1U) << testing::PrintToString(textsOf(java.findings));
+    return java.files.empty() ? "" : java.files.front().content;
+  }
+};
+
+// A long and a double take two of the words that a constructor has.
+TEST_F(GenerateLimits, RecordsHoldAsMuchAsAConstructorTakes) {
+  const char* const record = "record AskP(";
+  EXPECT_THAT(javaOf(fields("field", 254, "int", "N")), HasSubstr(record));
+  EXPECT_THAT(javaOf(fields("field", 255, "int", "N")), Not(HasSubstr(record)));
+  EXPECT_THAT(javaOf(fields("field", 127, "long", "W")), HasSubstr(record));
+  EXPECT_THAT(javaOf(fields("field", 128, "long", "W")), Not(HasSubstr(record)));
+  EXPECT_THAT(javaOf(fields("field", 127, "double", "F")), HasSubstr(record));
+  EXPECT_THAT(javaOf(fields("field", 128, "double", "F")), Not(HasSubstr(record)));
+}
+
+TEST_F(GenerateLimits, MethodsTakeAsMuchAsTheLanguageLetsThem) {
+  const std::string in = " byType='in'";
+  const std::string most = fields("parameter", 254, "int", "N", in);
+  EXPECT_THAT(made("java", "java", most).findings, IsEmpty());
+  // What only comes out is in the answer.
+  EXPECT_THAT(
+      made("java", "java", most + fields("parameter", 1, "long", "W", " byType='out'")).findings,
+      IsEmpty());
+  const toolkit::Generated java =
+      made("java", "java", most + fields("parameter", 1, "long", "W", " byType='io'"));
+  EXPECT_THAT(java.files, IsEmpty());
+  EXPECT_THAT(textsOf(java.findings),
+              ElementsAre("ask: Java takes no 255 parameters in one place; make groups of "
+                          "them"));
+}
+
+TEST_F(GenerateLimits, ClassesHaveAsManyFieldsAsTheLanguageLetsThem) {
+  EXPECT_THAT(javaOf(fields("field", 8000, "int", "N")), HasSubstr("final class AskP {"));
+  const toolkit::Generated java =
+      made("java", "java",
+           "<parameter name='p' byType='in'>" + fields("field", 8001, "int", "N") + "</parameter>");
+  EXPECT_THAT(java.files, IsEmpty());
+  EXPECT_THAT(textsOf(java.findings),
+              ElementsAre("ask.p: Java takes no 8001 fields in one place; make groups of "
+                          "them"));
+}
+
+std::string tableOf(const std::string& occurs) {
+  return "<parameter name='p' byType='in' dataType='int' occurs='" + occurs + "'/>";
+}
+
+TEST_F(GenerateLimits, LargeExamplesAreLeftOutUnlessTheyAreAskedFor) {
+  const std::string left =
+      "ask: an example of its request would be large and is left out; option 'examples' "
+      "asks for it";
+  EXPECT_THAT(made("openapi", "java", tableOf("200")).findings, IsEmpty());
+  EXPECT_THAT(textsOf(made("openapi", "java", tableOf("201")).findings), ElementsAre(left));
+  toolkit::GenerateOptions options;
+  options.values = {{"examples", "all"}};
+  EXPECT_THAT(made("openapi", "java", tableOf("100000"), options).findings, IsEmpty());
+  EXPECT_THAT(textsOf(made("openapi", "java", tableOf("100001"), options).findings),
+              ElementsAre(left));
+}
+
+TEST_F(GenerateLimits, PathsHoldAnyName) {
+  const toolkit::Generated made = this->made("openapi", "java", "", {}, "ask me/now");
+  ASSERT_EQ(made.files.size(), 1U) << testing::PrintToString(textsOf(made.findings));
+  EXPECT_THAT(made.files.front().content, HasSubstr("\"/ask%20me%2Fnow\": {"));
+}
+
+}  // namespace

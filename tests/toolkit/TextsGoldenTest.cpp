@@ -1,0 +1,98 @@
+// What the toolkit tells of whole documents, compared with what is kept in tests/golden/texts:
+// trees and JSON, findings, notes of conversions, differences and the data of reports. A change of
+// a word is to be seen.
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "support/Kept.h"
+#include "support/Toolkit.h"
+
+namespace {
+
+namespace toolkit = as::toolkit;
+
+const std::string oddities = AS_GOLDEN_DIR "/documents/ODDITIES";
+const std::string examples = AS_EXAMPLES_DIR "/";
+
+class TextsGolden : public test::ToolkitTest {
+ protected:
+  static void expectKept(const std::string& name, const std::string& text) {
+    test::expectKept("texts/" + name, text);
+  }
+
+  static std::string linesOf(const toolkit::Findings& findings) {
+    std::string text;
+    for (const toolkit::Finding& finding : findings) {
+      text += finding.rule + ": " + toolkit::textOf(finding) + "\n";
+    }
+    return text;
+  }
+};
+
+TEST_F(TextsGolden, TreesAreAsTheyWere) {
+  for (const std::string& name : {examples + "PAYSLIP", examples + "DEPINT01", oddities + "-ws"}) {
+    expectKept("tree-" + name.substr(name.rfind('/') + 1) + ".txt", treeOfFile(name + ".xml"));
+  }
+  expectKept("tree-MOTPREM-ws.txt", treeOfFile(examples + "MOTPREM-ws.xml"));
+}
+
+TEST_F(TextsGolden, JsonIsAsItWas) {
+  expectKept("ODDITIES.json", jsonOfFile(oddities + ".xml").dump(1) + "\n");
+  expectKept("ODDITIES-ws.json", jsonOfFile(oddities + "-ws.xml").dump(1) + "\n");
+}
+
+TEST_F(TextsGolden, FindingsAreAsTheyWere) {
+  for (const char* const name : {"WHSLOTS-ws", "MOTPREM-java"}) {
+    expectKept(std::string("lint-") + name + ".txt",
+               linesOf(toolkit::lintFile(reader(), examples + "broken/" + name + ".xml")));
+  }
+}
+
+TEST_F(TextsGolden, NotesOfConversionsAreAsTheyWere) {
+  for (const toolkit::Flavour& to : toolkit::flavours()) {
+    std::string text;
+    for (const std::string& file : {oddities + "-ws.xml", examples + "MOTPREM-ws.xml",
+                                    examples + "PAYSLIP-com.xml", examples + "PAYSLIP-java.xml"}) {
+      text += file.substr(file.rfind('/') + 1) + "\n" +
+              linesOf(toolkit::convertServiceFile(reader(), file, "out.xml", to).notes);
+    }
+    expectKept(std::string("convert-") + to.word + ".txt", text);
+  }
+}
+
+TEST_F(TextsGolden, DifferencesAreAsTheyWere) {
+  const toolkit::Diff diff = toolkit::diffFiles(reader(), examples + "MOTPREM-java.xml",
+                                                examples + "broken/MOTPREM-java.xml");
+  std::ostringstream text;
+  toolkit::renderText(text, diff);
+  expectKept("diff-MOTPREM-java.txt", text.str());
+}
+
+TEST_F(TextsGolden, DataOfReportsAreAsTheyWere) {
+  const toolkit::Report report = toolkit::makeReport(
+      reader(), {oddities + ".xml", oddities + "-ws.xml", examples + "DEPINT01-ws.xml"}, {});
+  for (const toolkit::ReportFile& file : report.files) {
+    // Sources are as they are.
+    if (file.name.rfind("data/", 0) != 0 || file.name.rfind("data/t", 0) == 0) continue;
+    const std::string start = file.content.substr(0, file.content.find(", ") + 2);
+    const std::string end = ");\n";
+    const auto data = nlohmann::ordered_json::parse(
+        file.content.substr(start.size(), file.content.size() - start.size() - end.size()));
+    std::string text = start;
+    // A line for each member, and for each of a list of them.
+    for (const auto& [key, value] : data.items()) {
+      text += "\n" + key + ": ";
+      if (value.is_array() && !value.empty()) {
+        for (const auto& member : value) text += "\n  " + member.dump();
+      } else {
+        text += value.dump();
+      }
+    }
+    expectKept("report-" + file.name.substr(5) + ".txt", text + "\n");
+  }
+}
+
+}  // namespace
