@@ -244,6 +244,28 @@ TEST_F(GenerateFindings, TellWhatAnOptionMeans) {
               IsEmpty());
 }
 
+// A type that stands for a structure is that structure with nothing added.
+TEST_F(GenerateFindings, NamesForStructuresExtendThem) {
+  const toolkit::Generated xsd = made({"",
+                                       "xsd",
+                                       "java",
+                                       "",
+                                       "<parameter name='p' byType='in' ref='Other'/>",
+                                       {},
+                                       "",
+                                       "<parameter name='Node'><mappings/>" +
+                                           withMapping("field", "name='t' dataType='String'", "T") +
+                                           "</parameter><parameter name='Other' ref='Node'/>"});
+  ASSERT_EQ(xsd.files.size(), 1U);
+  EXPECT_NE(xsd.files.front().content.find("  <xs:complexType name=\"Other\">\n"
+                                           "    <xs:complexContent>\n"
+                                           "      <xs:extension base=\"tns:Node\"/>\n"
+                                           "    </xs:complexContent>\n"
+                                           "  </xs:complexType>\n"),
+            std::string::npos)
+      << xsd.files.front().content;
+}
+
 // A comment that switches a rule off is heeded, wherever the document comes from.
 TEST_F(GenerateFindings, LeaveOutWhatTheDocumentSwitchesOff) {
   writeService({"",

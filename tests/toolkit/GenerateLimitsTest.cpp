@@ -74,6 +74,33 @@ TEST_F(GenerateLimits, RecordsHoldAsMuchAsAConstructorTakes) {
   EXPECT_THAT(javaOf(fields("field", 128, "double", "F")), Not(HasSubstr(record)));
 }
 
+// What stands in the place of a record.
+TEST_F(GenerateLimits, ClassesReadAndSetTheirFields) {
+  const std::string java = javaOf(fields("field", 255, "int", "N"));
+  EXPECT_THAT(java, HasSubstr("  /** The structure of ask.p. */\n"
+                              "  final class AskP {\n"
+                              "    private int N0;\n"
+                              "    private int N1;\n"));
+  EXPECT_THAT(java, HasSubstr("    private int N254;\n"
+                              "\n"
+                              "    /** Makes one without values. */\n"
+                              "    public AskP() {}\n"
+                              "\n"
+                              "    /** {@return R.N, PIC S9(9), COMP-5} */\n"
+                              "    public int N0() {\n"
+                              "      return this.N0;\n"
+                              "    }\n"
+                              "\n"
+                              "    /**\n"
+                              "     * Sets it.\n"
+                              "     *\n"
+                              "     * @param N0 R.N, PIC S9(9), COMP-5\n"
+                              "     */\n"
+                              "    public void N0(int N0) {\n"
+                              "      this.N0 = N0;\n"
+                              "    }\n"));
+}
+
 TEST_F(GenerateLimits, MethodsTakeAsMuchAsTheLanguageLetsThem) {
   const std::string in = " byType='in'";
   const std::string most = fields("parameter", 254, "int", "N", in);

@@ -5,6 +5,7 @@
 
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/Kept.h"
@@ -69,6 +70,50 @@ TEST_F(TextsGolden, DifferencesAreAsTheyWere) {
   std::ostringstream text;
   toolkit::renderText(text, diff);
   expectKept("diff-MOTPREM-java.txt", text.str());
+}
+
+// Of a program that changed in many ways, and what becomes of its services.
+TEST_F(TextsGolden, DifferencesAndWhatFollowsAreAsTheyWere) {
+  const std::vector<std::pair<std::string, std::string>> changes = {
+      {"LK-REQ-COVER            PIC 9(01)", "LK-REQ-COVER            PIC 9(03)"},
+      {"LK-VEH-MAKE ", "LK-VEH-BRAND"},
+      {"LK-VEH-MODEL        PIC X(30).", "LK-VEH-MODEL        PIC N(30)."},
+      {"               10  LK-VEH-POWER-KW     PIC 9(04) COMP.\n", ""},
+      {"LK-DRV-CLAIM        OCCURS 3", "LK-DRV-CLAIM        OCCURS 2"},
+      {"LK-RES-NET              PIC S9(07)", "LK-RES-NET              PIC S9(06)"},
+      {"ENTRY \"MOTPINST\"", "ENTRY \"MOTPLAN\""},
+      {"USING BY VALUE LK-NCD-CLASS", "USING BY REFERENCE LK-NCD-CLASS"},
+  };
+  std::string source = test::contentOf(examples + "MOTPREM.cbl");
+  toolkit::ImportOptions options;
+  options.dialect = "natural";
+  const auto dictionaryOf = [&options](const std::string& text) {
+    return toolkit::importCobol(text, "MOTPREM.cbl", nullptr, options).programs.front().dictionary;
+  };
+  write("old/MOTPREM.xml", dictionaryOf(source));
+  for (const auto& [search, replacement] : changes) {
+    const std::size_t at = source.find(search);
+    ASSERT_NE(at, std::string::npos) << search;
+    source.replace(at, search.size(), replacement);
+  }
+  write("new/MOTPREM.xml", dictionaryOf(source));
+  write("old/gone.xml", test::contentOf(examples + "PAYSLIP-com.xml"));
+  write("new/MOTPREM-ws.xml", test::contentOf(examples + "MOTPREM-ws.xml"));
+  std::vector<toolkit::DocumentDiff> diffs;
+  for (const toolkit::DocumentPair& pair : toolkit::pairsIn("old", "new")) {
+    const std::vector<std::string> services = {examples + "MOTPREM-ws.xml"};
+    diffs.push_back({pair.name, toolkit::diffPair(reader(), pair, services)});
+    // The name of the folder is no part of what is told.
+    for (toolkit::Change& change : diffs.back().diff.changes) {
+      if (!change.service.empty()) change.service = "MOTPREM-ws.xml";
+    }
+  }
+  std::ostringstream text;
+  toolkit::renderText(text, diffs);
+  expectKept("diff-folders.txt", text.str());
+  std::ostringstream json;
+  toolkit::renderJson(json, diffs);
+  expectKept("diff-folders.json", json.str());
 }
 
 TEST_F(TextsGolden, DataOfReportsAreAsTheyWere) {

@@ -11,15 +11,15 @@ using Kind = Capacity::Kind;
 // Keywords, literals, and words that some places of a program reserve.
 const Words& keywords() {
   static const Words words = {
-      "_",        "abstract",  "assert",    "boolean",   "break",      "byte",         "case",
-      "catch",    "char",      "class",     "const",     "continue",   "default",      "do",
-      "double",   "else",      "enum",      "extends",   "false",      "final",        "finally",
-      "float",    "for",       "goto",      "if",        "implements", "import",       "instanceof",
-      "int",      "interface", "long",      "native",    "new",        "null",         "package",
-      "permits",  "private",   "protected", "public",    "record",     "return",       "sealed",
-      "short",    "static",    "strictfp",  "super",     "switch",     "synchronized", "this",
-      "throw",    "throws",    "transient", "true",      "try",        "var",          "void",
-      "volatile", "while",     "yield",     "non-sealed"};
+      "_",        "abstract",  "assert",    "boolean", "break",      "byte",         "case",
+      "catch",    "char",      "class",     "const",   "continue",   "default",      "do",
+      "double",   "else",      "enum",      "extends", "false",      "final",        "finally",
+      "float",    "for",       "goto",      "if",      "implements", "import",       "instanceof",
+      "int",      "interface", "long",      "native",  "new",        "null",         "package",
+      "permits",  "private",   "protected", "public",  "record",     "return",       "sealed",
+      "short",    "static",    "strictfp",  "super",   "switch",     "synchronized", "this",
+      "throw",    "throws",    "transient", "true",    "try",        "var",          "void",
+      "volatile", "while",     "yield"};
   return words;
 }
 
