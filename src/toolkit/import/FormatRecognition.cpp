@@ -66,7 +66,7 @@ bool hasNumbersInFrontOfEntry(std::string_view line) {
     return isDigit(character) || character == ' ';
   });
   if (!areNumbers) return false;
-  const std::string_view code = trimmed(line.substr(indicator + 1));
+  const std::string_view code = trimmed(line.substr(indicator));
   const std::size_t end = code.find(' ');
   if (end == std::string_view::npos || !isLevel(code.substr(0, end))) return false;
   const std::string_view name = trimmed(code.substr(end));
