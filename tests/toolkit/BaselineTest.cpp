@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <string>
+#include <utility>
 
 #include "as/toolkit/Baseline.h"
 #include "as/toolkit/Files.h"
@@ -41,6 +43,17 @@ TEST_F(BaselineTest, KnowsFindingsByDocumentRuleAndPlace) {
   EXPECT_TRUE(known.take("./s.xml", finding("r", "p")));
   EXPECT_FALSE(known.take("s.xml", finding("r", "p")));
   EXPECT_EQ(known.left(), 0U);
+}
+
+// Whatever failed before.
+TEST_F(BaselineTest, TellsWhyItCannotBeRead) {
+  std::filesystem::create_directory("folder");
+  for (const auto& [file, reason] :
+       {std::pair{"folder", "it is no file"}, {"lost.json", "No such file or directory"}}) {
+    errno = EACCES;
+    EXPECT_EQ(test::refusalOf([file = file] { toolkit::Baseline(file).read(); }).text,
+              std::string("cannot be read: ") + reason);
+  }
 }
 
 TEST_F(BaselineTest, NamesDocumentsAsSeenFromItsFolder) {

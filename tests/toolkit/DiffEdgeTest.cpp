@@ -76,6 +76,41 @@ std::string group(const std::string& name, int offset, int length, const std::st
          std::to_string(length) + "'>" + items + "</group>";
 }
 
+// Over what stands in front of it.
+std::string over(const std::string& name, int offset, int length, const std::string& more = "") {
+  return text(name, offset, length, "redefines='true' " + more);
+}
+
+// Of a name and another one: one that has kept all of this, and one that has not.
+TEST_F(DiffItems, AreRenamedWhereNothingElseChanged) {
+  const auto item = [](const std::string& name, const std::string& attributes) {
+    return "<numeric name='" + name + "' offset='0' picture='999' " + attributes + "/>";
+  };
+  const std::string all = "length='4' usage='comp' digits='3' alignment='1' sign='true'";
+  const std::string kept = told(recordOf(item("A", all)), recordOf(item("B", all)));
+  EXPECT_EQ(kept, "item-renamed R.A -> R.B: A -> B\n");
+  for (const char* const other :
+       {"length='2' usage='comp' digits='3' alignment='1' sign='true'",
+        "length='4' usage='comp-5' digits='3' alignment='1' sign='true'",
+        "length='4' usage='comp' digits='3' alignment='2' sign='true'",
+        "length='4' usage='comp' digits='3' alignment='1' sign='false'",
+        "length='4' usage='comp' digits='3' alignment='1' sign='true' minOccurs='2' "
+        "maxOccurs='2'"}) {
+    EXPECT_THAT(told(recordOf(item("A", all)), recordOf(item("B", other))),
+                testing::StartsWith("item-removed R.A -> : "))
+        << other;
+  }
+  // Another category, and what lies over others or is another view of them.
+  const std::string before = text("X", 0, 4);
+  for (const std::string& other :
+       {std::string("<national name='B' offset='0' length='4' picture='N(2)'/>"),
+        over("B", 0, 4)}) {
+    EXPECT_THAT(told(recordOf(before + text("A", 0, 4)), recordOf(before + other)),
+                testing::HasSubstr("item-removed R.A -> : "))
+        << other;
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(
     OfDictionaries, DiffItems,
     testing::Values(
@@ -112,6 +147,21 @@ INSTANTIATE_TEST_SUITE_P(
             " picture-widened > size-changed R.A: 2 -> 4\n"
             "justification-changed R.B: left -> right\n"
             " justification-changed > item-moved R.B: 2 -> 5\n"},
+        Row{"AMoveByATable", text("A", 0, 1) + text("B", 1, 1) + text("C", 2, 1),
+            text("Z", 0, 1) + text("B", 1, 1, "minOccurs='2' maxOccurs='2'") + text("C", 3, 1),
+            "item-renamed R.A -> R.Z: A -> Z\n"
+            "table-made R.B: 0 -> 2\n"
+            " table-made > item-moved R.C: 2 -> 3\n"},
+        // What lies over others moved with them, whatever it did itself.
+        Row{"AMoveOfARedefinition", text("A", 0, 2) + text("B", 2, 3) + over("C", 2, 3),
+            text("A", 0, 4) + text("B", 4, 4) + over("C", 4, 3, "justified='right'"),
+            "picture-widened R.A: X(2) -> X(4)\n"
+            " picture-widened > size-changed R.A: 2 -> 4\n"
+            "picture-widened R.B: X(3) -> X(4)\n"
+            " picture-widened > item-moved R.B: 2 -> 4\n"
+            " picture-widened > size-changed R.B: 3 -> 4\n"
+            "justification-changed R.C: left -> right\n"
+            " picture-widened > item-moved R.C: 2 -> 4\n"},
         // Half of its members.
         Row{"AGroupOfHalfItsMembers", group("G", 0, 4, text("A", 0, 1) + text("B", 1, 3)),
             group("H", 0, 4, text("C", 0, 2) + text("A", 2, 2)),

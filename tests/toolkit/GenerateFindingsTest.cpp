@@ -176,6 +176,14 @@ INSTANTIATE_TEST_SUITE_P(
             "",
             withMapping("parameter", "name='n' byType='in' dataType='String'", "N"),
             {"ask.n: it stands for numbers of 4 digits: String stands for it"}},
+        Row{"NoType",
+            "xsd",
+            "ws",
+            "",
+            "<parameter name='p' byType='in' dataType='Array'/>",
+            {"ask.p: there is no type for 'Array': it may hold anything; give it fields, or a data "
+             "type of a value"},
+            literal},
         Row{"NoUuid",
             "idl",
             "com",
@@ -242,6 +250,42 @@ TEST_F(GenerateFindings, TellWhatAnOptionMeans) {
   options.values = {{"address", "http://here/"}};
   EXPECT_THAT(made({"", "wsdl", "ws", "", textParameter, {}, literal}, options).findings,
               IsEmpty());
+}
+
+TEST_F(GenerateFindings, WhatHasNoTypeIsAnythingInJson) {
+  const toolkit::Generated json =
+      made({"",
+            "jsonschema",
+            "ws",
+            "",
+            textParameter + "<parameter name='o' byType='in' dataType='Array'/>",
+            {},
+            literal});
+  ASSERT_EQ(json.files.size(), 1U) << testing::PrintToString(textsOf(json.findings));
+  const auto schemas = nlohmann::json::parse(json.files.front().content)["$defs"];
+  EXPECT_EQ(schemas["ask"]["properties"]["o"], nlohmann::json::object()) << schemas;
+}
+
+// As many digits as two digits tell.
+TEST_F(GenerateFindings, EditedNumbersHaveTheirPlaces) {
+  writeService({"",
+                "xsd",
+                "java",
+                "",
+                withMapping("parameter", "name='e' byType='out' dataType='BigDecimal'", "E"),
+                {}});
+  write("p.xml",
+        test::dictionary("<dataItems><group name='R' offset='0' length='13' linkage='true'>"
+                         "<numericEdited name='E' offset='0' length='13' picture='Z9.9(10)' "
+                         "digits='12' alignment='10'/></group></dataItems><entryPoints><entryPoint "
+                         "name='E'><parameter dataItem='R' byType='reference'/></entryPoint>"
+                         "</entryPoints>"));
+  const toolkit::Generated xsd =
+      toolkit::generateFrom(reader(), *toolkit::findGeneratorKind("xsd"), {"s.xml"});
+  ASSERT_EQ(xsd.files.size(), 1U) << testing::PrintToString(textsOf(xsd.findings));
+  EXPECT_THAT(xsd.files.front().content,
+              testing::HasSubstr("<xs:totalDigits value=\"12\"/>\n"
+                                 "              <xs:fractionDigits value=\"10\"/>"));
 }
 
 // A type that stands for a structure is that structure with nothing added.

@@ -80,6 +80,9 @@ TEST_F(TextsGolden, DifferencesAndWhatFollowsAreAsTheyWere) {
       {"LK-VEH-MODEL        PIC X(30).", "LK-VEH-MODEL        PIC N(30)."},
       {"               10  LK-VEH-POWER-KW     PIC 9(04) COMP.\n", ""},
       {"LK-DRV-CLAIM        OCCURS 3", "LK-DRV-CLAIM        OCCURS 2"},
+      {"LK-REQ-VERSION          PIC 9(04)", "LK-REQ-VERSION          PIC 9(09)"},
+      {"LK-REQ-PAYMENT          PIC X(01)", "LK-REQ-PAYMENT          PIC X(02)"},
+      {"LK-RES-MESSAGE          PIC X(60)", "LK-RES-MESSAGE          PIC X(50)"},
       {"LK-RES-NET              PIC S9(07)", "LK-RES-NET              PIC S9(06)"},
       {"ENTRY \"MOTPINST\"", "ENTRY \"MOTPLAN\""},
       {"USING BY VALUE LK-NCD-CLASS", "USING BY REFERENCE LK-NCD-CLASS"},
@@ -111,9 +114,28 @@ TEST_F(TextsGolden, DifferencesAndWhatFollowsAreAsTheyWere) {
   std::ostringstream text;
   toolkit::renderText(text, diffs);
   expectKept("diff-folders.txt", text.str());
+}
+
+TEST_F(TextsGolden, JsonOfDifferencesIsAsItWas) {
+  toolkit::Diff diff;
+  diff.changes.resize(3);
+  diff.changes[0].kind = "table-longer";
+  diff.changes[0].oldPlace = diff.changes[0].newPlace = "R.T";
+  diff.changes[0].oldValue = "2";
+  diff.changes[0].newValue = "3";
+  diff.changes[0].breaks = diff.changes[0].isAllowed = true;
+  diff.changes[1] = diff.changes[0];
+  diff.changes[1].kind = "item-moved";
+  diff.changes[1].cause = 0;
+  diff.changes[1].isAllowed = false;
+  diff.changes[2].kind = "mapping-lost";
+  diff.changes[2].oldPlace = diff.changes[2].newPlace = "ask.a";
+  diff.changes[2].oldValue = "R.A";
+  diff.changes[2].service = "s.xml";
   std::ostringstream json;
-  toolkit::renderJson(json, diffs);
-  expectKept("diff-folders.json", json.str());
+  toolkit::renderJson(json, {{"p.xml", diff}, {"q.xml", {true, {}}}});
+  toolkit::renderText(json, {{"p.xml", diff}, {"q.xml", {true, {}}}});
+  expectKept("diff-rendered.txt", json.str());
 }
 
 TEST_F(TextsGolden, DataOfReportsAreAsTheyWere) {

@@ -132,6 +132,11 @@ std::string misfit(const Capacity& capacity, as::IDataItem& item) {
   return "is a number, the item is " + kindOf(item);
 }
 
+Capacity integerOf(int bits, bool isSigned) {
+  // Not all numbers of as many digits as the greatest one has fit in.
+  return {Kind::integer, digitsOf(isSigned ? bits - 1 : bits) - 1, bits, isSigned};
+}
+
 bool isOfKnownSize(as::IDataItem& item) {
   const int type = item.getDataType();
   if (type == as::IDataItem::TYPE_POINTER || type == as::IDataItem::TYPE_INDEX) {

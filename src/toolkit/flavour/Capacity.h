@@ -26,6 +26,9 @@ struct Capacity {
   int whole = 0;
 };
 
+// Of an integer of so many bits, the sign's included.
+Capacity integerOf(int bits, bool isSigned = true);
+
 // Why `item` cannot be held without loss, to follow the type's name ("holds 4 digits, the item has
 // 9"); empty when it can, and when the dictionary tells too little to say.
 std::string misfit(const Capacity& capacity, as::IDataItem& item);

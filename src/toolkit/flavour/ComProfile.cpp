@@ -79,10 +79,10 @@ class ComProfile : public FlavourProfile {
   // A byte has no sign, an int and a long are of one size, and a currency is a whole number of
   // 64 bits that counts ten-thousandths.
   const std::vector<DataType> types_ = {
-      {Com::COM_BYTE, "byte", {Kind::integer, 2, 8, false}},
-      {Com::COM_SHORT, "short", {Kind::integer, 4, 16}},
-      {Com::COM_INT, "int", {Kind::integer, 9, 32}},
-      {Com::COM_LONG, "long", {Kind::integer, 9, 32}},
+      {Com::COM_BYTE, "byte", integerOf(8, false)},
+      {Com::COM_SHORT, "short", integerOf(16)},
+      {Com::COM_INT, "int", integerOf(32)},
+      {Com::COM_LONG, "long", integerOf(32)},
       {Com::COM_CURRENCY, "currency", {Kind::decimal, 0, 0, true, 4, 14}},
       {Com::COM_FLOAT, "float", {Kind::floating, 6}},
       {Com::COM_DOUBLE, "double", {Kind::floating, 15}},

@@ -73,14 +73,14 @@ class DotNetProfile : public FlavourProfile {
   static constexpr int longestChain = 100;
 
   const std::vector<DataType> types_ = {
-      {Net::NET_BYTE, "Byte", {Kind::integer, 2, 8, false}},
-      {Net::NET_SBYTE, "SByte", {Kind::integer, 2, 8}},
-      {Net::NET_INT16, "Int16", {Kind::integer, 4, 16}},
-      {Net::NET_UINT16, "UInt16", {Kind::integer, 4, 16, false}},
-      {Net::NET_INT32, "Int32", {Kind::integer, 9, 32}},
-      {Net::NET_UINT32, "UInt32", {Kind::integer, 9, 32, false}},
-      {Net::NET_INT64, "Int64", {Kind::integer, 18, 64}},
-      {Net::NET_UINT64, "UInt64", {Kind::integer, 19, 64, false}},
+      {Net::NET_BYTE, "Byte", integerOf(8, false)},
+      {Net::NET_SBYTE, "SByte", integerOf(8)},
+      {Net::NET_INT16, "Int16", integerOf(16)},
+      {Net::NET_UINT16, "UInt16", integerOf(16, false)},
+      {Net::NET_INT32, "Int32", integerOf(32)},
+      {Net::NET_UINT32, "UInt32", integerOf(32, false)},
+      {Net::NET_INT64, "Int64", integerOf(64)},
+      {Net::NET_UINT64, "UInt64", integerOf(64, false)},
       {Net::NET_DECIMAL, "Decimal", {Kind::decimal, 28}},
       {Net::NET_SINGLE, "Single", {Kind::floating, 6}},
       {Net::NET_DOUBLE, "Double", {Kind::floating, 15}},

@@ -83,10 +83,10 @@ class JavaProfile : public FlavourProfile {
  private:
   // Integers, small ones first: what holds an item is found by going from the first on.
   const std::vector<DataType> types_ = {
-      {Java::JAVA_BYTE, "byte", {Kind::integer, 2, 8}},
-      {Java::JAVA_SHORT, "short", {Kind::integer, 4, 16}},
-      {Java::JAVA_INT, "int", {Kind::integer, 9, 32}},
-      {Java::JAVA_LONG, "long", {Kind::integer, 18, 64}},
+      {Java::JAVA_BYTE, "byte", integerOf(8)},
+      {Java::JAVA_SHORT, "short", integerOf(16)},
+      {Java::JAVA_INT, "int", integerOf(32)},
+      {Java::JAVA_LONG, "long", integerOf(64)},
       {Java::JAVA_BIG_INTEGER, "BigInteger", {Kind::decimal, 0, 0, true, 0}},
       {Java::JAVA_BIG_DECIMAL, "BigDecimal", {Kind::decimal}},
       {Java::JAVA_FLOAT, "float", {Kind::floating, 6}},

@@ -103,14 +103,14 @@ class WebProfile : public FlavourProfile {
 
  private:
   const std::vector<DataType> types_ = {
-      {Web::WS_BYTE, "byte", {Kind::integer, 2, 8}},
-      {Web::WS_UNSIGNED_BYTE, "unsignedByte", {Kind::integer, 2, 8, false}},
-      {Web::WS_SHORT, "short", {Kind::integer, 4, 16}},
-      {Web::WS_UNSIGNED_SHORT, "unsignedShort", {Kind::integer, 4, 16, false}},
-      {Web::WS_INT, "int", {Kind::integer, 9, 32}},
-      {Web::WS_UNSIGNED_INT, "unsignedInt", {Kind::integer, 9, 32, false}},
-      {Web::WS_LONG, "long", {Kind::integer, 18, 64}},
-      {Web::WS_UNSIGNED_LONG, "unsignedLong", {Kind::integer, 19, 64, false}},
+      {Web::WS_BYTE, "byte", integerOf(8)},
+      {Web::WS_UNSIGNED_BYTE, "unsignedByte", integerOf(8, false)},
+      {Web::WS_SHORT, "short", integerOf(16)},
+      {Web::WS_UNSIGNED_SHORT, "unsignedShort", integerOf(16, false)},
+      {Web::WS_INT, "int", integerOf(32)},
+      {Web::WS_UNSIGNED_INT, "unsignedInt", integerOf(32, false)},
+      {Web::WS_LONG, "long", integerOf(64)},
+      {Web::WS_UNSIGNED_LONG, "unsignedLong", integerOf(64, false)},
       {Web::WS_INTEGER, "integer", {Kind::decimal, 0, 0, true, 0}},
       {Web::WS_DECIMAL, "decimal", {Kind::decimal}},
       {Web::WS_FLOAT, "float", {Kind::floating, 6}},

@@ -123,14 +123,14 @@ NameRule rule(NameRule::Start start) {
 
 const TypeTable& values() {
   static const TypeTable table = {
-      {"sbyte", {Kind::integer, 2, 8}},
-      {"byte", {Kind::integer, 2, 8, false}},
-      {"short", {Kind::integer, 4, 16}},
-      {"ushort", {Kind::integer, 4, 16, false}},
-      {"int", {Kind::integer, 9, 32}},
-      {"uint", {Kind::integer, 9, 32, false}},
-      {"long", {Kind::integer, 18, 64}},
-      {"ulong", {Kind::integer, 19, 64, false}},
+      {"sbyte", integerOf(8)},
+      {"byte", integerOf(8, false)},
+      {"short", integerOf(16)},
+      {"ushort", integerOf(16, false)},
+      {"int", integerOf(32)},
+      {"uint", integerOf(32, false)},
+      {"long", integerOf(64)},
+      {"ulong", integerOf(64, false)},
       {"decimal", {Kind::decimal, 28}},
       {"global::System.Numerics.BigInteger", {Kind::decimal, 0, 0, true, 0}},
       {"float", {Kind::floating, 6}},

@@ -175,9 +175,9 @@ NameRule rule(const Words& reserved, NameRule::Start start) {
 
 const TypeTable& values() {
   static const TypeTable table = {
-      {"unsigned char", {Kind::integer, 2, 8, false}},
-      {"short", {Kind::integer, 4, 16}},
-      {"long", {Kind::integer, 9, 32}},
+      {"unsigned char", integerOf(8, false)},
+      {"short", integerOf(16)},
+      {"long", integerOf(32)},
       {"CY", {Kind::decimal, 0, 0, true, 4, 14}},
       {"DECIMAL", {Kind::decimal, 28}},
       {"float", {Kind::floating, 6}},

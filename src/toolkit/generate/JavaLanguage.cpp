@@ -64,10 +64,10 @@ NameRule memberRule() {
 
 const TypeTable& values() {
   static const TypeTable table = {
-      {"byte", {Kind::integer, 2, 8}},
-      {"short", {Kind::integer, 4, 16}},
-      {"int", {Kind::integer, 9, 32}},
-      {"long", {Kind::integer, 18, 64}},
+      {"byte", integerOf(8)},
+      {"short", integerOf(16)},
+      {"int", integerOf(32)},
+      {"long", integerOf(64)},
       {"BigInteger", {Kind::decimal, 0, 0, true, 0}},
       {"BigDecimal", {Kind::decimal}},
       {"float", {Kind::floating, 6}},

@@ -18,7 +18,7 @@ bool isDefinitionCharacter(char32_t character) {
 const TypeTable& jsonTypes() {
   // Numbers are doubles to many readers, which hold 53 bits.
   static const TypeTable table = {
-      {"integer", {Kind::integer, 15, 53}},
+      {"integer", integerOf(53)},
       {integerText.data(), {Kind::decimal, 0, 0, true, 0}},
       {decimalText.data(), {Kind::decimal}},
       {"number", {Kind::floating, 15}},

@@ -23,14 +23,14 @@ bool isPlain(std::string_view text) { return std::none_of(text.begin(), text.end
 
 const TypeTable& xsdTypes() {
   static const TypeTable table = {
-      {"xs:byte", {Kind::integer, 2, 8}},
-      {"xs:unsignedByte", {Kind::integer, 2, 8, false}},
-      {"xs:short", {Kind::integer, 4, 16}},
-      {"xs:unsignedShort", {Kind::integer, 4, 16, false}},
-      {"xs:int", {Kind::integer, 9, 32}},
-      {"xs:unsignedInt", {Kind::integer, 9, 32, false}},
-      {"xs:long", {Kind::integer, 18, 64}},
-      {"xs:unsignedLong", {Kind::integer, 19, 64, false}},
+      {"xs:byte", integerOf(8)},
+      {"xs:unsignedByte", integerOf(8, false)},
+      {"xs:short", integerOf(16)},
+      {"xs:unsignedShort", integerOf(16, false)},
+      {"xs:int", integerOf(32)},
+      {"xs:unsignedInt", integerOf(32, false)},
+      {"xs:long", integerOf(64)},
+      {"xs:unsignedLong", integerOf(64, false)},
       {"xs:integer", {Kind::decimal, 0, 0, true, 0}},
       {"xs:decimal", {Kind::decimal}},
       {"xs:float", {Kind::floating, 6}},
