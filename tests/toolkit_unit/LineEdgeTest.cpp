@@ -104,7 +104,6 @@ const ReadingRow joinedRows[] = {
 };
 AS_READING_ROWS(JoinedNames, joinedRows);
 
-=======
 const ReadingRow dollarRows[] = {
     {"Conditions",
      {"$IF B DEFINED\nC\n$ELIF D DEFINED\nE\n$ELSE-IF F DEFINED\nG\n$ELSE\nA\n$END-IF\n"},
