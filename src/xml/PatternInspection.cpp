@@ -80,9 +80,8 @@ class Inspection {
     }
     if (!isGood_) return part;
     ++at_;
-    const bool isTwofold = *at_ == u'*' || *at_ == u'+' || *at_ == u'?' || *at_ == u'{';
-    if (isTwofold || (isRepeated && part.mayBeEmpty)) isGood_ = false;
     if (isRepeated) {
+      if (part.mayBeEmpty) isGood_ = false;
       if (!hasEnd && !part.isSingle) isGood_ = false;
       follow(part.last, part.first);
     }

@@ -221,4 +221,48 @@ TEST(ImportLike, IsNotExplainedByATypeOfTheProgramAround) {
   EXPECT_EQ(firstReasonOf(imported, "D.C"), "PICTURE X: 1 character");
 }
 
+// The items that a type of SQL becomes.
+class ImportSqlTypeTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportSqlTypeTest, IsLaidOutAsItsPrecompilerDoes) {
+  const std::string source = programOf("01 A SQL TYPE IS " + std::string(GetParam().source) + ".");
+  EXPECT_EQ(test::placesOf(dictionaryOf(importOf(source))), GetParam().expected);
+}
+
+constexpr const char* textOf5 = "A 0+9, A-LENGTH 0+4, A-DATA 4+5";
+constexpr const char* varyingOf5 = "A 0+7, A-LEN 0+2, A-TEXT 2+5";
+constexpr const char* file =
+    "A 0+267, A-NAME-LENGTH 0+4, A-DATA-LENGTH 4+4, A-FILE-OPTIONS 8+4, A-NAME 12+255";
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ImportSqlTypeTest,
+    testing::Values(
+        ImportRow{"BLOB(5)", textOf5}, ImportRow{"CLOB(5)", textOf5},
+        ImportRow{"DBCLOB(5)", "A 0+14, A-LENGTH 0+4, A-DATA 4+10"},
+        ImportRow{"BINARY LARGE OBJECT(5)", textOf5},
+        ImportRow{"CHARACTER LARGE OBJECT(5)", textOf5},
+        ImportRow{"DBCHAR LARGE OBJECT(5)", "A 0+14, A-LENGTH 0+4, A-DATA 4+10"},
+        ImportRow{"XML AS BLOB(5)", textOf5}, ImportRow{"BLOB-LOCATOR", "A 0+4"},
+        ImportRow{"CLOB-LOCATOR", "A 0+4"}, ImportRow{"DBCLOB_LOCATOR", "A 0+4"},
+        ImportRow{"RESULT-SET-LOCATOR", "A 0+4"}, ImportRow{"TABLE", "A 0+4"},
+        ImportRow{"BLOB-FILE", file}, ImportRow{"CLOB-FILE", file}, ImportRow{"DBCLOB-FILE", file},
+        ImportRow{"ROWID", "A 0+42, A-LEN 0+2, A-DATA 2+40"}, ImportRow{"BINARY(5)", "A 0+5"},
+        ImportRow{"CHAR(5)", "A 0+5"}, ImportRow{"CHARACTER(5)", "A 0+5"},
+        ImportRow{"VARBINARY(5)", varyingOf5}, ImportRow{"BINARY VARYING(5)", varyingOf5},
+        ImportRow{"CHAR VARYING(5)", varyingOf5}, ImportRow{"CHARACTER VARYING(5)", varyingOf5},
+        ImportRow{"VARCHAR(5)", varyingOf5}, ImportRow{"CHAR-VARYING(5)", varyingOf5},
+        ImportRow{"LONG-VARCHAR(5)", varyingOf5}, ImportRow{"LONG-VARBINARY(5)", varyingOf5},
+        ImportRow{"DATE", "A 0+10"}, ImportRow{"TIME", "A 0+8"}, ImportRow{"TIMESTAMP", "A 0+26"},
+        ImportRow{"BLOB(1K)", "A 0+1028, A-LENGTH 0+4, A-DATA 4+1024"},
+        ImportRow{"BLOB(1k)", "A 0+1028, A-LENGTH 0+4, A-DATA 4+1024"},
+        ImportRow{"BLOB(2m)", "A 0+2097156, A-LENGTH 0+4, A-DATA 4+2097152"},
+        ImportRow{"BLOB(2 M)", "A 0+2097156, A-LENGTH 0+4, A-DATA 4+2097152"}));
+
+TEST(ImportExplanation, TellsOfDigitsThatAreNotStored) {
+  const auto imported = importOf(programOf("01 A PIC 9P. 01 B PIC S9(3)V9. 01 C PIC XX."));
+  EXPECT_EQ(firstReasonOf(imported, "A"), "PICTURE 9P: 2 digits, 1 not stored, unsigned");
+  EXPECT_EQ(firstReasonOf(imported, "B"), "PICTURE S9(3)V9: 4 digits, 1 behind the point, signed");
+  EXPECT_EQ(firstReasonOf(imported, "C"), "PICTURE XX: 2 characters");
+}
+
 }  // namespace

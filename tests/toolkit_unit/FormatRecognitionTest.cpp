@@ -163,4 +163,29 @@ TEST_P(CopybookFormat, IsThatAroundUnlessTheTextSaysOtherwise) {
 INSTANTIATE_TEST_SUITE_P(Rows, CopybookFormat, testing::ValuesIn(copybookRows),
                          [](const auto& row) { return std::string(row.param.name); });
 
+// What stands in column 7 of a comment is no indicator.
+TEST(RecognisedFormat, IsFreeByACommentInFrontOfColumn7) {
+  for (const char* const comment : {"*> AB  C\n", "     *>\n", "*>    -A\n"}) {
+    EXPECT_EQ(as::toolkit::copybookFormat(comment, fixed, false), free) << comment;
+  }
+}
+
+TEST(RecognisedFormat, IsFreeByWordsThatBeginALine) {
+  for (const std::string word :
+       {"id",     "DATA",  "FD",     "sd",     "RD",     "COPY",  "move",  "IF",    "ELSE",
+        "exec",   "CALL",  "SET",    "add",    "GO",     "STOP",  "exit",  "OPEN",  "READ",
+        "close",  "WRITE", "SORT",   "when",   "END",    "FILE",  "use",   "NEXT",  "GOBACK",
+        "return", "CBL",   "SELECT", "author", "ASSIGN", "MERGE", "start", "END-IF"}) {
+    // Whatever stands in column 7, unless it belongs to the word.
+    for (const char indicator : std::string(word.size() < 6 ? " *-/D" : " ")) {
+      const std::string line = word + std::string(6 - word.size(), ' ') + indicator + " A\n";
+      EXPECT_EQ(as::toolkit::copybookFormat(line, fixed, false), free) << line;
+    }
+  }
+  for (const std::string other : {"ABC", "IDX", "I", "ENDIF"}) {
+    const std::string line = other + std::string(6 - other.size(), ' ') + "  A\n";
+    EXPECT_EQ(as::toolkit::copybookFormat(line, fixed, false), fixed) << line;
+  }
+}
+
 }  // namespace

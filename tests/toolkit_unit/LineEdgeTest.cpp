@@ -27,6 +27,10 @@ AS_READING_ROWS(MarksOfFreeFormat, markRows);
 
 const ReadingRow indicatorRows[] = {
     {"DollarAndAWord", {"      $XFD B\n       A\n", {}, fixed}, "A", "unknown-directive main:1:7"},
+    {"DollarAndAnyWord",
+     {"      $VENDOR B\n       A\n", {}, fixed},
+     "A",
+     "unknown-directive main:1:7"},
     {"DollarAndNoLetter", {"      $1 B\n", {}, fixed}, "1 B", "unknown-indicator main:1:7"},
     {"DollarAlone", {"      $\n       A\n", {}, fixed}, "A", "unknown-indicator main:1:7"},
     {"DollarAndBlanksAndAWord",
@@ -89,6 +93,32 @@ const ReadingRow wordRows[] = {
 };
 AS_READING_ROWS(WordEdges, wordRows);
 
+const ReadingRow continuedRows[] = {
+    {"ByADashInColumn1", {"\"a\n-   \"b\".\n"}, "\"ab\" ."},
+    {"NotByADashInColumn2",
+     {"\"a\n -   \"b\".\n"},
+     "\"a\" - \"b\" .",
+     "unterminated-literal main:1:1"},
+    {"NotByADashAlone", {"\"a\n-\n\"b\".\n"}, "\"a\" - \"b\" .", "unterminated-literal main:1:1"},
+    {"NotByAnInclude",
+     {"\"a\n-INC B\n", {{"B", "C"}}},
+     "\"aINC B\"",
+     "bad-continuation main:2:2\nunterminated-literal main:1:1"},
+    {"NotByADirective", {"\"a\n>>PAGE\nB\n"}, "\"a\" B", "unterminated-literal main:1:1"},
+    {"OverACommentBehindBlanks", {"\"a\"-\n  *> x\n\"b\".\n"}, "\"ab\" ."},
+    {"OverACommentInTheCodeOfFixedFormat", {"       A\n        *> x\n      -B\n", {}, fixed}, "AB"},
+    {"AtTheEnd", {"\"a\n"}, "\"a\"", "unterminated-literal main:1:1"},
+};
+AS_READING_ROWS(ContinuedInFreeFormat, continuedRows);
+
+const ReadingRow copyRows[] = {
+    {"NameWithAZeroByteThatIsThere",
+     {std::string("COPY \"B\0\". A", 12), {{std::string("B\0", 2), "D"}}},
+     "A",
+     "control-character main:1:8\ncopybook-not-found main:1:1"},
+};
+AS_READING_ROWS(CopiedNames, copyRows);
+
 // COPY B with the phrase, where B is the text.
 ReadingRow joining(const char* name, const std::string& phrase, const std::string& text,
                    const std::string& words) {
@@ -99,6 +129,12 @@ const ReadingRow joinedRows[] = {
     joining("NamesWithoutThePrefixStay", "DISJOINING I JOINING O AS PREFIX",
             "01 I-A. 02 LONG-A PIC X. 02 I PIC X. 02 I- PIC X.",
             "01 O-A . 02 LONG-A PIC <X> . 02 I PIC <X> . 02 I- PIC <X> ."),
+    joining("NumbersOfThreeDigitsAreNoLevels", "JOINING O AS PREFIX", "01 A. 100 B. \'02\' C.",
+            "01 O-A . 100 B . \'02\' C ."),
+    joining("ItemsThatClausesBeginHaveNoNames", "JOINING O AS PREFIX",
+            "01 A. 02 PICTURE X. 02 REDEFINES B PIC X. 02 COMP-1. 02 TYPE T. 02 IS GLOBAL.",
+            "01 O-A . 02 PICTURE <X> . 02 REDEFINES B PIC <X> . 02 COMP-1 . 02 TYPE T . 02 IS "
+            "GLOBAL ."),
     joining("NamesWithoutTheSuffixStay", "DISJOINING I JOINING O AS SUFFIX",
             "01 A-I. 02 A-LONG PIC X. 02 I PIC X.", "01 A-O . 02 A-LONG PIC <X> . 02 I PIC <X> ."),
 };
@@ -229,6 +265,10 @@ TEST(DirectiveFindings, AreToldInFull) {
                "warning: main:1:1: the statement ends without a period\n"},
            Row{"EXEC SQL A END-EXEC.\n",
                "note: main:1:1: 1 statement EXEC SQL is passed over, this is the first\n"},
+           Row{"EXEC SQL A END-EXEC. EXEC SQL B END-EXEC.\n",
+               "note: main:1:1: 2 statements EXEC SQL are passed over, this is the first\n"},
+           Row{"EXEC ABCDEFGHI X END-EXEC.\n",
+               "note: main:1:1: 1 statement EXEC ABCDEFGH is passed over, this is the first\n"},
            Row{"EXEC SQL A\n",
                "error: main:1:1: the EXEC statement does not end; end it with END-EXEC\n"},
            Row{"BASIS LIB\n",

@@ -96,10 +96,7 @@ bool SourceLines::next(SourceLine& line) {
 
 // A dash in column 1 continues a literal where lines have an indicator there.
 void SourceLines::continueAhead() {
-  if (!hasAhead_ || ahead_.kind != LineKind::code || ahead_.column != 1 ||
-      ahead_.text.front() != '-') {
-    return;
-  }
+  if (!hasAhead_ || ahead_.column != 1 || ahead_.text.front() != '-') return;
   const std::string_view behind = withoutBlanksInFront(ahead_.whole.substr(1));
   if (behind.empty()) return;
   ahead_.column += static_cast<std::int32_t>(ahead_.whole.size() - behind.size());
