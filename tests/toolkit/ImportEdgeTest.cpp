@@ -84,6 +84,13 @@ INSTANTIATE_TEST_SUITE_P(
                     ImportRow{"01 A INDEX TO X.", "1:12 unknown-clause, 1:1 dialect-decides"}));
 
 INSTANTIATE_TEST_SUITE_P(
+    Constants, ImportEdgeTest,
+    testing::Values(ImportRow{"78 J VALUE 'AB'. 78 K VALUE J. 01 A PIC X.", ""},
+                    ImportRow{"78 K VALUE SPACES. 01 A PIC X.", ""},
+                    ImportRow{"78 K VALUE 1.5. 01 A PIC X.", ""},
+                    ImportRow{"78 K VALUE SPACES + 1. 01 A PIC X.", "1:12 bad-constant"}));
+
+INSTANTIATE_TEST_SUITE_P(
     Copies, ImportEdgeTest,
     testing::Values(ImportRow{"01 A PIC 9V99. 01 B LIKE A (-1).", ""},
                     ImportRow{"01 A PIC 9V99. 01 B LIKE A (-2).", "1:16 bad-clause"},
@@ -156,6 +163,16 @@ INSTANTIATE_TEST_SUITE_P(
                   "here and elsewhere"}));
 
 INSTANTIATE_TEST_SUITE_P(
+    LargeObjects, ImportMessageTest,
+    testing::Values(ImportRow{"01 A SQL TYPE IS BINARY LARGE OBJECT(5).",
+                              "A is expanded as the precompiler of Db2 does with SQL TYPE IS BLOB"},
+                    ImportRow{"01 A SQL TYPE IS CHARACTER LARGE OBJECT(5).",
+                              "A is expanded as the precompiler of Db2 does with SQL TYPE IS CLOB"},
+                    ImportRow{
+                        "01 A SQL TYPE IS DBCHAR LARGE OBJECT(5).",
+                        "A is expanded as the precompiler of Db2 does with SQL TYPE IS DBCLOB"}));
+
+INSTANTIATE_TEST_SUITE_P(
     Clauses, ImportMessageTest,
     testing::Values(
         ImportRow{"01 A SQL TYPE IS FANCY.", "A: SQL TYPE IS FANCY is not known"},
@@ -185,10 +202,12 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(ImportLike, MakesNumbersOfOtherLengths) {
   const std::string dictionary = dictionaryOf(
       importOf(programOf("01 A PIC S9V99. 01 B LIKE A (-1). 01 C LIKE A (2). 01 D PIC A(2). "
-                         "01 E LIKE D (1). 01 F PIC N(2). 01 G LIKE F (1).")));
-  EXPECT_EQ(test::partsOf(dictionary, "name=\"[BCEG]\" picture=\"[^\"]*\""),
+                         "01 E LIKE D (1). 01 F PIC N(2). 01 G LIKE F (1). 01 H PIC 9(2). 01 I "
+                         "LIKE H (1). 01 J PIC X. 01 K LIKE J (1).")));
+  EXPECT_EQ(test::partsOf(dictionary, "name=\"[BCEGIK]\" picture=\"[^\"]*\""),
             (std::vector<std::string>{"name='B' picture='SV9(2)'", "name='C' picture='S9(3)V9(2)'",
-                                      "name='E' picture='A(3)'", "name='G' picture='N(3)'"}));
+                                      "name='E' picture='A(3)'", "name='G' picture='N(3)'",
+                                      "name='I' picture='9(3)'", "name='K' picture='X(2)'"}));
 }
 
 // What the item of that name is explained with first.

@@ -175,8 +175,8 @@ class Explainer {
 }  // namespace
 
 std::vector<ItemExplanation> explainItem(const ImportedProgram& program, const std::string& item) {
+  if (program.isRefused() || !program.details) return {};
   std::vector<ItemExplanation> result;
-  if (program.isRefused() || !program.details) return result;
   const CobolProgram& entries = program.details->program();
   const std::vector<std::string> parts = partsOf(item);
   Explainer explainer(*program.details);

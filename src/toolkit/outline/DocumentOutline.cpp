@@ -22,7 +22,7 @@ class PlaceCounter {
   TextPlace at(std::size_t offset) {
     for (; at_ < offset && at_ < text_.size(); ++at_) {
       const char c = text_[at_];
-      const bool isFirstOfTwo = c == '\r' && at_ + 1 < text_.size() && text_[at_ + 1] == '\n';
+      const bool isFirstOfTwo = text_.substr(at_, 2) == "\r\n";
       if (c == '\n' || (c == '\r' && !isFirstOfTwo)) {
         ++place_.line;
         place_.column = 1;
