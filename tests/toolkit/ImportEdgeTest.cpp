@@ -83,6 +83,15 @@ INSTANTIATE_TEST_SUITE_P(
                     ImportRow{"01 A FUNCTION-POINTER TO X.", "1:1 dialect-decides"},
                     ImportRow{"01 A INDEX TO X.", "1:12 unknown-clause, 1:1 dialect-decides"}));
 
+// Words of usages that may be names.
+INSTANTIATE_TEST_SUITE_P(NamesOfUsages, ImportEdgeTest,
+                         testing::Values(ImportRow{"01 BIT PIC X.", ""},
+                                         ImportRow{"01 OBJECT PIC X.", ""},
+                                         ImportRow{"01 BIT COMP-1.", ""},
+                                         ImportRow{"01 INDEX COMP-1.", ""},
+                                         ImportRow{"01 INDEX PIC X.", "1:1 needless-picture"},
+                                         ImportRow{"01 OBJECT COMP-1.", "1:4 bad-clause"}));
+
 INSTANTIATE_TEST_SUITE_P(
     Constants, ImportEdgeTest,
     testing::Values(ImportRow{"78 J VALUE 'AB'. 78 K VALUE J. 01 A PIC X.", ""},
@@ -282,6 +291,21 @@ TEST(ImportExplanation, TellsOfDigitsThatAreNotStored) {
   EXPECT_EQ(firstReasonOf(imported, "A"), "PICTURE 9P: 2 digits, 1 not stored, unsigned");
   EXPECT_EQ(firstReasonOf(imported, "B"), "PICTURE S9(3)V9: 4 digits, 1 behind the point, signed");
   EXPECT_EQ(firstReasonOf(imported, "C"), "PICTURE XX: 2 characters");
+}
+
+// Slack in front of the first member stands in its group, or in front of it.
+TEST(ImportSlack, IsToldWhereItStands) {
+  const char* const first = "01 R. 05 A PIC X. 05 G. 10 B COMP-1 SYNC.";
+  const char* const second = "01 R. 05 G. 10 A PIC X. 10 B COMP-1 SYNC.";
+  for (const std::string dialect : {"ibm", "gnucobol"}) {
+    const auto told = importOf(programOf(first), test::freeFormat(dialect));
+    ASSERT_EQ(told.findings.size(), 1U) << test::problemsOf(told);
+    EXPECT_EQ(told.findings.front().problem,
+              "the slack bytes of B stand " +
+                  std::string(dialect == "ibm" ? "in front of" : "inside of") +
+                  " the group G, as dialect " + dialect + " has it");
+    EXPECT_EQ(test::problemsOf(importOf(programOf(second), test::freeFormat(dialect))), "");
+  }
 }
 
 }  // namespace

@@ -9,8 +9,7 @@ namespace as::toolkit {
 
 namespace {
 
-constexpr std::size_t margin = 2;
-constexpr std::size_t gap = 2;
+constexpr std::size_t gap = 2;  // Between columns, and in front of the first.
 
 }  // namespace
 
@@ -43,10 +42,10 @@ void TextTable::printHeader(std::ostream& out) const {
 void TextTable::print(std::ostream& out, const Row& row) const {
   std::string line;
   std::size_t written = 0;
-  std::size_t start = margin;  // Where the column begins.
+  std::size_t start = gap;  // Where the column begins.
   const auto put = [&](const std::string& text, std::size_t at) {
     if (text.empty()) return;
-    const std::size_t from = written == 0 ? at : std::max(at, written + gap);
+    const std::size_t from = std::max(at, written + gap);
     line.append(from - written, ' ');
     line += text;
     written = from + characterCount(text);
