@@ -83,6 +83,13 @@ INSTANTIATE_TEST_SUITE_P(
                     ImportRow{"01 A FUNCTION-POINTER TO X.", "1:1 dialect-decides"},
                     ImportRow{"01 A INDEX TO X.", "1:12 unknown-clause, 1:1 dialect-decides"}));
 
+// Entries without a period end where something else begins.
+INSTANTIATE_TEST_SUITE_P(
+    Ends, ImportEdgeTest,
+    testing::Values(ImportRow{"01 A PIC X\nLINKAGE SECTION.\n01 B PIC X.", "2:1 no-period"},
+                    ImportRow{"01 A PIC X\nPROCEDURE DIVISION.", "2:1 no-period"},
+                    ImportRow{"01 A PIC X\n88 B VALUE 'C'.", "2:1 no-period"}));
+
 // Words of usages that may be names.
 INSTANTIATE_TEST_SUITE_P(NamesOfUsages, ImportEdgeTest,
                          testing::Values(ImportRow{"01 BIT PIC X.", ""},
