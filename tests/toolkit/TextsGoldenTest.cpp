@@ -72,6 +72,38 @@ TEST_F(TextsGolden, DifferencesAreAsTheyWere) {
   expectKept("diff-MOTPREM-java.txt", text.str());
 }
 
+// All files, with what is told of them.
+TEST_F(TextsGolden, MessagesOfEveryKindAreAsTheyWere) {
+  struct Row {
+    const char* kind;
+    const char* option;
+    const char* value;
+  };
+  for (const Row& row :
+       {Row{"wsdl", "schema", "separate"}, Row{"wsdl", "address", "http://here/"},
+        Row{"openapi", "server", "http://here/"}, Row{"openapi", "examples", "none"},
+        Row{"markdown", "", ""}, Row{"xsd", "operation", "literal"}, Row{"jsonschema", "", ""}}) {
+    toolkit::GenerateOptions options;
+    if (*row.option != '\0') options.values = {{row.option, row.value}};
+    const toolkit::Generated made =
+        toolkit::generateFrom(reader(), *toolkit::findGeneratorKind(row.kind),
+                              {AS_GOLDEN_DIR "/documents/MESSAGES-ws.xml"}, options);
+    std::string text = linesOf(made.findings);
+    for (const toolkit::GeneratedFile& file : made.files) {
+      text += "-- " + file.name + "\n" + file.content;
+    }
+    const std::string version = toolkit::toolkitVersion();
+    const std::string banner = "Made by AgentServices ";
+    for (std::size_t at = text.find(banner); at != std::string::npos;
+         at = text.find(banner, at + 1)) {
+      text.replace(at + banner.size(), version.size(), "VERSION");
+    }
+    expectKept(std::string("messages-") + row.kind + (*row.option == '\0' ? "" : "-") + row.option +
+                   ".txt",
+               text);
+  }
+}
+
 // Of a program that changed in many ways, and what becomes of its services.
 TEST_F(TextsGolden, DifferencesAndWhatFollowsAreAsTheyWere) {
   const std::vector<std::pair<std::string, std::string>> changes = {
