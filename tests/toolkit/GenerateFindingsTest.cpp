@@ -266,6 +266,25 @@ TEST_F(GenerateFindings, WhatHasNoTypeIsAnythingInJson) {
   EXPECT_EQ(schemas["ask"]["properties"]["o"], nlohmann::json::object()) << schemas;
 }
 
+// What is mapped to several items has the limits of none of them, unless they are alike.
+TEST_F(GenerateFindings, ItemsThatDifferLimitNothing) {
+  const auto xsdOf = [this](const std::string& other) {
+    const toolkit::Generated xsd =
+        made({"",
+              "xsd",
+              "java",
+              "",
+              "<parameter name='t' byType='in' dataType='String'><mappings><mapping "
+              "item='R.T'/><mapping item='" +
+                  other + "'/></mappings></parameter>",
+              {}});
+    EXPECT_EQ(xsd.files.size(), 1U) << testing::PrintToString(textsOf(xsd.findings));
+    return xsd.files.empty() ? "" : xsd.files.front().content;
+  };
+  EXPECT_THAT(xsdOf("R.T"), testing::HasSubstr("<xs:maxLength value=\"8\"/>"));
+  EXPECT_THAT(xsdOf("R.L(1)"), testing::Not(testing::HasSubstr("<xs:maxLength")));
+}
+
 // As many digits as two digits tell.
 TEST_F(GenerateFindings, EditedNumbersHaveTheirPlaces) {
   writeService({"",

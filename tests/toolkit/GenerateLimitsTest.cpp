@@ -138,6 +138,13 @@ TEST_F(GenerateLimits, LargeExamplesAreLeftOutUnlessTheyAreAskedFor) {
       "asks for it";
   EXPECT_THAT(made("openapi", "java", tableOf("200")).findings, IsEmpty());
   EXPECT_THAT(textsOf(made("openapi", "java", tableOf("201")).findings), ElementsAre(left));
+  // A structure counts for itself, too.
+  const auto structures = [](const std::string& occurs) {
+    return "<parameter name='p' byType='in' occurs='" + occurs +
+           "'><field name='n' dataType='int'/></parameter>";
+  };
+  EXPECT_THAT(made("openapi", "java", structures("100")).findings, IsEmpty());
+  EXPECT_THAT(textsOf(made("openapi", "java", structures("101")).findings), ElementsAre(left));
   toolkit::GenerateOptions options;
   options.values = {{"examples", "all"}};
   EXPECT_THAT(made("openapi", "java", tableOf("100000"), options).findings, IsEmpty());
