@@ -49,14 +49,14 @@ class DiffEdge : public test::ToolkitTest, public testing::WithParamInterface<Ro
 };
 
 // Items of a record that is handed over.
-class DiffItems : public DiffEdge {};
+class DiffedItems : public DiffEdge {};
 
 std::string recordOf(const std::string& items) {
   return test::dictionary("<dataItems><group name='R' offset='0' length='20' linkage='true'>" +
                           items + "</group></dataItems>");
 }
 
-TEST_P(DiffItems, AreTold) {
+TEST_P(DiffedItems, AreTold) {
   EXPECT_EQ(told(recordOf(GetParam().before), recordOf(GetParam().after)), GetParam().expected);
 }
 
@@ -82,7 +82,7 @@ std::string over(const std::string& name, int offset, int length, const std::str
 }
 
 // Of a name and another one: one that has kept all of this, and one that has not.
-TEST_F(DiffItems, AreRenamedWhereNothingElseChanged) {
+TEST_F(DiffedItems, AreRenamedWhereNothingElseChanged) {
   const auto item = [](const std::string& name, const std::string& attributes) {
     return "<numeric name='" + name + "' offset='0' picture='999' " + attributes + "/>";
   };
@@ -112,7 +112,7 @@ TEST_F(DiffItems, AreRenamedWhereNothingElseChanged) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    OfDictionaries, DiffItems,
+    OfDictionaries, DiffedItems,
     testing::Values(
         Row{"AnotherPictureOfAsManyDigits", three, number("picture='99Z' digits='3'"),
             "picture-changed R.N: 999 -> 99Z\n"},
