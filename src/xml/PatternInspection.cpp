@@ -121,19 +121,23 @@ class Inspection {
     return value;
   }
 
-  Part atom() {
-    if (*at_ == u'(') {
+  Part atom() { return *at_ == u'(' ? group() : character(); }
+
+  Part group() {
+    ++at_;
+    if (++depth_ > limits::schemaPattern) isGood_ = false;
+    Part part = isGood_ ? choice() : Part();
+    --depth_;
+    if (*at_ == u')') {
       ++at_;
-      if (++depth_ > limits::schemaPattern) isGood_ = false;
-      Part part = isGood_ ? choice() : Part();
-      --depth_;
-      if (*at_ == u')') {
-        ++at_;
-      } else {
-        isGood_ = false;
-      }
-      return part;
+    } else {
+      isGood_ = false;
     }
+    return part;
+  }
+
+  // By itself: a set of characters is large, and groups nest on the stack.
+  [[gnu::noinline]] Part character() {
     Characters characters;
     switch (*at_) {
       case u'.':

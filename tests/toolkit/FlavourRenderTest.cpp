@@ -1,7 +1,6 @@
 // Tests of how the flavours beside Java are shown: Web, COM and .NET services.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <pthread.h>
 
 #include <cstddef>
 #include <memory>
@@ -10,6 +9,7 @@
 #include <string>
 
 #include "support/Flavours.h"
+#include "support/SmallStack.h"
 #include "support/Toolkit.h"
 #include "support/XmlText.h"
 
@@ -143,22 +143,6 @@ TEST_F(FlavourRenderTest, PartsOfFieldAttributesAreShown) {
   EXPECT_FALSE(a["children"][0]["children"][0].contains("byType"));
 }
 
-template <class Work>
-void onASmallStack(Work work) {
-  constexpr std::size_t size = 256 * 1024;
-  pthread_attr_t attributes;
-  ASSERT_EQ(pthread_attr_init(&attributes), 0);
-  ASSERT_EQ(pthread_attr_setstacksize(&attributes, size), 0);
-  const auto run = [](void* it) -> void* {
-    (*static_cast<Work*>(it))();
-    return nullptr;
-  };
-  pthread_t thread;
-  ASSERT_EQ(pthread_create(&thread, &attributes, run, &work), 0);
-  ASSERT_EQ(pthread_join(thread, nullptr), 0);
-  pthread_attr_destroy(&attributes);
-}
-
 // However deep: the JSON of it is no matter of the stack.
 TEST_F(FlavourRenderTest, FieldAttributesInsideEachOtherAreShown) {
   constexpr int levels = 2000;
@@ -169,7 +153,7 @@ TEST_F(FlavourRenderTest, FieldAttributesInsideEachOtherAreShown) {
   write("deep.xml", document);
   const std::unique_ptr<as::IService> service = reader().readService("deep.xml");
   std::ostringstream out;
-  onASmallStack([&] { as::toolkit::renderJson(out, *service); });
+  test::onASmallStack([&] { as::toolkit::renderJson(out, *service); });
   EXPECT_EQ(test::countOf(out.str(), "\"name\": \"a\""), levels);
   EXPECT_EQ(test::countOf(treeOf(*service), "@a\n"), levels);
 }

@@ -6,6 +6,7 @@
 #include <regex>
 #include <string>
 
+#include "support/SmallStack.h"
 #include "support/TempDirectory.h"
 #include "xml/PatternInspection.h"
 #include "xml/XStr.h"
@@ -94,6 +95,18 @@ TEST(PatternInspection, RefusesGroupsThatNestTooDeep) {
   };
   EXPECT_TRUE(leavesNoChoice(nested(256)));
   EXPECT_FALSE(leavesNoChoice(nested(257)));
+}
+
+// No pattern of a document is longer.
+TEST(PatternInspection, LooksAtNestedGroupsOnASmallStack) {
+  bool ofWhole = false;
+  bool ofOpen = true;
+  test::onASmallStack([&] {
+    ofWhole = leavesNoChoice(std::string(127, '(') + "a" + std::string(127, ')'));
+    ofOpen = leavesNoChoice(std::string(256, '('));
+  });
+  EXPECT_TRUE(ofWhole);
+  EXPECT_FALSE(ofOpen);
 }
 
 // Copies of them may lie beside documents.
