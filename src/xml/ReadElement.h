@@ -3,6 +3,7 @@
 #ifndef XML_READELEMENT_H_
 #define XML_READELEMENT_H_
 
+#include <cstddef>
 #include <xercesc/dom/impl/DOMElementNSImpl.hpp>
 #include <xercesc/dom/impl/DOMTextImpl.hpp>
 
@@ -34,9 +35,9 @@ class ReadElement final : public xercesc::DOMElementNSImpl {
   // Has the processor fetch the attributes, without waiting for them. What was read with the
   // element stands behind it, and then comes the next one: so many lines are enough for both.
   void fetch() const {
-    constexpr int line = 64;
+    constexpr std::ptrdiff_t line = 64;
     const char* const attributes = reinterpret_cast<const char*>(&attributes_);
-    for (int i = 0; i < 8; i++) __builtin_prefetch(attributes + i * line);
+    for (std::ptrdiff_t i = 0; i < 8; i++) __builtin_prefetch(attributes + i * line);
   }
 
   const XMLCh* localName() const { return fLocalName; }
