@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Flavours.h"
 #include "support/Flavours.h"
 #include "support/Toolkit.h"
@@ -43,6 +44,39 @@ TEST(FlavoursTest, AreThoseOfNewServices) {
     EXPECT_EQ(&flavour, toolkit::findFlavour(row.word));
     EXPECT_EQ(flavour.implementation, row.implementation);
   }
+}
+
+// A document of one flavour, with a prefix, whose default namespace is another's.
+std::string prefixed(const test::Flavour& flavour, const test::Flavour& other,
+                     const std::string& content) {
+  const std::string uri = flavour.own.uri;
+  return "<p:service name='S' xmlns='" + std::string(other.own.uri) + "' xmlns:p='" + uri +
+         "' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='" + uri +
+         " " + uri + "'>" + content + "</p:service>";
+}
+
+TEST(FlavoursTest, AreToldByTheNamespaceThatTheRootIsInWhateverTheDefaultOneIs) {
+  const char* const contents[] = {
+      "", "<p:operations><p:operation name='O' entryPoint='E'/></p:operations>",
+      "<p:parameterTypeDefs><p:parameter name='P'/></p:parameterTypeDefs>"};
+  for (const test::Flavour& flavour : test::flavours::all) {
+    for (const test::Flavour& other : test::flavours::all) {
+      for (const char* const content : contents) {
+        const std::string document = prefixed(flavour, other, content);
+        const auto service =
+            toolkit::DocumentReader(AS_SCHEMA_DIR).readServiceText(document, "service.xml");
+        EXPECT_STREQ(toolkit::flavourOf(*service).word, flavour.word) << document;
+      }
+    }
+  }
+}
+
+TEST(FlavoursTest, OfAnEmptyServiceThatCannotBeWrittenIsWhatTheDefaultNamespaceSays) {
+  const auto service =
+      toolkit::DocumentReader(AS_SCHEMA_DIR)
+          .readServiceText(prefixed(test::flavours::java, test::flavours::com, ""), "service.xml");
+  service->setName("\x01");
+  EXPECT_STREQ(toolkit::flavourOf(*service).word, "com");
 }
 
 TEST(FlavoursTest, TellTheNamespaceOfTheirDocuments) {

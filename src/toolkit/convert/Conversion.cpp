@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "as/IDataItem.h"
-#include "toolkit/convert/XmlDocument.h"
+#include "toolkit/io/XmlDocument.h"
 #include "toolkit/findings/Report.h"
 #include "toolkit/io/ParserMemory.h"
 #include "toolkit/text/Names.h"
@@ -37,8 +37,7 @@ class Conversion {
       : from_(from), to_(to), items_(items), notes_(notes) {}
 
   void convert(XmlElement root) {
-    const std::string prefix = root.prefix();
-    const std::string old = root.get(prefix.empty() ? "xmlns" : "xmlns:" + prefix);
+    const std::string old = root.declaredNamespace();
     // A .NET service may come in the namespace of Web services, with what those may hold.
     const FlavourProfile* const documents = findProfileOfDocuments(old);
     if (documents != nullptr) old_ = &documents->additions();

@@ -26,7 +26,6 @@ class ComProfile : public FlavourProfile {
   }
 
   bool owns(as::IService& service) const override {
-    if (service.getAttributeValue("xmlns") == flavour().documents.uri) return true;
     if (as::IParameter* const parameter = firstParameterOf(service)) {
       return as::interface_cast<Com>(parameter) != nullptr;
     }

@@ -4,8 +4,12 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "as/CASException.h"
+#include "as/CAgentServicesFactory.h"
 #include "as/IDataItem.h"
 #include "toolkit/flavour/Profiles.h"
+#include "toolkit/io/ParserMemory.h"
+#include "toolkit/io/XmlDocument.h"
 
 namespace as::toolkit {
 
@@ -31,6 +35,18 @@ template <class Matches>
 const DataType* findType(const std::vector<DataType>& types, const Matches& matches) {
   const auto found = std::find_if(types.begin(), types.end(), matches);
   return found == types.end() ? nullptr : &*found;
+}
+
+// The namespace that the service's document is in. The model does not tell it, and "xmlns" alone is
+// another's where the root has a prefix: what is written tells.
+std::string namespaceOf(as::IService& service) {
+  std::string document;
+  try {
+    document = as::CAgentServicesFactory::SerializeToString(&service);
+  } catch (const as::CASException&) {
+    return service.getAttributeValue("xmlns");
+  }
+  return withBadAlloc([&] { return XmlDocument(document).root().declaredNamespace(); });
 }
 
 // Whether the type can be given to an item without asking anybody.
@@ -100,7 +116,7 @@ const FlavourProfile& profileOf(as::IService& service) {
     if (profile->owns(service)) return *profile;
   }
   // An empty service of one of the flavours that have no class of their own for it.
-  const FlavourProfile* const named = findProfile(service.getAttributeValue("implementation"));
+  const FlavourProfile* const named = findProfileOfDocuments(namespaceOf(service));
   return named == nullptr ? *profiles().back() : *named;
 }
 

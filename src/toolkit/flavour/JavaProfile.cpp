@@ -41,7 +41,6 @@ class JavaProfile : public FlavourProfile {
   }
 
   bool owns(as::IService& service) const override {
-    if (service.getAttributeValue("xmlns") == flavour().documents.uri) return true;
     as::IElement* const operation = service.getOperations()->getItem(0);
     return as::interface_cast<as::IJavaOperation>(operation) != nullptr ||
            as::interface_cast<as::IJavaField>(firstParameterOf(service)) != nullptr;

@@ -17,8 +17,6 @@ void noDictionary(const ServiceSubject& subject, const Tell& tell) {
 void wrongImplementation(const ServiceSubject& subject, const Tell& tell) {
   const FlavourProfile& profile = subject.profile;
   if (subject.service.getImplementation() == profile.flavour().implementation) return;
-  // A service that no flavour owns is what its attribute says.
-  if (!profile.owns(subject.service)) return;
   tell("implementation " + quote(subject.service.getAttributeValue("implementation")) +
            " is not that of a " + profile.name() + " service",
        R"(correct "implementation")");

@@ -1,7 +1,7 @@
 // An XML document as plain elements and attributes, names as they are written: for what the model
 // leaves alone.
-#ifndef TOOLKIT_CONVERT_XMLDOCUMENT_H_
-#define TOOLKIT_CONVERT_XMLDOCUMENT_H_
+#ifndef TOOLKIT_IO_XMLDOCUMENT_H_
+#define TOOLKIT_IO_XMLDOCUMENT_H_
 
 #include <memory>
 #include <string>
@@ -28,6 +28,8 @@ class XmlElement {
 
   std::string localName() const;
   std::string prefix() const;
+  // What its prefix, or having none, stands for, where it declares that itself; empty otherwise.
+  std::string declaredNamespace() const;
   // Gives it another local name.
   void rename(const std::string& localName);
 
@@ -66,4 +68,4 @@ class XmlDocument {
 
 }  // namespace as::toolkit
 
-#endif  // TOOLKIT_CONVERT_XMLDOCUMENT_H_
+#endif  // TOOLKIT_IO_XMLDOCUMENT_H_

@@ -1,4 +1,4 @@
-#include "toolkit/convert/XmlDocument.h"
+#include "toolkit/io/XmlDocument.h"
 
 #include <stdexcept>
 #include <xercesc/dom/DOM.hpp>
@@ -37,6 +37,11 @@ std::string XmlElement::prefix() const {
   const std::string name = narrow(element_->getNodeName());
   const std::size_t colon = name.find(':');
   return colon == std::string::npos ? "" : name.substr(0, colon);
+}
+
+std::string XmlElement::declaredNamespace() const {
+  const std::string before = prefix();
+  return get(before.empty() ? "xmlns" : "xmlns:" + before);
 }
 
 void XmlElement::rename(const std::string& localName) {
