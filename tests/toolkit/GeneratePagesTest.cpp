@@ -110,6 +110,11 @@ TEST_F(GeneratePages, AReferenceThatLeadsNowhereMakesNothing) {
                            {"lost-type"}};
   const toolkit::Generated made = this->made("xsd", service);
   EXPECT_THAT(made.files, IsEmpty());
+  // Lint is not asked to tell of it.
+  ASSERT_EQ(made.findings.size(), 1u);
+  EXPECT_EQ(textOf(made.findings[0]),
+            "error: service: there is no type definition that one of its parameters refers to; "
+            "correct \"ref\"");
 }
 
 }  // namespace

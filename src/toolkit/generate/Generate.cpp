@@ -74,6 +74,12 @@ Generated makeOfService(const gen::Generator& generator, as::IService& service,
   if (!model.isWhole) {
     // One that is nothing but a reference to itself holds nothing.
     for (Finding& reason : reasons) reason.severity = Severity::error;
+    // Lint may have been asked not to tell of it.
+    if (reasons.empty()) {
+      reasons.push_back({"lost-type", Severity::error, "service",
+                         "there is no type definition that one of its parameters refers to",
+                         "correct \"ref\""});
+    }
     return {{}, std::move(reasons)};
   }
   model.findings = std::move(linted.findings);
