@@ -74,6 +74,8 @@ class Reader {
       facts.mappings.push_back(mappingText(mapping));
     });
     facts.members = fieldsOf(field.getChildren());
+    // What an absent type stands for is that of a value.
+    if (!facts.members.empty() && !facts.hasDataType) facts.type.clear();
     facts.fieldAttributes = fieldsOf(flavour_.attributesOf(field));
     return facts;
   }
