@@ -225,7 +225,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"AnotherNameOfAStructure", fieldOf("a", "m"), fieldOf("b", "m"),
             "field-renamed type T.a -> type T.b: a -> b\n"},
         Row{"AnotherNameAndMember", fieldOf("a", "m"), fieldOf("b", "n"),
-            "field-removed type T.a -> : short -> \nfield-added  -> type T.b:  -> short\n"}),
+            "field-removed type T.a -> \nfield-added  -> type T.b\n"}),
     test::labelOf<Row>);
 
 }  // namespace

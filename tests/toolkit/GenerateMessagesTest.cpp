@@ -216,30 +216,6 @@ TEST_F(GenerateMessages, MessagesOfOneOperationAreNumbered) {
   }
 }
 
-// That B has attributes, by A, is known only when all of A is.
-TEST_F(GenerateMessages, FieldAttributesOfStructuresInARingAreToldOfEach) {
-  const Service service = {
-      operation("op",
-                parameter("name='p' byType='in' ref='A'", "") +
-                    parameter("name='q' byType='in' ref='B'", ""),
-                "",
-                " style='rpc' inputUse='encoded' outputUse='encoded' inputNamespace='urn:in' "
-                "outputNamespace='urn:out'"),
-      parameter("name='A'",
-                "<mappings/>" + field("name='b' ref='B'", "") +
-                    field("name='s'", field("name='t'" + in) + attribute("name='a'" + in))) +
-          parameter("name='B'", "<mappings/>" + field("name='a' ref='A'", "")),
-      "name='Tests'",
-      "",
-      {"late-type"}};
-  const toolkit::Generated made = this->made("wsdl", service);
-  std::vector<std::string> told;
-  for (const toolkit::Finding& finding : made.findings) {
-    if (finding.rule == "encoded-attribute") told.push_back(finding.place);
-  }
-  EXPECT_THAT(told, testing::ElementsAre("op.p", "op.q"));
-}
-
 TEST_F(GenerateMessages, MessagesWithoutANamespaceAreInThatOfTheService) {
   const Service service = {
       operation("op", "",

@@ -112,9 +112,10 @@ TEST_F(GeneratePages, AReferenceThatLeadsNowhereMakesNothing) {
   EXPECT_THAT(made.files, IsEmpty());
   // Lint is not asked to tell of it.
   ASSERT_EQ(made.findings.size(), 1u);
-  EXPECT_EQ(textOf(made.findings[0]),
-            "error: service: there is no type definition that one of its parameters refers to; "
-            "correct \"ref\"");
+  EXPECT_EQ(
+      toolkit::textOf(made.findings[0]),
+      "error: service: the type definition that a parameter refers to does not stand in front of "
+      "it; correct \"ref\" or add the definition");
 }
 
 }  // namespace

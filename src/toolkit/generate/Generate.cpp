@@ -76,9 +76,10 @@ Generated makeOfService(const gen::Generator& generator, as::IService& service,
     for (Finding& reason : reasons) reason.severity = Severity::error;
     // Lint may have been asked not to tell of it.
     if (reasons.empty()) {
-      reasons.push_back({"lost-type", Severity::error, "service",
-                         "there is no type definition that one of its parameters refers to",
-                         "correct \"ref\""});
+      reasons.push_back(
+          {"lost-type", Severity::error, "service",
+           "the type definition that a parameter refers to does not stand in front of it",
+           R"(correct "ref" or add the definition)"});
     }
     return {{}, std::move(reasons)};
   }

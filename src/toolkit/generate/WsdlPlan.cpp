@@ -8,7 +8,7 @@
 namespace as::toolkit::gen {
 
 WsdlPlan::WsdlPlan(const Job& job, SchemaSet& schemas)
-    : job_(job), model_(job.model), schemas_(schemas), hasAttributes_(typesWithAttributes()) {
+    : job_(job), model_(job.model), schemas_(schemas) {
   for (const Operation& operation : model_.operations) plan(operation);
 }
 
@@ -111,7 +111,7 @@ void WsdlPlan::tellEncoded(const std::string& place, const std::string& kind) co
 // What is encoded has no attributes.
 void WsdlPlan::tellAttributes(const Operation& operation) {
   for (const Field& parameter : operation.parameters) {
-    if (parameter.structure == none || !hasAttributes_[parameter.structure]) continue;
+    if (parameter.structure == none || !hasAttributes(parameter.structure)) continue;
     job_.warn("encoded-attribute", model_.placeOf(operation) + "." + parameter.name,
               "it has field attributes, which SOAP's encoding does not know: the schema has them "
               "all the same",
@@ -119,28 +119,16 @@ void WsdlPlan::tellAttributes(const Operation& operation) {
   }
 }
 
-// The structures that have attributes, or hold such a one: from these on to those around them.
-std::vector<bool> WsdlPlan::typesWithAttributes() const {
-  const std::size_t count = model_.types.size();
-  std::vector<bool> found(count);
-  std::vector<std::vector<std::size_t>> around(count);
-  std::vector<std::size_t> open;
-  const auto add = [&](std::size_t type) {
-    if (!found[type]) open.push_back(type);
-    found[type] = true;
-  };
-  for (std::size_t i = 0; i < count; ++i) {
-    for (const Field& field : model_.types[i].fields) {
-      if (field.structure != none) around[field.structure].push_back(i);
-    }
-    if (!model_.types[i].attributes.empty()) add(i);
-  }
-  while (!open.empty()) {
-    const std::size_t type = open.back();
-    open.pop_back();
-    for (const std::size_t outer : around[type]) add(outer);
-  }
-  return found;
+// Of a structure, or one in it.
+bool WsdlPlan::hasAttributes(std::size_t type) {
+  const auto [known, isNew] = hasAttributes_.try_emplace(type, false);
+  if (!isNew) return known->second;
+  const std::vector<Field>& fields = model_.types[type].fields;
+  return hasAttributes_[type] =
+             !model_.types[type].attributes.empty() ||
+             std::any_of(fields.begin(), fields.end(), [this](const Field& field) {
+               return field.structure != none && hasAttributes(field.structure);
+             });
 }
 
 void WsdlPlan::giveNames() {

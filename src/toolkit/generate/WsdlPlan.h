@@ -64,7 +64,7 @@ class WsdlPlan {
   SchemaSet::Handle typeOf(const Operation& operation, const Field& field);
   void tellEncoded(const std::string& place, const std::string& kind) const;
   void tellAttributes(const Operation& operation);
-  std::vector<bool> typesWithAttributes() const;
+  bool hasAttributes(std::size_t type);
 
   const Job& job_;
   const ServiceModel& model_;
@@ -73,7 +73,7 @@ class WsdlPlan {
   std::vector<WsdlMessage> messages_;
   std::vector<WsdlOperation> operations_;
   std::unordered_map<const Field*, SchemaSet::Handle> types_;
-  const std::vector<bool> hasAttributes_;  // By the structure's number.
+  std::unordered_map<std::size_t, bool> hasAttributes_;
 };
 
 }  // namespace as::toolkit::gen
