@@ -27,7 +27,8 @@ AS_EXPORT const Flavour* findFlavour(const std::string& word);
 
 // The flavour of a service: what its objects are of, or, for a document in the Web services'
 // namespace, what its "implementation" says. Of a service without operations and parameters that is
-// neither a Web service nor a .NET service, its document is written to see whose namespace it is in.
+// neither a Web service nor a .NET service, its document is written to see whose namespace it is
+// in.
 AS_EXPORT const Flavour& flavourOf(as::IService& service);
 
 }  // namespace as::toolkit

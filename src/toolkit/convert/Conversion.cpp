@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "as/IDataItem.h"
-#include "toolkit/io/XmlDocument.h"
 #include "toolkit/findings/Report.h"
 #include "toolkit/io/ParserMemory.h"
+#include "toolkit/io/XmlDocument.h"
 #include "toolkit/text/Names.h"
 #include "toolkit/text/Phrases.h"
 
