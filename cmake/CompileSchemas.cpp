@@ -84,8 +84,12 @@ void write(std::ostream& out, const std::string& folder) {
         << ";\n\nconstexpr std::uint64_t " << name << "Grammar[] = {";
     writeWords(out, grammarOf(schema, text));
     out << "\n};\n";
-    rows += "\n    {u\"" + std::string(schema.plainUri) + "\", {" + name + "Text, sizeof " + name +
-            "Text - 1}, " + name + "Grammar},";
+    rows.append("\n    {u\"").append(schema.plainUri).append("\", {").append(name);
+    rows.append("Text, sizeof ")
+        .append(name)
+        .append("Text - 1}, ")
+        .append(name)
+        .append("Grammar},");
   }
   out << "\nconstexpr BuiltInSchema schemas[] = {" << rows << "\n};\n\n}  // namespace\n\n"
       << "std::span<const BuiltInSchema> builtInSchemas() { return schemas; }\n";

@@ -36,8 +36,8 @@ class ReadElement final : public xercesc::DOMElementNSImpl {
   // element stands behind it, and then comes the next one: so many lines are enough for both.
   void fetch() const {
     constexpr std::ptrdiff_t line = 64;
-    const char* const attributes = reinterpret_cast<const char*>(&attributes_);
-    for (std::ptrdiff_t i = 0; i < 8; i++) __builtin_prefetch(attributes + i * line);
+    const char* const first = reinterpret_cast<const char*>(&attributes_);
+    for (std::ptrdiff_t i = 0; i < 8; i++) __builtin_prefetch(first + i * line);
   }
 
   const XMLCh* localName() const { return fLocalName; }

@@ -193,7 +193,8 @@ std::string textOf(const XMLCh* text) {
 }
 
 int integerOf(const XMLCh* text) {
-  const XMLCh* at = text == nullptr ? u"" : text;
+  if (text == nullptr) return 0;
+  const XMLCh* at = text;
   // Nearly all are a few digits and nothing else, or not there.
   constexpr int mostDigits = 9;
   unsigned few = 0;

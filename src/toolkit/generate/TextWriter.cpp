@@ -14,9 +14,9 @@ void makeRoom(std::string& text, std::size_t more) {
 void TextWriter::line(Pieces pieces) {
   std::size_t size = 0;
   for (const std::string_view piece : pieces) size += piece.size();
-  const std::size_t indent = size == 0 ? 0 : std::min(depth_, deepest) * step_;
-  makeRoom(text_, indent + size + 1);
-  text_.append(indent, ' ');
+  const std::size_t blanks = size == 0 ? 0 : std::min(depth_, deepest) * step_;
+  makeRoom(text_, blanks + size + 1);
+  text_.append(blanks, ' ');
   for (const std::string_view piece : pieces) text_.append(piece);
   text_ += '\n';
 }

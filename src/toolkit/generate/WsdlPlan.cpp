@@ -134,14 +134,14 @@ bool WsdlPlan::hasAttributes(std::size_t type) {
 void WsdlPlan::giveNames() {
   std::vector<NameWish> wishes;
   for (const WsdlMessage& message : messages_) wishes.push_back(message.wish);
-  const std::vector<std::string> messages = schemas_.names().namesIn(wishes);
-  for (std::size_t i = 0; i < messages.size(); ++i) messages_[i].name = messages[i];
+  std::vector<std::string> names = schemas_.names().namesIn(wishes);
+  for (std::size_t i = 0; i < names.size(); ++i) messages_[i].name = names[i];
   wishes.clear();
   for (const Operation& operation : model_.operations) {
     wishes.push_back(requestWish(model_, operation));
   }
-  const std::vector<std::string> operations = schemas_.names().namesIn(wishes);
-  for (std::size_t i = 0; i < operations.size(); ++i) operations_[i].name = operations[i];
+  names = schemas_.names().namesIn(wishes);
+  for (std::size_t i = 0; i < names.size(); ++i) operations_[i].name = names[i];
   name_ = schemas_.names().namesIn({{model_.name, "service"}}).front();
 }
 
