@@ -184,6 +184,16 @@ INSTANTIATE_TEST_SUITE_P(
             {"ask.p: there is no type for 'Array': it may hold anything; give it fields, or a data "
              "type of a value"},
             literal},
+        Row{"NoTypeOfADeclaredOne",
+            "xsd",
+            "ws",
+            "",
+            "<parameter name='p' byType='in' ref='T'/>",
+            {"type T: there is no type for 'Array': it may hold anything; give it fields, or a "
+             "data "
+             "type of a value"},
+            literal,
+            "<parameter name='T' dataType='Array'/>"},
         Row{"NoUuid",
             "idl",
             "com",

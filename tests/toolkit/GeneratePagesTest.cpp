@@ -101,6 +101,26 @@ TEST_F(GeneratePages, PagesAreOfOneLineAWord) {
   EXPECT_THAT(text("markdown", service), HasSubstr("### a b c \\|d\n"));
 }
 
+TEST_F(GeneratePages, WhatIsMadeOfServicesIsNotMadeOfADictionary) {
+  write("p.xml", test::dictionary(""));
+  std::vector<std::string> refusing;
+  for (const toolkit::GeneratorKind& kind : toolkit::generatorKinds()) {
+    if (kind.takesDictionaries) continue;
+    const std::string word = kind.word;
+    try {
+      toolkit::generateFrom(reader(), kind, {"p.xml"}, {});
+    } catch (const toolkit::RefusedDocument& refused) {
+      const toolkit::Refusal& refusal = refused.refusal();
+      EXPECT_EQ(toolkit::textOf(refusal),
+                "p.xml: " + word + " is made of services, this is a dictionary");
+      EXPECT_EQ(refusal.hint, "make a service of it with 'new'");
+      EXPECT_TRUE(refusal.isOfAnotherKind);
+      refusing.push_back(word);
+    }
+  }
+  EXPECT_THAT(refusing, testing::IsSupersetOf({"openapi", "wsdl"}));
+}
+
 // References that nothing stops.
 TEST_F(GeneratePages, AReferenceThatLeadsNowhereMakesNothing) {
   const Service service = {operation("op", parameter("name='p' byType='in' ref='None'", "")),

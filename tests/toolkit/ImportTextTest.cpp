@@ -129,6 +129,8 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"01 R. 05 A PIC X OCCURS 2000000000. 05 B PIC X OCCURS 2000000000.",
                   "B ends behind byte 2147483647"},
         ImportRow{"01 R. 05 A PIC X(2) OCCURS 2000000000.", "A ends behind byte 2147483647"},
+        ImportRow{"01 R. 05 G. 10 A PIC X(2) OCCURS 2000000000. 05 B PIC X(2) OCCURS 2000000000.",
+                  "A ends behind byte 2147483647"},
         ImportRow{"01 R. 05 G OCCURS 60000. 10 A PIC X(60000).", "G ends behind byte 2147483647"},
         ImportRow{"01 A PIC X(99999999999).", "X(99999999999) is no PICTURE that can be read"}));
 

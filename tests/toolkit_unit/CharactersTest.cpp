@@ -4,7 +4,7 @@
 #include <string>
 
 #include "toolkit/import/Characters.h"
-#include "toolkit/import/Utf8Text.h"
+#include "toolkit/text/Utf8Text.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <stdexcept>
 
 #include "toolkit/import/SourceReport.h"
-#include "toolkit/import/Utf8Text.h"
 #include "toolkit/text/Utf8.h"
+#include "toolkit/text/Utf8Text.h"
 
 namespace as::toolkit {
 

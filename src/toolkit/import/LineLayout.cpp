@@ -5,7 +5,7 @@
 
 #include "toolkit/import/Characters.h"
 #include "toolkit/import/LineText.h"
-#include "toolkit/import/Utf8Text.h"
+#include "toolkit/text/Utf8Text.h"
 
 namespace as::toolkit {
 

@@ -9,8 +9,8 @@
 #include "toolkit/import/Characters.h"
 #include "toolkit/import/CodePage.h"
 #include "toolkit/import/EncodingRecognition.h"
-#include "toolkit/import/Utf8Text.h"
 #include "toolkit/text/Utf8.h"
+#include "toolkit/text/Utf8Text.h"
 
 namespace as::toolkit {
 

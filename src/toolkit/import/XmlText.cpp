@@ -4,30 +4,19 @@
 #include <charconv>
 #include <utility>
 
+#include "toolkit/text/Utf8Text.h"
+
 namespace as::toolkit {
 
 namespace {
 
-unsigned int byteAt(std::string_view text, std::size_t at) {
-  return at < text.size() ? static_cast<unsigned char>(text[at]) : 0;
-}
-
 // The bytes of the character that stands there, if it is one that XML may hold; 0 otherwise.
 std::size_t characterSize(std::string_view text, std::size_t at) {
-  const unsigned int first = byteAt(text, at);
-  if (first < 0x80) return first >= 0x20 || first == '\t' || first == '\n' || first == '\r' ? 1 : 0;
-  const std::size_t size = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
-  if (first < 0xC2 || first > 0xF4) return 0;
-  unsigned int code = first & (0xFFU >> (size + 1));
-  for (std::size_t i = 1; i < size; ++i) {
-    const unsigned int next = byteAt(text, at + i);
-    if ((next & 0xC0U) != 0x80U) return 0;
-    code = code << 6U | (next & 0x3FU);
-  }
-  constexpr std::array<unsigned int, 5> least = {0, 0, 0x80, 0x800, 0x10000};
-  const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
-  const bool isNone = code == 0xFFFE || code == 0xFFFF || code > 0x10FFFF;
-  return code < least[size] || isSurrogate || isNone ? 0 : size;
+  const auto first = static_cast<unsigned char>(text[at]);
+  if (first < 0x20) return first == '\t' || first == '\n' || first == '\r' ? 1 : 0;
+  const std::string_view three = text.substr(at, 3);
+  const bool isNone = three == "\xEF\xBF\xBE" || three == "\xEF\xBF\xBF";
+  return isNone ? 0 : characterLength(text, at);
 }
 
 // Stands for what is no character that XML may hold.

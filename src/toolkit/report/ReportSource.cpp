@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "toolkit/text/Utf8.h"
+#include "toolkit/text/Utf8Text.h"
 
 namespace as::toolkit {
 
@@ -18,26 +19,6 @@ namespace fs = std::filesystem;
 
 // Nobody reads a source of more bytes in a browser.
 constexpr std::uintmax_t largestSource = 16U << 20U;
-
-std::size_t continuationsOf(unsigned char lead) {
-  if (lead >= 0xC2 && lead <= 0xDF) return 1;
-  if (lead >= 0xE0 && lead <= 0xEF) return 2;
-  return lead >= 0xF0 && lead <= 0xF4 ? 3 : 0;
-}
-
-bool isUtf8(const std::string& text) {
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const auto lead = static_cast<unsigned char>(text[i]);
-    if (lead < 0x80) continue;
-    const std::size_t count = continuationsOf(lead);
-    if (count == 0 || i + count >= text.size()) return false;
-    for (std::size_t j = 1; j <= count; ++j) {
-      if ((static_cast<unsigned char>(text[i + j]) & 0xC0U) != 0x80) return false;
-    }
-    i += count;
-  }
-  return true;
-}
 
 std::string fromLatin1(const std::string& text) {
   std::string result;

@@ -1,6 +1,6 @@
 // Characters of UTF-8.
-#ifndef TOOLKIT_IMPORT_UTF8TEXT_H_
-#define TOOLKIT_IMPORT_UTF8TEXT_H_
+#ifndef TOOLKIT_TEXT_UTF8TEXT_H_
+#define TOOLKIT_TEXT_UTF8TEXT_H_
 
 #include <cstddef>
 #include <cstdint>
@@ -25,4 +25,4 @@ int columnsOfCharacter(std::string_view text);
 
 }  // namespace as::toolkit
 
-#endif  // TOOLKIT_IMPORT_UTF8TEXT_H_
+#endif  // TOOLKIT_TEXT_UTF8TEXT_H_

@@ -1,4 +1,4 @@
-#include "toolkit/import/Utf8Text.h"
+#include "toolkit/text/Utf8Text.h"
 
 #include <algorithm>
 #include <cstring>
