@@ -180,9 +180,19 @@ TEST_F(GenerateInterface, JavaKeepsWhatStandsInItself) {
 }
 
 TEST_F(GenerateInterface, IdlTakesIdentifiersOfTheDocument) {
-  EXPECT_THAT(textOf(made("idl", "", "", {},
-                          "<property name='iid' value='{E01B3295-3B29-5706-99FA-193C6E82C6D2}'/>")),
-              HasSubstr("uuid(e01b3295-3b29-5706-99fa-193c6e82c6d2)"));
+  const std::string idl =
+      textOf(made("idl", "", "", {},
+                  "<property name='libid' value='00000000-3b29-5706-99fa-193c6e82c6d1'/>"
+                  "<property name='iid' value='{E01B3295-3B29-5706-99FA-193C6E82C6D2}'/>"
+                  "<property name='clsid' value='11111111-3b29-5706-99fa-193c6e82c6d3'/>"));
+  const auto uuidOf = [&idl](const std::string& part) {
+    constexpr std::size_t length = 36;
+    const std::size_t head = idl.rfind("uuid(", idl.find("\n" + part + ' '));
+    return idl.substr(head + 5, length);
+  };
+  EXPECT_EQ(uuidOf("library"), "00000000-3b29-5706-99fa-193c6e82c6d1");
+  EXPECT_EQ(uuidOf("  interface"), "e01b3295-3b29-5706-99fa-193c6e82c6d2");
+  EXPECT_EQ(uuidOf("  coclass"), "11111111-3b29-5706-99fa-193c6e82c6d3");
 }
 
 TEST_F(GenerateInterface, IdlTellsWrongIdentifiers) {

@@ -369,6 +369,7 @@ const ReadingRow drawnRows[] = {
     {"OfStars", {"******** A\n", {}, fixed}, ""},
     {"OfDashes", {"*------- A\n", {}, fixed}, ""},
     {"OfEquals", {"*======= A\n", {}, fixed}, ""},
+    {"OfDashesUpToTheIndicator", {"*------ A\n", {}, fixed}, ""},
     {"OfStarsAndDashes", {"**---- A\n", {}, fixed}, "A"},
     {"OfBlanks", {"*       A\n", {}, fixed}, "A"},
     {"OfOtherMarks", {"*++++++A\n", {}, fixed}, "A", "unknown-indicator main:1:7"},
