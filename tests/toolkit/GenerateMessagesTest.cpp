@@ -216,6 +216,14 @@ TEST_F(GenerateMessages, MessagesOfOneOperationAreNumbered) {
   }
 }
 
+TEST_F(GenerateMessages, StructuresOfEncodedFaultsHaveTypes) {
+  const std::string fault = message(
+      "fault", parameter("name='why' byType='out'", "<mappings/>" + field("name='code'" + out)),
+      "namespace='u' use='encoded'");
+  const std::string wsdl = text("wsdl", {operation("op", "", fault), ""});
+  EXPECT_THAT(wsdl, HasSubstr("<xs:element name=\"code\""));
+}
+
 TEST_F(GenerateMessages, MessagesWithoutANamespaceAreInThatOfTheService) {
   const Service service = {
       operation("op", "",
