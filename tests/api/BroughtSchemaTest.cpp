@@ -227,6 +227,17 @@ TEST_F(BroughtSchemaDeathTest, OfAnyCostIsRefused) {
        "more than 2000 elements"},
       {"groups of groups", schemaOfSequence("<xs:group ref='g8'/>", groups),
        "more than 2000 elements"},
+      {"groups that stand in two others each",
+       schemaOfSequence("<xs:group ref='a12'/>",
+                        "<xs:group name='a0'><xs:sequence>" + leaf +
+                            "</xs:sequence></xs:group><xs:group name='b0'><xs:sequence>" + leaf +
+                            "</xs:sequence></xs:group>" +
+                            numbered("<xs:group name='a@'><xs:sequence><xs:group ref='a#'/>"
+                                     "<xs:group ref='b#'/></xs:sequence></xs:group>"
+                                     "<xs:group name='b@'><xs:sequence><xs:group ref='a#'/>"
+                                     "<xs:group ref='b#'/></xs:sequence></xs:group>",
+                                     12)),
+       "more than 2000 elements"},
       {"a sequence of many", schemaOfSequence(repeated(leaf, 20000)), "more than 2000 elements"},
       {"a chain of types",
        schemaWith(numbered("<xs:complexType name='t#'><xs:complexContent><xs:extension base='t@'/>"

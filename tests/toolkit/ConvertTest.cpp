@@ -275,6 +275,13 @@ TEST_F(ConvertTest, RepeatedGroupsAreArraysInWebServicesAlone) {
   EXPECT_THAT(notesOf(back), Not(Contains(HasSubstr("Array"))));
 }
 
+TEST_F(ConvertTest, AGroupThatOccursOnceIsNoArray) {
+  const std::string group =
+      operation("<parameter name='p' occurs='1'><field name='f' dataType='int'/></parameter>");
+  convert(service(as::namespaces::java.uri, "java", group), "ws");
+  EXPECT_THAT(output(), Not(HasSubstr("Array")));
+}
+
 TEST_F(ConvertTest, WhatTheNewFlavourNeedsIsAdded) {
   const std::string plain = operation("<parameter name='p' dataType='int'/>");
   convert(service(as::namespaces::com.uri, "com", plain), "ws");

@@ -129,7 +129,7 @@ TEST(HostileImport, GroupsThatNestTooDeepAreTold) {
     entries += "01 T" + std::to_string(i) + " TYPEDEF. 05 A TYPE T" + before + ".\n";
   }
   const Imported imported = test::importOf(test::programOf(entries + "01 R TYPE T129."));
-  EXPECT_THAT(test::problemsOf(imported), testing::HasSubstr("nest too deep"));
+  EXPECT_THAT(test::problemsOf(imported), testing::HasSubstr("the types in A nest too deep"));
 }
 
 TEST(HostileImport, CopybooksThatDoubleAreBounded) {

@@ -49,6 +49,9 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"PIC ZZ9.99CR",
                   "<numericEdited name='A' picture='ZZ9.99CR' digits='5' alignment='2' offset='0' "
                   "length='8'"},
+        ImportRow{"PIC Z9.Z9",
+                  "<numericEdited name='A' picture='Z9.Z9' digits='4' alignment='2' offset='0' "
+                  "length='5'"},
         ImportRow{"PIC Z(5) BLANK WHEN ZERO",
                   "<numericEdited name='A' picture='Z(5)' digits='5' alignment='0' "
                   "blankWhenZero='true' offset='0' length='5'"},

@@ -196,6 +196,11 @@ TEST_F(LintPlaceTest, WhatACommentSaysWrongIsTold) {
     EXPECT_THAT(test::textsOf(toolkit::lintDocument(reader(), {"s.xml"})),
                 ElementsAre("comment: " + std::string(row.text)));
   }
+  write("s.xml", service("<operations/><!-- lint: off same-name -->"));
+  EXPECT_THAT(
+      test::textsOf(toolkit::lintDocument(reader(), {"s.xml"})),
+      ElementsAre("comment: no element follows it, for which it could hold; move it in front "
+                  "of the element that it is about"));
   EXPECT_THAT(placesIn(service("\n<operations/><!-- lint: off same-name -->")),
               ElementsAre("2:14 lint-comment"));
   EXPECT_THAT(placesIn(service("") + "<!-- lint: off same-name -->"),
