@@ -254,7 +254,7 @@ TEST(Copy, AsksOnceForAName) {
   as::toolkit::SourceFindings findings;
   as::toolkit::SourceReader reader("COPY B. COPY B. COPY C. COPY C.", "main", {}, &copybooks, map,
                                    findings);
-  while (reader.next().kind != as::toolkit::TokenKind::end) {
+  while (test::nextOf(reader).kind != as::toolkit::TokenKind::end) {
   }
   EXPECT_EQ(copybooks.asked, 2);
 }
@@ -263,7 +263,7 @@ TEST(Copy, NeedsNoCopybooks) {
   as::toolkit::SourceMap map;
   as::toolkit::SourceFindings findings;
   as::toolkit::SourceReader reader("COPY B. A", "main", {}, nullptr, map, findings);
-  EXPECT_EQ(reader.next().text, "A");
+  EXPECT_EQ(test::nextOf(reader).text, "A");
   EXPECT_EQ(findings.size(), 1u);
 }
 

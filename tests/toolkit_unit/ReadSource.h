@@ -50,6 +50,12 @@ inline std::string shown(const as::toolkit::Token& token) {
   }
 }
 
+inline as::toolkit::Token nextOf(as::toolkit::TokenSource& source) {
+  as::toolkit::Token token;
+  source.read(token);
+  return token;
+}
+
 struct Reading {
   std::string words;     // With blanks between.
   std::string findings;  // "rule PLACE", one a line.

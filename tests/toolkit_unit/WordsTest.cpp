@@ -125,8 +125,8 @@ TEST(WordSequence, EndStays) {
   as::toolkit::SourceMap map;
   as::toolkit::SourceFindings findings;
   as::toolkit::SourceReader reader("", "main", {}, &copybooks, map, findings);
-  EXPECT_EQ(reader.next().kind, as::toolkit::TokenKind::end);
-  EXPECT_EQ(reader.next().kind, as::toolkit::TokenKind::end);
+  EXPECT_EQ(test::nextOf(reader).kind, as::toolkit::TokenKind::end);
+  EXPECT_EQ(test::nextOf(reader).kind, as::toolkit::TokenKind::end);
 }
 
 TEST(WordSequence, CommaIsTold) {

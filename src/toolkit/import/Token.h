@@ -68,12 +68,6 @@ class TokenSource {
     static const std::vector<SourcePlace> nothing;
     return nothing;
   }
-
-  Token next() {
-    Token token;
-    read(token);
-    return token;
-  }
 };
 
 }  // namespace as::toolkit
