@@ -2,10 +2,10 @@
 
 import json
 import os
-import resource
-import shutil
+import queue
 import subprocess
 import tempfile
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 # In the order in which they are asked: those that need no link come first.
@@ -19,11 +19,6 @@ def suites_of(program: Path) -> list:
                             text=True).stdout
     return [line.split()[0].rstrip('.') for line in listed.splitlines()
             if line[:1] not in ('', ' ') and line.split()[0].endswith('.')]
-
-
-def seconds_of_children() -> float:
-    used = resource.getrusage(resource.RUSAGE_CHILDREN)
-    return used.ru_utime + used.ru_stime
 
 
 class Reach:
@@ -62,26 +57,47 @@ class Reach:
         return reaching + [name for name in deadly if name not in reaching], True
 
 
-def measure(root: Path, build: Path) -> dict:
-    suites = {}
-    with tempfile.TemporaryDirectory() as scratch:
+class Bench:
+    """A folder of its own in which suites are run, one after the other."""
+
+    def __init__(self, root: Path, build: Path, scratch: str):
+        self.root, self.build, self.scratch = root, build, scratch
         # Beside each file of counts gcov looks for what the compiler told about the source.
         for note in build.glob('CMakeFiles/*/**/*.gcno'):
             place = Path(scratch + str(note.parent))
             place.mkdir(parents=True, exist_ok=True)
             (place / note.name).symlink_to(note)
-        environment = dict(os.environ, GCOV_PREFIX=scratch)
-        for program in PROGRAMS:
-            path = build / 'tests' / f'{program}_tests'
-            for suite in suites_of(path):
-                before = seconds_of_children()
-                subprocess.run([path, '--gtest_brief=1', f'--gtest_filter={suite}.*'], check=True,
-                               env=environment, cwd=scratch, stdout=subprocess.DEVNULL,
-                               stderr=subprocess.DEVNULL)
-                seconds = seconds_of_children() - before
-                suites[f'{program}:{suite}'] = {'seconds': seconds,
-                                                'lines': lines_reached(root, scratch)}
-    return suites
+
+    def run(self, program: str, suite: str) -> dict:
+        test = subprocess.Popen([self.build / 'tests' / f'{program}_tests', '--gtest_brief=1',
+                                 f'--gtest_filter={suite}.*'],
+                                env=dict(os.environ, GCOV_PREFIX=self.scratch), cwd=self.scratch,
+                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        _, status, used = os.wait4(test.pid, 0)
+        test.returncode = os.waitstatus_to_exitcode(status)
+        if test.returncode != 0:
+            raise RuntimeError(f'{program}:{suite} fails')
+        return {'seconds': used.ru_utime + used.ru_stime,
+                'lines': lines_reached(self.root, self.scratch)}
+
+
+def measure(root: Path, build: Path) -> dict:
+    suites = [(program, suite) for program in PROGRAMS
+              for suite in suites_of(build / 'tests' / f'{program}_tests')]
+    with tempfile.TemporaryDirectory() as scratch:
+        free = queue.SimpleQueue()
+        for number in range(os.cpu_count() or 1):
+            free.put(Bench(root, build, f'{scratch}/{number}'))
+
+        def run(suite: tuple) -> tuple:
+            bench = free.get()
+            try:
+                return ':'.join(suite), bench.run(*suite)
+            finally:
+                free.put(bench)
+
+        with ThreadPoolExecutor(free.qsize()) as threads:
+            return dict(threads.map(run, suites))
 
 
 def lines_reached(root: Path, scratch: str) -> dict:
