@@ -135,8 +135,8 @@ void EnvironmentReader::readAccess(FileEntry& file) {
   if (words_.accept(Keyword::dynamic)) file.access = FileAccess::dynamic;
 }
 
-// The word ORGANIZATION may be missing; RELATIVE and RECORD may stand for a key then. False when
-// there is no such clause.
+// The word ORGANIZATION may be missing; RELATIVE may stand for a key then. False when there is no
+// such clause; RECORD in front of SEQUENTIAL is passed over as what is no clause.
 bool EnvironmentReader::readOrganization(FileEntry& file) {
   const bool isNamed = words_.accept(Keyword::organization) || words_.accept(Keyword::organisation);
   if (isNamed) words_.accept(Keyword::isWord);
@@ -147,7 +147,6 @@ bool EnvironmentReader::readOrganization(FileEntry& file) {
     words_.skip();
     return true;
   }
-  if (words_.peek().is(Keyword::record) && next.is(Keyword::sequential)) words_.skip();
   if (words_.accept(Keyword::sequential)) {
     file.organization = FileOrganization::sequential;
     return true;
