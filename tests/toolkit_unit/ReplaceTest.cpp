@@ -105,6 +105,7 @@ const ReadingRow replaceRows[] = {
     {"LastWithoutOff", {"REPLACE LAST ==A== BY ==B==. A"}, "B", "copy-syntax main:1:14"},
     {"Literals", {"REPLACE \"A\" BY \"B\". \"A\""}, "\"B\""},
     {"LastOffOfNothing", {"REPLACE LAST OFF. A"}, "A"},
+    {"APeriodInFrontOfALinesLastMark", {"REPLACE ==A.==\nBY ==B==. A. C"}, "B C"},
     {"ReachesIntoCopybooks", {"REPLACE ==A== BY ==B==. COPY C.", {{"C", "A"}}}, "B"},
     {"ReachesOutOfCopybooks", {"COPY C. A", {{"C", "REPLACE ==A== BY ==B==."}}}, "B"},
     {"BehindReplacing",

@@ -1,6 +1,7 @@
 // Tests of files that are opened once: what is known of them, and how far they are read.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -12,6 +13,7 @@
 #include <iterator>
 #include <memory>
 #include <string>
+#include <thread>
 #include <xercesc/util/BinInputStream.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 
@@ -147,6 +149,24 @@ TEST_F(LocalFileTest, APipeIsReadUntilItsWriterIsDone) {
   ::close(ends[1]);
   EXPECT_EQ(contentOf(file), "de");
   ::close(ends[0]);
+}
+
+// What comes behind a short answer has only the room that is left.
+TEST_F(LocalFileTest, APipeIsReadNoFurtherThanThereIsRoom) {
+  int ends[2];
+  ASSERT_EQ(::pipe(ends), 0);
+  const LocalFile file("/proc/self/fd/" + std::to_string(ends[0]), Opening::any);
+  ASSERT_EQ(::write(ends[1], "abc", 3), 3);
+  std::thread writer([&ends] {
+    for (int waiting = 1; waiting > 0;) ::ioctl(ends[0], FIONREAD, &waiting);
+    EXPECT_EQ(::write(ends[1], "defghij", 7), 7);
+  });
+  std::string bytes(10, '-');
+  EXPECT_EQ(file.read(bytes.data(), 5, 0), 5u);
+  writer.join();
+  EXPECT_EQ(bytes, "abcde-----");
+  ::close(ends[0]);
+  ::close(ends[1]);
 }
 
 TEST_F(LocalFileTest, ADirectoryCannotBeRead) {
