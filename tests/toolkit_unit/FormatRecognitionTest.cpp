@@ -70,6 +70,8 @@ const Row rows[] = {
     {"ChangeMarksWithComments", "CR4711* A.\nCR4711 B\n", fixed},
     {"ChangeMarks", "CR4711 A.\nABC123 B\n", unknown},
     {"Continuation", "           A\n      -    B\n", fixed},
+    {"DashBehindAChangeMark", "ABC12X-    B\n", fixed},
+    {"DashInFrontOfAWord", "      -XYZ\n", fixed},
     {"Division", "IDENTIFICATION DIVISION.\n", free},
     {"ProgramIdWithADashInColumn8", "PROGRAM-ID. A.\n", free},
     {"DashInColumn7", "ACCEPT-A.\n", free},

@@ -94,7 +94,7 @@ Capacity capacityOf(const Item& facts) {
         capacity.kind = Capacity::Kind::floating;
         capacity.digits = facts.floatingDigits;
       } else if (facts.bits > 0) {
-        capacity = {Capacity::Kind::integer, digitsOf(facts.bits) - 1, facts.bits, facts.isSigned};
+        capacity = {Capacity::Kind::integer, 0, facts.bits, facts.isSigned};
       } else {
         const int digits = facts.scale < 0 ? facts.digits - facts.scale : facts.digits;
         capacity = {Capacity::Kind::decimal, digits, 0, facts.isSigned, std::max(facts.scale, 0)};
