@@ -370,6 +370,8 @@ const ReadingRow drawnRows[] = {
     {"OfDashes", {"*------- A\n", {}, fixed}, ""},
     {"OfEquals", {"*======= A\n", {}, fixed}, ""},
     {"OfDashesUpToTheIndicator", {"*------ A\n", {}, fixed}, ""},
+    {"OfDashesInFrontOfTheIndicator", {"*----- A\n", {}, fixed}, "A"},
+    {"OfEqualsBehindALetter", {"*A====== A\n", {}, fixed}, "= A", "unknown-indicator main:1:7"},
     {"OfStarsAndDashes", {"**---- A\n", {}, fixed}, "A"},
     {"OfBlanks", {"*       A\n", {}, fixed}, "A"},
     {"OfOtherMarks", {"*++++++A\n", {}, fixed}, "A", "unknown-indicator main:1:7"},

@@ -131,8 +131,8 @@ void JoinedNames::join() {
   std::size_t added = 0;
   for (std::size_t i = 0; i < read_.size(); ++i) {
     if (isPicture(read_[i])) {
-      // A picture goes on up to a blank.
-      if (i + 1 < read_.size() && read_[i + 1].isRun("IS")) ++i;
+      // A picture goes on up to a blank. The last word of all is the end.
+      if (read_[i + 1].isRun("IS")) ++i;
       do {
         ++i;
       } while (i + 1 < read_.size() && !read_[i + 1].space);
