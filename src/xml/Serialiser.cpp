@@ -146,6 +146,8 @@ class Writer {
       throw std::length_error("too many attributes to be read again");
     }
     visitAttributes(*element, [this](const XMLCh* name, const XMLCh* value) {
+      // A prefix that is taken back, as XML 1.1 can: nothing below has it, and 1.0 knows no way.
+      if (*value == 0 && XMLString::startsWith(name, u"xmlns:")) return;
       text_ += u' ';
       writeName(name);
       text_ += u"=\"";
