@@ -10,6 +10,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <xercesc/framework/XMLGrammarPoolImpl.hpp>
@@ -76,7 +77,7 @@ void writeWords(std::ostream& out, const std::string& bytes) {
 
 void write(std::ostream& out, const std::string& folder) {
   out << "#include \"xml/BuiltInSchemas.h\"\n\nnamespace {\n";
-  std::string rows;
+  std::ostringstream rows;
   for (const Schema& schema : schemas) {
     const std::string text = textOf(folder + "/" + schema.file);
     const std::string name = schema.name;
@@ -84,14 +85,10 @@ void write(std::ostream& out, const std::string& folder) {
         << ";\n\nconstexpr std::uint64_t " << name << "Grammar[] = {";
     writeWords(out, grammarOf(schema, text));
     out << "\n};\n";
-    rows.append("\n    {u\"").append(schema.plainUri).append("\", {").append(name);
-    rows.append("Text, sizeof ")
-        .append(name)
-        .append("Text - 1}, ")
-        .append(name)
-        .append("Grammar},");
+    rows << "\n    {u\"" << schema.plainUri << "\", {" << name << "Text, sizeof " << name
+         << "Text - 1}, " << name << "Grammar},";
   }
-  out << "\nconstexpr BuiltInSchema schemas[] = {" << rows << "\n};\n\n}  // namespace\n\n"
+  out << "\nconstexpr BuiltInSchema schemas[] = {" << rows.str() << "\n};\n\n}  // namespace\n\n"
       << "std::span<const BuiltInSchema> builtInSchemas() { return schemas; }\n";
 }
 

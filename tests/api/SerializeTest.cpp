@@ -132,6 +132,23 @@ TEST(Attributes, BeyondTheLimitOfReadersAreNotWritten) {
 
 // New elements.
 
+// XML 1.1 has a way to take a prefix back; what is written is XML 1.0.
+TEST(Prefixes, ThatAreTakenBackAreReadBack) {
+  const auto service = parseService(
+      "<?xml version='1.1'?>" +
+      rootOf(java,
+             "<properties xmlns:x=''><property name='P' value='V' xmlns:x='urn:y'/></properties>",
+             "xmlns:x='urn:x'"));
+  ASSERT_NE(service, nullptr);
+  const std::string text = written(*service);
+  EXPECT_THAT(text, testing::HasSubstr("xmlns:x=\"urn:x\""));
+  EXPECT_THAT(text, testing::HasSubstr("xmlns:x=\"urn:y\""));
+  EXPECT_THAT(text, testing::Not(testing::HasSubstr("xmlns:x=\"\"")));
+  const auto again = parseService(text);
+  ASSERT_NE(again, nullptr);
+  EXPECT_EQ(modelText(*again), modelText(*service));
+}
+
 // Within a part of a document the root's own declaration may be hidden by another: what is added
 // there must be read back all the same.
 TEST(NewElements, AreReadBackWhereTheRootsDeclarationIsHidden) {
