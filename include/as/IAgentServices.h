@@ -29,9 +29,14 @@ class IService;
 //
 // Refused, with as::CASParseException, whoever made the document:
 //  - elements nested deeper than 2,048 levels;
-//  - an element with more than 1,000 attributes, namespace declarations included;
+//  - an element with more than 1,000 attributes, namespace declarations included, or with more
+//    than 4,000 namespace declarations together with the elements around it, or more than 2,000
+//    different prefixes or namespaces that are declared in all;
 //  - more than 1,000 references to entities that the document declares, those in the text of an
 //    entity counted each time, and an entity whose text is longer than 65,536 characters;
+//  - more than 5,000 declarations in a DTD, or more than 50,000 parts of its content models, of
+//    which a name comes to some;
+//  - a schema, or a dictionary that a service names, whose name is longer than 4,096 characters;
 //  - an external DTD, a reference to an external entity, any parameter entity, and declarations of
 //    attributes in a DTD;
 //  - a document, schema or entity on a network: nothing is ever fetched over one;
@@ -45,14 +50,17 @@ class IService;
 //
 // Schemas that a document brings for other namespaces, or without a schema directory, are refused,
 // too, when they hold in a DTD what is refused in a document's, or, all together, more than
+//  - 1,000 places of schemas, those that the document itself tells included;
 //  - 1,048,576 bytes, or characters with entities in their places;
 //  - 2,000 elements, as many times as minOccurs, maxOccurs and references to groups have them laid
 //    out, or 100 levels of them;
 //  - 256 characters in a pattern, or a pattern that leaves a choice how to go on;
-//  - 16 members of unions, or 16 paths of keys, references to keys and unique values;
+//  - 16 members of unions, or 16 paths of keys, references to keys and unique values, or 64 of
+//    these that hold for an element and those around it;
 //  - 256 characters in a default or fixed value, or 100,000 of these values taken over.
-// What comes of all schemas may take 67,108,864 bytes. SECURITY.md gives the reasons, and tells
-// what is not promised.
+// A character beyond U+FFFF counts as two, and a schema that is read for several namespaces each
+// time. What comes of all schemas may take 67,108,864 bytes. SECURITY.md gives the reasons, and
+// tells what is not promised.
 //
 // A relative file name counts from the current directory; a URL of a local file (file:///...) is
 // taken too. A null file name or buffer identifier counts as an empty one, a null buffer as a

@@ -18,7 +18,10 @@ GrammarMemory::~GrammarMemory() {
   }
 }
 
+bool GrammarMemory::isOverfull() const { return held_ > limits::schemaMemory; }
+
 void* GrammarMemory::allocate(XMLSize_t size) {
+  blocks_++;
   if (size > largestUntold && tell_ &&
       (size > limits::schemaMemory || held_ > limits::schemaMemory - size)) {
     // What frees memory on the way out may need some.

@@ -26,6 +26,12 @@ class GrammarMemory final : public xercesc::MemoryManager {
 
   void whenFull(std::function<void()> tell) { tell_ = std::move(tell); }
 
+  // Whether the limit has been passed, by blocks of whatever size: what is told too late to bound
+  // what is made, but in time to have it refused.
+  bool isOverfull() const;
+  // How many blocks have been asked for.
+  XMLSize_t blocks() const { return blocks_; }
+
   void* allocate(XMLSize_t size) override;
   void deallocate(void* pointer) override;
   // An exception may outlive this.
@@ -63,6 +69,7 @@ class GrammarMemory final : public xercesc::MemoryManager {
   std::byte* link(std::size_t size);
 
   XMLSize_t held_ = 0;  // From elsewhere.
+  XMLSize_t blocks_ = 0;
   std::array<Free*, largestSmall / alignment + 1> free_ = {};
   std::byte* chunk_ = nullptr;  // What is left of the last one.
   std::size_t left_ = 0;

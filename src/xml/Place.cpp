@@ -9,6 +9,7 @@
 #include <xercesc/util/XMLURL.hpp>
 #include <xercesc/util/XMLUri.hpp>
 
+#include "xml/Limits.h"
 #include "xml/XStr.h"
 
 using xercesc::InputSource;
@@ -47,6 +48,8 @@ std::optional<std::basic_string<XMLCh>> unescaped(const XMLCh* path) {
   return result;
 }
 
+bool isTooLong(const XMLCh* name) { return XMLString::stringLen(name) > limits::placeLength; }
+
 Place placeOf(const XMLURL& url) {
   auto source = std::make_unique<URLInputSource>(url);
   const XMLCh* const host = url.getHost();
@@ -73,6 +76,7 @@ Place Place::ofDocument(const XMLCh* name) {
 
 Place Place::ofReference(const XMLCh* base, const XMLCh* name) {
   if (name == nullptr) return {};
+  if (isTooLong(name)) return {Kind::tooLong, {}, nullptr};
   XMLURL url(XMLPlatformUtils::fgMemoryManager);
   if (url.setURL(base, name, url) && !url.isRelative()) return placeOf(url);
   XMLBuffer path;

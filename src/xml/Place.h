@@ -15,12 +15,14 @@ struct Place {
     none,     // There is no name.
     network,  // Another machine, whatever the protocol.
     file,     // A file of this machine, there or not.
-    broken    // A URL of a file with a "%" that means nothing: the parser tells.
+    broken,   // A URL of a file with a "%" that means nothing: the parser tells.
+    tooLong   // A name of more characters than Limits.def allows, which was not looked at.
   };
 
   Kind kind = Kind::none;
   std::string path;  // Of the file, in UTF-8.
-  // The parser's own rendering of the place. It gives the name by which messages tell of it.
+  // The parser's own rendering of the place, null for `none` and `tooLong`. It gives the name by
+  // which messages tell of it.
   std::unique_ptr<xercesc::InputSource> parsers;
 
   // That of a document which the client names: a relative file name counts from the current

@@ -28,6 +28,13 @@ std::string refusals::ofDocumentOnNetwork(const std::string& name) {
   return refused("document", name, "documents are not read over a network");
 }
 
+std::string refusals::ofName(const std::string& name, XMLSize_t length) {
+  if (length <= limits::placeLength) return {};
+  constexpr std::size_t shown = 60;
+  return "the name '" + name.substr(0, shown) + "...' is refused: it is longer than " +
+         std::to_string(limits::placeLength) + " characters";
+}
+
 std::string refusals::ofReferredDocument(const std::string& name, LocalFile::Kind kind) {
   if (kind != LocalFile::Kind::special) return ofDocument(name, kind);
   return refused("document", name, "it is no regular file");
@@ -70,6 +77,11 @@ std::string refusals::ofAttributeDeclarations(const xercesc::DTDElementDecl& ele
          "' are refused: attributes are declared by the schema";
 }
 
+std::string refusals::ofDtd(const char* what, XMLSize_t number, XMLSize_t limit) {
+  if (number <= limit) return {};
+  return "the DTD is refused: there are more than " + std::to_string(limit) + " " + what;
+}
+
 std::string refusals::ofVersion(const XMLCh* version) {
   // The parser reads others, too, but has no tree for them, and does not tell.
   if (XMLString::equals(version, u"1.0") || XMLString::equals(version, u"1.1")) return {};
@@ -78,6 +90,11 @@ std::string refusals::ofVersion(const XMLCh* version) {
 
 std::string refusals::ofTooManyAttributes() {
   return "an element has more than " + std::to_string(limits::attributes) + " attributes";
+}
+
+std::string refusals::ofNamespaces(const char* what, XMLSize_t number, XMLSize_t limit) {
+  if (number <= limit) return {};
+  return "there are more than " + std::to_string(limit) + " " + what;
 }
 
 std::string refusals::ofTooManyLevels() {

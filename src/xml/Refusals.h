@@ -18,6 +18,9 @@ namespace refusals {
 std::string ofDocument(const std::string& name, LocalFile::Kind kind);
 std::string ofDocumentOnNetwork(const std::string& name);
 
+// The name of a document or schema, of so many characters.
+std::string ofName(const std::string& name, XMLSize_t length);
+
 // A document that another names.
 std::string ofReferredDocument(const std::string& name, LocalFile::Kind kind);
 
@@ -31,10 +34,12 @@ std::string ofExternalEntity(const std::string& name);
 // What stands in a DTD.
 std::string ofEntity(const xercesc::DTDEntityDecl& entity, bool isParameterEntity);
 std::string ofAttributeDeclarations(const xercesc::DTDElementDecl& element);
+std::string ofDtd(const char* what, XMLSize_t number, XMLSize_t limit);
 
 // What stands in a document; the numbers are compared where they are counted, element by element.
 std::string ofVersion(const XMLCh* version);
 std::string ofTooManyAttributes();
+std::string ofNamespaces(const char* what, XMLSize_t number, XMLSize_t limit);
 std::string ofTooManyLevels();
 std::string ofUndeclared(const std::string& element);
 std::string ofForeign(const std::string& element, const std::string& uri);

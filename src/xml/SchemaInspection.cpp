@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/framework/XMLAttr.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/framework/XMLErrorCodes.hpp>
+#include <xercesc/framework/XMLNotationDecl.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
 #include <xercesc/parsers/SAXParser.hpp>
 #include <xercesc/sax/HandlerBase.hpp>
@@ -17,10 +20,13 @@
 #include <xercesc/util/XMLString.hpp>
 #include <xercesc/validators/schema/SchemaSymbols.hpp>
 
+#include "xml/DtdGauge.h"
+#include "xml/GrammarMemory.h"
 #include "xml/Limits.h"
 #include "xml/PatternInspection.h"
 #include "xml/Position.h"
 #include "xml/Refusals.h"
+#include "xml/StreamSource.h"
 #include "xml/XStr.h"
 
 using xercesc::DTDElementDecl;
@@ -75,8 +81,9 @@ class Sum {
   XMLSize_t of(const Name& group) {
     const auto found = counts_.elements.find(group);
     if (found == counts_.elements.end()) return 0;
-    // A group that holds itself, for which this is 0, the parser refuses.
-    const auto [entry, isNew] = sums_.try_emplace(group, 0);
+    // A group that holds itself the parser refuses, but only after it has laid out what it met
+    // on the way, and from wherever it comes in.
+    const auto [entry, isNew] = sums_.try_emplace(group, tooMany);
     if (!isNew) return entry->second;
     XMLSize_t sum = found->second.own;
     for (const auto& [name, times] : found->second.groups) {
@@ -88,6 +95,14 @@ class Sum {
   const Counts& counts_;
   std::map<Name, XMLSize_t> sums_;
 };
+
+// Without the blanks around it, which a name may have.
+Name trimmed(const XMLCh* text) {
+  while (XMLChar1_0::isWhitespace(*text)) ++text;
+  XMLSize_t size = XMLString::stringLen(text);
+  while (size > 0 && XMLChar1_0::isWhitespace(text[size - 1])) --size;
+  return {text, size};
+}
 
 XMLSize_t wordsIn(const XMLCh* text) {
   XMLSize_t words = 0;
@@ -105,9 +120,14 @@ XMLSize_t alternativesIn(const XMLCh* path) {
   return alternatives;
 }
 
-class SchemaParser final : public xercesc::SAXParser {
+// Made in front of the parser.
+struct SchemaMemory {
+  GrammarMemory memory;
+};
+
+class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
  public:
-  explicit SchemaParser(Counts& counts) : counts_(counts) {
+  explicit SchemaParser(Counts& counts) : SAXParser(nullptr, &memory), counts_(counts) {
     limits_.setEntityExpansionLimit(limits::entityExpansions);
     setSecurityManager(&limits_);
     setValidationScheme(Val_Never);
@@ -139,19 +159,24 @@ class SchemaParser final : public xercesc::SAXParser {
     const bool isPattern = is(SchemaSymbols::fgELT_PATTERN);
     const bool isGroup = is(SchemaSymbols::fgELT_GROUP);
     XMLSize_t times = 1;
-    const XMLCh* group = nullptr;
-    const XMLCh* referred = nullptr;
+    std::optional<Name> group;
+    std::optional<Name> referred;
+    here.isRedefined = here.isRedefined || is(SchemaSymbols::fgELT_REDEFINE);
     for (XMLSize_t i = 0; i < attributeCount; ++i) {
       const XMLCh* const value = attributes.elementAt(i)->getValue();
       countCharacters(XMLString::stringLen(value));
       const XMLCh* const attribute = attributes.elementAt(i)->getName();
+      const XMLCh* const whole = attributes.elementAt(i)->getQName();
+      if (XMLString::startsWith(whole, u"xmlns")) {
+        here.namespaces += XMLString::stringLen(whole) + XMLString::stringLen(value);
+      }
       const auto isNamed = [&](const XMLCh* other) { return XMLString::equals(attribute, other); };
       if (isNamed(SchemaSymbols::fgATT_MINOCCURS) || isNamed(SchemaSymbols::fgATT_MAXOCCURS)) {
         times = std::max(times, numberIn(value));
       } else if (isGroup && isNamed(SchemaSymbols::fgATT_NAME)) {
-        group = value;
+        group = trimmed(value);
       } else if (isGroup && isNamed(SchemaSymbols::fgATT_REF)) {
-        referred = value + XMLString::indexOf(value, u':') + 1;
+        referred = trimmed(value + XMLString::indexOf(value, u':') + 1);
       } else if (isPattern && isNamed(SchemaSymbols::fgATT_VALUE)) {
         check("characters in a pattern", XMLString::stringLen(value), limits::schemaPattern);
         if (!leavesNoChoice(value)) refuse(refusals::ofPattern(narrow(value)));
@@ -167,16 +192,23 @@ class SchemaParser final : public xercesc::SAXParser {
     }
     // A type has a content model of its own, and a group one that others refer to.
     if (is(SchemaSymbols::fgELT_COMPLEXTYPE)) here.times = 1;
-    if (group != nullptr) {
+    if (group) {
       here.times = 1;
-      here.group = group;
+      here.group = *group;
+      here.hasOriginal = here.isRedefined;
     }
+    if (is(SchemaSymbols::fgELT_ANNOTATION)) countCharacters(here.namespaces);
     here.times = product(here.times, times);
     SchemaInspection::Elements& elements = counts_.elements[here.group];
     elements.own += here.times;
     checkElements(++counts_.elementsRead);
     checkElements(elements.own);
-    if (referred != nullptr) elements.groups.emplace_back(referred, here.times);
+    // A group that is redefined holds, once, what it was; that is counted where it stands.
+    const bool isOriginal = referred && here.hasOriginal && *referred == here.group;
+    if (isOriginal) forgetOriginal();
+    if (referred && !(isOriginal && here.times == 1)) {
+      elements.groups.emplace_back(*referred, here.times);
+    }
     if (!isEmpty) open_.push_back(std::move(here));
   }
   void endElement(const XMLElementDecl& /*declaration*/, unsigned int /*uriId*/, bool /*isRoot*/,
@@ -193,6 +225,21 @@ class SchemaParser final : public xercesc::SAXParser {
   void entityDecl(const DTDEntityDecl& entity, bool isParameterEntity,
                   bool /*isIgnored*/) override {
     refuse(refusals::ofEntity(entity, isParameterEntity));
+    refuse(dtd_.reasonAfterDeclaration());
+  }
+  void elementDecl(const DTDElementDecl& /*element*/, bool /*isIgnored*/) override {
+    refuse(dtd_.reasonAfterDeclaration());
+  }
+  void notationDecl(const xercesc::XMLNotationDecl& /*notation*/, bool /*isIgnored*/) override {
+    refuse(dtd_.reasonAfterDeclaration());
+  }
+  void doctypeDecl(const DTDElementDecl& /*root*/, const XMLCh* /*publicId*/,
+                   const XMLCh* /*systemId*/, bool /*hasInternal*/, bool /*hasExternal*/) override {
+    dtd_.begin();
+  }
+  void endIntSubset() override {
+    refuse(dtd_.reasonSoFar());
+    dtd_.end();
   }
   void startAttList(const DTDElementDecl& element) override {
     refuse(refusals::ofAttributeDeclarations(element));
@@ -213,13 +260,29 @@ class SchemaParser final : public xercesc::SAXParser {
                                 narrow(text), narrow(publicId), narrow(systemId));
   }
 
+  // To be called in front of each piece of the schema.
+  XMLSize_t nextPiece() const {
+    refuse(dtd_.reasonSoFar());
+    return DtdGauge::piece;
+  }
+
  private:
   // An element that is open.
   struct Open {
     bool isUnion = false;
     XMLSize_t times = 1;  // That it is laid out.
     Name group;           // That it stands in.
+    // Whether it stands in a redefinition, and may yet refer to the group that this redefines.
+    bool isRedefined = false;
+    bool hasOriginal = false;
+    // The characters of the declarations of namespaces that count here: the parser writes them all
+    // into each annotation.
+    XMLSize_t namespaces = 0;
   };
+
+  void forgetOriginal() {
+    for (Open& open : open_) open.hasOriginal = false;
+  }
 
   void checkElements(XMLSize_t number) const {
     check("elements, as many times as they are laid out", number, limits::schemaElements);
@@ -241,6 +304,7 @@ class SchemaParser final : public xercesc::SAXParser {
   }
 
   Counts& counts_;
+  DtdGauge dtd_{memory};
   xercesc::SecurityManager limits_;
   xercesc::HandlerBase nobody_;
   std::vector<Open> open_;
@@ -250,10 +314,14 @@ class SchemaParser final : public xercesc::SAXParser {
 
 std::optional<as::CASParseException> SchemaInspection::refusalOf(const std::string& schema,
                                                                  const XMLCh* name) {
-  const MemBufInputSource source(reinterpret_cast<const XMLByte*>(schema.data()), schema.size(),
-                                 name);
+  const MemBufInputSource bytes(reinterpret_cast<const XMLByte*>(schema.data()), schema.size(),
+                                name);
   try {
-    SchemaParser(counts_).parse(source);
+    SchemaParser parser(counts_);
+    parser.parse(StreamSource(name, [&] {
+      return std::make_unique<WatchedStream>(StreamSource::Stream(bytes.makeStream()),
+                                             [&] { return parser.nextPiece(); });
+    }));
   } catch (const as::CASParseException& refusal) {
     return as::CASParseException(refusal);
   } catch (...) {  // NOLINT(bugprone-empty-catch)

@@ -88,12 +88,15 @@ bool TreeParser::isSimple(const XMLAttr& read) const {
          read.getSpecified() && read.getType() != XMLAttDef::ID;
 }
 
+void TreeParser::declaresNamespace(const XMLCh* /*prefix*/, const XMLCh* /*uri*/) {}
+
 ReadAttribute* TreeParser::makeAttribute(const XMLAttr& read) {
   const XMLCh* const name = read.getName();
   const XMLCh* const prefix = read.getPrefix();
-  const bool declaresNamespace =
-      isEmpty(prefix) && XMLString::equals(name, xercesc::XMLUni::fgXMLNSString);
-  const unsigned int uriId = declaresNamespace ? fScanner->getXMLNSNamespaceId() : read.getURIId();
+  const bool isDefault = isEmpty(prefix) && XMLString::equals(name, xercesc::XMLUni::fgXMLNSString);
+  const unsigned int xmlns = fScanner->getXMLNSNamespaceId();
+  const unsigned int uriId = isDefault ? xmlns : read.getURIId();
+  if (uriId == xmlns) declaresNamespace(isDefault ? u"" : name, read.getValue());
   const XMLCh* const uri =
       uriId == fScanner->getEmptyNamespaceId() ? nullptr : fScanner->getURIText(uriId);
   auto* const attribute = new (fDocument, xercesc::DOMMemoryManager::ATTR_NS_OBJECT)

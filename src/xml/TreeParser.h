@@ -27,6 +27,10 @@ class TreeParser : public xercesc::XercesDOMParser {
                     const XMLCh* prefix, const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
                     XMLSize_t attributeCount);
 
+  // Told of each declaration of a namespace in front of what is made of it; `prefix` is empty for
+  // the default namespace.
+  virtual void declaresNamespace(const XMLCh* prefix, const XMLCh* uri);
+
   // For what the model will ask for.
   NamePool& names() { return names_; }
 

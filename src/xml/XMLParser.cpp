@@ -1,8 +1,11 @@
 #include "xml/XMLParser.h"
 
+#include <limits>
+#include <type_traits>
 #include <utility>
 #include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
+#include <xercesc/framework/XMLNotationDecl.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
@@ -31,6 +34,7 @@ using xercesc::SchemaElementDecl;
 using xercesc::XMLAttr;
 using xercesc::XMLElementDecl;
 using xercesc::XMLException;
+using xercesc::XMLNotationDecl;
 using xercesc::XMLPlatformUtils;
 using xercesc::XMLResourceIdentifier;
 using xercesc::XMLString;
@@ -113,6 +117,9 @@ void CXMLParser::parse(const XMLCh* systemId, LocalFile::Opening opening,
     if (reason.empty()) return;
     throw as::CASParseException(0, 0, 0, reason, std::string(), documentName_);
   };
+  if (opening == LocalFile::Opening::regular) {
+    refuseDocument(refusals::ofName(documentName_, XMLString::stringLen(systemId)));
+  }
   Place place;
   try {
     place = Place::ofDocument(systemId);
@@ -153,7 +160,11 @@ void CXMLParser::run(const Source& source, bool canRepeat) {
   setCreateEntityReferenceNodes(false);
   setIncludeIgnorableWhitespace(handler_ == nullptr || handler_->keepsBlanks());
   try {
-    XercesDOMParser::parse(source);
+    if constexpr (std::is_base_of_v<InputSource, Source>) {
+      XercesDOMParser::parse(StreamSource(source.getSystemId(), [&] { return watched(source); }));
+    } else {
+      XercesDOMParser::parse(source);
+    }
   } catch (const as::CASParseException&) {
     throw;
   } catch (const as::CASInvalidNamespaceException&) {
@@ -175,9 +186,14 @@ void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int ur
   // In front of the DOM, which would hold them.
   if (attributeCount > limits::attributes) refuseAtOnce(refusals::ofTooManyAttributes());
   if (!brought_.empty()) countDefaults(attributes, attributeCount);
+  declared_ = 0;
   beginElement(declaration, uriId, prefix, attributes, attributeCount);
+  if (declared_ > 0) checkNamespaces();
+  if (!brought_.empty()) countConstraints(declaration);
   DOMNode* const element = getCurrentNode();
   if (isRoot) {
+    dtd_.end();
+    if (memory.isOverfull()) refuseAtOnce(refusals::ofGrammars());
     if (handler_ != nullptr) {
       handler_->startDocument(element);
       handler_->tellNames(names());
@@ -197,6 +213,41 @@ void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int ur
   if (++depth_ > limits::depth) refuse(refusals::ofTooManyLevels());
   if (handler_ != nullptr) handler_->startElement(element);
   if (isEmpty) endElement(declaration, uriId, isRoot, prefix);
+}
+
+void CXMLParser::declaresNamespace(const XMLCh* prefix, const XMLCh* uri) {
+  declared_++;
+  prefixes_.insert(prefix);
+  uris_.insert(uri);
+  refuseAtOnce(refusals::ofNamespaces("different prefixes", prefixes_.size(), limits::prefixes));
+  refuseAtOnce(refusals::ofNamespaces("different namespaces", uris_.size(), limits::prefixes));
+}
+
+void CXMLParser::checkNamespaces() {
+  namespaces_.add(depth_, declared_);
+  refuseAtOnce(refusals::ofNamespaces("namespace declarations of elements around each other",
+                                      namespaces_.sum, limits::declaredNamespaces));
+}
+
+void CXMLParser::countConstraints(const XMLElementDecl& declaration) {
+  if (declaration.getObjectType() != XMLElementDecl::Schema) return;
+  constraints_.add(depth_,
+                   static_cast<const SchemaElementDecl&>(declaration).getIdentityConstraintCount());
+  refuseAtOnce(refusals::ofSchemas(
+      "keys, references to keys and unique values of elements around each other", constraints_.sum,
+      limits::schemaOpenConstraints));
+}
+
+void CXMLParser::OpenSum::add(XMLSize_t depth, XMLSize_t number) {
+  if (number == 0) return;
+  open.push_back({depth, number});
+  sum += number;
+}
+
+void CXMLParser::OpenSum::leave(XMLSize_t depth) {
+  if (open.empty() || open.back().depth != depth) return;
+  sum -= open.back().number;
+  open.pop_back();
 }
 
 void CXMLParser::countDefaults(const RefVectorOf<XMLAttr>& attributes, XMLSize_t attributeCount) {
@@ -219,6 +270,8 @@ void CXMLParser::endElement(const XMLElementDecl& declaration, unsigned int uriI
                             const XMLCh* prefix) {
   XercesDOMParser::endElement(declaration, uriId, isRoot, prefix);
   --depth_;
+  namespaces_.leave(depth_);
+  constraints_.leave(depth_);
   if (handler_ != nullptr) handler_->newElement(getCurrentNode());
 }
 
@@ -240,15 +293,37 @@ void CXMLParser::doctypeDecl(const DTDElementDecl& root, const XMLCh* publicId,
   // The parser goes other ways through a DTD where it shares grammars.
   if (isSharing()) throw SharedSchemas::NotShared();
   XercesDOMParser::doctypeDecl(root, publicId, systemId, hasInternal, hasExternal);
+  if (!hasInternal) return;
+  dtd_.begin();
+  // A content model may be large, and what frees it needs as much memory again, in a destructor.
+  memory.whenFull(nullptr);
+}
+
+void CXMLParser::endIntSubset() {
+  XercesDOMParser::endIntSubset();
+  refuseAtOnce(dtd_.reasonSoFar());
+  dtd_.end();
+  memory.whenFull([this] { refuseAtOnce(refusals::ofGrammars()); });
 }
 
 void CXMLParser::entityDecl(const DTDEntityDecl& entity, bool isParameterEntity, bool isIgnored) {
   refuseAtOnce(refusals::ofEntity(entity, isParameterEntity));
+  refuseAtOnce(dtd_.reasonAfterDeclaration());
   XercesDOMParser::entityDecl(entity, isParameterEntity, isIgnored);
 }
 
 void CXMLParser::startAttList(const DTDElementDecl& element) {
   refuseAtOnce(refusals::ofAttributeDeclarations(element));
+}
+
+void CXMLParser::elementDecl(const DTDElementDecl& element, bool isIgnored) {
+  refuseAtOnce(dtd_.reasonAfterDeclaration());
+  XercesDOMParser::elementDecl(element, isIgnored);
+}
+
+void CXMLParser::notationDecl(const XMLNotationDecl& notation, bool isIgnored) {
+  refuseAtOnce(dtd_.reasonAfterDeclaration());
+  XercesDOMParser::notationDecl(notation, isIgnored);
 }
 
 void CXMLParser::error(unsigned int code, const XMLCh* /*domain*/,
@@ -269,7 +344,25 @@ InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
   return sourceOf(*reference).release();
 }
 
+StreamSource::Stream CXMLParser::watched(const InputSource& source) {
+  StreamSource::Stream stream(source.makeStream());
+  if (!stream) return stream;
+  return std::make_unique<WatchedStream>(std::move(stream), [this] {
+    refuseAtOnce(dtd_.reasonSoFar());
+    // There is no DTD behind the root.
+    return rootSeen_ ? std::numeric_limits<XMLSize_t>::max() : DtdGauge::piece;
+  });
+}
+
 std::unique_ptr<InputSource> CXMLParser::sourceOf(const XMLResourceIdentifier& reference) {
+  const bool isPart =
+      reference.getResourceIdentifierType() != XMLResourceIdentifier::SchemaGrammar &&
+      reference.getBaseURI() != nullptr;
+  const bool isFromClients = isPart && clients_.contains(reference.getBaseURI());
+  if (!isFromClients) {
+    refuseAtOnce(refusals::ofSchemas("places of schemas", ++places_, limits::schemaPlaces));
+  }
+  if (memory.isOverfull()) refuseAtOnce(refusals::ofGrammars());
   const auto ofDirectory = [&](InputSource* named) {
     const std::unique_ptr<InputSource> owned(named);
     return clients(narrow(named->getSystemId()), named->getSystemId());
@@ -280,7 +373,7 @@ std::unique_ptr<InputSource> CXMLParser::sourceOf(const XMLResourceIdentifier& r
   }
   const std::string name = narrow(systemId);
   Place place = Place::ofReference(reference.getBaseURI(), systemId);
-  std::string reason;
+  std::string reason = refusals::ofName(name, XMLString::stringLen(systemId));
   if (place.kind == Place::Kind::network) {
     reason = refusals::ofSchemaOnNetwork(name, resolver_.hasSchemaLocation());
   } else if (place.kind == Place::Kind::file) {
@@ -295,9 +388,6 @@ std::unique_ptr<InputSource> CXMLParser::sourceOf(const XMLResourceIdentifier& r
     return ofDirectory(ours);
   }
   if (place.kind != Place::Kind::file) return std::move(place.parsers);
-  const bool isFromClients =
-      reference.getResourceIdentifierType() != XMLResourceIdentifier::SchemaGrammar &&
-      reference.getBaseURI() != nullptr && clients_.contains(reference.getBaseURI());
   const XMLCh* const called = place.parsers->getSystemId();
   if (isFromClients) return clients(place.path, called);
   return brought(place.path, called);
@@ -317,7 +407,11 @@ std::unique_ptr<InputSource> CXMLParser::clients(const std::string& path, const 
 std::unique_ptr<InputSource> CXMLParser::brought(const std::string& path, const XMLCh* name) {
   const auto [entry, isNew] = brought_.try_emplace(name);
   std::string& schema = entry->second;
-  if (!isNew) return sourceOfBytes(schema, name);
+  if (!isNew) {
+    // Whether it is read again, for another namespace, is not known yet.
+    return std::make_unique<StreamSource>(
+        name, [this, &read = *entry] { return openBrought(read.second, read.first.c_str()); });
+  }
   const auto file = std::make_shared<const LocalFile>(path, LocalFile::Opening::regular);
   if (file->kind() == LocalFile::Kind::missing) {
     brought_.erase(entry);
@@ -340,6 +434,13 @@ std::unique_ptr<InputSource> CXMLParser::brought(const std::string& path, const 
     report(*refusal);
   }
   return sourceOfBytes(schema, name);
+}
+
+StreamSource::Stream CXMLParser::openBrought(const std::string& schema, const XMLCh* name) {
+  broughtBytes_ += schema.size();
+  refuseAtOnce(refusals::ofSchemas("bytes", broughtBytes_, limits::schemaBytes));
+  if (const auto refusal = inspection_.refusalOf(schema, name)) stop(*refusal);
+  return StreamSource::Stream(sourceOfBytes(schema, name)->makeStream());
 }
 
 void CXMLParser::warning(const SAXParseException& /*exception*/) {}

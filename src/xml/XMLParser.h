@@ -7,6 +7,8 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <unordered_set>
+#include <vector>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/sax/ErrorHandler.hpp>
 #include <xercesc/util/SecurityManager.hpp>
@@ -14,10 +16,12 @@
 #include <xercesc/validators/schema/SchemaElementDecl.hpp>
 
 #include "as/CASParseException.h"
+#include "xml/DtdGauge.h"
 #include "xml/ElementHandler.h"
 #include "xml/LocalFile.h"
 #include "xml/ParseGrammars.h"
 #include "xml/SchemaInspection.h"
+#include "xml/StreamSource.h"
 #include "xml/TreeParser.h"
 #include "xml/VorEntityResolver.h"
 
@@ -68,6 +72,9 @@ class CXMLParser : public TreeParser, public xercesc::ErrorHandler, protected vi
   void entityDecl(const xercesc::DTDEntityDecl& entity, bool isParameterEntity,
                   bool isIgnored) override;
   void startAttList(const xercesc::DTDElementDecl& element) override;
+  void elementDecl(const xercesc::DTDElementDecl& element, bool isIgnored) override;
+  void notationDecl(const xercesc::XMLNotationDecl& notation, bool isIgnored) override;
+  void endIntSubset() override;
 
   // From the parser's error reporter: every message, warnings included, ends the parse.
   void error(unsigned int code, const XMLCh* domain, xercesc::XMLErrorReporter::ErrTypes type,
@@ -83,6 +90,9 @@ class CXMLParser : public TreeParser, public xercesc::ErrorHandler, protected vi
   void fatalError(const xercesc::SAXParseException& exception) override;
   void resetErrors() override;
 
+ protected:
+  void declaresNamespace(const XMLCh* prefix, const XMLCh* uri) override;
+
  private:
   // Whether the parse shares schemas.
   bool isSharing() const { return isUsingCachedGrammarInParse(); }
@@ -97,6 +107,17 @@ class CXMLParser : public TreeParser, public xercesc::ErrorHandler, protected vi
   // That of a schema which the document brings.
   std::unique_ptr<xercesc::InputSource> brought(const std::string& path, const XMLCh* name);
 
+  // Opens a schema that the document brings, as it was read, once more.
+  StreamSource::Stream openBrought(const std::string& schema, const XMLCh* name);
+
+  // The document's source: pieces of it are handed out as long as nothing is refused.
+  StreamSource::Stream watched(const xercesc::InputSource& source);
+
+  // What is refused of the namespaces that an element declares, and those around it.
+  void checkNamespaces();
+  // Counts the constraints of a schema that the document has brought, which hold inside the
+  // element.
+  void countConstraints(const xercesc::XMLElementDecl& declaration);
   // Counts the attributes that come from a schema, where the document has brought one.
   void countDefaults(const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
                      XMLSize_t attributeCount);
@@ -132,9 +153,29 @@ class CXMLParser : public TreeParser, public xercesc::ErrorHandler, protected vi
   std::set<Name> clients_;
   // Those that the document brings, as they were read; only while it is parsed.
   std::map<Name, std::string> brought_;
+  // How many places of schemas it has told, and they.
+  XMLSize_t places_ = 0;
   XMLSize_t broughtBytes_ = 0;
   XMLSize_t defaults_ = 0;
   SchemaInspection inspection_;
+  DtdGauge dtd_{memory};
+  // What the elements that are open have of their own: only those that have something.
+  struct Open {
+    XMLSize_t depth;
+    XMLSize_t number;
+  };
+  // A sum over the elements that are open.
+  struct OpenSum {
+    std::vector<Open> open;
+    XMLSize_t sum = 0;
+    void add(XMLSize_t depth, XMLSize_t number);
+    void leave(XMLSize_t depth);
+  };
+  OpenSum namespaces_;
+  OpenSum constraints_;
+  XMLSize_t declared_ = 0;  // Namespaces, by the element that begins.
+  std::unordered_set<std::u16string> prefixes_;
+  std::unordered_set<std::u16string> uris_;
 };
 
 #endif  // XML_XMLPARSER_H_

@@ -238,6 +238,50 @@ TEST_F(BroughtSchemaDeathTest, OfAnyCostIsRefused) {
                                      "<xs:group ref='b#'/></xs:sequence></xs:group>",
                                      12)),
        "more than 2000 elements"},
+      {"groups of groups, with blanks around their names",
+       schemaOfSequence(
+           "<xs:group ref=' g8'/>",
+           "<xs:group name='g0 '><xs:sequence>" + leaf + "</xs:sequence></xs:group>" +
+               numbered("<xs:group name='\ng@'><xs:sequence>" +
+                            repeated("<xs:group ref='g# '/>", 10) + "</xs:sequence></xs:group>",
+                        8)),
+       "more than 2000 elements"},
+      {"groups that hold each other",
+       schemaOfSequence(
+           "<xs:group ref='d5'/>",
+           "<xs:complexType name='t'><xs:sequence>" + numbered("<xs:group ref='a@'/>", 5) +
+               "</xs:sequence></xs:complexType><xs:group name='d0'><xs:sequence>" + leaf +
+               "</xs:sequence></xs:group>" +
+               numbered("<xs:group name='d@'><xs:sequence>" + repeated("<xs:group ref='b@'/>", 5) +
+                            "</xs:sequence></xs:group>"
+                            "<xs:group name='b@'><xs:sequence><xs:group ref='a@'/>" +
+                            leaf +
+                            "</xs:sequence></xs:group>"
+                            "<xs:group name='a@'><xs:sequence>" +
+                            repeated("<xs:group ref='d#'/>", 5) +
+                            "<xs:group ref='b@'/></xs:sequence></xs:group>",
+                        5)),
+       "more than 2000 elements"},
+      {"annotations that take over namespaces",
+       "<xs:schema" + numbered(" xmlns:p#='" + std::string(900, 'u') + "'", 900) +
+           schemaWith(repeated("<xs:annotation/>", 1000)).substr(std::string("<xs:schema").size()),
+       "more than 1048576 characters"},
+      {"attributes that many types take over",
+       schemaWith("<xs:attributeGroup name='g'>" + numbered("<xs:attribute name='a#'/>", 700) +
+                  "</xs:attributeGroup>" +
+                  numbered("<xs:complexType name='t#'><xs:attributeGroup ref='g'/>"
+                           "</xs:complexType>",
+                           400)),
+       "more than 67108864 bytes"},
+      {"a content model of a DTD",
+       schemaWith("", doctype("<!ELEMENT xs:schema (a" + repeated(",a", 200000) + ")>")),
+       "more than 50000 parts of content models"},
+      {"declarations of a DTD", schemaWith("", doctype(numbered("<!ENTITY e# ''>", 5001))),
+       "more than 5000 declarations"},
+      {"elements of a DTD", schemaWith("", doctype(numbered("<!ELEMENT e# ANY>", 5001))),
+       "more than 5000 declarations"},
+      {"notations of a DTD", schemaWith("", doctype(numbered("<!NOTATION e# SYSTEM 'e'>", 5001))),
+       "more than 5000 declarations"},
       {"a sequence of many", schemaOfSequence(repeated(leaf, 20000)), "more than 2000 elements"},
       {"a chain of types",
        schemaWith(numbered("<xs:complexType name='t#'><xs:complexContent><xs:extension base='t@'/>"
@@ -299,6 +343,48 @@ TEST_F(BroughtSchemaDeathTest, OfAContentModelThatGrowsWithoutEndIsRefused) {
       "</xs:choice><xs:element name='a'/>" +
       repeated(either, 30));
   EXPECT_RESULT_IN_OWN_PROCESS(parseException, outcomeWith(schema), "more than 67108864 bytes");
+}
+
+// A schema without a namespace is made anew for each that includes it.
+TEST_F(BroughtSchema, CountsForEachNamespaceThatItIsReadFor) {
+  directory_.write("c.xsd", "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>" +
+                                numbered("<xs:element name='e#'/>", 900) + "</xs:schema>");
+  const auto outcomeOfSo = [&](int many) {
+    for (int i = 0; i < many; i++) {
+      const std::string number = std::to_string(i);
+      directory_.write("n" + number + ".xsd",
+                       schemaOf("<xs:include schemaLocation='c.xsd'/>", "", "urn:n" + number));
+    }
+    return outcomeWith(
+        schemaWith(numbered("<xs:import namespace='urn:n#' schemaLocation='n#.xsd'/>", many)));
+  };
+  EXPECT_EQ(outcomeOfSo(2).result, Result::root);
+  const auto outcome = outcomeOfSo(3);
+  EXPECT_EQ(outcome.result, Result::parseException);
+  EXPECT_THAT(outcome.text, HasSubstr("more than 2000 elements"));
+  // Bytes are counted as the others are.
+  directory_.write("c.xsd", "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'><!--" +
+                                std::string(400000, 'x') + "--></xs:schema>");
+  EXPECT_EQ(outcomeOfSo(2).result, Result::root);
+  EXPECT_THAT(outcomeOfSo(3).text, HasSubstr("more than 1048576 bytes"));
+}
+
+// What a group was stands in its redefinition once, and may so in the redefinition of that.
+TEST_F(BroughtSchema, MayRedefineAGroup) {
+  const auto group = [](const std::string& content) {
+    return "<xs:group name='g'><xs:sequence>" + content + "</xs:sequence></xs:group>";
+  };
+  const std::string own = "<xs:group ref='g'/><xs:element name='b' minOccurs='0'/>";
+  const auto redefining = [&](const std::string& file, const std::string& content) {
+    return schemaOf("<xs:redefine schemaLocation='" + file + "'>" + group(content) +
+                    "</xs:redefine>");
+  };
+  directory_.write("a.xsd", schemaOfSequence("<xs:group ref='g'/>",
+                                             group("<xs:element name='a' minOccurs='0'/>")));
+  directory_.write("b.xsd", redefining("a.xsd", own));
+  EXPECT_EQ(outcomeWith(redefining("a.xsd", own)).text, "");
+  EXPECT_EQ(outcomeWith(redefining("b.xsd", own)).text, "");
+  EXPECT_THAT(outcomeWith(redefining("a.xsd", own + own)).text, HasSubstr("more than 2000"));
 }
 
 TEST_F(BroughtSchemaDeathTest, ThatLeadsBackToItselfEnds) {

@@ -249,6 +249,33 @@ TEST_F(HostileReference, ToAnotherDocumentIsNotFollowed) {
   }
 }
 
+// To take the dots out of them took minutes.
+TEST_F(HostileReference, OfALongNameIsRefused) {
+  const std::string name = hostile::repeated("a/../", 100000) + "s.xsd";
+  const char* const text = "a/../...' is refused: it is longer than 4096 characters";
+  expectRefused(*servicesWithoutSchemas(),
+                programWith("xsi:schemaLocation='" + ns + " " + name + "'"), text);
+  const auto services = test::newServices();
+  const std::string service = test::serviceDocument(
+      as::namespaces::ws.uri, "dataDictFilename='" + name + "'", "<operations/>");
+  EXPECT_THAT(outcomeOf([&] {
+                return services->parseService(
+                    "s.xml", reinterpret_cast<const unsigned char*>(service.data()),
+                    static_cast<unsigned>(service.size()), true);
+              }).text,
+              HasSubstr(text));
+}
+
+// Each is looked up, whether it was looked up before or not.
+TEST_F(HostileReference, ToManySchemasIsRefused) {
+  const std::string places =
+      "<!DOCTYPE program [<!ENTITY e '" + hostile::repeated("u n ", 16000) + "'>]>";
+  const std::string attributes =
+      "xsi:schemaLocation='" + ns + " " + ns + " " + hostile::repeated("&e;", 60) + "'";
+  expectRefused(*servicesWithoutSchemas(), places + programWith(attributes), "");
+  expectRefused(*test::newServices(), places + programWith(attributes), "");
+}
+
 TEST_F(HostileReference, OfTheClientToANetworkIsRefused) {
   const auto services = test::newServices();
   for (const std::string& name :

@@ -107,6 +107,78 @@ TEST(HostileSize, ManyNamespaceDeclarationsAreReadOrRefused) {
   }
 }
 
+// The DOM looks for each among those before it.
+TEST(HostileSize, ManyDifferentPrefixesOrNamespacesAreRefused) {
+  const auto document = [](const std::string& name, const std::string& uri, int count) {
+    std::string items;
+    for (int i = 0; i < count; i++) {
+      const std::string number = std::to_string(i);
+      items += "<numeric name='N' xmlns:";
+      items += name == "#" ? "p" + number : name;
+      items += "='" + (uri == "#" ? "u" + number : uri) + "'/>";
+    }
+    return dictionaryOf(items);
+  };
+  for (const char* const name : {"#", "p"}) {
+    SCOPED_TRACE(name);
+    const char* const uri = name == std::string("p") ? "#" : "u";
+    EXPECT_EQ(outcomeOf(document(name, uri, 1500)).result, Result::root);
+    const auto outcome = outcomeOf(document(name, uri, 200000));
+    EXPECT_EQ(outcome.result, Result::parseException);
+    EXPECT_THAT(outcome.text, HasSubstr("more than 2000 different"));
+  }
+  // The same ones over and over are what many programs write.
+  EXPECT_EQ(outcomeOf(document("p", "u", 20000)).result, Result::root);
+}
+
+// The parser looks for a prefix among all that are declared around a name.
+TEST(HostileSize, ManyNamespaceDeclarationsAroundEachOtherAreRefused) {
+  const std::string group = "<group name='G'" + attributes("xmlns:a", 500) + ">";
+  const std::string items = repeated("<numeric name='N'/>", 1000);
+  EXPECT_EQ(outcomeOf(dictionaryOf(repeated(group + items + "</group>", 20))).result, Result::root);
+  const auto outcome =
+      outcomeOf(dictionaryOf(repeated(group, 1000) + items + repeated("</group>", 1000)));
+  EXPECT_EQ(outcome.result, Result::parseException);
+  EXPECT_THAT(outcome.text, HasSubstr("more than 4000 namespace declarations"));
+}
+
+// The parser reads the content models of a DTD though nothing is ever judged by them: in a time
+// that grew with their square, or with a stack that it did not have to free what was half made.
+TEST(HostileSize, DtdsAreBounded) {
+  std::string names = "#PCDATA";
+  for (int i = 0; i < 100000; i++) names += "|e" + std::to_string(i);
+  std::string entities;
+  std::string notations;
+  for (int i = 0; i < 100000; i++) {
+    entities += "<!ENTITY e" + std::to_string(i) + " ''>";
+    notations += "<!NOTATION n" + std::to_string(i) + " SYSTEM 'n'>";
+  }
+  const struct {
+    const char* what;
+    std::string declarations;
+    const char* text;
+  } rows[] = {
+      {"names", "<!ELEMENT a (" + names + ")*>", "more than 50000 parts"},
+      {"the same name", "<!ELEMENT a (b" + repeated(",b", 500000) + ")>", "more than 50000 parts"},
+      {"levels", "<!ELEMENT a " + repeated("(b,", 500000) + "b" + repeated(")", 500000) + ">", ""},
+      {"a model that breaks off", "<!ELEMENT a (b" + repeated(",b", 500000) + "!",
+       "more than 50000 parts"},
+      {"entities", entities, "more than 5000 declarations"},
+      {"notations", notations, "more than 5000 declarations"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    const auto outcome = outcomeOf(doctype(row.declarations) + dictionaryOf(""));
+    EXPECT_EQ(outcome.result, Result::parseException);
+    EXPECT_THAT(outcome.text, HasSubstr(row.text));
+  }
+  const auto outcome =
+      outcomeOf(doctype("<!ELEMENT b ANY><!ELEMENT a (b" + repeated(",b", 1000) + ")>" +
+                        entities.substr(0, entities.find("<!ENTITY e900 "))) +
+                dictionaryOf("<numeric name='N'/>"));
+  EXPECT_EQ(outcome.result, Result::root) << outcome.text;
+}
+
 TEST(HostileSize, LongTextsAreReadWhole) {
   const std::string text = repeated("PICTURE\xC3\x84", 500000);
   const auto outcome =

@@ -1,0 +1,26 @@
+#include "xml/StreamSource.h"
+
+#include <algorithm>
+#include <utility>
+
+StreamSource::StreamSource(const XMLCh* name, std::function<Stream()> open)
+    : InputSource(name), open_(std::move(open)) {}
+
+StreamSource::~StreamSource() = default;
+
+xercesc::BinInputStream* StreamSource::makeStream() const { return open_().release(); }
+
+WatchedStream::WatchedStream(StreamSource::Stream stream, std::function<XMLSize_t()> allowed)
+    : stream_(std::move(stream)), allowed_(std::move(allowed)) {}
+
+WatchedStream::~WatchedStream() = default;
+
+XMLFilePos WatchedStream::curPos() const { return stream_->curPos(); }
+
+XMLSize_t WatchedStream::readBytes(XMLByte* bytes, XMLSize_t size) {
+  return stream_->readBytes(bytes, std::min(size, allowed_()));
+}
+
+const XMLCh* WatchedStream::getContentType() const { return stream_->getContentType(); }
+
+const XMLCh* WatchedStream::getEncoding() const { return stream_->getEncoding(); }
