@@ -132,6 +132,8 @@ TEST(WordSequence, EndStays) {
 TEST(WordSequence, CommaIsTold) {
   EXPECT_FALSE(test::readingOf({"A"}).decimalPointIsComma);
   EXPECT_TRUE(test::readingOf({"DECIMAL-POINT IS COMMA"}).decimalPointIsComma);
+  EXPECT_FALSE(test::readingOf({"PROGRAM-ID. A. DECIMAL-POINT IS COMMA. END PROGRAM A."})
+                   .decimalPointIsComma);
 }
 
 TEST(SameWord, IsSoWhateverTheCaseOfItsLetters) {

@@ -51,6 +51,7 @@ void TokenReader::read(Token& token) {
         }
         continue;
       case TextWord::Kind::literal:
+        before_ = Before::nothing;
         readLiteral(token);
         return;
       case TextWord::Kind::mark:
@@ -59,6 +60,7 @@ void TokenReader::read(Token& token) {
       case TextWord::Kind::period:
         token.kind = TokenKind::period;
         token.text = '.';
+        before_ = Before::nothing;
         if (periodsInSourceComputer_ > 0) periodsInSourceComputer_--;
         return;
       case TextWord::Kind::barrier:
@@ -172,6 +174,12 @@ bool TokenReader::readPart(Token& token) {
   return isToken;
 }
 
+void TokenReader::endUnit() {
+  if (inFront_.empty()) return;
+  decimalPointIsComma_ = inFront_.back();
+  inFront_.pop_back();
+}
+
 void TokenReader::readWord(Token& token, std::string_view text) {
   token.kind = TokenKind::word;
   token.text = text;
@@ -185,24 +193,40 @@ void TokenReader::readWord(Token& token, std::string_view text) {
         before_ = Before::picture;
         return;
       }
+      if (sameWord(text, "END")) {
+        before_ = Before::end;
+        return;
+      }
       break;
     case 4:
       if (before == Before::debugging && sameWord(text, "MODE")) hasDebuggingMode_ = true;
       break;
     case 5:
       if (before == Before::decimalPoint && sameWord(text, "COMMA")) decimalPointIsComma_ = true;
+      if (before == Before::end && sameWord(text, "CLASS")) endUnit();
       break;
     case 7:
       if (sameWord(text, "PICTURE")) {
         before_ = Before::picture;
         return;
       }
+      if (before == Before::end && sameWord(text, "PROGRAM")) endUnit();
+      break;
+    case 8:
+      if (before == Before::end && sameWord(text, "FUNCTION")) endUnit();
+      if (sameWord(text, "CLASS-ID")) inFront_.push_back(decimalPointIsComma_);
       break;
     case 9:
       if (periodsInSourceComputer_ > 0 && sameWord(text, "DEBUGGING")) {
         before_ = Before::debugging;
         return;
       }
+      break;
+    case 10:
+      if (sameWord(text, "PROGRAM-ID")) inFront_.push_back(decimalPointIsComma_);
+      break;
+    case 11:
+      if (sameWord(text, "FUNCTION-ID")) inFront_.push_back(decimalPointIsComma_);
       break;
     case 13:
       if (sameWord(text, "DECIMAL-POINT")) {

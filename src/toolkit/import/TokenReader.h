@@ -3,6 +3,7 @@
 #define TOOLKIT_IMPORT_TOKENREADER_H_
 
 #include <string_view>
+#include <vector>
 
 #include "toolkit/import/GluedWords.h"
 #include "toolkit/import/TextArena.h"
@@ -18,7 +19,8 @@ class TokenReader : public TokenSource {
 
   void read(Token& token) override;
 
-  // Whether these were read.
+  // Whether these were read; of the decimal point, in the program that was read last, or in one
+  // around it.
   bool decimalPointIsComma() const { return decimalPointIsComma_; }
   bool hasDebuggingMode() const { return hasDebuggingMode_; }
 
@@ -28,6 +30,7 @@ class TokenReader : public TokenSource {
   void readPicture(Token& token);
   bool readPart(Token& token);
   void readWord(Token& token, std::string_view text);
+  void endUnit();
   std::size_t numberSize(std::string_view text) const;
   bool isPicture() const;
 
@@ -37,10 +40,13 @@ class TokenReader : public TokenSource {
   std::string_view rest_;
   SourcePlace restPlace_;
   // What the words in front of the next one say of it.
-  enum class Before : std::uint8_t { nothing, picture, decimalPoint, debugging };
+  enum class Before : std::uint8_t { nothing, picture, decimalPoint, debugging, end };
   Before before_ = Before::nothing;
   int periodsInSourceComputer_ = 0;
   bool decimalPointIsComma_ = false;
+  // What it was in front of each program, function or class that has begun and not ended: what one
+  // says of the decimal point counts for those inside it, and for no other.
+  std::vector<bool> inFront_;
   bool hasDebuggingMode_ = false;
 };
 
