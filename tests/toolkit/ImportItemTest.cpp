@@ -30,6 +30,12 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         ImportRow{"PIC X(5)", "<alphanumeric name='A' picture='X(5)' offset='0' length='5'"},
         ImportRow{"PICTURE IS A(3)", "<alphanumeric name='A' picture='A(3)' offset='0' length='3'"},
+        ImportRow{"PIC S9(4) COMP-6",
+                  "<numeric name='A' picture='S9(4)' usage='comp-3' sign='true' digits='4' "
+                  "alignment='0' offset='0' length='3'"},
+        ImportRow{"PIC 9(4) COMP-6",
+                  "<numeric name='A' picture='9(4)' usage='comp-6' sign='false' digits='4' "
+                  "alignment='0' offset='0' length='2'"},
         ImportRow{"PIC XXBXX", "<alphanumeric name='A' picture='XXBXX' offset='0' length='5'"},
         ImportRow{"PIC X(5) JUSTIFIED RIGHT",
                   "<alphanumeric name='A' picture='X(5)' justified='right' offset='0' length='5'"},

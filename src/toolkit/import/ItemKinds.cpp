@@ -112,6 +112,12 @@ void ItemKinds::lookAtItem(DataEntry& entry) {
     if (picture->category == Category::externalFloat && entry.usage == Usage::display) {
       entry.usage = Usage::externalFloat;
     }
+    if (entry.usage == Usage::comp6 && picture->category == Category::numeric &&
+        picture->isSigned) {
+      entry.usage = Usage::comp3;
+      problems_.tell(EntryRule::signedComp6, entry.place,
+                     entry.name + " is COMP-6 and has a sign: taken for COMP-3");
+    }
     lookAtSign(entry, *picture);
   }
   if (!hasKnownSize(entry, picture)) return;
@@ -137,6 +143,8 @@ void ItemKinds::lookAtSign(DataEntry& entry, const Picture& picture) {
 
 // Sizes and boundaries that are other ones elsewhere were decided by the dialect, not the source.
 void ItemKinds::compareDialects(const DataEntry& entry, const Picture* picture) {
+  // How long it is, the source says.
+  if (entry.usage == Usage::utf8 && entry.byteLength != none) return;
   const bool isSeparate = isSignSeparate(entry);
   const std::optional<Picture> value = picture == nullptr ? std::nullopt : std::optional(*picture);
   for (const Dialect& other : dialects()) {

@@ -67,6 +67,15 @@ std::optional<int> binaryBytes(BinarySizes sizes, const Picture& picture) {
   return digits <= 4 ? 2 : digits <= 9 ? 4 : 8;
 }
 
+// Of an item that its picture gives so many bytes. Who has items of one byte rounds up to the size
+// of a machine's word.
+std::optional<int> binaryBytes(BinarySizes sizes, int bytes) {
+  constexpr int largest = 8;
+  if (sizes != BinarySizes::from1) return bytes;
+  if (bytes > largest) return std::nullopt;
+  return static_cast<int>(std::bit_ceil(static_cast<unsigned>(bytes)));
+}
+
 // Of a usage that counts characters; `bytes` for each of them, which the picture may raise.
 std::optional<int> characterBytes(Usage usage, int bytes, const Picture& picture,
                                   bool hasSeparateSign) {
@@ -135,9 +144,9 @@ std::optional<int> bytesOf(const Dialect& dialect, Usage usage,
     return picture->characters / 8 + (picture->characters % 8 == 0 ? 0 : 1);
   }
   // X(4) COMP-5 and X(4) COMP-X are binary items of so many bytes.
-  const bool isNative = row.form == Form::native || row.form == Form::allBits;
-  if (isNative && category == Picture::Category::alphanumeric) {
-    return picture->characters;
+  if (category == Picture::Category::alphanumeric) {
+    if (row.form == Form::native) return picture->characters;
+    if (row.form == Form::allBits) return binaryBytes(dialect.comp5, picture->characters);
   }
   if (category != Picture::Category::numeric) return std::nullopt;
   switch (row.form) {
