@@ -62,7 +62,10 @@ INSTANTIATE_TEST_SUITE_P(
                     ImportRow{"01 A VALUE 'ABC'.", "1:1 implied-picture"},
                     ImportRow{"01 A VALUE SPACES.", "1:1 no-picture"},
                     ImportRow{"01 G VALUE 'AB'. 05 A PIC X(2).", ""},
-                    ImportRow{"01 A PIC U BYTE-LENGTH B.", "1:12 bad-clause, 1:1 other-kind"}));
+                    ImportRow{"01 A PIC U BYTE-LENGTH B.", "1:12 bad-clause, 1:1 other-kind"},
+                    ImportRow{"01 A PIC U BYTE-LENGTH 10.", "1:1 other-kind"},
+                    ImportRow{"01 A PIC S9(4) COMP-6.\n01 B PIC S9 COMP-6.", "1:1 signed-comp-6"},
+                    ImportRow{"01 A COMP-6.\n05 B PIC 9(4).\n05 C PIC S9.", "3:1 signed-comp-6"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Clauses, ImportProblemTest,
@@ -90,7 +93,9 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"01 A VARYING.", "1:6 host-variable, 1:1 no-picture"},
         ImportRow{"DATA A.\n01 B PIC X.", "1:1 unknown-text"},
         ImportRow{"PROCEDURE A.\n01 B PIC X.", "1:1 unknown-text"},
-        ImportRow{"01 A PIC X.\nEND.\n01 B PIC X.", "2:1 unknown-text"}));
+        ImportRow{"01 A PIC X.\nEND.\n01 B PIC X.", "2:1 unknown-text"},
+        ImportRow{"01 A PIC X.\nEND OF.\n01 B PIC X.", "2:1 unknown-text"},
+        ImportRow{"01 A PIC X.\nEND", ""}, ImportRow{"01 A PIC X.\nEND PROGRAM T.", ""}));
 
 INSTANTIATE_TEST_SUITE_P(
     Likes, ImportProblemTest,
@@ -333,6 +338,8 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"PROGRAM-ID. T. PROCEDURE DIVISION.\nENTRY FAST 'E'.", "2:7 lost-convention"},
         ImportRow{"PROGRAM-ID. T. PROCEDURE DIVISION\nSTART-HERE.", "1:26 no-period"},
         ImportRow{"01 A PIC X.\nEND", "1:1 copybook"},
+        ImportRow{"FD F\n01 A PIC X.", "1:1 copybook, 2:1 no-period"},
+        ImportRow{"FD F RECORD 01 TO\n80. 01 A PIC X.", "1:1 copybook"},
         ImportRow{"01 :A:-B PIC X.\n01 'C'-D PIC X.\n01 :A:-E PIC X.",
                   "1:5 unreplaced-tag, 1:1 copybook, 2:4 unreplaced-tag"},
         ImportRow{"PROGRAM-ID. T. PROCEDURE DIVISION USING\nDFHEIBLK DFHCOMMAREA.",
@@ -381,6 +388,40 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"78 A VALUE 1.", "1:1 copybook"}, ImportRow{"SELECT A ASSIGN B.", "1:1 copybook"},
         ImportRow{"FUNCTION-ID. F.\nPROCEDURE DIVISION.\nEND FUNCTION F.",
                   "1:1 passed-over-program, 3:15 nothing-to-import"}));
+
+// A program, one that it contains with a table behind it, and one behind both.
+class ImportGlobalTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportGlobalTest, TablesMayDependOnItemsOfProgramsAround) {
+  const auto imported = importOf("PROGRAM-ID. A. DATA DIVISION. " + std::string(GetParam().source) +
+                                 " 01 R.\n05 T PIC X OCCURS 1 TO 5 DEPENDING ON\nN.");
+  EXPECT_EQ(findingsOf(imported), GetParam().expected) << test::problemsOf(imported);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ImportGlobalTest,
+    testing::Values(ImportRow{"WORKING-STORAGE SECTION. 01 N PIC 9 GLOBAL. PROCEDURE DIVISION. "
+                              "PROGRAM-ID. B. LINKAGE SECTION.",
+                              "3:1 depending-elsewhere"},
+                    ImportRow{
+                        "WORKING-STORAGE SECTION. 01 G GLOBAL. 05 N PIC 9. PROCEDURE DIVISION. "
+                        "PROGRAM-ID. B. PROCEDURE DIVISION. PROGRAM-ID. C. LINKAGE SECTION.",
+                        "3:1 depending-elsewhere"},
+                    ImportRow{"FILE SECTION. SD F IS GLOBAL. 01 G. 05 N PIC 9. PROCEDURE DIVISION. "
+                              "PROGRAM-ID. B. LINKAGE SECTION.",
+                              "1:48 no-select, 3:1 depending-elsewhere"},
+                    ImportRow{"FILE SECTION. SD F. 01 G. 05 N PIC 9. PROCEDURE DIVISION. "
+                              "PROGRAM-ID. B. LINKAGE SECTION.",
+                              "1:48 no-select, 3:1 lost-depending"},
+                    ImportRow{"WORKING-STORAGE SECTION. 01 N PIC 9. PROCEDURE DIVISION. "
+                              "PROGRAM-ID. B. LINKAGE SECTION.",
+                              "3:1 lost-depending"},
+                    ImportRow{"WORKING-STORAGE SECTION. 01 N PIC 9 GLOBAL. END PROGRAM A. "
+                              "PROGRAM-ID. B. DATA DIVISION. LINKAGE SECTION.",
+                              "3:1 lost-depending"},
+                    ImportRow{"WORKING-STORAGE SECTION. 01 N PIC 9 GLOBAL. PROCEDURE DIVISION. "
+                              "PROGRAM-ID. B. LINKAGE SECTION. 01 N PIC 9.",
+                              ""}));
 
 // What a note says counts everywhere: it is told once a source.
 TEST(ImportNotes, AreToldOnceASource) {

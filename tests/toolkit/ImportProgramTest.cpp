@@ -203,6 +203,74 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"FD F. 01 X PIC X.", "T: X 0+1"},
         ImportRow{"LINKAGE SECTION. 01 X PIC X.", "T: X 0+1"}));
 
+// Words that end programs stand elsewhere, too.
+INSTANTIATE_TEST_SUITE_P(
+    Ends, ImportProgramsTest,
+    testing::Values(
+        ImportRow{"PROGRAM-ID. A. I-O-CONTROL. RERUN ON C EVERY END OF REEL OF F. "
+                  "WORKING-STORAGE SECTION. 01 X PIC X.",
+                  "A: X 0+1"},
+        ImportRow{"PROGRAM-ID. A. COMMUNICATION SECTION. CD C FOR INPUT QUEUE IS X END KEY IS Y. "
+                  "LINKAGE SECTION. 01 X PIC X.",
+                  "A: X 0+1"},
+        ImportRow{"PROGRAM-ID. A. FILE SECTION. FD F VALUE OF END IS 'X'. 01 X PIC X.", "A: X 0+1"},
+        ImportRow{"PROGRAM-ID. A. ENVIRONMENT DIVISION. END PROGRAM A. "
+                  "PROGRAM-ID. B. LINKAGE SECTION. 01 X PIC X.",
+                  "A: ; B: X 0+1"}));
+
+// A file whose entry has no period.
+INSTANTIATE_TEST_SUITE_P(
+    FilesWithoutPeriod, ImportProgramsTest,
+    testing::Values(
+        ImportRow{"FD F LABEL RECORDS STANDARD\n01 X PIC X. 01 Y PIC XX.", "T: X 0+1, Y 0+2"},
+        ImportRow{"FD F\n01 X.\n05 Y PIC XX.", "T: X 0+2, Y 0+2"},
+        ImportRow{"FD F 01 X PIC X.", "T: X 0+1"},
+        ImportRow{"FD F\n01 FILLER PIC X.", "T: FILLER 0+1"},
+        ImportRow{"FD F\n01 PIC X.", "T: FILLER 0+1"}, ImportRow{"FD F\n01 X COMP-1.", "T: X 0+4"},
+        ImportRow{"FD F RECORD CONTAINS\n01 TO 80. 01 X PIC X.", "T: X 0+1"},
+        ImportRow{"FD F RECORD CONTAINS\n01 CHARACTERS. 01 X PIC X.", "T: X 0+1"},
+        ImportRow{"FD F BLOCK CONTAINS\n01 RECORDS VALUE OF G IS 'H'. 01 X PIC X.", "T: X 0+1"},
+        ImportRow{"FD F LINAGE\n01 LINES. 01 X PIC X.", "T: X 0+1"}));
+
+// Sources, and the values of the conditions in their last program.
+class ImportPointTest : public testing::TestWithParam<ImportRow> {};
+
+TEST_P(ImportPointTest, CountsWhereItIsSaid) {
+  const Imported imported = importOf(GetParam().source);
+  ASSERT_FALSE(imported.programs.empty());
+  EXPECT_THAT(
+      test::partsOf(imported.programs.back().dictionary, "numericConstant value=\"[^\"]*\""),
+      testing::ElementsAre(GetParam().expected))
+      << test::problemsOf(imported);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Commas, ImportPointTest,
+    testing::Values(
+        ImportRow{"PROGRAM-ID. A. SPECIAL-NAMES. DECIMAL-POINT IS COMMA. LINKAGE SECTION. "
+                  "01 X PIC 9V9. 88 Y VALUE 1,5.",
+                  "numericConstant value='1.5'"},
+        ImportRow{"PROGRAM-ID. A. SPECIAL-NAMES. DECIMAL-POINT IS COMMA. END PROGRAM A. "
+                  "PROGRAM-ID. B. LINKAGE SECTION. 01 X PIC 9V9. 88 Y VALUE 1.5.",
+                  "numericConstant value='1.5'"},
+        ImportRow{"FUNCTION-ID. A. SPECIAL-NAMES. DECIMAL-POINT IS COMMA. END FUNCTION A. "
+                  "PROGRAM-ID. B. LINKAGE SECTION. 01 X PIC 9V9. 88 Y VALUE 1.5.",
+                  "numericConstant value='1.5'"},
+        ImportRow{"CLASS-ID. A. SPECIAL-NAMES. DECIMAL-POINT IS COMMA. END CLASS A. "
+                  "PROGRAM-ID. B. LINKAGE SECTION. 01 X PIC 9V9. 88 Y VALUE 1.5.",
+                  "numericConstant value='1.5'"},
+        ImportRow{"PROGRAM-ID. A. SPECIAL-NAMES. DECIMAL-POINT IS COMMA. PROCEDURE DIVISION. "
+                  "PROGRAM-ID. B. LINKAGE SECTION. 01 X PIC 9V9. 88 Y VALUE 1,5.",
+                  "numericConstant value='1.5'"},
+        ImportRow{"PROGRAM-ID. A. PROCEDURE DIVISION. PROGRAM-ID. B. SPECIAL-NAMES. "
+                  "DECIMAL-POINT IS COMMA. END PROGRAM B. END PROGRAM A. "
+                  "PROGRAM-ID. C. LINKAGE SECTION. 01 X PIC 9V9. 88 Y VALUE 1.5.",
+                  "numericConstant value='1.5'"},
+        ImportRow{"PROGRAM-ID. A. SPECIAL-NAMES. DECIMAL-POINT IS COMMA. PROCEDURE DIVISION. "
+                  "PROGRAM-ID. B. END PROGRAM B. PROGRAM-ID. C. LINKAGE SECTION. "
+                  "01 X PIC 9V9. 88 Y VALUE 1,5.",
+                  "numericConstant value='1.5'"}));
+
 // What SPECIAL-NAMES says of pictures: a paragraph with entries behind it.
 class ImportSymbolTest : public testing::TestWithParam<ImportRow> {};
 

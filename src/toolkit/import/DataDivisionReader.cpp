@@ -20,6 +20,11 @@ bool isItemLevel(int level) {
   return (level >= 1 && level <= 49) || level == renamesLevel || level == noncontiguousLevel;
 }
 
+// What clauses of a file have numbers of.
+bool isCounted(const std::string& word) {
+  return sameWord(word, "RECORDS") || sameWord(word, "CHARACTERS") || sameWord(word, "LINES");
+}
+
 }  // namespace
 
 DataDivisionReader::DataDivisionReader(WordReader& words, CobolProgram& program, NameTable& names,
@@ -44,7 +49,7 @@ bool DataDivisionReader::isAtSection() {
 bool DataDivisionReader::isAtEnd() {
   const Word& word = words_.peek();
   if (word.is(TokenKind::end) || word.meaning.role == KeywordRole::unit) return true;
-  if (word.is(Keyword::end)) return words_.peek(1).is(TokenKind::word);
+  if (isAtEndOfUnit(words_)) return true;
   const bool isDivision = word.is(Keyword::procedure) || word.is(Keyword::identification) ||
                           word.is(Keyword::id) || word.is(Keyword::environment);
   return isDivision && words_.peek(1).is(Keyword::division);
@@ -123,8 +128,18 @@ void DataDivisionReader::readFile() {
   } else {
     problems_.tell(EntryRule::unknownText, name.token.place, "FD is followed by no name");
   }
-  // A record whose level number stands behind a missing period would be lost.
-  while (!words_.peek().is(TokenKind::period) && !isAtEnd() && !isAtSection()) words_.skip();
+  bool isGlobal = false;
+  while (!words_.peek().is(TokenKind::period) && !isAtEnd() && !isAtSection()) {
+    const Word& word = words_.peek();
+    if (isAtRecord()) {
+      problems_.tell(
+          EntryRule::noPeriod, word.token.place,
+          "there is no period in front of " + word.token.text + " " + words_.peek(1).token.text);
+      break;
+    }
+    isGlobal = isGlobal || word.is(Keyword::global);
+    words_.skip();
+  }
   if (words_.peek().is(TokenKind::period)) words_.skip();
   const Index id = names_.idOf(name.token.text);
   const auto known = files_.find(id);
@@ -143,7 +158,20 @@ void DataDivisionReader::readFile() {
   FileEntry& file = program_.files[at];
   if (!file.isDescribed) program_.describedFiles.push_back(static_cast<Index>(at));
   file.isDescribed = true;
+  file.isGlobal = isGlobal;
   records_.enterFile(&file);
+}
+
+// Whether a record begins where clauses of a file may stand: "01 RECORD-NAME PIC X(80)". Numbers
+// stand in those clauses, too ("RECORD CONTAINS 01 TO 80 CHARACTERS").
+bool DataDivisionReader::isAtRecord() {
+  if (levelOf(words_.peek()) != 1) return false;
+  const Word& name = words_.peek(1);
+  if (name.is(Keyword::pic) || name.is(Keyword::picture)) return true;
+  if (!name.is(TokenKind::word) || isCounted(name.token.text)) return false;
+  if (name.meaning.keyword != Keyword::name && !name.is(Keyword::filler)) return false;
+  const Word& next = words_.peek(2);
+  return next.is(TokenKind::period) || isClause(next);
 }
 
 bool DataDivisionReader::isConstant() {

@@ -28,6 +28,7 @@ class DataDivisionReader {
  private:
   bool isAtSection();
   bool isAtEnd();
+  bool isAtRecord();
   void readSection();
   void readFile();
   void readEntry(const std::string& recordName);

@@ -25,6 +25,22 @@ bool isClause(const Word& word) {
          word.meaning.role == KeywordRole::softClause;
 }
 
+bool isAtEndOfUnit(WordReader& words) {
+  if (!words.peek().is(Keyword::end)) return false;
+  switch (words.peek(1).meaning.keyword) {
+    case Keyword::program:
+    case Keyword::function:
+    case Keyword::method:
+    case Keyword::classWord:
+    case Keyword::interface:
+    case Keyword::factory:
+    case Keyword::object:
+      return true;
+    default:
+      return false;
+  }
+}
+
 bool isAtNextEntry(WordReader& words) {
   const Word& word = words.peek();
   if (word.is(TokenKind::end)) return true;

@@ -15,6 +15,10 @@ bool isEntryLevel(const Word& word);
 // Whether the word may begin a clause.
 bool isClause(const Word& word);
 
+// Whether what comes next ends a program, or another unit: END alone may stand elsewhere, too
+// ("RERUN EVERY END OF REEL").
+bool isAtEndOfUnit(WordReader& words);
+
 // Whether what comes next begins another entry, section or division.
 bool isAtNextEntry(WordReader& words);
 

@@ -44,7 +44,7 @@ bool EnvironmentReader::isAtEnd() {
   const Word& word = words_.peek();
   if (word.is(TokenKind::end) || word.meaning.role == KeywordRole::unit) return true;
   const Word& next = words_.peek(1);
-  if (word.is(Keyword::end)) return next.is(TokenKind::word);
+  if (isAtEndOfUnit(words_)) return true;
   if (next.is(Keyword::division)) return !word.is(Keyword::environment);
   return next.is(Keyword::section) && isSectionOfData(word);
 }

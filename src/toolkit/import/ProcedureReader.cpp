@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "toolkit/import/EntryWords.h"
+
 namespace as::toolkit {
 
 namespace {
@@ -22,13 +24,8 @@ bool ProcedureReader::isAtProgramEnd() {
     case Keyword::identification:
     case Keyword::id:
       return words_.peek(1).is(Keyword::division);
-    case Keyword::end:
-      return words_.peek(1).is(Keyword::program) || words_.peek(1).is(Keyword::function) ||
-             words_.peek(1).is(Keyword::method) || words_.peek(1).is(Keyword::classWord) ||
-             words_.peek(1).is(Keyword::interface) || words_.peek(1).is(Keyword::factory) ||
-             words_.peek(1).is(Keyword::object);
     default:
-      return false;
+      return isAtEndOfUnit(words_);
   }
 }
 

@@ -3,6 +3,7 @@
 #define TOOLKIT_IMPORT_PROGRAMENTRIES_H_
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -13,6 +14,8 @@
 #include "toolkit/import/Token.h"
 
 namespace as::toolkit {
+
+class EntryFinder;
 
 // Where something stands in a vector; negative when there is none.
 using Index = std::int32_t;
@@ -147,6 +150,7 @@ struct FileEntry {
   std::optional<FileAccess> access;
   bool isSelected = false;
   bool isDescribed = false;
+  bool isGlobal = false;
   std::vector<Index> records;
 };
 
@@ -179,6 +183,8 @@ struct CobolProgram {
   CobolProgram* outer = nullptr;  // The program that it is contained in.
   bool isCopybook = false;
   bool isRefused = false;
+  // Finds the items that contained programs may use, too; null when there are none.
+  std::shared_ptr<EntryFinder> globals;
 
   std::vector<DataEntry> entries;
   std::vector<NameReference> references;

@@ -178,6 +178,10 @@ bool RecordBuilder::isFilledBySystem(const DataEntry& record) const {
 void RecordBuilder::keepRecord() {
   const DataEntry& record = at(record_);
   places_.keep(record_);
+  if (record.isGlobal || (file_ != nullptr && file_->isGlobal)) {
+    if (!program_.globals) program_.globals = std::make_shared<EntryFinder>(program_);
+    for (Index entry = record_; entry < record.end; ++entry) program_.globals->add(entry);
+  }
   if (record.isTypedef) {
     if (record.nameId != none) program_.types[record.nameId] = record_;
   } else if (section_ == DataSection::file) {
@@ -225,6 +229,17 @@ bool RecordBuilder::isOfCics(const NameReference& reference) {
   return sameWord(std::string_view(reference.names.front().text).substr(0, 3), "EIB");
 }
 
+// Whether an item of a program around this one is meant, which says that it may be used here.
+bool RecordBuilder::isOfOuter(const NameReference& reference) const {
+  for (const CobolProgram* outer = program_.outer; outer != nullptr; outer = outer->outer) {
+    const auto size = static_cast<Index>(outer->entries.size());
+    if (outer->globals && outer->globals->find(reference.names, {0, size}).entry != none) {
+      return true;
+    }
+  }
+  return false;
+}
+
 void RecordBuilder::findDepending(DataEntry& entry) {
   const NameReference& reference = program_.references[static_cast<std::size_t>(entry.depending)];
   auto record = static_cast<Index>(&entry - program_.entries.data());
@@ -237,6 +252,13 @@ void RecordBuilder::findDepending(DataEntry& entry) {
     problems_.tell(EntryRule::systemDepending, reference.place,
                    textOf(reference.names) + ", which " + entry.name +
                        " depends on, is an item that CICS brings: the dictionary does not name it");
+    return;
+  }
+  if (found.entry == none && isOfOuter(reference)) {
+    problems_.tell(EntryRule::dependingElsewhere, reference.place,
+                   textOf(reference.names) + ", which " + entry.name +
+                       " depends on, is an item of a program around this one: the dictionary does "
+                       "not name it");
     return;
   }
   if (found.entry == none) {

@@ -68,6 +68,7 @@ class RecordBuilder {
   void keepRecord();
   bool isFilledBySystem(const DataEntry& record) const;
   static bool isOfCics(const NameReference& reference);
+  bool isOfOuter(const NameReference& reference) const;
   void findDepending(DataEntry& entry);
 
   const Dialect& dialect_;
