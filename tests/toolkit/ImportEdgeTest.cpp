@@ -184,6 +184,12 @@ INSTANTIATE_TEST_SUITE_P(
                               "A is expanded as the precompiler of Db2 does with SQL TYPE IS BLOB"},
                     ImportRow{"01 A SQL TYPE IS CHARACTER LARGE OBJECT(5).",
                               "A is expanded as the precompiler of Db2 does with SQL TYPE IS CLOB"},
+                    ImportRow{"01 A SQL TYPE IS CHARACTER VARYING(5).",
+                              "A is expanded as the precompiler of Db2 does with SQL TYPE IS "
+                              "CHAR-VARYING"},
+                    ImportRow{"01 A SQL TYPE IS BINARY VARYING(5).",
+                              "A is expanded as the precompiler of Db2 does with SQL TYPE IS "
+                              "VARBINARY"},
                     ImportRow{
                         "01 A SQL TYPE IS DBCHAR LARGE OBJECT(5).",
                         "A is expanded as the precompiler of Db2 does with SQL TYPE IS DBCLOB"}));

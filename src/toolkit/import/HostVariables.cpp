@@ -97,9 +97,10 @@ std::string HostVariables::takeTypeName() {
     words_.skip();
     return type == "BINARY" ? "BLOB" : type == "DBCHAR" ? "DBCLOB" : "CLOB";
   }
-  const bool canVary = type == "BINARY" || type == "CHAR" || type == "CHARACTER";
-  if (canVary && words_.accept(Keyword::varying)) return "VARBINARY";
-  return type == "CHARACTER" ? "CHAR" : type;
+  if (type == "CHARACTER") type = "CHAR";
+  const bool canVary = type == "BINARY" || type == "CHAR";
+  if (!canVary || !words_.accept(Keyword::varying)) return type;
+  return type == "BINARY" ? "VARBINARY" : "CHAR-VARYING";
 }
 
 // What stands in parentheses; nothing when there are none, or no length in them.
