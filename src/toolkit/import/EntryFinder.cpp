@@ -71,9 +71,9 @@ EntryFinder::Found EntryFinder::search(const std::vector<NameReference::Name>& n
     takeFrom(range.begin, range.end);
     return found;
   }
-  for (const Index group : *rarest) {
-    const Index begin = std::max(group, range.begin);
-    if (takeFrom(begin, std::min(at(program_, group).end, range.end))) break;
+  for (auto group = std::lower_bound(rarest->begin(), rarest->end(), range.begin);
+       group != rarest->end() && *group < range.end; ++group) {
+    if (takeFrom(*group, std::min(at(program_, *group).end, range.end))) break;
   }
   return found;
 }

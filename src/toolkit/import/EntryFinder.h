@@ -27,7 +27,8 @@ class EntryFinder {
   // Entries are added in their order.
   void add(Index entry);
 
-  // The first entry of that name and qualifiers among those of the range. Costs of all searches
+  // The first entry of that name and qualifiers among those of the range, which begins with a
+  // record. Costs of all searches
   // together stay far from the product of searches and entries: the rarest name is looked for, and
   // its answer is kept.
   Found find(const std::vector<NameReference::Name>& names, Range range);
