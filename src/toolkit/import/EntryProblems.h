@@ -2,7 +2,7 @@
 #ifndef TOOLKIT_IMPORT_ENTRYPROBLEMS_H_
 #define TOOLKIT_IMPORT_ENTRYPROBLEMS_H_
 
-#include <bitset>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "as/toolkit/Finding.h"
+#include "toolkit/import/SourceReport.h"
 #include "toolkit/import/Token.h"
 
 namespace as::toolkit {
@@ -37,7 +38,11 @@ class EntryProblems {
 
   explicit EntryProblems(Sink sink) : sink_(std::move(sink)) {}
 
+  // Findings of a rule beyond the limit are counted, not handed on.
   void tell(EntryRule rule, const SourcePlace& place, const std::string& text);
+
+  // To be called once, when all is told: adds how many were not handed on.
+  void finish(SourceReport& report) const;
 
   // Tells of a clause in the entry of that name; false, for who could not read it.
   bool badClause(const std::string& name, const SourcePlace& place, const std::string& text) {
@@ -46,7 +51,7 @@ class EntryProblems {
   }
 
   // Whether a note of that rule was told already.
-  bool wasNoted(EntryRule rule) const { return noted_[static_cast<std::size_t>(rule)]; }
+  bool wasNoted(EntryRule rule) const { return counts_[static_cast<std::size_t>(rule)] > 0; }
 
   // How many errors were told, those of the words included.
   std::size_t errors() const { return errors_ + (otherErrors_ ? otherErrors_() : 0); }
@@ -63,7 +68,7 @@ class EntryProblems {
 
   Sink sink_;
   std::function<std::size_t()> otherErrors_;
-  std::bitset<ruleCount> noted_;
+  std::array<std::size_t, ruleCount> counts_{};
   std::size_t errors_ = 0;
 };
 

@@ -144,6 +144,8 @@ Imported importCobol(std::string source, const std::string& name, CopybookProvid
     imported.details = std::make_shared<ImportDetails>(shared, *program);
     result.programs.push_back(std::move(imported));
   }
+  SourceReport report(wordFindings);
+  problems.finish(report);
   findings.takeWords();
   return result;
 }

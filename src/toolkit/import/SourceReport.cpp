@@ -29,11 +29,13 @@ void SourceReport::add(SourceRule rule, const SourcePlace& place, const std::str
 
 void SourceReport::finish() {
   for (std::size_t i = 0; i < counts_.size(); i++) {
-    if (counts_[i] <= importLimits::findings) continue;
-    add(SourceRule::more, {},
-        count(counts_[i] - importLimits::findings, "finding") + " more of the rule \"" +
-            rules[i].id + "\"");
+    if (counts_[i] > importLimits::findings) addMore(counts_[i], rules[i].id);
   }
+}
+
+void SourceReport::addMore(std::size_t findings, const char* rule) {
+  add(SourceRule::more, {},
+      count(findings - importLimits::findings, "finding") + " more of the rule \"" + rule + "\"");
 }
 
 std::string quoted(std::string_view text) {

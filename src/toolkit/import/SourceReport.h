@@ -39,6 +39,9 @@ class SourceReport {
   void add(SourceRule rule, const SourcePlace& place, const std::string& problem,
            const std::string& advice = "");
 
+  // Tells how many of so many findings of a rule were not told.
+  void addMore(std::size_t findings, const char* rule);
+
   // To be called once, when all is read: tells how many were not told.
   void finish();
 
