@@ -96,10 +96,12 @@ TEST(HostileImport, DamagedExamplesAreTold) {
 
 constexpr std::size_t megabyte = 1U << 20U;
 
-TEST(HostileImport, NamesOfAMegabyteAreHeld) {
+TEST(HostileImport, NamesOfAMegabyteAreTold) {
   const std::string name(megabyte, 'A');
   const Imported imported = test::importOf(test::programOf("01 " + name + " PIC X."));
-  EXPECT_THAT(test::dictionaryOf(imported), testing::HasSubstr(name));
+  EXPECT_EQ(test::findingsOf(imported, test::kHeadLines), "1:4 source-limit");
+  EXPECT_LT(test::problemsOf(imported).size(), 200U);
+  EXPECT_TRUE(imported.programs.front().isRefused());
 }
 
 TEST(HostileImport, MessagesDoNotRepeatNamesOfAMegabyte) {
@@ -111,6 +113,80 @@ TEST(HostileImport, MessagesDoNotRepeatNamesOfAMegabyte) {
     told += finding.problem.size();
   }
   EXPECT_LT(told, 3 * megabyte);
+}
+
+TEST(HostileImport, MessagesDoNotRepeatLongNames) {
+  std::string entries = "01 R.\n05 " + std::string(megabyte / 4, 'A') + " PIC X.\n05 B PIC X.\n";
+  for (int i = 0; i < 900; i++) {
+    entries += "05 C REDEFINES " + std::string(1500, 'A') + " PIC XX.\n";
+  }
+  const Imported imported = test::importOf(test::programOf(entries));
+  EXPECT_GT(imported.findings.size(), 900U);
+  EXPECT_LT(test::problemsOf(imported).size(), 6 * megabyte);
+}
+
+// A dictionary would repeat them a million times.
+std::string conditionsRepeated(const std::string& behindEach) {
+  std::string entries = "01 G.\n05 A PIC X.\n";
+  for (int i = 0; i < 1001; i++) entries += "88 C VALUE 1.\n";
+  for (int i = 0; i < 501; i++) entries += "05 B LIKE A.\n" + behindEach;
+  return test::programOf(entries);
+}
+
+TEST(HostileImport, ConditionsThatLikeRepeatsAreBounded) {
+  for (const char* const behindEach : {"", "88 D VALUE 1.\n"}) {
+    const Imported imported = test::importOf(conditionsRepeated(behindEach));
+    EXPECT_TRUE(imported.programs.front().isRefused());
+    EXPECT_THAT(test::problemsOf(imported), testing::HasSubstr("are repeated by TYPE and LIKE"));
+  }
+}
+
+TEST(HostileImport, ValuesThatLikeRepeatsAreBounded) {
+  std::string entries = "01 G.\n05 A PIC X.\n88 C VALUE";
+  for (int i = 0; i < 1001; i++) entries += " 1";
+  entries += ".\n";
+  for (int i = 0; i < 1000; i++) entries += "05 B LIKE A.\n";
+  const Imported imported = test::importOf(test::programOf(entries));
+  EXPECT_THAT(test::problemsOf(imported), testing::HasSubstr("are repeated by TYPE and LIKE"));
+}
+
+TEST(HostileImport, ConstantsInConditionsAreBounded) {
+  std::string entries = "78 C VALUE '" + std::string(megabyte, 'A') + "'.\n01 A PIC X.\n";
+  for (int i = 0; i < 70; i++) entries += "88 D VALUE C.\n";
+  const Imported imported = test::importOf(test::programOf(entries));
+  EXPECT_THAT(test::problemsOf(imported),
+              testing::HasSubstr("bytes of names and values are repeated"));
+}
+
+TEST(HostileImport, LengthsOfItemsOfAnOpenRecordAreKnown) {
+  std::string entries = "01 R.\n";
+  for (int i = 0; i < 6500; i++)
+    entries += "05 A" + std::to_string(i) + " PIC X.\n" + "78 C VALUE LENGTH OF A" +
+               std::to_string(i) + ".\n";
+  EXPECT_EQ(test::problemsOf(test::importOf(test::programOf(entries))), "");
+}
+
+TEST(HostileImport, ItemsOfAnOpenRecordAreFound) {
+  std::string entries = "01 R.\n05 A PIC X.\n";
+  for (int i = 0; i < 6500; i++) entries += "05 B LIKE A.\n";
+  EXPECT_EQ(test::problemsOf(test::importOf(test::programOf(entries))), "");
+}
+
+TEST(HostileImport, FindingsOfARuleAreToldUpToAThousand) {
+  std::string entries;
+  for (int i = 0; i < 1003; i++) entries += "01 A.\n";
+  const Imported imported = test::importOf(test::programOf(entries));
+  EXPECT_EQ(imported.findings.size(), 1001U);
+  EXPECT_EQ(countOf(imported.findings, Severity::error), 1000U);
+  EXPECT_EQ(imported.findings.back().problem, "3 findings more of the rule \"no-picture\"");
+  EXPECT_EQ(imported.findings.back().rule, "more-findings");
+  EXPECT_TRUE(imported.programs.front().isRefused());
+}
+
+TEST(HostileImport, AThousandFindingsOfARuleAreAll) {
+  std::string entries;
+  for (int i = 0; i < 1000; i++) entries += "01 A.\n";
+  EXPECT_EQ(test::importOf(test::programOf(entries)).findings.size(), 1000U);
 }
 
 TEST(HostileImport, ManyEntriesAreHeld) {

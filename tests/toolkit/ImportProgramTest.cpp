@@ -203,6 +203,36 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"FD F. 01 X PIC X.", "T: X 0+1"},
         ImportRow{"LINKAGE SECTION. 01 X PIC X.", "T: X 0+1"}));
 
+// What SPECIAL-NAMES says of currencies counts in contained programs, too, but for what theirs say.
+INSTANTIATE_TEST_SUITE_P(
+    Currencies, ImportProgramsTest,
+    testing::Values(
+        ImportRow{"PROGRAM-ID. A. SPECIAL-NAMES. CURRENCY 'EUR' PICTURE SYMBOL 'E'. "
+                  "PROCEDURE DIVISION. PROGRAM-ID. B. PROCEDURE DIVISION. PROGRAM-ID. C. "
+                  "LINKAGE SECTION. 01 X PIC EE9.",
+                  "A: ; B: ; C: X 0+5"},
+        ImportRow{"PROGRAM-ID. A. SPECIAL-NAMES. CURRENCY 'EUR' PICTURE SYMBOL 'E'. "
+                  "PROCEDURE DIVISION. PROGRAM-ID. B. SPECIAL-NAMES. CURRENCY 'EURO' "
+                  "PICTURE SYMBOL 'E' CURRENCY 'FR' PICTURE SYMBOL 'F'. "
+                  "LINKAGE SECTION. 01 X PIC EE9. 01 Y PIC FF9.",
+                  "A: ; B: X 0+6, Y 0+4"},
+        ImportRow{"PROGRAM-ID. A. SPECIAL-NAMES. CURRENCY '#'. PROCEDURE DIVISION. "
+                  "PROGRAM-ID. B. SPECIAL-NAMES. CURRENCY 'FR' PICTURE SYMBOL 'F'. "
+                  "LINKAGE SECTION. 01 X PIC ##9. 01 Y PIC FF9.",
+                  "A: ; B: X 0+3, Y 0+4"},
+        ImportRow{"PROGRAM-ID. A. SPECIAL-NAMES. CURRENCY '#'. END PROGRAM A. "
+                  "PROGRAM-ID. B. LINKAGE SECTION. 01 X PIC ##9.",
+                  "A: ; B: "}));
+
+TEST(ImportPrograms, HaveConventionsOfProgramsAround) {
+  const Imported imported = importOf(
+      "PROGRAM-ID. A. SPECIAL-NAMES. CALL-CONVENTION 3 IS C CALL-CONVENTION 8 IS D. "
+      "PROCEDURE DIVISION. PROGRAM-ID. B. SPECIAL-NAMES. CALL-CONVENTION 4 IS D. "
+      "PROCEDURE DIVISION C. P. ENTRY D 'E'.");
+  ASSERT_EQ(imported.programs.size(), 2U);
+  EXPECT_EQ(entryPointsOf(imported.programs[1].dictionary), "B[3]; E[4]");
+}
+
 // Words that end programs stand elsewhere, too.
 INSTANTIATE_TEST_SUITE_P(
     Ends, ImportProgramsTest,

@@ -129,6 +129,21 @@ TEST(WordSequence, EndStays) {
   EXPECT_EQ(test::nextOf(reader).kind, as::toolkit::TokenKind::end);
 }
 
+TEST(WordSequence, WordsHaveAKilobyteAtMost) {
+  const std::string longest(1024, 'A');
+  EXPECT_EQ(test::readingOf({longest + " B"}).words, longest + " B");
+  EXPECT_EQ(test::readingOf({longest + " B"}).findings, "");
+  const test::Reading reading = test::readingOf({"C " + longest + "A B"});
+  EXPECT_EQ(reading.words, "C " + longest + " B");
+  EXPECT_EQ(reading.findings, "source-limit main:1:3");
+}
+
+TEST(WordSequence, WordsAreCutBehindACharacter) {
+  const std::string some(1023, 'A');
+  EXPECT_EQ(test::readingOf({some + "\xC3\xA4 B"}).words, some + " B");
+  EXPECT_EQ(test::readingOf({some + "A\xC3\xA4 B"}).words, some + "A B");
+}
+
 TEST(WordSequence, CommaIsTold) {
   EXPECT_FALSE(test::readingOf({"A"}).decimalPointIsComma);
   EXPECT_TRUE(test::readingOf({"DECIMAL-POINT IS COMMA"}).decimalPointIsComma);

@@ -104,9 +104,9 @@ std::optional<std::string> ConditionReader::takeValue() {
       const std::string text = words_.take().token.text;
       return text.find('#') == std::string::npos ? text : std::to_string(*number);
     }
-    if (const ConstantEntry* const constant = constants_.find(word.token.text)) {
+    if (std::optional<std::string> text = constants_.textOf(word.token)) {
       words_.skip();
-      return constant->text;
+      return text;
     }
   }
   problems_.tell(EntryRule::noValue, place,

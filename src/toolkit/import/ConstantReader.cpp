@@ -94,6 +94,14 @@ const ConstantEntry* ConstantReader::find(const std::string& name) const {
   return nullptr;
 }
 
+std::optional<std::string> ConstantReader::textOf(const Token& name) const {
+  const ConstantEntry* const constant = find(name.text);
+  if (constant == nullptr || !budget_.addText(constant->text.size(), name.place)) {
+    return std::nullopt;
+  }
+  return constant->text;
+}
+
 std::optional<std::int64_t> ConstantReader::takeInteger() {
   const Word& word = words_.peek();
   if (!word.is(TokenKind::word) && !word.is(TokenKind::number)) return std::nullopt;
@@ -201,7 +209,9 @@ std::optional<std::int64_t> ConstantReader::takeSum() {
 std::optional<ConstantEntry> ConstantReader::takeDefinition() {
   if (!words_.peek().is(TokenKind::word)) return std::nullopt;
   const auto definition = words_.source().definition(words_.peek().token.text);
-  if (!definition) return std::nullopt;
+  if (!definition || !budget_.addText(definition->text.size(), words_.peek().token.place)) {
+    return std::nullopt;
+  }
   words_.skip();
   return ConstantEntry{definition->text,
                        definition->isNumber ? readInteger(definition->text) : std::nullopt,
@@ -221,6 +231,7 @@ std::optional<ConstantEntry> ConstantReader::takeValue() {
   }
   if (isAlone && first.is(TokenKind::word)) {
     if (const ConstantEntry* const other = find(first.token.text)) {
+      if (!budget_.addText(other->text.size(), first.token.place)) return std::nullopt;
       words_.skip();
       return *other;
     }

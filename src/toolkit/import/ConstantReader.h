@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "toolkit/import/EntryBudget.h"
 #include "toolkit/import/NameTable.h"
 #include "toolkit/import/ProgramEntries.h"
 #include "toolkit/import/WordReader.h"
@@ -20,11 +21,19 @@ class ConstantReader {
   using LengthOf = std::function<std::optional<std::int64_t>(const NameReference&)>;
 
   ConstantReader(WordReader& words, const CobolProgram& program, NameTable& names,
-                 LengthOf lengthOf)
-      : words_(words), program_(program), names_(names), lengthOf_(std::move(lengthOf)) {}
+                 EntryBudget& budget, LengthOf lengthOf)
+      : words_(words),
+        program_(program),
+        names_(names),
+        budget_(budget),
+        lengthOf_(std::move(lengthOf)) {}
 
   // The constant of that name, of the program or of one that contains it.
   const ConstantEntry* find(const std::string& name) const;
+
+  // The text of the constant of that name, as a value that repeats it. Nothing when there is none,
+  // or after it was told that too much is repeated.
+  std::optional<std::string> textOf(const Token& name) const;
 
   // The whole number that comes next: its digits, or the name of a constant. Nothing is taken when
   // there is none.
@@ -46,6 +55,7 @@ class ConstantReader {
   WordReader& words_;
   const CobolProgram& program_;
   NameTable& names_;
+  EntryBudget& budget_;
   LengthOf lengthOf_;
 };
 

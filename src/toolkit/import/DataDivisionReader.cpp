@@ -28,14 +28,15 @@ bool isCounted(const std::string& word) {
 }  // namespace
 
 DataDivisionReader::DataDivisionReader(WordReader& words, CobolProgram& program, NameTable& names,
-                                       RecordBuilder& records, EntryProblems& problems)
+                                       RecordBuilder& records, EntryBudget& budget,
+                                       EntryProblems& problems)
     : words_(words),
       program_(program),
       names_(names),
       records_(records),
       problems_(problems),
       constants_(
-          words, program, names,
+          words, program, names, budget,
           [&records](const NameReference& reference) { return records.lengthOf(reference); }),
       clauses_(words, program, names, constants_, problems),
       conditions_(words, program, constants_, problems) {

@@ -8,6 +8,7 @@
 #include "toolkit/import/ClauseReader.h"
 #include "toolkit/import/ConditionReader.h"
 #include "toolkit/import/ConstantReader.h"
+#include "toolkit/import/EntryBudget.h"
 #include "toolkit/import/EntryProblems.h"
 #include "toolkit/import/NameTable.h"
 #include "toolkit/import/ProgramEntries.h"
@@ -19,7 +20,7 @@ namespace as::toolkit {
 class DataDivisionReader {
  public:
   DataDivisionReader(WordReader& words, CobolProgram& program, NameTable& names,
-                     RecordBuilder& records, EntryProblems& problems);
+                     RecordBuilder& records, EntryBudget& budget, EntryProblems& problems);
 
   // Reads up to the procedure division, or to where the program ends. `recordName` is what a record
   // is called that a first entry below level 01 gets; empty when there is to be none.

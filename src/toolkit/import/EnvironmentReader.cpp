@@ -82,7 +82,7 @@ void EnvironmentReader::readCurrency() {
   words_.accept(Keyword::isWord);
   if (!words_.peek().is(TokenKind::literal)) return;
   const std::string sign = words_.take().token.text;
-  CobolProgram::Currency currency{sign, 1};
+  CurrencyTable::Currency currency{sign, 1};
   words_.accept(Keyword::with);
   if (words_.peek().is(Keyword::picture) || words_.peek().is(Keyword::pic)) {
     words_.skip();
@@ -91,7 +91,9 @@ void EnvironmentReader::readCurrency() {
       currency = {words_.take().token.text, lengthOf(sign)};
     }
   }
-  if (lengthOf(currency.symbol) == 1) program_.currencies.push_back(std::move(currency));
+  if (lengthOf(currency.symbol) == 1) {
+    program_.currencies.add(std::move(currency.symbol), currency.characters);
+  }
 }
 
 void EnvironmentReader::readConvention() {

@@ -42,8 +42,10 @@ const Picture* pictureOf(const CobolProgram& program, const DataEntry& entry) {
 void ItemKinds::lookAt(Index index) {
   DataEntry& entry = program_.entries[static_cast<std::size_t>(index)];
   // A record that is looked at while it is open may have got members since.
-  if (entry.hasImpliedPicture) entry.picture = none;
-  entry.hasImpliedPicture = false;
+  if (entry.hasImpliedPicture && entry.hasMembers) {
+    entry.picture = none;
+    entry.hasImpliedPicture = false;
+  }
   handDown(index, entry);
   if (entry.hasMembers) {
     lookAtGroup(entry);
@@ -81,12 +83,15 @@ void ItemKinds::lookAtGroup(const DataEntry& entry) {
 
 // Gives an item without a PICTURE the one that its other clauses imply.
 void ItemKinds::implyPicture(DataEntry& entry) {
-  if (entry.picture != none || entry.impliedSize == 0 || entry.usage != Usage::display) return;
-  std::string text = entry.isImpliedNumeric ? "9" : "X";
-  if (entry.impliedSize > 1) text += "(" + std::to_string(entry.impliedSize) + ")";
-  program_.pictures.push_back({text, readPicture(text)});
-  entry.picture = static_cast<Index>(program_.pictures.size() - 1);
-  entry.hasImpliedPicture = true;
+  if (!entry.hasImpliedPicture) {
+    if (entry.picture != none || entry.impliedSize == 0 || entry.usage != Usage::display) return;
+    std::string text = entry.isImpliedNumeric ? "9" : "X";
+    if (entry.impliedSize > 1) text += "(" + std::to_string(entry.impliedSize) + ")";
+    program_.pictures.push_back({text, readPicture(text)});
+    entry.picture = static_cast<Index>(program_.pictures.size() - 1);
+    entry.hasImpliedPicture = true;
+  }
+  const std::string& text = program_.pictures[static_cast<std::size_t>(entry.picture)].text;
   problems_.tell(
       EntryRule::impliedPicture, entry.place,
       entry.name + " has no PICTURE: the one that follows from its other clauses is " + text);

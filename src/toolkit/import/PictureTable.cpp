@@ -63,7 +63,7 @@ std::string PictureTable::withConstants(const std::string& picture) const {
     result += picture[at];
     if (picture[at] != '(') continue;
     const std::size_t close = picture.find(')', at);
-    if (close == std::string::npos) continue;
+    if (close == std::string::npos) return result.append(picture, at + 1);
     const std::string name = picture.substr(at + 1, close - at - 1);
     const bool isName =
         std::any_of(name.begin(), name.end(), [](unsigned char c) { return std::isalpha(c) != 0; });
@@ -77,16 +77,23 @@ std::string PictureTable::withConstants(const std::string& picture) const {
 PictureRules PictureTable::rulesFor(const std::string& text, const std::string& written) const {
   PictureRules rules;
   rules.isDecimalPointComma = program_.isDecimalPointComma;
-  for (const CobolProgram::Currency& currency : program_.currencies) {
-    const bool isFirst = &currency == &program_.currencies.front();
-    if (!isFirst && written.find(currency.symbol) == std::string::npos) continue;
-    rules.currencySymbol = currency.symbol;
-    rules.currencyCharacters = currency.characters;
+  // What programs around say of currencies counts, too. No other symbol is one then.
+  const CurrencyTable::Currency* meant = nullptr;
+  const CurrencyTable::Currency* first = nullptr;
+  for (const CobolProgram* program = &program_; program != nullptr; program = program->outer) {
+    if (program->currencies.empty()) continue;
+    first = program->currencies.first();
+    if (meant == nullptr) meant = program->currencies.lastIn(written);
   }
+  if (meant == nullptr) meant = first;
   // Where code pages of Japan are used, it is the yen sign, and the symbol unless told otherwise.
   constexpr std::string_view yen = "\\";
-  if (program_.currencies.empty() && text.find(yen) != std::string::npos)
+  if (meant != nullptr) {
+    rules.currencySymbol = meant->symbol;
+    rules.currencyCharacters = meant->characters;
+  } else if (text.find(yen) != std::string::npos) {
     rules.currencySymbol = yen;
+  }
   return rules;
 }
 

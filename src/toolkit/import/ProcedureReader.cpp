@@ -78,16 +78,23 @@ void ProcedureReader::readEntry() {
   if (!entryPoint.name.empty()) program_.entryPoints.push_back(std::move(entryPoint));
 }
 
+// What SPECIAL-NAMES says counts for contained programs, too.
+std::optional<int> ProcedureReader::findConvention(Index name) const {
+  for (const CobolProgram* program = &program_; program != nullptr; program = program->outer) {
+    const auto found = program->conventions.find(name);
+    if (found != program->conventions.end()) return found->second;
+  }
+  return std::nullopt;
+}
+
 // A name of CALL-CONVENTION in front of USING or the name of the entry point.
 void ProcedureReader::readConvention(EntryPointEntry& entryPoint) {
   const Word& word = words_.peek();
   if (!word.is(TokenKind::word) || word.meaning.keyword != Keyword::name) return;
-  const auto found = program_.conventions.find(names_.idOf(word.token.text));
-  if (found == program_.conventions.end()) {
+  entryPoint.convention = findConvention(names_.idOf(word.token.text));
+  if (!entryPoint.convention) {
     problems_.tell(EntryRule::lostConvention, word.token.place,
                    word.token.text + " is no calling convention of SPECIAL-NAMES");
-  } else {
-    entryPoint.convention = found->second;
   }
   words_.skip();
 }

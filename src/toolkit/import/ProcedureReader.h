@@ -2,6 +2,7 @@
 #ifndef TOOLKIT_IMPORT_PROCEDUREREADER_H_
 #define TOOLKIT_IMPORT_PROCEDUREREADER_H_
 
+#include <optional>
 #include <string>
 
 #include "toolkit/import/EntryProblems.h"
@@ -24,6 +25,7 @@ class ProcedureReader {
   void readStatements();
 
  private:
+  std::optional<int> findConvention(Index name) const;
   void readConvention(EntryPointEntry& entryPoint);
   void readParameters(EntryPointEntry& entryPoint);
   void readParameter(EntryPointEntry& entryPoint, HandedOver how);

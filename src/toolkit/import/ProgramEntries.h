@@ -11,6 +11,7 @@
 
 #include "as/toolkit/Picture.h"
 #include "as/toolkit/Storage.h"
+#include "toolkit/import/CurrencyTable.h"
 #include "toolkit/import/Token.h"
 
 namespace as::toolkit {
@@ -197,14 +198,12 @@ struct CobolProgram {
   std::vector<EntryPointEntry> entryPoints;
 
   std::unordered_map<Index, ConstantEntry> constants;  // By name id.
-  std::unordered_map<Index, int> conventions;
-  std::unordered_map<Index, Index> types;  // The entry of a TYPEDEF by name id.
-  struct Currency {
-    std::string symbol;
-    int characters = 1;
-  };
-  std::vector<Currency> currencies;
-  bool isDecimalPointComma = false;
+  std::unordered_map<Index, Index> types;              // The entry of a TYPEDEF by name id.
+  // What its own SPECIAL-NAMES says: contained programs, which it counts for, too, look for it
+  // here.
+  std::unordered_map<Index, int> conventions;  // By name id.
+  CurrencyTable currencies;
+  bool isDecimalPointComma = false;  // By its own or that of a program around it.
 };
 
 }  // namespace as::toolkit

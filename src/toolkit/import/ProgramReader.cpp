@@ -115,10 +115,7 @@ CobolProgram& ProgramReader::begin(std::string name, const SourcePlace& place) {
   // forgetting to end them.
   program->outer = open_.empty() || open_.size() > mostNested ? nullptr : open_.back();
   if (program->outer != nullptr) {
-    // What SPECIAL-NAMES says counts for contained programs, too.
-    program->currencies = program->outer->currencies;
     program->isDecimalPointComma = program->outer->isDecimalPointComma;
-    program->conventions = program->outer->conventions;
   }
   programs_.push_back(std::move(program));
   return *programs_.back();
@@ -222,8 +219,8 @@ void ProgramReader::readProgramId() {
 void ProgramReader::readBody(CobolProgram& program, const std::string& entryName,
                              std::size_t errors) {
   EnvironmentReader(words_, program, names_).read();
-  RecordBuilder records(dialect_, program, problems_, words_.source());
-  DataDivisionReader(words_, program, names_, records, problems_)
+  RecordBuilder records(dialect_, program, problems_, budget_, passed_);
+  DataDivisionReader(words_, program, names_, records, budget_, problems_)
       .read(program.isCopybook ? stem_ : std::string());
   if (words_.peek().is(Keyword::procedure)) {
     ProcedureReader procedure(words_, program, names_, problems_);

@@ -8,8 +8,10 @@
 #include <vector>
 
 #include "as/toolkit/Storage.h"
+#include "toolkit/import/EntryBudget.h"
 #include "toolkit/import/EntryProblems.h"
 #include "toolkit/import/NameTable.h"
+#include "toolkit/import/PassedCopybooks.h"
 #include "toolkit/import/ProgramEntries.h"
 #include "toolkit/import/RecordBuilder.h"
 #include "toolkit/import/WordReader.h"
@@ -22,12 +24,14 @@ class ProgramReader {
 
   // `stem` names a copybook's program, and its record where it has none.
   ProgramReader(TokenSource& source, const Dialect& dialect, Form form, std::string stem,
-                EntryProblems& problems)
+                EntryProblems& problems, const EntryBudget::Most& most = {})
       : words_(source),
         dialect_(dialect),
         form_(form),
         stem_(std::move(stem)),
-        problems_(problems) {}
+        problems_(problems),
+        budget_(most, problems),
+        passed_(source) {}
 
   // The programs in the order in which they begin.
   std::vector<std::unique_ptr<CobolProgram>> read();
@@ -52,6 +56,8 @@ class ProgramReader {
   Form form_;
   std::string stem_;
   EntryProblems& problems_;
+  EntryBudget budget_;
+  PassedCopybooks passed_;
   NameTable names_;
   std::vector<std::unique_ptr<CobolProgram>> programs_;
   std::vector<CobolProgram*> open_;  // Those that are not ended, the innermost last.

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "toolkit/import/DictionaryText.h"
 #include "toolkit/import/EntryNames.h"
 #include "toolkit/import/ItemKinds.h"
 #include "toolkit/import/RecordLayout.h"
@@ -17,8 +18,6 @@ namespace {
 constexpr int recordLevel = 1;
 constexpr int noncontiguousLevel = 77;
 constexpr std::size_t mostEntries = TypeCopier::mostEntries;
-// Sizes that are asked for while a record is open cost as much as the record is long.
-constexpr std::int64_t mostRelaid = 20'000'000;
 
 std::string levelText(int level) { return (level < 10 ? "0" : "") + std::to_string(level); }
 
@@ -71,6 +70,7 @@ bool RecordBuilder::add(DataEntry entry) {
   isLostTold_ = false;
   if (isRecord) {
     record_ = size();
+    openRecord_.begin(record_);
     entry.parent = none;
     open_.assign(1, {recordLevel, record_});
   } else {
@@ -161,18 +161,10 @@ void RecordBuilder::placeRecord(EntryProblems& problems) {
 }
 
 // Whether a record is empty because the copybook of the system behind it was not found.
-bool RecordBuilder::isFilledBySystem(const DataEntry& record) const {
+bool RecordBuilder::isFilledBySystem(const DataEntry& record) {
   const bool isEmpty = size() == record_ + 1 && record.picture == none && !record.ownUsage &&
                        record.type == none && !record.isDamaged;
-  if (!isEmpty) return false;
-  const auto isInFront = [](const SourcePlace& one, const SourcePlace& other) {
-    return one.line != other.line ? one.line < other.line : one.column < other.column;
-  };
-  const std::vector<SourcePlace>& passed = source_.passedCopybooks();
-  return std::any_of(passed.begin(), passed.end(), [&](const SourcePlace& place) {
-    return place.file == record.place.file && isInFront(record.place, place) &&
-           (behind_.line == 0 || behind_.file != place.file || isInFront(place, behind_));
-  });
+  return isEmpty && passed_.isOneBetween(record.place, behind_);
 }
 
 void RecordBuilder::keepRecord() {
@@ -192,24 +184,32 @@ void RecordBuilder::keepRecord() {
 }
 
 std::optional<std::int64_t> RecordBuilder::lengthOf(const NameReference& reference) {
-  const auto sizeOf = [this](Index entry) -> std::optional<std::int64_t> {
-    if (entry == none || !at(entry).isPlaced) return std::nullopt;
-    return extentOf(at(entry));
-  };
   const Index end = record_ == none ? size() : record_;
   const Index known = finder_.find(reference.names, {0, end}).entry;
-  if (known != none || record_ == none || reference.names.empty()) return sizeOf(known);
-  relaidEntries_ += size() - record_;
-  if (relaidEntries_ > mostRelaid) return std::nullopt;
-  // What stands there of the open record so far; what it does not say yet is said when it is
-  // closed.
+  if (known == none) return lengthInOpenRecord(reference);
+  if (!at(known).isPlaced) return std::nullopt;
+  return extentOf(at(known));
+}
+
+// What stands there of the open record so far; what it does not say yet is said when it is closed.
+std::optional<std::int64_t> RecordBuilder::lengthInOpenRecord(const NameReference& reference) {
+  if (record_ == none) return std::nullopt;
+  const Index item = openRecord_.find(reference.names, size(), reference.place).first;
+  if (item == none) return std::nullopt;
   EntryProblems silent([](EntryRule, const SourcePlace&, const std::string&) {});
-  placeRecord(silent);
-  for (Index i = record_; i < size(); ++i) {
-    const bool isMeant = at(i).nameId == reference.names.front().id;
-    if (isMeant && finder_.isQualified(i, reference.names)) return sizeOf(i);
+  if (at(item).hasMembers) {
+    if (!budget_.addSearches(static_cast<std::size_t>(size() - record_), reference.place)) {
+      return std::nullopt;
+    }
+    placeRecord(silent);
+    return at(item).isPlaced ? std::optional(extentOf(at(item))) : std::nullopt;
   }
-  return std::nullopt;
+  // Its size depends on itself and its groups alone, wherever it stands.
+  std::vector<Index> path;
+  for (Index entry = item; entry != none; entry = at(entry).parent) path.push_back(entry);
+  ItemKinds kinds(dialect_, program_, silent);
+  std::for_each(path.rbegin(), path.rend(), [&kinds](Index entry) { kinds.lookAt(entry); });
+  return extentOf(at(item));
 }
 
 EntryFinder::Found RecordBuilder::find(const std::vector<NameReference::Name>& names) {
@@ -267,6 +267,7 @@ void RecordBuilder::findDepending(DataEntry& entry) {
                        " depends on, is no item of the program");
     return;
   }
+  if (!budget_.addText(pathOf(program_, found.entry).size(), reference.place)) return;
   entry.dependsOn = found.entry;
   if (found.isUnclear) {
     problems_.tell(EntryRule::unclearDepending, reference.place,

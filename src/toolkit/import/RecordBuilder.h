@@ -9,8 +9,11 @@
 #include <vector>
 
 #include "as/toolkit/Storage.h"
+#include "toolkit/import/EntryBudget.h"
 #include "toolkit/import/EntryFinder.h"
 #include "toolkit/import/EntryProblems.h"
+#include "toolkit/import/OpenRecord.h"
+#include "toolkit/import/PassedCopybooks.h"
 #include "toolkit/import/ProgramEntries.h"
 #include "toolkit/import/SharedPlaces.h"
 #include "toolkit/import/TypeCopier.h"
@@ -21,13 +24,15 @@ class RecordBuilder {
  public:
   // All must outlive it.
   RecordBuilder(const Dialect& dialect, CobolProgram& program, EntryProblems& problems,
-                const TokenSource& source)
+                EntryBudget& budget, PassedCopybooks& passed)
       : dialect_(dialect),
         program_(program),
         problems_(problems),
-        source_(source),
+        budget_(budget),
+        passed_(passed),
         finder_(program),
-        types_(program, finder_, problems),
+        openRecord_(program, finder_, budget),
+        types_(program, finder_, openRecord_, budget, problems),
         places_(program, finder_) {}
 
   // The sections that follow.
@@ -65,8 +70,9 @@ class RecordBuilder {
   void nest(DataEntry& entry);
   void link();
   void placeRecord(EntryProblems& problems);
+  std::optional<std::int64_t> lengthInOpenRecord(const NameReference& reference);
   void keepRecord();
-  bool isFilledBySystem(const DataEntry& record) const;
+  bool isFilledBySystem(const DataEntry& record);
   static bool isOfCics(const NameReference& reference);
   bool isOfOuter(const NameReference& reference) const;
   void findDepending(DataEntry& entry);
@@ -74,8 +80,10 @@ class RecordBuilder {
   const Dialect& dialect_;
   CobolProgram& program_;
   EntryProblems& problems_;
-  const TokenSource& source_;
+  EntryBudget& budget_;
+  PassedCopybooks& passed_;
   EntryFinder finder_;
+  OpenRecord openRecord_;
   TypeCopier types_;
   SharedPlaces places_;
 
@@ -91,7 +99,6 @@ class RecordBuilder {
   bool hasRedefinitions_ = false;
   bool isOverfull_ = false;
   bool isLostTold_ = false;  // That entries stand in no record, since the last one.
-  std::int64_t relaidEntries_ = 0;
 };
 
 }  // namespace as::toolkit

@@ -22,7 +22,7 @@ class SourceReader::Impl {
         expander_(options_, copybooks, map, arena_, budget_, report_),
         replaced_(expander_, arena_, budget_, report_),
         tags_(replaced_, report_),
-        tokens_(tags_, arena_) {
+        tokens_(tags_, arena_, report_) {
     expander_.open(std::move(bytes), name);
   }
 

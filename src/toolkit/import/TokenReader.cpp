@@ -4,6 +4,7 @@
 
 #include "toolkit/import/Characters.h"
 #include "toolkit/import/CodePage.h"
+#include "toolkit/import/ImportLimits.h"
 #include "toolkit/import/Replacement.h"
 
 namespace as::toolkit {
@@ -174,6 +175,17 @@ bool TokenReader::readPart(Token& token) {
   return isToken;
 }
 
+// As much of a word as is read.
+std::string_view TokenReader::withinLimit(std::string_view text, const SourcePlace& place) {
+  std::size_t end = importLimits::word;
+  if (text.size() <= end) return text;
+  while (end > 0 && isWithinCharacter(text[end])) --end;
+  report_.add(SourceRule::limit, place,
+              "the word " + quoted(text) + " has more than " + std::to_string(importLimits::word) +
+                  " bytes; what follows them is not read");
+  return text.substr(0, end);
+}
+
 void TokenReader::endUnit() {
   if (inFront_.empty()) return;
   decimalPointIsComma_ = inFront_.back();
@@ -182,7 +194,7 @@ void TokenReader::endUnit() {
 
 void TokenReader::readWord(Token& token, std::string_view text) {
   token.kind = TokenKind::word;
-  token.text = text;
+  token.text = withinLimit(text, token.place);
   const Before before = before_;
   switch (text.size()) {
     case 2:

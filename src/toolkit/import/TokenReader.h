@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "toolkit/import/GluedWords.h"
+#include "toolkit/import/SourceReport.h"
 #include "toolkit/import/TextArena.h"
 #include "toolkit/import/TextWord.h"
 #include "toolkit/import/Token.h"
@@ -14,8 +15,9 @@ namespace as::toolkit {
 
 class TokenReader : public TokenSource {
  public:
-  // Both must outlive it.
-  TokenReader(TextWordSource& source, TextArena& arena) : words_(source, arena) {}
+  // All must outlive it.
+  TokenReader(TextWordSource& source, TextArena& arena, SourceReport& report)
+      : words_(source, arena), report_(report) {}
 
   void read(Token& token) override;
 
@@ -30,11 +32,13 @@ class TokenReader : public TokenSource {
   void readPicture(Token& token);
   bool readPart(Token& token);
   void readWord(Token& token, std::string_view text);
+  std::string_view withinLimit(std::string_view text, const SourcePlace& place);
   void endUnit();
   std::size_t numberSize(std::string_view text) const;
   bool isPicture() const;
 
   GluedWords words_;
+  SourceReport& report_;
   TextWord word_;
   // What is left of a run that is several words.
   std::string_view rest_;

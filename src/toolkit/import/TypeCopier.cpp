@@ -11,9 +11,6 @@ namespace as::toolkit {
 
 namespace {
 
-// What is looked for in the record that is open costs as much as that is long.
-constexpr std::int64_t mostLooked = 20'000'000;
-
 using Kind = NameReference::Kind;
 
 }  // namespace
@@ -34,11 +31,7 @@ Index TypeCopier::sourceOf(const NameReference& reference, Index record,
   const Index known = finder_.find(reference.names, {0, record}).entry;
   if (known != none) return known;
   // Of the record that is being built, what stands in front.
-  for (Index before = size() - 2; before >= record; --before) {
-    if (++looked_ > mostLooked) return none;
-    if (at(before).nameId == name && finder_.isQualified(before, reference.names)) return before;
-  }
-  return none;
+  return open_.find(reference.names, size() - 1, reference.place).last;
 }
 
 // Gives the entry, which is the last one, what its type or the item that it is like has, by itself
@@ -58,6 +51,10 @@ bool TypeCopier::putTypeIn(Index target, Index record, int depth) {
   if (from == &program_ && isBelow(target, source)) {
     problems_.tell(EntryRule::lostType, reference.place,
                    textOf(reference.names) + " is the group that the item stands in");
+    at(target).isDamaged = true;
+    return false;
+  }
+  if (!mayRepeat(*from, from->entries[static_cast<std::size_t>(source)], reference.place)) {
     at(target).isDamaged = true;
     return false;
   }
@@ -92,6 +89,32 @@ bool TypeCopier::isInGroupWithUsage(Index entry) {
     if (at(group).ownUsage) return true;
   }
   return false;
+}
+
+// Whether the limits let an entry stand in a dictionary once more, with all that belongs to it.
+bool TypeCopier::mayRepeat(const CobolProgram& from, const DataEntry& entry,
+                           const SourcePlace& place) {
+  std::size_t text = entry.name.size();
+  if (entry.picture != none) {
+    text += from.pictures[static_cast<std::size_t>(entry.picture)].text.size();
+  }
+  for (const Index reference : {entry.depending, entry.reference}) {
+    if (reference == none) continue;
+    for (const auto& name : from.references[static_cast<std::size_t>(reference)].names) {
+      text += name.text.size();
+    }
+  }
+  if (!budget_.addCopies(1 + static_cast<std::size_t>(entry.conditionCount), place)) return false;
+  for (Index i = entry.firstCondition; i < entry.firstCondition + entry.conditionCount; ++i) {
+    const ConditionEntry& condition = from.conditions[static_cast<std::size_t>(i)];
+    text += condition.name.size();
+    if (!budget_.addCopies(static_cast<std::size_t>(condition.valueCount), place)) return false;
+    for (Index j = condition.firstValue; j < condition.firstValue + condition.valueCount; ++j) {
+      const ConditionValueEntry& value = from.values[static_cast<std::size_t>(j)];
+      text += value.first.size() + value.last.size();
+    }
+  }
+  return budget_.addText(text, place);
 }
 
 // A copy of an entry as one of this program, without a place in its tree.
@@ -177,6 +200,16 @@ void TypeCopier::lengthen(DataEntry& entry) {
   entry.picture = static_cast<Index>(program_.pictures.size() - 1);
 }
 
+// Whether one more entry may stand so deep in the item of that name.
+bool TypeCopier::mayStand(int depth, const std::string& name, const SourcePlace& place) {
+  const bool isTooDeep = depth > mostDepth;
+  if (!isTooDeep && program_.entries.size() < mostEntries) return true;
+  problems_.tell(isTooDeep ? EntryRule::nestsTooDeep : EntryRule::tooMuch, place,
+                 isTooDeep ? "the types in " + name + " nest too deep"
+                           : "there are too many entries with those of " + name);
+  return false;
+}
+
 bool TypeCopier::copyMembers(const CobolProgram& from, Index source, Index target, int depth) {
   bool hasRedefinitions = false;
   const SourcePlace place = at(target).place;
@@ -187,19 +220,16 @@ bool TypeCopier::copyMembers(const CobolProgram& from, Index source, Index targe
   for (Index i = source + 1; i < last; ++i) {
     if (from.entries[static_cast<std::size_t>(i)].parent < source) break;
     if (from.entries[static_cast<std::size_t>(i)].isRenaming) continue;
-    DataEntry member = brought(from, i);
-    const int below = depths[member.parent] + 1;
+    const DataEntry& original = from.entries[static_cast<std::size_t>(i)];
+    const int below = depths[original.parent] + 1;
     depths[i] = below;
-    const bool isTooDeep = below > mostDepth;
-    if (isTooDeep || program_.entries.size() >= mostEntries) {
-      problems_.tell(isTooDeep ? EntryRule::nestsTooDeep : EntryRule::tooMuch, place,
-                     isTooDeep ? "the types in " + name + " nest too deep"
-                               : "there are too many entries with those of " + name);
+    if (!mayStand(below, name, place) || !mayRepeat(from, original, place)) {
       // What was to come below the last one does not.
       program_.entries.back().hasMembers = false;
       program_.entries.back().isDamaged = true;
       return hasRedefinitions;
     }
+    DataEntry member = brought(from, i);
     hasRedefinitions = hasRedefinitions || member.isRedefinition;
     member.parent += shift;
     member.section = at(target).section;

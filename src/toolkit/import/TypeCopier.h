@@ -3,10 +3,12 @@
 #define TOOLKIT_IMPORT_TYPECOPIER_H_
 
 #include <cstddef>
-#include <cstdint>
+#include <string>
 
+#include "toolkit/import/EntryBudget.h"
 #include "toolkit/import/EntryFinder.h"
 #include "toolkit/import/EntryProblems.h"
+#include "toolkit/import/OpenRecord.h"
 #include "toolkit/import/ProgramEntries.h"
 
 namespace as::toolkit {
@@ -18,8 +20,9 @@ class TypeCopier {
   static constexpr std::size_t mostEntries = 2'000'000;
 
   // All must outlive it.
-  TypeCopier(CobolProgram& program, EntryFinder& finder, EntryProblems& problems)
-      : program_(program), finder_(finder), problems_(problems) {}
+  TypeCopier(CobolProgram& program, EntryFinder& finder, OpenRecord& open, EntryBudget& budget,
+             EntryProblems& problems)
+      : program_(program), finder_(finder), open_(open), budget_(budget), problems_(problems) {}
 
   // Gives the last entry of the program, which has a type and stands so deep in `record`, what that
   // has, by itself or by its groups. Whether redefinitions came with it.
@@ -33,15 +36,18 @@ class TypeCopier {
   // Whether the entry stands in that group.
   bool isBelow(Index entry, Index group);
   bool isInGroupWithUsage(Index entry);
+  bool mayRepeat(const CobolProgram& from, const DataEntry& entry, const SourcePlace& place);
   DataEntry brought(const CobolProgram& from, Index source);
   static void takeDescription(const DataEntry& type, DataEntry& entry);
   void lengthen(DataEntry& entry);
+  bool mayStand(int depth, const std::string& name, const SourcePlace& place);
   bool copyMembers(const CobolProgram& from, Index source, Index target, int depth);
 
   CobolProgram& program_;
   EntryFinder& finder_;
+  OpenRecord& open_;
+  EntryBudget& budget_;
   EntryProblems& problems_;
-  std::int64_t looked_ = 0;
 };
 
 }  // namespace as::toolkit
