@@ -95,9 +95,12 @@ const Row rows[] = {
     {"LengthsOfGroups", "01 R. 05 A PIC X. 78 C VALUE LENGTH OF R. 78 D VALUE LENGTH OF R.",
      searches, 4},
     {"QualifiedNames",
-     "01 R. 05 G. 10 A PIC X. 05 H. 10 A PIC X. 05 B LIKE A OF G. 05 C LIKE A OF G.", searches, 2},
-    {"LookedAtInFurtherEntries",
-     "01 R. 05 G. 10 A PIC X. 05 B LIKE A OF G. 05 H. 10 A PIC X. 05 C LIKE A OF G.", searches, 2},
+     "01 R. 05 G. 10 A PIC X. 05 G. 10 A PIC X. 05 B LIKE A OF G. 05 C LIKE A OF G.", searches, 2},
+    {"QualifiedNamesInFurtherEntries",
+     "01 R. 05 G. 10 A PIC X. 05 B LIKE A OF G. 05 G. 10 A PIC X. 05 C LIKE A OF G.", searches, 2},
+    // The group, and what stands in it.
+    {"QualifiedNamesInARareGroup",
+     "01 R. 05 F. 10 A PIC X. 05 G. 10 A PIC X. 05 H. 10 A PIC X. 05 B LIKE A OF G.", searches, 2},
 };
 INSTANTIATE_TEST_SUITE_P(All, EntryBudgetTest, testing::ValuesIn(rows),
                          [](const auto& row) { return std::string(row.param.name); });
@@ -132,6 +135,42 @@ TEST(EntryBudget, RefusesTheProgramThatIsBeyond) {
   EXPECT_FALSE(read.programs[1]->isRefused);
   EXPECT_TRUE(read.programs[2]->isRefused);
 }
+
+// Which of several is meant: the last one in front of LIKE, whatever stands around it.
+struct LikeRow {
+  const char* source;
+  int length;
+};
+
+void PrintTo(const LikeRow& row, std::ostream* out) { *out << row.source; }
+
+class OpenRecordTest : public testing::TestWithParam<LikeRow> {};
+
+TEST_P(OpenRecordTest, HasTheItemThatIsMeant) {
+  const Read read = readWithin(std::string("01 R. ") + GetParam().source);
+  ASSERT_EQ(read.programs.size(), 1U);
+  EXPECT_FALSE(read.programs.front()->isRefused);
+  EXPECT_EQ(read.programs.front()->entries.back().length, GetParam().length);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, OpenRecordTest,
+    testing::Values(
+        LikeRow{"05 A PIC X. 05 A PIC XX. 05 B LIKE A.", 2},
+        LikeRow{"05 G. 10 A PIC X. 05 H. 10 A PIC XX. 05 A PIC X(3). 05 B LIKE A OF G.", 1},
+        LikeRow{"05 G. 10 A PIC X. 05 H. 10 A PIC XX. 05 A PIC X(3). 05 B LIKE A OF H.", 2},
+        LikeRow{"05 G. 10 A PIC X. 05 G. 10 A PIC XX. 05 A PIC X(3). 05 B LIKE A OF G.", 2},
+        LikeRow{"05 G. 10 A PIC X. 10 A PIC XX. 05 A PIC X(3). 05 B LIKE A IN G IN R.", 2},
+        LikeRow{"05 G. 10 A PIC X. 10 G. 15 A PIC XX. 05 A PIC X(3). 05 A PIC X(4). "
+                "05 B LIKE A OF G OF G.",
+                2},
+        LikeRow{"05 G. 10 A PIC X. 10 B LIKE A OF G. 10 A PIC XX. 10 C LIKE A OF G.", 2},
+        LikeRow{"05 G. 10 A PIC X. 05 B LIKE A OF G. 05 A PIC X(3). 05 A PIC X(4). 05 G. "
+                "10 A PIC XX. 05 A PIC X(5). 05 C LIKE A OF G.",
+                2},
+        LikeRow{"05 T. 10 A PIC X. 10 H. 15 A PIC XX. 05 U LIKE T. 05 A PIC X(3). "
+                "05 B LIKE A OF H OF U.",
+                2}));
 
 // A record that is laid out while it is open is laid out again, its items not made again.
 TEST(OpenRecords, ImplyPicturesOnce) {

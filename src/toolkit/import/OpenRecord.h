@@ -33,16 +33,24 @@ class OpenRecord {
   Found find(const std::vector<NameReference::Name>& names, Index end, const SourcePlace& place);
 
  private:
+  using Entries = std::vector<Index>;
+
   struct Known {
     Found found;
     std::size_t lookedAt = 0;
   };
 
+  const Entries* entriesOf(Index nameId) const;
+  // Whether the entry stands in that group.
+  bool isBelow(Index entry, Index group) const;
+  std::size_t lookAt(const std::vector<NameReference::Name>& names, const Entries& wanted,
+                     const Entries& groups, Known& known) const;
+
   const CobolProgram& program_;
   const EntryFinder& finder_;
   EntryBudget& budget_;
   Index next_ = 0;  // The first one that is not in byName_.
-  std::unordered_map<Index, std::vector<Index>> byName_;
+  std::unordered_map<Index, Entries> byName_;
   std::map<std::vector<Index>, Known> known_;  // By the numbers of the names.
 };
 
