@@ -1,11 +1,36 @@
 #include "toolkit/generate/WsdlPlan.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "toolkit/generate/MessagePlan.h"
 
 namespace as::toolkit::gen {
+
+namespace {
+
+// Whether types have field attributes, or one does that stands in them: in their order. From those
+// that have some to what they stand in, as chains of type definitions have any length.
+std::vector<bool> typesWithAttributes(const ServiceModel& model) {
+  std::vector<std::vector<std::size_t>> around(model.types.size());
+  std::vector<std::size_t> waiting;
+  for (std::size_t i = 0; i < model.types.size(); ++i) {
+    if (!model.types[i].attributes.empty()) waiting.push_back(i);
+    for (const Field& field : model.types[i].fields) {
+      if (field.structure != none) around[field.structure].push_back(i);
+    }
+  }
+  std::vector<bool> have(model.types.size(), false);
+  while (!waiting.empty()) {
+    const std::size_t type = waiting.back();
+    waiting.pop_back();
+    if (have[type]) continue;
+    have[type] = true;
+    waiting.insert(waiting.end(), around[type].begin(), around[type].end());
+  }
+  return have;
+}
+
+}  // namespace
 
 WsdlPlan::WsdlPlan(const Job& job, SchemaSet& schemas)
     : job_(job), model_(job.model), schemas_(schemas) {
@@ -110,25 +135,14 @@ void WsdlPlan::tellEncoded(const std::string& place, const std::string& kind) co
 
 // What is encoded has no attributes.
 void WsdlPlan::tellAttributes(const Operation& operation) {
+  if (haveAttributes_.empty()) haveAttributes_ = typesWithAttributes(model_);
   for (const Field& parameter : operation.parameters) {
-    if (parameter.structure == none || !hasAttributes(parameter.structure)) continue;
+    if (parameter.structure == none || !haveAttributes_[parameter.structure]) continue;
     job_.warn("encoded-attribute", model_.placeOf(operation) + "." + parameter.name,
               "it has field attributes, which SOAP's encoding does not know: the schema has them "
               "all the same",
               "make them fields, or the use literal");
   }
-}
-
-// Of a structure, or one in it.
-bool WsdlPlan::hasAttributes(std::size_t type) {
-  const auto [known, isNew] = hasAttributes_.try_emplace(type, false);
-  if (!isNew) return known->second;
-  const std::vector<Field>& fields = model_.types[type].fields;
-  return hasAttributes_[type] =
-             !model_.types[type].attributes.empty() ||
-             std::any_of(fields.begin(), fields.end(), [this](const Field& field) {
-               return field.structure != none && hasAttributes(field.structure);
-             });
 }
 
 void WsdlPlan::giveNames() {

@@ -64,7 +64,6 @@ class WsdlPlan {
   SchemaSet::Handle typeOf(const Operation& operation, const Field& field);
   void tellEncoded(const std::string& place, const std::string& kind) const;
   void tellAttributes(const Operation& operation);
-  bool hasAttributes(std::size_t type);
 
   const Job& job_;
   const ServiceModel& model_;
@@ -73,7 +72,7 @@ class WsdlPlan {
   std::vector<WsdlMessage> messages_;
   std::vector<WsdlOperation> operations_;
   std::unordered_map<const Field*, SchemaSet::Handle> types_;
-  std::unordered_map<std::size_t, bool> hasAttributes_;
+  std::vector<bool> haveAttributes_;  // Types, or what stands in them; empty until it is asked.
 };
 
 }  // namespace as::toolkit::gen
