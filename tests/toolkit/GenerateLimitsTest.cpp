@@ -3,9 +3,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
 #include <string>
+#include <utility>
 
 #include "support/Documents.h"
+#include "support/SmallStack.h"
 #include "support/Toolkit.h"
 
 namespace {
@@ -150,6 +153,62 @@ TEST_F(GenerateLimits, LargeExamplesAreLeftOutUnlessTheyAreAskedFor) {
   EXPECT_THAT(made("openapi", "java", tableOf("100000"), options).findings, IsEmpty());
   EXPECT_THAT(textsOf(made("openapi", "java", tableOf("100001"), options).findings),
               ElementsAre(left));
+}
+
+// Definitions each of which refers to the one in front of it, and an encoded operation that takes
+// the last one.
+std::string chainOf(int definitions) {
+  std::string text = "<parameterTypeDefs>";
+  for (int i = 0; i < definitions; ++i) {
+    const std::string inner = i == 0 ? "dataType='int'" : "ref='T" + std::to_string(i - 1) + "'";
+    text +=
+        "<parameter name='T" + std::to_string(i) + "'><field name='f' " + inner + "/></parameter>";
+  }
+  return text +
+         "</parameterTypeDefs><operations><operation name='ask' entryPoint='E' style='rpc' "
+         "inputUse='encoded' outputUse='encoded' inputNamespace='urn:a' outputNamespace='urn:b'>"
+         "<parameters><parameter name='p' byType='in' ref='T" +
+         std::to_string(definitions - 1) + "'/></parameters></operation></operations>";
+}
+
+// Nothing that is made of them is made recursively, or it is left out.
+TEST_F(GenerateLimits, ChainsOfDefinitionsHaveAnyLength) {
+  made("wsdl", "ws", "");  // Writes the dictionary.
+  write("s.xml", test::serviceDocument(toolkit::findFlavour("ws")->documents.uri,
+                                       "name='Tests' implementation='ws' programName='PAYROLL' "
+                                       "dataDictFilename='p.xml'",
+                                       chainOf(2500)));
+  toolkit::GenerateOptions all;
+  all.values = {{"examples", "all"}};
+  const std::pair<const char*, toolkit::GenerateOptions> rows[] = {
+      {"wsdl", {}}, {"openapi", {}}, {"openapi", all}};
+  for (const auto& [kind, options] : rows) {
+    test::onASmallStack([&, word = kind, chosen = options] {
+      const toolkit::Generated made =
+          toolkit::generateFrom(reader(), *toolkit::findGeneratorKind(word), {"s.xml"}, chosen);
+      EXPECT_EQ(made.files.size(), 1U) << word << testing::PrintToString(textsOf(made.findings));
+    });
+  }
+}
+
+// A table occurs once at least in an example, but where it would have no end.
+TEST_F(GenerateLimits, ExamplesOfWhatStandsInItselfEnd) {
+  made("openapi", "java", "");
+  write("s.xml",
+        test::serviceDocument(
+            toolkit::findFlavour("java")->documents.uri,
+            "name='Tests' implementation='java' programName='PAYROLL' dataDictFilename='p.xml'",
+            "<parameterTypeDefs><parameter name='T' occurs='5'><field name='n' dataType='int'/>"
+            "<field name='f' ref='T'/></parameter></parameterTypeDefs><operations>"
+            "<operation name='ask' entryPoint='E'><parameters><parameter name='p' byType='in' "
+            "ref='T'/></parameters></operation></operations>"));
+  const toolkit::Generated made =
+      toolkit::generateFrom(reader(), *toolkit::findGeneratorKind("openapi"), {"s.xml"});
+  ASSERT_EQ(made.files.size(), 1U) << testing::PrintToString(textsOf(made.findings));
+  const nlohmann::json page = nlohmann::json::parse(made.files.front().content);
+  EXPECT_EQ(page["paths"]["/ask"]["post"]["requestBody"]["content"]["application/json"]["example"],
+            nlohmann::json::parse(R"({"p": [{"n": 1147483647}, {"n": 1147483647}, {"n": 1147483647},
+                                            {"n": 1147483647}, {"n": 1147483647}]})"));
 }
 
 TEST_F(GenerateLimits, PathsHoldAnyName) {

@@ -3,11 +3,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <limits>
 #include <ostream>
 #include <string>
 #include <vector>
 
-#include "toolkit/generate/Facets.h"
+#include "toolkit/generate/FacetLookup.h"
 
 namespace {
 
@@ -116,7 +118,9 @@ std::string told(const Facets& facets) {
   if (!facets.most.empty()) text += "to " + facets.most + " ";
   if (facets.longest != -1) text += "longest " + std::to_string(facets.longest) + " ";
   if (!facets.pattern.empty()) text += facets.pattern + " ";
-  for (const std::string& value : facets.values) text += "'" + value + "' ";
+  if (facets.hasValues()) {
+    for (const std::string& value : *facets.onlyValues) text += "'" + value + "' ";
+  }
   return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
@@ -125,11 +129,11 @@ class FacetsTest : public testing::TestWithParam<Row> {};
 TEST_P(FacetsTest, AreThoseOfItemAndCapacity) {
   const Row& row = GetParam();
   const Case made(row.capacity, row.item.empty() ? nullptr : &row.item.front());
-  EXPECT_EQ(told(facetsOf(made.model, made.field, true)), row.expected);
+  EXPECT_EQ(told(FacetLookup(made.model).facetsOf(made.field, true)), row.expected);
   const bool hasConditions = !row.item.empty() && !row.item.front().conditions.empty();
   const bool hasValues = std::string(row.expected).find('\'') != std::string::npos;
-  EXPECT_EQ(hasOtherConditions(made.model, made.field), hasConditions && !hasValues);
-  EXPECT_THAT(facetsOf(made.model, made.field).values, testing::IsEmpty());
+  EXPECT_EQ(FacetLookup(made.model).hasOtherConditions(made.field), hasConditions && !hasValues);
+  EXPECT_THAT(FacetLookup(made.model).facetsOf(made.field, false).onlyValues, testing::IsNull());
 }
 
 const ConditionValue range{"1", "3", true};
@@ -192,6 +196,13 @@ TEST(FacetsOfManyDigits, AreLeftOut) {
   };
   EXPECT_EQ(patternOf(number(1000)), "[0-9]{1,1000}");
   EXPECT_EQ(patternOf(number(1001)), "");
+  EXPECT_EQ(patternOf(number(5, 1000)), "0?([.][0-9]{1,1000})?");
+  EXPECT_EQ(patternOf(number(5, -1000)), "[0-9]{1,1005}");
+  for (const int scale :
+       {1001, -1001, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
+    EXPECT_EQ(patternOf(number(5, scale)), "") << scale;
+    EXPECT_EQ(toldOf(number(5, scale)), "") << scale;
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -323,11 +334,42 @@ TEST(FacetsOfWords, AreNoValues) {
         "HIGH-VALUES", "LOW-VALUE", "LOW-VALUES", "NULL", "NULLS", "ALL"}) {
     const Item of = with(sized(Kind::text, 20), {value(word)});
     const Case made(texts, &of);
-    EXPECT_TRUE(hasOtherConditions(made.model, made.field)) << word;
+    EXPECT_TRUE(FacetLookup(made.model).hasOtherConditions(made.field)) << word;
   }
   const Item of = with(sized(Kind::text, 20), {value("SPACED")});
   const Case made(texts, &of);
-  EXPECT_FALSE(hasOtherConditions(made.model, made.field));
+  EXPECT_FALSE(FacetLookup(made.model).hasOtherConditions(made.field));
+}
+
+// Each of so many was compared with all others, anew for every field.
+TEST(FacetsOfManyConditions, ReadEachValueOnce) {
+  constexpr std::size_t many = 200'000;
+  Item of = number(6);
+  of.conditions = {{"C", {}}};
+  for (std::size_t i = 0; i < 2 * many; ++i) {
+    of.conditions.front().values.push_back(value(std::to_string(i % many).c_str()));
+  }
+  const Case made(integer(32), &of);
+  const FacetLookup lookup(made.model);
+  const auto first = lookup.facetsOf(made.field, true).onlyValues;
+  ASSERT_EQ(first->size(), many);
+  EXPECT_EQ(first->back(), "199999");
+  for (std::size_t i = 0; i < many; ++i) {
+    ASSERT_FALSE(lookup.hasOtherConditions(made.field));
+    ASSERT_EQ(lookup.facetsOf(made.field, true).onlyValues, first);
+  }
+}
+
+// What one can hold of an item another one may not.
+TEST(FacetsOfManyConditions, AreThoseOfEachCapacity) {
+  const Item of = with(item(Kind::pointer), {value("256")});
+  Case made(integer(16, false), &of);
+  const FacetLookup lookup(made.model);
+  EXPECT_EQ(told(lookup.facetsOf(made.field, true)), "behind 0 '256'");
+  made.field.capacity = integer(8, false);
+  EXPECT_EQ(told(lookup.facetsOf(made.field, true)), "behind 0");
+  made.field.capacity = texts;
+  EXPECT_EQ(told(lookup.facetsOf(made.field, true)), "'256'");
 }
 
 TEST(LinesAbout, TellItemTableAndConditions) {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "support/TempDirectory.h"
-#include "toolkit/generate/Facets.h"
+#include "toolkit/generate/FacetLookup.h"
 #include "toolkit/generate/JsonTypes.h"
 #include "toolkit/generate/SampleMaker.h"
 #include "toolkit/generate/TypeTable.h"
@@ -21,6 +21,7 @@ using namespace as::toolkit::gen;
 using as::toolkit::Capacity;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::IsNull;
 using Kind = Capacity::Kind;
 
 Field fieldOf(const Capacity& capacity) {
@@ -124,7 +125,11 @@ struct Mapped {
     field.item = 0;
   }
   Facets facets(bool withConditions = false) const {
-    return facetsOf(model, field, withConditions);
+    return FacetLookup(model).facetsOf(field, withConditions);
+  }
+  std::vector<std::string> values() const {
+    const Facets read = facets(true);
+    return read.hasValues() ? *read.onlyValues : std::vector<std::string>();
   }
   std::string sample() const { return SampleMaker(model).valueOf(field); }
 
@@ -165,7 +170,7 @@ TEST(FacetsTest, DigitsBehindThePointAlone) {
   const Mapped mapped(numberOf(2, 4, false), {Kind::decimal});
   EXPECT_EQ(mapped.facets().totalDigits, 4);
   EXPECT_EQ(mapped.facets().most, "0.9999");
-  EXPECT_EQ(mapped.sample(), "0.1234");
+  EXPECT_EQ(mapped.sample(), "0.0012");
 }
 
 TEST(FacetsTest, BinaryItemsHoldWhatTheirBytesHold) {
@@ -191,15 +196,15 @@ TEST(FacetsTest, ConditionsAreValuesWhereTheyAreAskedFor) {
   Item item = textOf(3);
   item.conditions = {{"IS-A", {{"A  ", "", false}}}, {"IS-B", {{"BBB", "", false}}}};
   const Mapped mapped(item, {Kind::text});
-  EXPECT_THAT(mapped.facets().values, IsEmpty());
-  EXPECT_THAT(mapped.facets(true).values, ElementsAre("A", "BBB"));
+  EXPECT_THAT(mapped.facets().onlyValues, IsNull());
+  EXPECT_THAT(mapped.values(), ElementsAre("A", "BBB"));
   EXPECT_EQ(mapped.sample(), "A");
 }
 
 TEST(FacetsTest, NumbersOfConditionsAreWrittenAsNumbers) {
   Item item = numberOf(4, 1, true);
   item.conditions = {{"IS", {{"+007.5", "", false}, {"-2", "", false}}}};
-  EXPECT_THAT(Mapped(item, {Kind::decimal}).facets(true).values, ElementsAre("7.5", "-2"));
+  EXPECT_THAT(Mapped(item, {Kind::decimal}).values(), ElementsAre("7.5", "-2"));
 }
 
 TEST(FacetsTest, ConditionsThatAreNeverTrueMakeNoValues) {
@@ -224,7 +229,7 @@ TEST(FacetsTest, ConditionsThatAreNeverTrueMakeNoValues) {
   for (const auto& row : rows) {
     Item item = row.item;
     item.conditions = {{"IS", {{row.value, "", false}}}};
-    EXPECT_EQ(Mapped(item, row.capacity).facets(true).values.size(), row.fits ? 1U : 0U)
+    EXPECT_EQ(Mapped(item, row.capacity).values().size(), row.fits ? 1U : 0U)
         << row.value << " of " << item.digits << " digits";
   }
 }
@@ -284,7 +289,7 @@ TEST(FacetsTest, ZerosInFrontOfThePointCountAsDigits) {
   EXPECT_EQ(mapped.facets().totalDigits, 5);
   EXPECT_EQ(mapped.facets().most, "99999");
   EXPECT_EQ(Mapped(numberOf(3, -2, false), {Kind::text}).facets().pattern, "[0-9]{1,5}");
-  EXPECT_EQ(Mapped(numberOf(3, -2, false), {Kind::text}).sample(), "12345");
+  EXPECT_EQ(Mapped(numberOf(3, -2, false), {Kind::text}).sample(), "12300");
 }
 
 TEST(FacetsTest, AddressesAreIntegersOfAnySize) {
@@ -333,7 +338,7 @@ TEST(FacetsTest, ValuesOfConditionsAreNumerals) {
         Row{"1E3", nullptr}, Row{"1.2.3", nullptr}, Row{"--1", nullptr}, Row{"ZERO", nullptr}}) {
     Item item = numberOf(7, 2, true);
     item.conditions = {{"IS", {{row.text, "", false}}}};
-    const std::vector<std::string> values = Mapped(item, {Kind::decimal}).facets(true).values;
+    const std::vector<std::string> values = Mapped(item, {Kind::decimal}).values();
     if (row.numeral == nullptr) {
       EXPECT_THAT(values, IsEmpty()) << row.text;
     } else {
@@ -345,14 +350,14 @@ TEST(FacetsTest, ValuesOfConditionsAreNumerals) {
 TEST(FacetsTest, ConditionsAreNoValuesOfOtherTypes) {
   Item item = textOf(3);
   item.conditions = {{"IS", {{"ABCD", "", false}}}};
-  EXPECT_THAT(Mapped(item, {Kind::text}).facets(true).values, IsEmpty());
+  EXPECT_THAT(Mapped(item, {Kind::text}).values(), IsEmpty());
   item.conditions = {{"IS", {{"ABC", "", false}}}};
-  EXPECT_THAT(Mapped(item, {Kind::bytes}).facets(true).values, IsEmpty());
+  EXPECT_THAT(Mapped(item, {Kind::bytes}).values(), IsEmpty());
   item.conditions = {{"IS", {{"ÄÖÜ ", "", false}}}};
   item.characters = 4;
-  EXPECT_THAT(Mapped(item, {Kind::text}).facets(true).values, ElementsAre("ÄÖÜ"));
+  EXPECT_THAT(Mapped(item, {Kind::text}).values(), ElementsAre("ÄÖÜ"));
   item.characters = 0;
-  EXPECT_THAT(Mapped(item, {Kind::text}).facets(true).values, ElementsAre("ÄÖÜ"));
+  EXPECT_THAT(Mapped(item, {Kind::text}).values(), ElementsAre("ÄÖÜ"));
 }
 
 TEST(FacetsTest, AConditionOfAnAddressIsLimitedByItsType) {
@@ -360,26 +365,24 @@ TEST(FacetsTest, AConditionOfAnAddressIsLimitedByItsType) {
        {std::pair("4294967295", true), std::pair("4294967296", false), std::pair("-1", false)}) {
     Item item = itemOf(Item::Kind::pointer, 4);
     item.conditions = {{"IS", {{value, "", false}}}};
-    EXPECT_EQ(Mapped(item, {Kind::integer, 0, 32, false}).facets(true).values.empty(), !fits)
-        << value;
+    EXPECT_EQ(Mapped(item, {Kind::integer, 0, 32, false}).values().empty(), !fits) << value;
   }
   // An address of a length that nobody tells.
   Item item = itemOf(Item::Kind::pointer, 0);
   item.conditions = {{"IS", {{"-99999999999999999999", "", false}}}};
-  EXPECT_THAT(Mapped(item, {Kind::integer}).facets(true).values,
-              ElementsAre("-99999999999999999999"));
+  EXPECT_THAT(Mapped(item, {Kind::integer}).values(), ElementsAre("-99999999999999999999"));
 }
 
 TEST(FacetsTest, AValueOfTwoConditionsIsOne) {
   Item item = numberOf(2, 0, false);
   item.conditions = {{"A", {{"1", "", false}, {"2", "", false}}}, {"B", {{"01", "", false}}}};
-  EXPECT_THAT(Mapped(item, {Kind::integer, 2, 8}).facets(true).values, ElementsAre("1", "2"));
+  EXPECT_THAT(Mapped(item, {Kind::integer, 2, 8}).values(), ElementsAre("1", "2"));
 }
 
 TEST(FacetsTest, NothingIsOtherThanTheConditionsOfNoItem) {
-  EXPECT_FALSE(hasOtherConditions(ServiceModel(), fieldOf({Kind::text})));
-  EXPECT_FALSE(hasOtherConditions(Mapped(textOf(3), {Kind::text}).model,
-                                  Mapped(textOf(3), {Kind::text}).field));
+  EXPECT_FALSE(FacetLookup(ServiceModel()).hasOtherConditions(fieldOf({Kind::text})));
+  const Mapped mapped(textOf(3), {Kind::text});
+  EXPECT_FALSE(FacetLookup(mapped.model).hasOtherConditions(mapped.field));
 }
 
 TEST(FacetsTest, PatternsAreOfAnyNumberOfDigitsBehindThePoint) {
@@ -406,10 +409,10 @@ TEST(FacetsTest, NoMoreIsToldOfAFieldThanAnyoneReads) {
 TEST(FacetsTest, RangesAndWordsMakeNoValues) {
   Item item = textOf(3);
   item.conditions = {{"IS", {{"A", "", false}, {"B", "D", true}}}};
-  EXPECT_TRUE(
-      hasOtherConditions(Mapped(item, {Kind::text}).model, Mapped(item, {Kind::text}).field));
+  const Mapped mapped(item, {Kind::text});
+  EXPECT_TRUE(FacetLookup(mapped.model).hasOtherConditions(mapped.field));
   item.conditions = {{"IS", {{"SPACES", "", false}}}};
-  EXPECT_THAT(Mapped(item, {Kind::text}).facets(true).values, IsEmpty());
+  EXPECT_THAT(Mapped(item, {Kind::text}).values(), IsEmpty());
 }
 
 TEST(SampleMakerTest, CountersTellHowOftenTablesOccur) {

@@ -1,7 +1,9 @@
-// What the picture, the size and the conditions of a COBOL item say of the values of a field.
+// What the picture and the size of a COBOL item say of the values of a field. FacetLookup adds what
+// its conditions say.
 #ifndef TOOLKIT_GENERATE_FACETS_H_
 #define TOOLKIT_GENERATE_FACETS_H_
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,17 +23,22 @@ struct Facets {
   // Of texts that stand for numbers: a regular expression for the whole text, of what XML Schema
   // and ECMAScript both know; empty for any.
   std::string pattern;
-  // The only values; empty for any.
-  std::vector<std::string> values;
+  // The only values; null or empty for any. There may be many, and many fields have the same.
+  std::shared_ptr<const std::vector<std::string>> onlyValues;
+
+  bool hasValues() const { return onlyValues != nullptr && !onlyValues->empty(); }
 };
 
-// Of a field that has a value. `withConditions`: the values of its item's conditions (level 88) are
-// the only ones, where these are single values of the field's kind.
-Facets facetsOf(const ServiceModel& model, const Field& field, bool withConditions = false);
+// Of a field that has a value. Values of conditions are not looked at.
+Facets facetsOf(const ServiceModel& model, const Field& field);
 
-// Whether the item has conditions of which facetsOf() makes no values, for ranges are among them or
-// words like SPACES.
-bool hasOtherConditions(const ServiceModel& model, const Field& field);
+// Whether it holds integers or decimal numbers.
+bool isExact(const Capacity& capacity);
+
+// Limit numbers to so many bits, 64 at most, or to so many digits. Numbers that no item has limit
+// nothing.
+void limitBits(int bits, bool isSigned, Facets& facets);
+void limitDigits(int digits, int scale, bool isSigned, Facets& facets);
 
 // A regular expression for numerals of so many digits, 0 for any number, `fraction` of them behind
 // the point, -1 for any.

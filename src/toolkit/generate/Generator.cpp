@@ -5,7 +5,7 @@
 
 #include "as/toolkit/Version.h"
 #include "toolkit/generate/CodeText.h"
-#include "toolkit/generate/Facets.h"
+#include "toolkit/generate/FacetLookup.h"
 #include "toolkit/generate/NameCharacters.h"
 #include "toolkit/text/Phrases.h"
 
@@ -53,6 +53,7 @@ void Job::refuse(const char* rule, const std::string& place, const std::string& 
 void Job::tellValues(const TypeTable& types) const {
   const bool withConditions = isChosen("conditions", "enumerations");
   const TypeLookup lookup(types);
+  const FacetLookup facets(model);
   std::unordered_set<std::size_t> told;
   forEachField(model, [&](const Field& field, const auto& placeOf) {
     if (field.reference != none || field.structure != none) return;
@@ -63,7 +64,7 @@ void Job::tellValues(const TypeTable& types) const {
                ": it may hold anything",
            "give it fields, or a data type of a value");
     }
-    if (!withConditions || !hasOtherConditions(model, field)) return;
+    if (!withConditions || !facets.hasOtherConditions(field)) return;
     if (!told.insert(field.item).second) return;
     note("other-conditions", placeOf(),
          "conditions of " + model.items[field.item].name +

@@ -5,7 +5,6 @@
 #include <string_view>
 #include <utility>
 
-#include "toolkit/generate/Facets.h"
 #include "toolkit/generate/JsonTypes.h"
 
 namespace as::toolkit::gen {
@@ -29,6 +28,7 @@ JsonSchemas::JsonSchemas(const Job& job, std::string definitions)
       members_(job),
       samples_(job.model, members_),
       types_(jsonTypes()),
+      facets_(job.model),
       prefix_(std::move(definitions)),
       withConditions_(job.isChosen("conditions", "enumerations")) {}
 
@@ -126,7 +126,7 @@ JsonSchemas::Json JsonSchemas::schemaOfValue(const Field& field) const {
   const TypeRow* const row = types_.rowFor(field);
   if (row == nullptr || row->type == anything) return Json::object();
   const std::string_view type = row->type;
-  const Facets facets = facetsOf(job_.model, field, withConditions_);
+  const Facets facets = facets_.facetsOf(field, withConditions_);
   Json schema = objectFor(5);
   append(schema, "type", type.starts_with("string") ? "string" : row->type);
   if (type == "integer") {
@@ -150,9 +150,9 @@ JsonSchemas::Json JsonSchemas::schemaOfValue(const Field& field) const {
     if (facets.longest >= 0) schema["maxLength"] = facets.longest;
     if (!facets.pattern.empty()) schema["pattern"] = "^" + facets.pattern + "$";
   }
-  if (facets.values.empty()) return schema;
+  if (!facets.hasValues()) return schema;
   Json values = Json::array();
-  for (const std::string& value : facets.values) {
+  for (const std::string& value : *facets.onlyValues) {
     values.push_back(type == "integer" ? Json(numberOf(value)) : Json(value));
   }
   schema["enum"] = std::move(values);

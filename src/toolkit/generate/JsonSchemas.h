@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "toolkit/generate/FacetLookup.h"
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/JsonMembers.h"
 #include "toolkit/generate/JsonSamples.h"
@@ -62,6 +63,7 @@ class JsonSchemas {
   JsonMembers members_;
   JsonSamples samples_;
   TypeLookup types_;
+  FacetLookup facets_;
   std::string prefix_;
   bool withConditions_;
   std::vector<Definition> definitions_;

@@ -70,6 +70,7 @@ void markRecursiveTypes(ServiceModel& model) {
       // References lead to definitions in front, or to the one around: no other ways round.
       model.types[field.reference].isRecursive = true;
       field.least = 0;
+      field.isInItself = true;
     }
   }
 }

@@ -1,8 +1,7 @@
 #include "toolkit/generate/SampleMaker.h"
 
 #include <algorithm>
-
-#include "toolkit/generate/Facets.h"
+#include <limits>
 
 namespace as::toolkit::gen {
 
@@ -11,6 +10,9 @@ namespace {
 using Kind = Capacity::Kind;
 
 constexpr int longestText = 20;
+// Samples are made, and read, recursively. COBOL knows 49 levels.
+constexpr std::size_t mostLevels = 200;
+constexpr std::size_t tooMany = std::numeric_limits<std::size_t>::max();
 
 // 1234567890123...
 std::string digits(int count, int from = 1) {
@@ -19,17 +21,25 @@ std::string digits(int count, int from = 1) {
   return text;
 }
 
-// 1234567.89
-std::string numeral(int total, int fraction) {
-  const int whole = total - fraction;
-  std::string text = whole > 0 ? digits(whole) : "0";
-  if (fraction > 0) text += "." + digits(fraction, whole + 1);
-  return text;
+std::string zeros(int count) { return std::string(static_cast<std::size_t>(count), '0'); }
+
+// 12345.67; 0.0012 of two digits with a scale of 4, and 1200 with one of -2.
+std::string numeral(int total, int scale) {
+  if (scale <= 0) return digits(total) + zeros(-scale);
+  const int whole = std::max(total - scale, 0);
+  return (whole > 0 ? digits(whole) : "0") + "." + zeros(std::max(scale - total, 0)) +
+         digits(std::min(total, scale), whole + 1);
 }
 
-std::string numberOf(const Facets& facets) {
-  if (facets.totalDigits > 0)
-    return numeral(facets.totalDigits, std::max(facets.fractionDigits, 0));
+// Of what facetsOf() says of a field with that item, or none.
+std::string numberOf(const Facets& facets, const Item* item) {
+  using ItemKind = Item::Kind;
+  if (facets.totalDigits > 0) {
+    const bool isOfItem = item != nullptr && item->digits > 0 &&
+                          (item->kind == ItemKind::number || item->kind == ItemKind::numberEdited);
+    return isOfItem ? numeral(item->digits, item->scale)
+                    : numeral(facets.totalDigits, std::max(facets.fractionDigits, 0));
+  }
   if (facets.most.empty()) return facets.fractionDigits == 0 ? "12345" : "123.45";
   // The limit of so many bits, with a first digit less by one.
   std::string text = facets.most;
@@ -37,6 +47,9 @@ std::string numberOf(const Facets& facets) {
   --text.front();
   return text.size() > 1 && text.front() == '0' ? text.substr(1) : text;
 }
+
+// The item may have digits behind the point that an integer has no room for.
+std::string wholeOf(const std::string& numeral) { return numeral.substr(0, numeral.find('.')); }
 
 std::string textOf(int longest) {
   std::string text;
@@ -52,7 +65,7 @@ std::string bytesOf(int longest) {
 
 }  // namespace
 
-SampleMaker::SampleMaker(const ServiceModel& model) : model_(model) {
+SampleMaker::SampleMaker(const ServiceModel& model) : model_(model), facets_(model) {
   for (const Type& type : model.types) {
     readCounter(type.self);
     for (const Field& field : type.fields) readCounter(field);
@@ -72,19 +85,17 @@ std::string SampleMaker::valueOf(const Field& field) const {
     const auto counter = counters_.find(item->path);
     if (counter != counters_.end()) return std::to_string(counter->second);
   }
-  const Facets facets = facetsOf(model_, field, true);
-  if (!facets.values.empty()) return facets.values.front();
+  const Facets facets = facets_.facetsOf(field, true);
+  if (facets.hasValues()) return facets.onlyValues->front();
   switch (field.capacity.kind) {
     case Kind::integer:
+      return wholeOf(numberOf(facets, item));
     case Kind::decimal:
-      return numberOf(facets);
+      return numberOf(facets, item);
     case Kind::floating:
       return "1.5";
     case Kind::text:
-      if (!facets.pattern.empty()) {
-        return numeral(item->scale < 0 ? item->digits - item->scale : item->digits,
-                       std::max(item->scale, 0));
-      }
+      if (!facets.pattern.empty()) return numeral(item->digits, item->scale);
       return facets.longest < 0 ? "text" : textOf(facets.longest);
     case Kind::bytes:
       return bytesOf(facets.longest);
@@ -94,28 +105,61 @@ std::string SampleMaker::valueOf(const Field& field) const {
 }
 
 std::size_t SampleMaker::occurrencesOf(const Field& field) {
+  if (field.isInItself) return 0;
   if (!field.isTable()) return field.least == 0 ? 0 : 1;
   return static_cast<std::size_t>(std::max(field.least, 1));
 }
 
 std::size_t SampleMaker::countOf(const Field& field, std::size_t most) {
-  counts_.resize(model_.types.size());
-  const std::size_t one = field.structure == none ? 1 : countOfType(field.structure, most);
-  const std::size_t times = occurrencesOf(field);
-  if (times != 0 && one > most / times) return most;
-  return std::min(one * times, most);
+  sizes_.resize(model_.types.size());
+  if (field.structure != none) measure(field.structure);
+  return std::min(valuesOf(field), most);
 }
 
-std::size_t SampleMaker::countOfType(std::size_t type, std::size_t most) {
-  if (counts_[type]) return std::min(*counts_[type], most);
-  // One that stands in itself is there no more than it must.
-  counts_[type] = 0;
-  std::size_t sum = 1 + model_.types[type].attributes.size();
-  for (const Field& field : model_.types[type].fields) {
-    sum = std::min(sum + countOf(field, most), most);
+// The type, and those in it. A vector in place of recursion: chains of definitions are long.
+void SampleMaker::measure(std::size_t type) {
+  struct Step {
+    std::size_t type;
+    std::size_t next = 0;
+  };
+  std::vector<Step> way;
+  const auto enter = [&](std::size_t at) {
+    if (sizes_[at]) return;
+    sizes_[at] = Size{};
+    way.push_back({at});
+  };
+  enter(type);
+  while (!way.empty()) {
+    Step& step = way.back();
+    const Type& at = model_.types[step.type];
+    if (step.next < at.fields.size()) {
+      // The step may move: it is not used behind this.
+      const Field& field = at.fields[step.next++];
+      if (field.structure != none) enter(field.structure);
+      continue;
+    }
+    sizes_[step.type] = sizeOf(at);
+    way.pop_back();
   }
-  counts_[type] = sum;
-  return sum;
+}
+
+// Of one whose type is measured.
+std::size_t SampleMaker::valuesOf(const Field& field) const {
+  const std::size_t one = field.structure == none ? 1 : sizes_[field.structure]->values;
+  const std::size_t times = occurrencesOf(field);
+  return times != 0 && one > tooMany / times ? tooMany : one * times;
+}
+
+// Of one in which all types are measured.
+SampleMaker::Size SampleMaker::sizeOf(const Type& type) const {
+  Size size{1 + type.attributes.size(), 1};
+  for (const Field& field : type.fields) {
+    size.values += std::min(valuesOf(field), tooMany - size.values);
+    if (field.structure == none || occurrencesOf(field) == 0) continue;
+    size.levels = std::max(size.levels, sizes_[field.structure]->levels + 1);
+  }
+  if (size.levels > mostLevels) size.values = tooMany;
+  return size;
 }
 
 }  // namespace as::toolkit::gen

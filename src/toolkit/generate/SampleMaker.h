@@ -8,6 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "toolkit/generate/FacetLookup.h"
 #include "toolkit/generate/ServiceModel.h"
 
 namespace as::toolkit::gen {
@@ -26,17 +27,27 @@ class SampleMaker {
   // in itself.
   static std::size_t occurrencesOf(const Field& field);
 
-  // How many values a sample of the field has, all occurrences counted; `most` when there are more.
+  // How many values a sample of the field has, all occurrences counted; `most` when there are more,
+  // or more levels of structures than anybody reads.
   std::size_t countOf(const Field& field, std::size_t most);
 
  private:
+  // What a sample of a type holds. One that stands in itself is there no more than it must.
+  struct Size {
+    std::size_t values = 0;
+    std::size_t levels = 0;  // Of structures, its own included.
+  };
+
   void readCounter(const Field& field);
-  std::size_t countOfType(std::size_t type, std::size_t most);
+  void measure(std::size_t type);
+  std::size_t valuesOf(const Field& field) const;
+  Size sizeOf(const Type& type) const;
 
   const ServiceModel& model_;
+  FacetLookup facets_;
   // The paths of items that tell how often a table occurs, with how often that is.
   std::unordered_map<std::string, std::size_t> counters_;
-  std::vector<std::optional<std::size_t>> counts_;  // Of types.
+  std::vector<std::optional<Size>> sizes_;  // Of types.
 };
 
 }  // namespace as::toolkit::gen

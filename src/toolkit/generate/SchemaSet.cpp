@@ -23,6 +23,7 @@ SchemaSet::SchemaSet(const Job& job)
     : job_(job),
       names_(job.namesBy(xmlNames())),
       lookup_(xsdTypes()),
+      facets_(job.model),
       target_(job.option("namespace")),
       withConditions_(job.isChosen("conditions", "enumerations")) {
   if (target_.empty()) {
@@ -264,7 +265,7 @@ std::string_view SchemaSet::builtIn(const Field& field) const {
 
 // What the built-in type does not say by itself.
 Facets SchemaSet::facetsIn(const Field& field) const {
-  Facets facets = facetsOf(job_.model, field, withConditions_);
+  Facets facets = facets_.facetsOf(field, withConditions_);
   if (job_.model.itemOf(field) == nullptr && field.capacity.kind == Capacity::Kind::integer) {
     facets.least.clear();
     facets.most.clear();
@@ -274,7 +275,7 @@ Facets SchemaSet::facetsIn(const Field& field) const {
 
 bool SchemaSet::saysAnything(const Facets& facets) {
   return facets.totalDigits > 0 || !facets.most.empty() || facets.longest >= 0 ||
-         !facets.pattern.empty() || !facets.values.empty();
+         !facets.pattern.empty() || facets.hasValues();
 }
 
 bool SchemaSet::hasFacets(const Field& field) const {

@@ -11,7 +11,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "toolkit/generate/Facets.h"
+#include "toolkit/generate/FacetLookup.h"
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/TypeTable.h"
 
@@ -132,6 +132,7 @@ class SchemaSet {
   const Job& job_;
   NameGiver names_;
   TypeLookup lookup_;
+  FacetLookup facets_;
   std::string target_;
   bool withConditions_;
   std::vector<TypeFacts> types_;

@@ -255,7 +255,9 @@ void SchemaWriter::writeRestriction(Part& part, const Field& field, const Facets
   const auto facet = [&part](const char* word, std::string_view value) {
     part.text.line({"<xs:", word, xmlAttribute("value", value), "/>"});
   };
-  for (const std::string& value : facets.values) facet("enumeration", value);
+  if (facets.hasValues()) {
+    for (const std::string& value : *facets.onlyValues) facet("enumeration", value);
+  }
   if (!facets.pattern.empty()) facet("pattern", facets.pattern);
   if (facets.longest >= 0) facet("maxLength", std::to_string(facets.longest));
   if (facets.totalDigits > 0) facet("totalDigits", std::to_string(facets.totalDigits));

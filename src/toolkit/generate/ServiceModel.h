@@ -106,6 +106,7 @@ struct Field {
 
   int occurs = 0;           // As the document has it: 0 for not told. More than 1 makes a table.
   int least = 1;            // How often it occurs at least; 0 where it stands in itself, too.
+  bool isInItself = false;  // Whether it refers to the declared type that it stands in.
   std::string dependingOn;  // The path of the item that tells how often; empty for none.
   bool isTold = false;      // Whether a mapping told so of the table.
 
