@@ -176,4 +176,24 @@ TEST_P(GenerateRecordItems, HaveTheLimitsThatTheirDictionaryTells) {
 
 INSTANTIATE_TEST_SUITE_P(Items, GenerateRecordItems, testing::ValuesIn(items));
 
+// Each item is told with its path: in full, these have many times the size of the document.
+TEST_F(GenerateRecords, PathsAreNoLongerThanAnybodyReads) {
+  constexpr int levels = 150;
+  constexpr int leaves = 100;
+  const std::string name(300, 'N');
+  std::string nested;
+  for (int i = 0; i < levels; ++i) nested += "<group name='" + name + "'>";
+  for (int i = 0; i < leaves; ++i) {
+    nested += "<numeric name='A" + std::to_string(i) + "' digits='4' length='4'/>";
+  }
+  for (int i = 0; i < levels; ++i) nested += "</group>";
+  for (const char* const kind : {"xsd", "jsonschema", "markdown"}) {
+    const toolkit::Generated made = this->made(kind, nested);
+    const std::string content = textOf(made);
+    EXPECT_THAT(content, HasSubstr(name.substr(0, 200) + "....A7")) << kind;
+    EXPECT_LE(content.size(), 2'000'000U) << kind;
+    for (const toolkit::Finding& finding : made.findings) ASSERT_LE(finding.place.size(), 5000U);
+  }
+}
+
 }  // namespace

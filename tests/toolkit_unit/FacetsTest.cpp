@@ -343,7 +343,7 @@ TEST(FacetsOfWords, AreNoValues) {
 
 // Each of so many was compared with all others, anew for every field.
 TEST(FacetsOfManyConditions, ReadEachValueOnce) {
-  constexpr std::size_t many = 200'000;
+  constexpr std::size_t many = 100'000;
   Item of = number(6);
   of.conditions = {{"C", {}}};
   for (std::size_t i = 0; i < 2 * many; ++i) {
@@ -353,8 +353,8 @@ TEST(FacetsOfManyConditions, ReadEachValueOnce) {
   const FacetLookup lookup(made.model);
   const auto first = lookup.facetsOf(made.field, true).onlyValues;
   ASSERT_EQ(first->size(), many);
-  EXPECT_EQ(first->back(), "199999");
-  for (std::size_t i = 0; i < many; ++i) {
+  EXPECT_EQ(first->back(), "99999");
+  for (int i = 0; i < 5000; ++i) {
     ASSERT_FALSE(lookup.hasOtherConditions(made.field));
     ASSERT_EQ(lookup.facetsOf(made.field, true).onlyValues, first);
   }

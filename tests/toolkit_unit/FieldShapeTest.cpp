@@ -6,6 +6,7 @@
 #include <string>
 
 #include "toolkit/generate/FieldShape.h"
+#include "toolkit/generate/ShapeHashes.h"
 
 namespace {
 
@@ -77,6 +78,8 @@ TEST_P(FieldShapeTest, IsThatOfValuesAlike) {
   GetParam().make(pair);
   EXPECT_EQ(areOfOneShape(pair.model, pair.left, pair.right), GetParam().areOfOneShape);
   EXPECT_EQ(areOfOneShape(pair.model, pair.right, pair.left), GetParam().areOfOneShape);
+  const ShapeHashes hashes(pair.model);
+  EXPECT_EQ(hashes.of(pair.left) == hashes.of(pair.right), GetParam().areOfOneShape);
 }
 
 INSTANTIATE_TEST_SUITE_P(Changes, FieldShapeTest, testing::ValuesIn(changes),

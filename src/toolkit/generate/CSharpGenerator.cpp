@@ -104,7 +104,7 @@ class CSharpText {
 
   void writeStructure(const Structure& structure) {
     out_.line();
-    writeSummary(docText("The structure of " + structure.place + "."));
+    writeSummary(docText("The structure of " + structure.place.text() + "."));
     out_.line("public class " + structure.name);
     out_.open("{");
     for (std::size_t i = 0; i < structure.members.size(); ++i) {

@@ -125,7 +125,7 @@ class IdlText {
 
   void endHere(const Structure& structure, Member& member) const {
     job_.warn(
-        "recursive-type", structure.place + "." + member.field->name,
+        "recursive-type", structure.place.of(member.field->name).text(),
         "a structure of COM cannot stand in itself: a " + std::string(anything) + " stands for it",
         "");
     member.type = anything;
@@ -134,7 +134,7 @@ class IdlText {
 
   void writeStructure(const Structure& structure) {
     out_.line();
-    out_.line("// The structure of " + commentText(structure.place) + ".");
+    out_.line("// The structure of " + commentText(structure.place.text()) + ".");
     out_.line("[uuid(" +
               uuidOfName("struct/" + model_.program + "/" + model_.name + "/" + structure.name) +
               ")]");
@@ -190,7 +190,8 @@ class IdlText {
     const Member* answer = nullptr;
     for (const Member& member : method.parameters) {
       if (!member.field->isReturned) continue;
-      const std::string place = model_.placeOf(*method.operation) + "." + member.field->name;
+      const std::string place =
+          Spot(model_.placeOf(*method.operation)).of(member.field->name).text();
       if (goesIn(member.field->direction)) {
         tellNotReturned(place, "it goes in, too");
       } else if (answer != nullptr) {

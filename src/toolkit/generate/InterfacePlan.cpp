@@ -103,7 +103,7 @@ class Planner {
     const Type& type = model_.types[number];
     Structure structure;
     structure.name = typeNames_[number];
-    structure.place = model_.placeOf(type);
+    structure.place = Spot(model_, type);
     structure.type = number;
     std::vector<NameWish> wishes;
     for (const Field& field : type.fields) add(field, structure.place, structure.members, wishes);
@@ -115,7 +115,7 @@ class Planner {
       Member value;
       value.type = valueTypeOf(number);
       structure.members.push_back(std::move(value));
-      wishes.push_back({"value", structure.place + " value", true});
+      wishes.push_back({"value", structure.place.with(" value"), true});
     }
     std::vector<std::string> taken;
     if (language_.hasProperties) {
@@ -134,18 +134,18 @@ class Planner {
   // Of a structure with attributes alone, or with nothing: what the field holds that it belongs to.
   std::string valueTypeOf(std::size_t number) {
     const Type& type = model_.types[number];
-    if (type.isDeclared) return typeOf(type.self, model_.placeOf(type), true).first;
+    if (type.isDeclared) return typeOf(type.self, Spot(model_, type), true).first;
     const auto isIts = [number](const Field& field) { return field.structure == number; };
     const std::vector<Field>& around = type.owner == none
                                            ? model_.operations[type.operation].parameters
                                            : model_.types[type.owner].fields;
     const auto field = std::find_if(around.begin(), around.end(), isIts);
-    return typeOf(*field, model_.placeOf(type), true).first;
+    return typeOf(*field, Spot(model_, type), true).first;
   }
 
-  void add(const Field& field, const std::string& place, std::vector<Member>& members,
+  void add(const Field& field, const Spot& place, std::vector<Member>& members,
            std::vector<NameWish>& wishes) {
-    const std::string own = place + "." + field.name;
+    const Spot own = place.of(field.name);
     auto [type, structure] = typeOf(field, own, false);
     Member member;
     member.type = std::move(type);
@@ -159,8 +159,7 @@ class Planner {
     for (std::size_t i = 0; i < members.size(); ++i) members[i].name = names[i];
   }
 
-  std::pair<std::string, std::size_t> typeOf(const Field& field, const std::string& place,
-                                             bool asValue) {
+  std::pair<std::string, std::size_t> typeOf(const Field& field, const Spot& place, bool asValue) {
     if (field.structure != none && !asValue) return {typeNames_[field.structure], field.structure};
     const TypeRow* row = rowFor(language_.values, field);
     const Item* const item = model_.itemOf(field);
@@ -189,21 +188,21 @@ class Planner {
   }
 
   // Floating-point numbers lose digits of decimal ones in calculations, whatever they hold.
-  const TypeRow* exactRow(const Item& item, const Field& field, const std::string& place,
+  const TypeRow* exactRow(const Item& item, const Field& field, const Spot& place,
                           const TypeRow* inexact) {
     Field exact = field;
     exact.capacity = item.capacity;
     const TypeRow* const row = rowFor(language_.values, exact);
     if (row == nullptr) return inexact;
-    job_.warn("inexact-type", place,
+    job_.warn("inexact-type", place.text(),
               "it is a " + field.dataType + ", the item is a decimal number: " + row->type +
                   " stands for it",
               "give it a data type that is exact");
     return row;
   }
 
-  void tellText(const std::string& place, const std::string& why) {
-    job_.note("number-as-text", place, why + ": " + language_.text + " stands for it");
+  void tellText(const Spot& place, const std::string& why) {
+    job_.note("number-as-text", place.text(), why + ": " + language_.text + " stands for it");
   }
 
   void addMethod(const Operation& operation) {

@@ -39,7 +39,7 @@ struct Member {
 
 struct Structure {
   std::string name;
-  std::string place;
+  Spot place = "";
   std::size_t type = none;  // In ServiceModel::types; none for what a method answers.
   std::vector<Member> members;
 };

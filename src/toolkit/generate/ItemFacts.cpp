@@ -13,6 +13,7 @@
 #include "as/INumericEdited.h"
 #include "as/toolkit/Picture.h"
 #include "as/toolkit/Storage.h"
+#include "toolkit/generate/ShortPath.h"
 #include "toolkit/storage/AnyPicture.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/TreeWalk.h"
@@ -134,7 +135,7 @@ Item::Table readTable(as::IDataItem& item) {
   if (!item.hasODO()) return table;
   as::IDataItem* const counter = item.getODO();
   table.least = item.getMinOccurs();
-  table.dependingOn = counter == nullptr ? item.getAttributeValue("odo") : dottedPath(*counter);
+  table.dependingOn = counter == nullptr ? item.getAttributeValue("odo") : shortPathOf(*counter);
   return table;
 }
 
@@ -156,7 +157,20 @@ void read(as::IDataItem& item, const std::optional<Picture>& picture, Item& fact
   facts.conditions = conditionsOf(item);
 }
 
+std::string groupPathOf(as::IGroup& group) {
+  std::vector<std::string> names;
+  for (as::IGroup* at = &group; at != nullptr; at = at->getParent()) {
+    names.push_back(at->getName());
+  }
+  return shortPath({names.rbegin(), names.rend()});
+}
+
 }  // namespace
+
+std::string shortPathOf(as::IDataItem& item) {
+  as::IGroup* const group = item.getParent();
+  return (group == nullptr ? "" : groupPathOf(*group) + ".") + shortName(item.getName());
+}
 
 std::size_t ItemFacts::numberOf(as::IDataItem& item) {
   const auto [found, isNew] = known_.emplace(&item, items_.size());
@@ -179,15 +193,15 @@ const std::optional<Picture>& ItemFacts::pictureOf(const std::string& text) {
   return found->second;
 }
 
-// As dottedPath() has it.
+// As shortPathOf() has it.
 std::string ItemFacts::pathOf(as::IDataItem& item, const std::string& name) {
   as::IGroup* const group = item.getParent();
-  if (group == nullptr) return name;
+  if (group == nullptr) return shortName(name);
   if (group != group_) {
-    groupPath_ = dottedPath(*group);
+    groupPath_ = groupPathOf(*group);
     group_ = group;
   }
-  return groupPath_ + "." + name;
+  return groupPath_ + "." + shortName(name);
 }
 
 std::vector<Item::Table> ItemFacts::tablesAround(as::IDataItem& item) {

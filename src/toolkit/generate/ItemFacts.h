@@ -18,6 +18,10 @@ class IDataItem;
 
 namespace as::toolkit::gen {
 
+// Where an item stands: as dottedPath() has it, unless that is too long to be read, see
+// ShortPath.h.
+std::string shortPathOf(as::IDataItem& item);
+
 // Each item is read once. The list must outlive it.
 class ItemFacts {
  public:

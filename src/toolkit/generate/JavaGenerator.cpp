@@ -95,7 +95,7 @@ class JavaText {
   void checkSizes() const {
     for (const Structure& structure : plan_.structures) {
       if (structure.members.size() > mostMembers) {
-        tellSize(structure.place, structure.members.size(), "fields");
+        tellSize(structure.place.text(), structure.members.size(), "fields");
       }
     }
     for (const Method& method : plan_.methods) {
@@ -212,8 +212,8 @@ class JavaText {
   void writeStructure(const Structure& structure) {
     out_.line();
     const std::string about = structure.type == none
-                                  ? "What comes out of operation " + structure.place + "."
-                                  : "The structure of " + structure.place + ".";
+                                  ? "What comes out of operation " + structure.place.text() + "."
+                                  : "The structure of " + structure.place.text() + ".";
     if (wordsOf(structure.members) > mostWords) {
       writeBean(structure, about);
       return;

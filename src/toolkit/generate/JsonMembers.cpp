@@ -37,8 +37,7 @@ JsonMembers::JsonMembers(const Job& job)
   }
   typeNames_.reserve(model_.types.size());
   for (std::size_t i = 0; i < model_.types.size(); ++i) {
-    const std::vector<const Field*> members = membersOf(i);
-    typeNames_.push_back(namesOf(members, members.empty() ? "" : model_.placeOf(model_.types[i])));
+    typeNames_.push_back(namesOf(membersOf(i), Spot(model_, model_.types[i])));
   }
 }
 
@@ -65,7 +64,7 @@ std::vector<const Field*> JsonMembers::membersOf(std::size_t type) const {
 }
 
 std::vector<std::string> JsonMembers::namesOf(const std::vector<const Field*>& fields,
-                                              const std::string& place) {
+                                              const Spot& place) {
   return names_.namesIn(fieldWishes(fields, place));
 }
 

@@ -21,8 +21,7 @@ class JsonMembers {
   const std::vector<std::string>& namesOf(std::size_t type) const { return typeNames_[type]; }
 
   // The names of fields that stand in something else, at `place`.
-  std::vector<std::string> namesOf(const std::vector<const Field*>& fields,
-                                   const std::string& place);
+  std::vector<std::string> namesOf(const std::vector<const Field*>& fields, const Spot& place);
 
  private:
   void keepValue(const Field& field, const TypeLookup& types);

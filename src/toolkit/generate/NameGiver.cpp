@@ -29,6 +29,13 @@ void count(const NameRule& rule, std::vector<std::string>& names) {
   }
 }
 
+// A way as a name. No language has room for a long one: there are the digits of all of it in time.
+std::string madeName(const std::string& way) {
+  constexpr std::size_t most = 1000;
+  if (way.size() <= most) return way;
+  return way.substr(0, most) + digitsOfText(way);
+}
+
 // Whether no two of them are one: this is nearly always so, and is soon found.
 bool areApart(const NameRule& rule, const std::vector<std::string>& names) {
   std::vector<std::string> small;
@@ -45,42 +52,34 @@ bool areApart(const NameRule& rule, const std::vector<std::string>& names) {
 }  // namespace
 
 std::vector<NameWish> typeWishes(const ServiceModel& model) {
-  constexpr std::string_view declared = "type ";
   std::vector<NameWish> wishes;
+  wishes.reserve(model.types.size());
   for (const Type& type : model.types) {
-    const std::string place = model.placeOf(type);
-    if (type.isDeclared) {
-      wishes.push_back({type.name, place});
-    } else {
-      wishes.push_back({place.starts_with(declared) && type.operation == none
-                            ? place.substr(declared.size())
-                            : place,
-                        place, true});
-    }
+    wishes.push_back({type.isDeclared ? type.name : madeName(model.pathOf(type)), Spot(model, type),
+                      !type.isDeclared});
   }
   return wishes;
 }
 
-std::vector<NameWish> fieldWishes(const std::vector<const Field*>& fields,
-                                  const std::string& place) {
+std::vector<NameWish> fieldWishes(const std::vector<const Field*>& fields, const Spot& place) {
   std::vector<NameWish> wishes;
   wishes.reserve(fields.size());
-  for (const Field* const field : fields) {
-    wishes.push_back({field->name, place + "." + field->name});
-  }
+  for (const Field* const field : fields) wishes.push_back({field->name, place.of(field->name)});
   return wishes;
 }
 
 const std::string* NameGiver::chosenFor(const NameWish& wish) const {
   if (chosen_.empty()) return nullptr;
-  auto found = chosen_.find(wish.place);
+  auto found = chosen_.find(wish.place.text());
   if (found == chosen_.end()) found = chosen_.find(wish.name);
   return found == chosen_.end() ? nullptr : &found->second;
 }
 
 void NameGiver::tellChange(const NameWish& wish, const std::string& name) {
-  if (wish.isMade || !told_.insert(wish.place).second) return;
-  findings_.push_back({"changed-name", Severity::note, wish.place,
+  if (wish.isMade) return;
+  std::string place = wish.place.text();
+  if (!told_.insert(place).second) return;
+  findings_.push_back({"changed-name", Severity::note, std::move(place),
                        quote(wish.name) + " is no name in " + rule_.language +
                            ", or taken: " + quote(name) + " stands for it",
                        ""});
@@ -95,7 +94,7 @@ std::string NameGiver::wantedName(const NameWish& wish, int& rank) {
   }
   rank = 0;
   if (!isLegal(rule_, *chosen)) {
-    findings_.push_back({"forbidden-name", Severity::error, wish.place,
+    findings_.push_back({"forbidden-name", Severity::error, wish.place.text(),
                          quote(*chosen) + " is no name in " + rule_.language,
                          "choose another one"});
   }
@@ -112,13 +111,14 @@ void NameGiver::tellApart(const std::vector<NameWish>& wishes, std::vector<Claim
   for (std::size_t i = 1; i < claimants.size(); ++i) {
     const std::size_t index = claimants[i].index;
     if (claimants[i].rank == 0) {
-      findings_.push_back({"forbidden-name", Severity::error, wishes[index].place,
+      findings_.push_back({"forbidden-name", Severity::error, wishes[index].place.text(),
                            quote(names[index]) + " is chosen for another one, too",
                            "choose another one"});
       continue;
     }
     const bool isSameWord = wishes[index].name == wishes[claimants.front().index].name;
-    names[index] += "_" + digitsOfText(isSameWord ? wishes[index].place : wishes[index].name);
+    names[index] +=
+        "_" + digitsOfText(isSameWord ? wishes[index].place.text() : wishes[index].name);
   }
 }
 

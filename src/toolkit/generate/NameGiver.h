@@ -10,13 +10,14 @@
 #include "as/toolkit/Finding.h"
 #include "as/toolkit/Generate.h"
 #include "toolkit/generate/NameRule.h"
+#include "toolkit/generate/Spot.h"
 
 namespace as::toolkit::gen {
 
 // A name that wants a place in a scope.
 struct NameWish {
-  std::string name;   // As the document has it.
-  std::string place;  // Where findings tell of it.
+  std::string name;  // As the document has it.
+  Spot place;        // Where findings tell of it.
   // It is made up, for a structure that has no name of its own: nothing is told of changes, and
   // names of documents go before it.
   bool isMade = false;
@@ -26,11 +27,10 @@ struct Field;
 struct ServiceModel;
 
 // The wishes for the names of all types, in their order: what declared ones are called, and the
-// ways to the others, "quote.drivers".
+// ways to the others, "quote.drivers". The model must outlive them.
 std::vector<NameWish> typeWishes(const ServiceModel& model);
 // Those for the names of fields that stand in something, at `place`.
-std::vector<NameWish> fieldWishes(const std::vector<const Field*>& fields,
-                                  const std::string& place);
+std::vector<NameWish> fieldWishes(const std::vector<const Field*>& fields, const Spot& place);
 
 // Gives out the names of scopes, tells changes and takes what the user chose into account.
 class NameGiver {

@@ -173,7 +173,7 @@ class OpenApi {
       for (const Field& parameter : message.parameters) {
         fields.push_back(&parameter);
         wishes.push_back(
-            {parameter.name, model_.placeOf(operation, message) + "." + parameter.name});
+            {parameter.name, Spot(model_.placeOf(operation, message)).of(parameter.name)});
       }
     }
     const std::vector<std::string> names = headers_.namesIn(wishes);

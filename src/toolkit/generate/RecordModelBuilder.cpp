@@ -77,7 +77,7 @@ class RecordBuilder {
   // Answers the structure that the item's members belong to.
   std::size_t add(as::IDataItem& item, std::size_t owner) {
     if (item.isRenamed() || item.isRedefined()) {
-      notes_.note(item.isRenamed() ? "renamed-item" : "redefined-item", dottedPath(item),
+      notes_.note(item.isRenamed() ? "renamed-item" : "redefined-item", shortPathOf(item),
                   std::string("it ") + (item.isRenamed() ? "renames" : "redefines") +
                       " other items, which are there already: left out");
       return none;

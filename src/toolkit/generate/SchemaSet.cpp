@@ -94,11 +94,11 @@ void SchemaSet::use(const Field& field) {
   }
 }
 
-void SchemaSet::useFrom(const Field& field, const Around& around, const std::string& place) {
-  if (isReference(field, around)) {
-    addElement(field.namespaceUri, field, place + "." + field.name);
-  } else {
+void SchemaSet::useFrom(const Field& field, const Around& around, const Spot& place) {
+  if (!isReference(field, around)) {
     use(field);
+  } else if (!references_.contains(&field)) {
+    references_[&field] = addElement(field.namespaceUri, field, place.of(field.name));
   }
 }
 
@@ -111,7 +111,7 @@ void SchemaSet::useWaiting() {
       use(type.self);
       continue;
     }
-    const std::string place = type.fields.empty() ? "" : job_.model.placeOf(type);
+    const Spot place(job_.model, type);
     for (const Field& field : type.fields) useFrom(field, aroundOf(number), place);
     for (const Field& field : type.attributes) use(field);
   }
@@ -146,22 +146,21 @@ SchemaSet::Handle SchemaSet::addWrapper(const std::string& uri, const NameWish& 
 }
 
 SchemaSet::Handle SchemaSet::addElement(const std::string& uri, const Field& field,
-                                        const std::string& place) {
-  const Handle known = findElement(uri, field);
-  if (known != none) return known;
-  use(field);
-  elements_.push_back({uri, {field.name, place}, &field});
-  elementsByName_[uri + "\n" + field.name].push_back(elements_.size() - 1);
-  return elements_.size() - 1;
-}
-
-SchemaSet::Handle SchemaSet::findElement(const std::string& uri, const Field& field) const {
-  const auto found = elementsByName_.find(uri + "\n" + field.name);
-  if (found == elementsByName_.end()) return none;
-  for (const Handle handle : found->second) {
+                                        const Spot& place) {
+  std::vector<Handle>& known = elementsByKey_[keyOf(uri, field)];
+  for (const Handle handle : known) {
     if (areOfOneShape(job_.model, *elements_[handle].field, field)) return handle;
   }
-  return none;
+  use(field);
+  elements_.push_back({uri, {field.name, place}, &field});
+  known.push_back(elements_.size() - 1);
+  return known.back();
+}
+
+// Of elements with one key hardly any are not the same: they may be many of one name.
+std::string SchemaSet::keyOf(const std::string& uri, const Field& field) {
+  if (!shapes_) shapes_.emplace(job_.model);
+  return uri + "\n" + field.name + "\n" + std::to_string(shapes_->of(field));
 }
 
 SchemaSet::Handle SchemaSet::addType(const Field& field, const NameWish& name) {
@@ -189,7 +188,7 @@ void SchemaSet::giveNames() {
   for (const NamedType& type : namedTypes_) wishes.push_back(type.wish);
   // What only the value of a structure needs stands behind them.
   for (std::size_t i = 0; i < types_.size(); ++i) {
-    wishes.push_back({wishes[i].name + ".value", wishes[i].place + " value", true});
+    wishes.push_back({wishes[i].name + ".value", wishes[i].place.with(" value"), true});
   }
   const std::vector<std::string> given = names_.namesIn(wishes);
   const std::size_t values = types_.size() + namedTypes_.size();
@@ -215,7 +214,7 @@ void SchemaSet::giveElementNames() {
 }
 
 std::vector<std::string> SchemaSet::namesOf(const std::vector<const Field*>& fields,
-                                            const std::string& place) {
+                                            const Spot& place) {
   return names_.namesIn(fieldWishes(fields, place));
 }
 

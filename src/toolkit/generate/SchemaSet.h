@@ -13,6 +13,7 @@
 
 #include "toolkit/generate/FacetLookup.h"
 #include "toolkit/generate/Generator.h"
+#include "toolkit/generate/ShapeHashes.h"
 #include "toolkit/generate/TypeTable.h"
 
 namespace as::toolkit::gen {
@@ -35,8 +36,8 @@ class SchemaSet {
   // its occurrences in it.
   struct Members {
     const std::vector<Field>& all;
-    std::string place;  // Where they stand, as findings tell it.
-    bool goIn = true;   // Those that go in, or those that come out.
+    Spot place;        // Where they stand, as findings tell it.
+    bool goIn = true;  // Those that go in, or those that come out.
     bool comeOut = true;
     bool isPlain = false;
 
@@ -46,7 +47,7 @@ class SchemaSet {
   // An element with these fields in it. In no namespace the target counts.
   Handle addWrapper(const std::string& uri, const NameWish& name, const Members& members);
   // An element for a field by itself. One of the same name and shape is the same.
-  Handle addElement(const std::string& uri, const Field& field, const std::string& place);
+  Handle addElement(const std::string& uri, const Field& field, const Spot& place);
   // A type that has a name, for a field by itself with all its occurrences.
   Handle addType(const Field& field, const NameWish& name);
   // A named type with these fields in it, as wrappers have them.
@@ -107,13 +108,12 @@ class SchemaSet {
   // In the order of the model's types.
   const std::vector<TypeFacts>& types() const { return types_; }
   Around aroundOf(std::size_t type) const;
-  // Whether it is an element of another namespace, which findElement() tells.
+  // Whether it is an element of another namespace, which referenceOf() tells.
   bool isReference(const Field& field, const Around& around) const;
-  Handle findElement(const std::string& uri, const Field& field) const;
+  Handle referenceOf(const Field& field) const { return references_.at(&field); }
   // Whether there is a type of that name without making one.
   bool isNamed(const Field& field) const;
-  std::vector<std::string> namesOf(const std::vector<const Field*>& fields,
-                                   const std::string& place);
+  std::vector<std::string> namesOf(const std::vector<const Field*>& fields, const Spot& place);
   // The built-in type of a plain value, anyType for what has none; and what that does not say.
   std::string_view builtIn(const Field& field) const;
   Facets facetsIn(const Field& field) const;
@@ -124,8 +124,9 @@ class SchemaSet {
   void readTypes();
   void inherit(const Field& field, const std::string& uri, Form elementForm, Form attributeForm);
   void use(const Field& field);
-  void useFrom(const Field& field, const Around& around, const std::string& place);
+  void useFrom(const Field& field, const Around& around, const Spot& place);
   void useWaiting();
+  std::string keyOf(const std::string& uri, const Field& field);
   void giveNames();
   void giveElementNames();
 
@@ -138,7 +139,9 @@ class SchemaSet {
   std::vector<TypeFacts> types_;
   std::vector<std::size_t> waiting_;
   std::vector<Element> elements_;
-  std::unordered_map<std::string, std::vector<Handle>> elementsByName_;
+  std::optional<ShapeHashes> shapes_;  // Made when the first element is asked for.
+  std::unordered_map<std::string, std::vector<Handle>> elementsByKey_;
+  std::unordered_map<const Field*, Handle> references_;  // Of fields that are references.
   std::vector<NamedType> namedTypes_;
   std::map<std::string, std::string> prefixes_;
 };

@@ -68,7 +68,7 @@ void SchemaWriter::writeType(std::size_t number) {
   }
   std::vector<const Field*> fields;
   for (const Field& field : type.fields) fields.push_back(&field);
-  writeMembers(part, fields, set_.namesOf(fields, job_.model.placeOf(type)), around);
+  writeMembers(part, fields, set_.namesOf(fields, Spot(job_.model, type)), around);
   writeAttributes(part, type, around);
   part.text.close("</xs:complexType>");
 }
@@ -121,7 +121,7 @@ void SchemaWriter::writeMembers(Part& part, const std::vector<const Field*>& fie
 void SchemaWriter::writeMember(Part& part, const Field& field, const std::string& name,
                                const Around& around) {
   if (set_.isReference(field, around)) {
-    const SchemaSet::Handle handle = set_.findElement(field.namespaceUri, field);
+    const SchemaSet::Handle handle = set_.referenceOf(field);
     const std::string& uri = set_.elements()[handle].uri;
     part.text.line("<xs:element" +
                    xmlAttribute("ref", texts_.qualified(part, uri, set_.elements()[handle].name)) +
@@ -154,12 +154,12 @@ void SchemaWriter::writeAttributes(Part& part, const Type& type, const Around& a
   if (type.attributes.empty()) return;
   std::vector<const Field*> fields;
   for (const Field& field : type.attributes) fields.push_back(&field);
-  const std::string place = job_.model.placeOf(type);
+  const Spot place(job_.model, type);
   const std::vector<std::string> names = set_.namesOf(fields, place);
   for (std::size_t i = 0; i < fields.size(); ++i) {
     const Field& field = *fields[i];
     if (field.isTable()) {
-      job_.warn("repeated-attribute", place + "." + field.name,
+      job_.warn("repeated-attribute", place.of(field.name).text(),
                 "an attribute has one value: that it occurs " + std::to_string(field.occurs) +
                     " times is not said",
                 "make it a field");

@@ -1,6 +1,9 @@
 #include "toolkit/generate/ServiceModel.h"
 
 #include <algorithm>
+#include <string_view>
+
+#include "toolkit/generate/ShortPath.h"
 
 namespace as::toolkit::gen {
 
@@ -21,32 +24,29 @@ bool Item::isLike(const Item& other) const {
 }
 
 std::string ServiceModel::placeOf(const Operation& operation) const {
-  return orUnnamed(operation.name);
+  return shortName(orUnnamed(operation.name));
 }
 
 std::string ServiceModel::placeOf(const Operation& operation, const Message& message) const {
   return placeOf(operation) + ", " + message.kind + " " + std::to_string(message.number);
 }
 
-std::string ServiceModel::placeOf(const Type& type) const {
-  std::vector<const std::string*> names;
+std::string ServiceModel::pathOf(const Type& type) const {
+  std::vector<std::string_view> names;
   const Type* at = &type;
-  for (; at->owner != none; at = &types[at->owner]) names.push_back(&orUnnamed(at->name));
-  names.push_back(&orUnnamed(at->name));
-  std::string place;
-  if (at->operation == none) {
-    place = "type ";
-  } else {
-    place = placeOf(operations[at->operation]);
-    if (!at->message.empty()) place += ", " + at->message;
-    place += '.';
-  }
+  for (; at->owner != none; at = &types[at->owner]) names.push_back(orUnnamed(at->name));
+  names.push_back(orUnnamed(at->name));
   std::reverse(names.begin(), names.end());
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    if (i > 0) place += '.';
-    place += *names[i];
-  }
-  return place;
+  if (at->operation == none) return shortPath(names);
+  std::string path = placeOf(operations[at->operation]);
+  if (!at->message.empty()) path += ", " + at->message;
+  return path + "." + shortPath(names);
+}
+
+std::string ServiceModel::placeOf(const Type& type) const {
+  const Type* at = &type;
+  while (at->owner != none) at = &types[at->owner];
+  return (at->operation == none ? "type " : "") + pathOf(type);
 }
 
 }  // namespace as::toolkit::gen

@@ -13,6 +13,7 @@
 #include "as/toolkit/Finding.h"
 #include "as/toolkit/Flavours.h"
 #include "toolkit/flavour/Capacity.h"
+#include "toolkit/generate/Spot.h"
 
 namespace as::toolkit::gen {
 
@@ -190,10 +191,13 @@ struct ServiceModel {
   const Type* structureOf(const Field& field) const {
     return field.structure == none ? nullptr : &types[field.structure];
   }
-  // Where a type stands, as findings tell it: "type Claim", "quote.drivers".
+  // Where a type stands, as findings tell it: "type Claim", "quote.drivers". What is too long to be
+  // read is told as shortPath() has it.
   std::string placeOf(const Type& type) const;
   std::string placeOf(const Operation& operation) const;
   std::string placeOf(const Operation& operation, const Message& message) const;
+  // The same of a type without the word: "Claim".
+  std::string pathOf(const Type& type) const;
 };
 
 // Calls visit(const Field&, placeOf) for every field, field attribute and parameter, and for what
@@ -203,7 +207,7 @@ void forEachField(const ServiceModel& model, const Visit& visit) {
   for (const Type& type : model.types) {
     const auto below = [&](const std::vector<Field>& fields) {
       for (const Field& field : fields) {
-        visit(field, [&] { return model.placeOf(type) + "." + field.name; });
+        visit(field, [&] { return Spot(model, type).of(field.name).text(); });
       }
     };
     if (type.isDeclared) visit(type.self, [&] { return model.placeOf(type); });
@@ -212,11 +216,11 @@ void forEachField(const ServiceModel& model, const Visit& visit) {
   }
   for (const Operation& operation : model.operations) {
     for (const Field& field : operation.parameters) {
-      visit(field, [&] { return model.placeOf(operation) + "." + field.name; });
+      visit(field, [&] { return Spot(model.placeOf(operation)).of(field.name).text(); });
     }
     for (const Message& message : operation.messages) {
       for (const Field& field : message.parameters) {
-        visit(field, [&] { return model.placeOf(operation, message) + "." + field.name; });
+        visit(field, [&] { return Spot(model.placeOf(operation, message)).of(field.name).text(); });
       }
     }
   }

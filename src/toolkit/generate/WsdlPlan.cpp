@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "toolkit/generate/MessagePlan.h"
+#include "toolkit/generate/ShortPath.h"
 
 namespace as::toolkit::gen {
 
@@ -74,8 +75,9 @@ std::size_t WsdlPlan::planMessage(const WsdlOperation& planned, const SchemaSet:
 SchemaSet::Handle WsdlPlan::typeOf(const Operation& operation, const Field& field) {
   const auto known = types_.find(&field);
   if (known != types_.end()) return known->second;
-  const NameWish wish{operation.name + "." + field.name + (field.isTable() ? ".list" : ""),
-                      model_.placeOf(operation) + "." + field.name + " type", true};
+  const NameWish wish{
+      shortName(operation.name) + "." + field.name + (field.isTable() ? ".list" : ""),
+      Spot(model_.placeOf(operation)).of(field.name).with(" type"), true};
   return types_[&field] = schemas_.addType(field, wish);
 }
 
@@ -110,13 +112,13 @@ void WsdlPlan::planHeader(const Operation& operation, const Message& message,
   const std::vector<std::string> names = schemas_.memberNames(members);
   const std::vector<const Field*> fields = members.chosen();
   for (std::size_t i = 0; i < fields.size(); ++i) {
-    const std::string place = members.place + "." + fields[i]->name;
+    const Spot place = members.place.of(fields[i]->name);
     if (message.isEncoded) {
       planned.parts.push_back({names[i], {}, typeOf(operation, *fields[i])});
       continue;
     }
     if (fields[i]->isTable()) {
-      job_.warn("repeated-header", place,
+      job_.warn("repeated-header", place.text(),
                 "a header has one block of a name: that it occurs " +
                     std::to_string(fields[i]->occurs) + " times is not said",
                 "put it into a structure");
@@ -138,7 +140,7 @@ void WsdlPlan::tellAttributes(const Operation& operation) {
   if (haveAttributes_.empty()) haveAttributes_ = typesWithAttributes(model_);
   for (const Field& parameter : operation.parameters) {
     if (parameter.structure == none || !haveAttributes_[parameter.structure]) continue;
-    job_.warn("encoded-attribute", model_.placeOf(operation) + "." + parameter.name,
+    job_.warn("encoded-attribute", Spot(model_.placeOf(operation)).of(parameter.name).text(),
               "it has field attributes, which SOAP's encoding does not know: the schema has them "
               "all the same",
               "make them fields, or the use literal");

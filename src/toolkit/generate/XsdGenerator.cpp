@@ -27,7 +27,7 @@ void addOperation(const ServiceModel& model, const Operation& operation, SchemaS
       continue;
     }
     for (const Field& parameter : message.parameters) {
-      schemas.addElement(uri, parameter, members.place + "." + parameter.name);
+      schemas.addElement(uri, parameter, members.place.of(parameter.name));
     }
   }
 }
@@ -56,7 +56,7 @@ class XsdGenerator : public Generator {
     if (model.flavour == nullptr) {
       for (const Type& record : model.types) {
         if (record.isDeclared) {
-          schemas.addElement(schemas.targetNamespace(), record.self, model.placeOf(record));
+          schemas.addElement(schemas.targetNamespace(), record.self, Spot(model, record));
         }
       }
     }
