@@ -87,7 +87,8 @@ async function route() {
   }
   if (number !== asked) return;
   shown = page;
-  main.replaceChildren(...page.nodes.flat(Infinity).filter(Boolean));
+  main.replaceChildren();
+  for (const node of page.nodes.flat(Infinity)) if (node) main.append(node);
   navigation(id[0] === "t" ? "" : id);
   window.scrollTo(0, 0);
   const heading = main.querySelector("h1");

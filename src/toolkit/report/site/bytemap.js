@@ -3,6 +3,42 @@
 // element or unfolded.
 "use strict";
 
+// Which bytes of which lanes are taken. Nobody looks through more lanes than `most`: the last one is
+// shared.
+class TakenLanes {
+  static most = 500;
+
+  constructor() {
+    this.lanes = [];
+  }
+
+  // Takes the bytes [from, to) of the first lane, from that one on, where they are free; answers which.
+  take(lane, from, to) {
+    for (; lane < TakenLanes.most; ++lane) {
+      const ranges = this.lanes[lane] = this.lanes[lane] || [];
+      const at = this.indexOf(ranges, from);
+      const isFree = (at === 0 || ranges[at - 1][1] <= from) && (at === ranges.length || to <= ranges[at][0]);
+      if (!isFree) continue;
+      if (from < to) ranges.splice(at, 0, [from, to]);
+      return lane;
+    }
+    return TakenLanes.most;
+  }
+
+  // Of the first range that begins at `from` or behind it; they are in order, and none reaches into
+  // another.
+  indexOf(ranges, from) {
+    let low = 0;
+    let high = ranges.length;
+    while (low < high) {
+      const middle = (low + high) >> 1;
+      if (ranges[middle][0] < from) low = middle + 1;
+      else high = middle;
+    }
+    return low;
+  }
+}
+
 class ByteMap {
   static laneHeight = 34;
   static gapHeight = 26;
@@ -29,7 +65,8 @@ class ByteMap {
     this.largest = new Map();
     this.hasTables = false;
     const order = [this.record];
-    for (let i = 0; i < order.length; ++i) order.push(...children[order[i]]);
+    // Lists of any length: a call takes so many arguments and no more.
+    for (let i = 0; i < order.length; ++i) for (const child of children[order[i]]) order.push(child);
     for (const i of order.reverse()) {
       const own = items[i].o + this.program.extentOf(i);
       this.ends.set(i, children[i].reduce((end, child) => Math.max(end, this.ends.get(child)), own));
@@ -42,23 +79,21 @@ class ByteMap {
     }
   }
 
-  // The lane of each item; what is stacked at any place of a table counts for all of the table.
+  // The lane of each item; what is stacked at any place of a table counts for all of the table. What
+  // finds no lane of its own stands in the last one with others.
   assignLanes() {
     const {items, children} = this.program;
     this.lanes = new Map();
     this.overlays = [];
-    const taken = [];
-    const isFree = (lane, from, to) => !(taken[lane] || []).some(([a, b]) => a < to && from < b);
+    const taken = new TakenLanes();
     const waiting = [[this.record, 0, null]];
-    while (waiting.length > 0) {
-      const [i, around, table] = waiting.shift();
+    for (let at = 0; at < waiting.length; ++at) {
+      const [i, around, table] = waiting[at];
       const item = items[i];
       let lane = around;
       if (i !== this.record && (item.rd !== undefined || item.rn)) {
         const [from, to] = table || [item.o, Math.max(this.ends.get(i), item.o + 1)];
-        lane = Math.max(around, item.rd >= 0 ? this.lanes.get(item.rd) || 0 : 0) + 1;
-        while (!isFree(lane, from, to)) ++lane;
-        (taken[lane] = taken[lane] || []).push([from, to]);
+        lane = taken.take(Math.max(around, item.rd >= 0 ? this.lanes.get(item.rd) || 0 : 0) + 1, from, to);
         this.overlays.push([from, to, lane]);
       }
       this.lanes.set(i, lane);
@@ -103,6 +138,25 @@ class ByteMap {
     return blocks;
   }
 
+  // How many lanes each row has.
+  lanesOfRows(count) {
+    const lanes = new Uint16Array(count).fill(1);
+    // The highest lanes first: a row that has its number is not looked at again.
+    const next = Uint32Array.from({length: count + 1}, (_, row) => row);
+    const openFrom = (row) => {
+      while (next[row] !== row) row = next[row] = next[next[row]];
+      return row;
+    };
+    for (const [from, to, lane] of [...this.overlays].sort((a, b) => b[2] - a[2])) {
+      const last = Math.min(count - 1, Math.floor((to - 1) / this.perRow));
+      for (let row = openFrom(Math.max(0, Math.min(count, Math.floor(from / this.perRow)))); row <= last; row = openFrom(row)) {
+        lanes[row] = lane + 1;
+        next[row] = row + 1;
+      }
+    }
+    return lanes;
+  }
+
   // Rows of bytes, as many in each as there is room for; those in the middle of one large item are
   // left out.
   layOut() {
@@ -115,13 +169,7 @@ class ByteMap {
     while (this.length / this.perRow > 100000) this.perRow *= 10;
     this.unit = Math.min(width / this.perRow, 46);
     const count = Math.ceil(this.length / this.perRow);
-    const lanes = new Uint16Array(count).fill(1);
-    for (const [from, to, lane] of this.overlays) {
-      const last = Math.min(count - 1, Math.floor((to - 1) / this.perRow));
-      for (let row = Math.floor(from / this.perRow); row <= last; ++row) {
-        lanes[row] = Math.max(lanes[row], lane + 1);
-      }
-    }
+    const lanes = this.lanesOfRows(count);
     const isInside = new Uint8Array(count);
     for (const block of this.blocksIn(0, this.length, 4 * this.perRow)) {
       if (block.end - block.start < 4 * this.perRow) continue;

@@ -13,7 +13,8 @@ function el(kind, attributes, ...children) {
     if (name.startsWith("on")) element.addEventListener(name.slice(2), value);
     else element.setAttribute(name, value);
   }
-  element.append(...children.flat(Infinity).filter((child) => child !== null && child !== undefined));
+  // One by one: a call takes so many arguments and no more.
+  for (const child of children.flat(Infinity)) if (child !== null && child !== undefined) element.append(child);
   return element;
 }
 

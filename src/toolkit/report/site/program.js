@@ -95,7 +95,7 @@ class RecordPage {
     while (waiting.length > 0) {
       const at = waiting.pop();
       if (program.children[at].length === 0) used.add(program.toneOf(at));
-      waiting.push(...program.children[at]);
+      for (const child of program.children[at]) waiting.push(child);
     }
     const legend = el("ul.legend", {}, tones.filter(([tone]) => used.has(tone)).map(([tone, text]) =>
       el("li", {}, el("span.swatch.tone-" + tone, {}), text)));
