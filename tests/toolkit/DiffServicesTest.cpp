@@ -202,6 +202,11 @@ const ImpactRow impacts[] = {
     {"01 R. 05 A PIC X. 05 K PIC X.", "01 R. 05 K PIC X.", "R.A", "mapping-lost o.p: R.A ->  !\n"},
     {"01 R. 05 A PIC X.", "01 R. 05 A PIC X(2).", "R.NONE", ""},
     {"01 R. 05 A PIC X.", "01 R. 05 A PIC X(2).", "$stdin", ""},
+    {"01 R. 05 FILLER. 10 A PIC X. 05 FILLER. 10 B PIC X.",
+     "01 R. 05 FILLER. 10 A PIC X. 05 FILLER. 10 B PIC X(2).", "R.FILLER.B",
+     "mapping-changed o.p: R.FILLER.B: PICTURE widened from X -> X(2) !\n"},
+    {"01 R. 05 A PIC X.", "01 R. 05 A PIC X(2).", "R.A.",
+     "mapping-changed o.p: R.A: PICTURE widened from X -> X(2) !\n"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Rows, DiffImpact, testing::ValuesIn(impacts));

@@ -347,4 +347,36 @@ TEST_F(ReportTest, WhyNothingIsMadeIsToldAndNothingIsUnlessItIsAskedFor) {
   EXPECT_THAT(dataOf(reportOf({example("PAYSLIP-ws.xml")}), "s1")["made"], IsEmpty());
 }
 
+// What a mapping leads to is what the library finds: through every group of a name, and with a
+// period at the end, and whatever subscripts the interface has.
+TEST_F(ReportTest, MappingsLeadToTheirItems) {
+  write("p.xml",
+        test::dictionaryOf(
+            "<group name='R' linkage='true'><group name='FILLER'><alphanumeric name='X' length='1' "
+            "picture='X'/></group><group name='FILLER'><alphanumeric name='Y' length='1' "
+            "picture='X'/></group></group>"));
+  std::string mappings;
+  for (const char* const mapping :
+       {"item='R.FILLER.Y'", "item='R.FILLER.X.'", "item='R.FILLER.X' subscript='1'"}) {
+    mappings += std::string("<mapping ") + mapping + "/>";
+  }
+  write("s.xml",
+        test::parameterDocument(
+            as::namespaces::java.uri,
+            "<parameter name='p'><mappings>" + mappings + "</mappings></parameter>", "", "p.xml"));
+  const nlohmann::json parameter = dataOf(reportOf({"s.xml"}), "s1")["operations"][0]["f"][0];
+  std::vector<int> items;
+  for (const nlohmann::json& mapping : parameter["m"]) items.push_back(mapping[1]);
+  EXPECT_THAT(items, testing::ElementsAre(4, 2, 2));
+}
+
+// A call takes so many arguments and no more: a script that hands on the members of a list fails
+// for those of a large document.
+TEST_F(ReportTest, ScriptsHandOnNoListsAsArguments) {
+  for (const toolkit::ReportFile& file : reportOf({example("MOTPREM.xml")}).files) {
+    if (file.name.rfind("data/", 0) == 0) continue;
+    EXPECT_THAT(file.content, Not(HasSubstr("push(..."))) << file.name;
+  }
+}
+
 }  // namespace

@@ -41,12 +41,34 @@ TEST(ItemPaths, LeadToItemsOutsideOfFiles) {
   EXPECT_EQ(pathFound("A"), "A");
   EXPECT_EQ(pathFound("A.G.X"), "A.G.X");
   EXPECT_EQ(pathFound("A.G.X(1)"), "A.G.X");
-  for (const char* const path : {"", "B", "B.Y", "A.X", "A.G.X.Y", "A.", ".A", "a", "Z"}) {
+  for (const char* const path : {"", ".", "B", "B.Y", "A.X", "A.G.X.Y", "A..", ".A", "a", "Z"}) {
     EXPECT_EQ(pathFound(path), "") << path;
   }
   // The first one of a name.
   EXPECT_EQ(facts[paths.find("C")].name, "C");
   EXPECT_EQ(paths.find("C") + 1, facts.items().size() - 1);
+}
+
+// Of all items of a path the first one that leads on: every group of a name is looked into.
+TEST(ItemPaths, LeadThroughAllGroupsOfAName) {
+  const DictionaryFacts facts = factsOf(dictionaryOf(
+      "01 R. 05 FILLER. 10 X PIC X. 05 FILLER PIC X. 05 FILLER. 10 Y PIC X. 10 X PIC XX. "
+      "01 R. 05 Z PIC X."));
+  const ItemPaths paths(facts);
+  const auto numberFound = [&](const char* path) { return paths.find(path); };
+  EXPECT_EQ(numberFound("R"), 0U);
+  EXPECT_EQ(numberFound("R.FILLER"), 1U);
+  EXPECT_EQ(numberFound("R.FILLER.X"), 2U);
+  EXPECT_EQ(numberFound("R.FILLER.Y"), 5U);
+  EXPECT_EQ(numberFound("R.Z"), 8U);
+}
+
+TEST(ItemPaths, MayEndInAPeriod) {
+  const DictionaryFacts facts = factsOf(dictionaryOf("01 R. 05 X PIC X OCCURS 2."));
+  const ItemPaths paths(facts);
+  EXPECT_EQ(paths.find("R."), 0U);
+  EXPECT_EQ(paths.find("R.X."), 1U);
+  EXPECT_EQ(paths.find("R.X.(1)"), 1U);
 }
 
 TEST(ItemPaths, AreShortenedInTheMiddle) {

@@ -10,15 +10,21 @@ ItemPaths::ItemPaths(const DictionaryFacts& facts) {
     if (section.kind != SectionFacts::Kind::file) continue;
     for (const ItemNumber record : section.records) isOfFile[record] = true;
   }
+  // For each item the first one of its path.
+  std::vector<ItemNumber> firsts(facts.items().size(), noItem);
   for (ItemNumber i = 0; i < facts.items().size(); ++i) {
     const ItemNumber parent = facts[i].parent;
     if (parent != noItem) isOfFile[i] = isOfFile[parent];
-    if (!isOfFile[i]) index_[parent].emplace(facts[i].name, i);
+    if (isOfFile[i]) continue;
+    const ItemNumber around = parent == noItem ? noItem : firsts[parent];
+    firsts[i] = index_[around].emplace(facts[i].name, i).first->second;
   }
 }
 
 ItemNumber ItemPaths::find(std::string_view path) const {
   path = path.substr(0, path.find('('));
+  // A period at the end separates nothing.
+  if (!path.empty() && path.back() == '.') path.remove_suffix(1);
   ItemNumber at = noItem;
   while (true) {
     const std::size_t period = path.find('.');

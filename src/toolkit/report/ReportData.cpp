@@ -82,8 +82,9 @@ ordered_json dataOf(const std::vector<AttributeFacts>& attributes) {
   return data;
 }
 
+// `mapping` as ServiceFacts has it, with what the interface's subscripts are behind " as ".
 ItemNumber itemOf(const ItemPaths* paths, const std::string& mapping) {
-  return paths == nullptr ? noItem : paths->find(mapping);
+  return paths == nullptr ? noItem : paths->find(mapping.substr(0, mapping.find(" as ")));
 }
 
 ordered_json dataOf(const std::vector<FieldFacts>& fields, const ItemPaths* paths);
