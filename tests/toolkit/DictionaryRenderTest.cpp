@@ -422,4 +422,15 @@ TEST_F(DictionaryRenderTest, TheExamplesAreShown) {
   EXPECT_GE(count, 3);
 }
 
+// Every item tells the path of its group.
+TEST_F(DictionaryRenderTest, PathsAreNoLongerThanTheyAreRead) {
+  const std::string document = test::dictionaryOf(
+      "<group name='" + std::string(3000, 'A') + "'><group name='" + std::string(3000, 'B') +
+      "'><numeric name='N' digits='1'/></group></group>");
+  const json group = shownJson(document)["dataItems"][0]["children"][0];
+  EXPECT_EQ(group["parent"], std::string(3000, 'A'));
+  EXPECT_EQ(group["children"][0]["parent"],
+            std::string(2000, 'A') + "..." + std::string(2000, 'B'));
+}
+
 }  // namespace

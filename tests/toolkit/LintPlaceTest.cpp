@@ -222,4 +222,18 @@ TEST_F(LintPlaceTest, ManyOfThemTakeTimeInProportion) {
   EXPECT_THAT(placesIn(service(operation(parameters))), IsEmpty());
 }
 
+// Each of many fields is told with all that it stands in.
+TEST_F(LintPlaceTest, PlacesAreNoLongerThanTheyAreRead) {
+  std::string fields = "<field name='f'/>";
+  for (int level = 0; level < 200; ++level) {
+    fields = "<field name='" + std::string(100, 'n') + "'>" + fields + "</field>";
+  }
+  write("s.xml", service(operation("<parameter name='p'>" + fields + "</parameter>")));
+  const toolkit::Findings findings = toolkit::lintFile(reader(), "s.xml");
+  ASSERT_FALSE(findings.empty());
+  EXPECT_THAT(findings.back().place,
+              testing::AllOf(testing::StartsWith("pay.p.nnn"), testing::EndsWith("nnn.f")));
+  for (const toolkit::Finding& finding : findings) EXPECT_LE(finding.place.size(), 4003U);
+}
+
 }  // namespace

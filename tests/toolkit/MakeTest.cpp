@@ -594,6 +594,31 @@ TEST_F(MakeTest, NamesOfEntryPointsMayHoldDots) {
   EXPECT_THAT(textsOf(make(program).notes), ElementsAre(StartsWith("M.X.R.N: it renames")));
 }
 
+// However deep and long: as many paths as there are items would come to any size.
+TEST_F(MakeTest, ItemsOfPathsThatNobodyReadsAreLeftOut) {
+  const auto notesWith = [this](std::size_t length) {
+    return make(programOf("<group name='R'><group name='" + std::string(4000, 'G') +
+                              "'><alphanumeric name='" + std::string(length, 'X') +
+                              "' length='1' picture='X'/><alphanumeric name='Y' length='1' "
+                              "picture='X' minOccurs='1' maxOccurs='2' odo='N'/></group>"
+                              "<numeric name='N' length='1' digits='1' picture='9'/></group>",
+                          {"R"}))
+        .notes;
+  };
+  // "R.", the group and a period are 4,003.
+  const toolkit::Findings fitting = notesWith(93);
+  ASSERT_EQ(fitting.size(), 1U);
+  EXPECT_EQ(fitting[0].rule, "variable-table");
+  EXPECT_THAT(fitting[0].place, AllOf(StartsWith("GO.R.GGG"), testing::EndsWith("GGG.Y")));
+  EXPECT_EQ(fitting[0].place.size(), 4003U);
+  const toolkit::Findings longer = notesWith(94);
+  ASSERT_EQ(longer.size(), 2U);
+  EXPECT_EQ(longer[0].rule, "too-long-path");
+  EXPECT_EQ(longer[0].problem, "its path is longer than 4096 bytes: left out");
+  EXPECT_THAT(contentOf("s.xml"), Not(HasSubstr("XXX")));
+  EXPECT_THAT(contentOf("s.xml"), HasSubstr("GGG.Y"));
+}
+
 TEST_F(MakeTest, WhatIsNoDictionaryIsRefused) {
   write("service.xml", test::payService(""));
   write("bad.xml", "<program");

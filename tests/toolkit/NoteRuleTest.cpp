@@ -90,6 +90,10 @@ INSTANTIATE_TEST_SUITE_P(
         MakeRow{"SamePath", recordOf("<numeric name='KEPT' length='1' digits='1' picture='9'/>"),
                 "same-path"},
         MakeRow{"TooManyTables", recordOf(nested(17)), "too-many-tables"},
+        MakeRow{"TooLongPath",
+                recordOf("<alphanumeric name='" + std::string(4095, 'X') +
+                         "' length='1' picture='X'/>"),
+                "too-long-path"},
         MakeRow{"NoFittingDataType", recordOf("<cobolObject name='P' length='4' offset='1'/>"),
                 "no-fitting-data-type"},
         MakeRow{"EditedItem",

@@ -209,4 +209,15 @@ TEST_F(ServiceRenderTest, JsonDoesNotFollowReferences) {
   EXPECT_FALSE(more.contains("mappings"));
 }
 
+// Every field tells all names on the way to it.
+TEST_F(ServiceRenderTest, QualifiedNamesAreNoLongerThanTheyAreRead) {
+  const json parameter = shownJson(test::parameterDocument(
+      as::namespaces::java.uri,
+      "<parameter name='" + std::string(5000, 'p') +
+          "'><field name='f'/></parameter>"))["operations"][0]["parameters"][0];
+  EXPECT_EQ(parameter["name"], std::string(5000, 'p'));
+  EXPECT_EQ(parameter["children"][0]["qualifiedName"],
+            "op" + std::string(1998, 'p') + "..." + std::string(1999, 'p') + "f");
+}
+
 }  // namespace

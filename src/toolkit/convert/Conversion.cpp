@@ -15,6 +15,7 @@
 #include "toolkit/io/XmlDocument.h"
 #include "toolkit/text/Names.h"
 #include "toolkit/text/Phrases.h"
+#include "toolkit/text/ShownPlace.h"
 
 namespace as::toolkit {
 
@@ -258,7 +259,7 @@ class Conversion {
       if (name == "parameterTypeDefs") start = "type ";
     }
     std::reverse(names.begin(), names.end());
-    return start + dotted(names);
+    return start + shownPath(names);
   }
 
   const FlavourProfile& from_;

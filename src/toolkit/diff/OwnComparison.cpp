@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "toolkit/diff/ConditionMatch.h"
+#include "toolkit/text/ShownPlace.h"
 
 namespace as::toolkit {
 
@@ -92,7 +93,7 @@ ChangeNumber OwnComparison::compareRedefinition(ItemNumber old, ItemNumber added
        match_.newOf(before.redefined) == noItem || match_.oldOf(after.redefined) == noItem);
   if (isSame) return noChange;
   const auto nameOf = [](const DictionaryFacts& facts, ItemNumber number) {
-    return number == noItem ? std::string("none") : facts[number].name;
+    return number == noItem ? std::string("none") : shownPlace({facts[number].name});
   };
   return changes_.tell("redefinition-changed", old, added, nameOf(before_, before.redefined),
                        nameOf(after_, after.redefined));

@@ -7,7 +7,7 @@
 
 #include "toolkit/diff/DictionaryDiff.h"
 #include "toolkit/diff/NameMatch.h"
-#include "toolkit/text/Phrases.h"
+#include "toolkit/text/ShownPlace.h"
 
 namespace as::toolkit {
 
@@ -144,7 +144,7 @@ void ServiceDiff::compareOperations(const std::vector<OperationFacts>& before,
 }
 
 void ServiceDiff::compareOperation(const OperationFacts& before, const OperationFacts& after) {
-  const Place place = {before.name, after.name};
+  const Place place = {shownPlace({before.name}), shownPlace({after.name})};
   changes_.addIfDifferent("operation-renamed", place, before.name, after.name);
   changes_.addIfDifferent("operation-rebound", place, orNone(before.entryPoint),
                           orNone(after.entryPoint));
@@ -160,7 +160,8 @@ void ServiceDiff::compareHidden(const Place& place, const Hidden& before, const 
   std::multimap<std::string, std::string> left(after.begin(), after.end());
   for (const auto& [item, value] : before) {
     const auto found = left.find(item);
-    const Place at = {place.before + " (hidden) " + item, place.after + " (hidden) " + item};
+    const Place at = {shownPlace({place.before, " (hidden) ", item}),
+                      shownPlace({place.after, " (hidden) ", item})};
     if (found == left.end()) {
       changes_.add("hidden-parameter-removed", {at.before, ""}, value, "");
       continue;
@@ -169,7 +170,8 @@ void ServiceDiff::compareHidden(const Place& place, const Hidden& before, const 
     left.erase(found);
   }
   for (const auto& [item, value] : left) {
-    changes_.add("hidden-parameter-added", {"", place.after + " (hidden) " + item}, "", value);
+    changes_.add("hidden-parameter-added", {"", shownPlace({place.after, " (hidden) ", item})}, "",
+                 value);
   }
 }
 
@@ -229,13 +231,13 @@ void ServiceDiff::compareFields(const Place& place, const char* separator, Level
   const std::vector<std::size_t> partners = matchByName(before, after, isRenamedField);
   const std::vector<bool> keeps = keepingOrder(partners);
   for (std::size_t i = 0; i < before.size(); ++i) {
-    const std::string old = place.before + separator + before[i].name;
+    const std::string old = shownPlace({place.before, separator, before[i].name});
     if (partners[i] == noPartner) {
       changes_.add(kind.removed, {old, ""}, describe(before[i]), "");
       continue;
     }
     const FieldFacts& partner = after[partners[i]];
-    const Place at = {old, place.after + separator + partner.name};
+    const Place at = {old, shownPlace({place.after, separator, partner.name})};
     changes_.addIfDifferent(kind.renamed, at, before[i].name, partner.name);
     if (!keeps[i] && kind.reordered != nullptr) {
       changes_.add(kind.reordered, at, std::to_string(i + 1), std::to_string(partners[i] + 1));
@@ -243,7 +245,7 @@ void ServiceDiff::compareFields(const Place& place, const char* separator, Level
     compareField(at, before[i], partner);
   }
   for (const std::size_t added : withoutPartner(partners, after.size())) {
-    changes_.add(kind.added, {"", place.after + separator + after[added].name}, "",
+    changes_.add(kind.added, {"", shownPlace({place.after, separator, after[added].name})}, "",
                  describe(after[added]));
   }
 }

@@ -1,6 +1,7 @@
 #include "toolkit/facts/DictionaryFacts.h"
 
 #include <algorithm>
+#include <string_view>
 #include <unordered_map>
 
 #include "as/IAlphanumeric.h"
@@ -14,7 +15,7 @@
 #include "as/INumericEdited.h"
 #include "as/IProperty.h"
 #include "toolkit/facts/DocumentConditions.h"
-#include "toolkit/text/Phrases.h"
+#include "toolkit/text/ShownPlace.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/ItemWalk.h"
 
@@ -186,9 +187,9 @@ void DictionaryFacts::addEntryPoints(as::IProgram& program) {
 std::string DictionaryFacts::pathOf(ItemNumber number) const {
   // COBOL knows 49 levels.
   constexpr std::size_t half = 50;
-  std::vector<std::string> names;
+  std::vector<std::string_view> names;
   for (ItemNumber at = number; at != noItem; at = items_[at].parent) {
-    names.push_back(items_[at].name);
+    names.emplace_back(items_[at].name);
   }
   std::reverse(names.begin(), names.end());
   if (names.size() > 2 * half) {
@@ -196,7 +197,7 @@ std::string DictionaryFacts::pathOf(ItemNumber number) const {
     names.erase(middle + 1, names.end() - half);
     *middle = "...";
   }
-  return dotted(names);
+  return shownPath(names);
 }
 
 ItemNumber DictionaryFacts::recordOf(ItemNumber number) const {

@@ -99,7 +99,7 @@ class DictionaryFacts {
   const std::vector<EntryPointFacts>& entryPoints() const { return entryPoints_; }
 
   // The names from the record down with periods between. In the middle of a way that is longer than
-  // any program's names are left out: paths grow with the square of depth.
+  // any program's names are left out: paths grow with the square of depth. As shownPlace() has it.
   std::string pathOf(ItemNumber number) const;
   ItemNumber recordOf(ItemNumber number) const;
 

@@ -12,7 +12,8 @@ std::string documentOf(as::IService& service, const std::string& file) {
   } catch (const as::CASException&) {
     throw RefusedDocument({file, 0, 0,
                            "the service cannot be written as XML: its elements nest too deep, one "
-                           "has too many attributes, or a name holds control characters",
+                           "has too many attributes, a name holds control characters, or memory "
+                           "ran out",
                            ""});
   }
 }

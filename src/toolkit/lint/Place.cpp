@@ -1,15 +1,18 @@
 #include "toolkit/lint/Place.h"
 
-#include <deque>
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+#include "toolkit/text/ShownPlace.h"
 
 namespace as::toolkit {
 
 std::string Place::text() const {
-  std::deque<const Place*> way;
-  for (const Place* at = this; at != nullptr; at = at->around_) way.push_front(at);
-  std::string text;
-  for (const Place* const at : way) text += at->step_;
-  return text;
+  std::vector<std::string_view> way;
+  for (const Place* at = this; at != nullptr; at = at->around_) way.emplace_back(at->step_);
+  std::reverse(way.begin(), way.end());
+  return shownPlace(way);
 }
 
 const as::IElement* Place::object() const {

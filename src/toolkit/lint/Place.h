@@ -21,7 +21,7 @@ class Place {
   Place(std::string step, const Place& around, const as::IElement& object)
       : step_(std::move(step)), around_(&around), object_(&object) {}
 
-  // In the terms of the document: "quote.serial", "type Address.street".
+  // In the terms of the document: "quote.serial", "type Address.street". As shownPlace() has it.
   std::string text() const;
 
   // The object there, or else the next one around it; null when there is none.

@@ -1,6 +1,7 @@
 #include "toolkit/make/ServiceMaker.h"
 
 #include <cstddef>
+#include <string_view>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "toolkit/findings/Report.h"
 #include "toolkit/text/Names.h"
 #include "toolkit/text/Phrases.h"
+#include "toolkit/text/ShownPlace.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/ItemIndex.h"
 #include "toolkit/walk/ItemWalk.h"
@@ -24,6 +26,10 @@ bool isUnnamed(as::IDataItem& item) {
   const std::string name = item.getName();
   return name.empty() || name == "FILLER";
 }
+
+// In bytes. A path of COBOL has 49 names of 31 characters at most; of longer ones a dictionary of
+// some hundred levels comes to thousands of times its own size.
+constexpr std::size_t longestPath = 4096;
 
 // An item that becomes a field, with what becomes of its members.
 struct Plan {
@@ -71,7 +77,7 @@ class ServiceMaker {
       as::IDataItem* const item = linkage.getDataItem();
       const std::string itemName =
           item == nullptr ? linkage.getAttributeValue("dataItem") : item->getName();
-      place_ = dotted({name, itemName});
+      place_ = shownPlace({name, ".", itemName});
       if (item == nullptr) {
         notes_.note("lost-record", place_, "it is no record of the dictionary: left out");
         return;
@@ -135,6 +141,8 @@ class ServiceMaker {
 
   void planMembers(as::IGroup& group, std::size_t tables, const ItemIndex::Entry* entry,
                    std::vector<Plan>& plans) {
+    way_.push_back(group.getName());
+    wayLength_ += way_.back().size() + 1;
     bool isThere = false;  // What a redefinition redefines.
     forEachMember<as::IDataItem>(group.getChildren(), [&](as::IDataItem& member) {
       if (member.isRenamed()) {
@@ -154,12 +162,19 @@ class ServiceMaker {
              "it redefines an item that cannot be mapped: it stands in its place");
       }
     });
+    wayLength_ -= way_.back().size() + 1;
+    way_.pop_back();
   }
 
   void planElementary(as::IDataItem& item, std::size_t tables, const ItemIndex::Entry* entry,
                       std::vector<Plan>& plans) {
     if (isUnnamed(item)) {
       ++unnamed_;
+      return;
+    }
+    if (wayLength_ + item.getName().size() > longestPath) {
+      note("too-long-path", item,
+           "its path is longer than " + std::to_string(longestPath) + " bytes: left out");
       return;
     }
     // Without an entry its path is not its own; others may have what it looks like.
@@ -212,8 +227,13 @@ class ServiceMaker {
              " tells");
   }
 
+  // Of an item of the group at hand.
   void note(const char* rule, as::IDataItem& item, const std::string& text) {
-    notes_.note(rule, dotted({operation_, dottedPath(item)}), text);
+    const std::string name = item.getName();
+    std::vector<std::string_view> names = {operation_};
+    names.insert(names.end(), way_.begin(), way_.end());
+    names.emplace_back(name);
+    notes_.note(rule, shownPath(names), text);
   }
 
   // Gives the field its type and mapping, or its fields.
@@ -242,6 +262,8 @@ class ServiceMaker {
   std::string operation_;
   std::string place_;
   int unnamed_ = 0;
+  std::vector<std::string> way_;  // The names of the groups around it, from the record on, ...
+  std::size_t wayLength_ = 0;     // ... and how long they are with a period behind each.
 };
 
 }  // namespace

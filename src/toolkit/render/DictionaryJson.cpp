@@ -1,5 +1,6 @@
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "as/IAlphanumeric.h"
 #include "as/ICondition.h"
@@ -17,6 +18,7 @@
 #include "as/toolkit/Render.h"
 #include "toolkit/render/JsonParts.h"
 #include "toolkit/render/JsonWriter.h"
+#include "toolkit/text/ShownPlace.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/ItemWalk.h"
 
@@ -63,6 +65,7 @@ class DictionaryJson {
         [this](as::IDataItem& item, std::size_t /*depth*/) {
           writer_.beginObject();
           writeMembers(item);
+          way_.push_back(item.getName());
           if (as::interface_cast<as::IGroup>(&item) == nullptr) return;
           writer_.key("children");
           writer_.beginArray();
@@ -70,6 +73,7 @@ class DictionaryJson {
         [this](as::IDataItem& item) {
           if (as::interface_cast<as::IGroup>(&item) != nullptr) writer_.end();
           writer_.end();
+          way_.pop_back();
         });
     writer_.end();
   }
@@ -124,7 +128,7 @@ class DictionaryJson {
     writer_.member("sync", item.isSync());
     writer_.member("redefined", item.isRedefined());
     writer_.member("renamed", item.isRenamed());
-    writer_.member("parent", pathOrNull(item.getParent()));
+    writer_.member("parent", way_.empty() ? ordered_json() : ordered_json(shownPath(way_)));
     writeOwnMembers(item);
     writeArray<as::ICondition>("conditions", item.getConditions());
   }
@@ -152,6 +156,7 @@ class DictionaryJson {
   }
 
   JsonWriter writer_;
+  std::vector<std::string> way_;  // The names of the groups around the item at hand.
 };
 
 }  // namespace

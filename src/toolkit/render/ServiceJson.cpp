@@ -15,6 +15,7 @@
 #include "toolkit/flavour/FlavourProfile.h"
 #include "toolkit/render/JsonParts.h"
 #include "toolkit/render/JsonWriter.h"
+#include "toolkit/text/ShownPlace.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/FieldWalk.h"
 #include "toolkit/walk/Subscripts.h"
@@ -138,7 +139,7 @@ class ServiceJson {
   // Everything but the field attributes and children.
   void writeMembers(as::IField& field, bool isParameter) {
     writer_.member("name", field.getName());
-    writer_.member("qualifiedName", field.getQualifiedName());
+    writer_.member("qualifiedName", shownPlace({field.getQualifiedName()}));
     writer_.member("occurs", field.getOccurs());
     auto* const parameter = as::interface_cast<as::IParameter>(&field);
     if (parameter != nullptr) {
