@@ -5,6 +5,7 @@
 
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "support/Diffs.h"
 #include "support/Documents.h"
@@ -201,12 +202,12 @@ const ImpactRow impacts[] = {
     {"01 R. 05 A PIC X.", "01 R. 05 B PIC X.", "R.A", "mapping-renamed o.p: R.A -> R.B !\n"},
     {"01 R. 05 A PIC X. 05 K PIC X.", "01 R. 05 K PIC X.", "R.A", "mapping-lost o.p: R.A ->  !\n"},
     {"01 R. 05 A PIC X.", "01 R. 05 A PIC X(2).", "R.NONE", ""},
-    {"01 R. 05 A PIC X.", "01 R. 05 A PIC X(2).", "$stdin", ""},
     {"01 R. 05 FILLER. 10 A PIC X. 05 FILLER. 10 B PIC X.",
      "01 R. 05 FILLER. 10 A PIC X. 05 FILLER. 10 B PIC X(2).", "R.FILLER.B",
      "mapping-changed o.p: R.FILLER.B: PICTURE widened from X -> X(2) !\n"},
     {"01 R. 05 A PIC X.", "01 R. 05 A PIC X(2).", "R.A.",
      "mapping-changed o.p: R.A: PICTURE widened from X -> X(2) !\n"},
+    {"01 R. 05 A PIC X.", "01 R. 05 A PIC X(2).", "$stdin", ""},
 };
 
 INSTANTIATE_TEST_SUITE_P(Rows, DiffImpact, testing::ValuesIn(impacts));
@@ -241,6 +242,58 @@ TEST_F(DiffImpact, EntryPointsMayBeGoneOrCalledInAnotherWay) {
             "entry-point-changed o: E -> E");
   EXPECT_EQ(told("<entryPoint name='E'><parameter dataItem='A' byType='value'/></entryPoint>"),
             "entry-point-changed o: E -> E");
+}
+
+// Field attributes are mapped as fields are; what stands in a definition is told there alone.
+TEST_F(DiffImpact, FieldAttributesAreLookedAtWhereverTheyStand) {
+  dictionary("old.xml", "01 R. 05 A PIC X.");
+  dictionary("new.xml", "01 R. 05 A PIC X(2).");
+  const std::string attribute =
+      "<fieldAttribute name='a'><mappings><mapping item='R.A'/></mappings></fieldAttribute>";
+  write("s.xml",
+        test::webService(
+            "name='s' implementation='ws'",
+            "<parameterTypeDefs><parameter name='T'>" + attribute + "<field name='f'>" + attribute +
+                "</field></parameter><parameter name='U' ref='T'/></parameterTypeDefs>"
+                "<operations><operation name='o'><parameters><parameter name='p'>" +
+                attribute + "<field name='g'>" + attribute +
+                "</field></parameter><parameter name='q' ref='T'/></parameters><header>"
+                "<parameters><parameter name='h'>" +
+                attribute + "</parameter></parameters></header></operation></operations>"));
+  std::vector<std::string> places;
+  for (const toolkit::Change& change :
+       toolkit::diffFiles(reader(), "old.xml", "new.xml", {"s.xml"}).changes) {
+    if (!change.service.empty()) places.push_back(change.oldPlace);
+  }
+  EXPECT_THAT(places, testing::ElementsAre("type T.@a", "type T.f.@a", "o.p.@a", "o.p.g.@a",
+                                           "o header.h.@a"));
+}
+
+// However long names are, and however deep what they stand in: each of many is told its place.
+TEST_F(DiffImpact, PlacesAreNoLongerThanTheyAreRead) {
+  dictionary("old.xml", "01 R. 05 A PIC X.");
+  dictionary("new.xml", "01 R. 05 A PIC X(2).");
+  const auto documentOf = [](const std::string& occurs) {
+    return test::javaService("name='s' implementation='java'",
+                             "<operations><operation name='" + std::string(5000, 'o') +
+                                 "'><parameters><parameter name='" + std::string(5000, 'p') +
+                                 "'><field name='f' occurs='" + occurs +
+                                 "'><mappings><mapping item='R.A'/></mappings></field></parameter>"
+                                 "</parameters></operation></operations>");
+  };
+  write("s.xml", documentOf("1"));
+  write("t.xml", documentOf("2"));
+  const std::vector<toolkit::Change> impact =
+      toolkit::diffFiles(reader(), "old.xml", "new.xml", {"s.xml"}).changes;
+  EXPECT_THAT(impact.back().oldPlace,
+              testing::AllOf(testing::StartsWith("ooo"), testing::EndsWith("p.f")));
+  EXPECT_EQ(impact.back().oldPlace.size(), 4003U);
+  const std::vector<toolkit::Change> changes =
+      toolkit::diffFiles(reader(), "s.xml", "t.xml").changes;
+  ASSERT_EQ(changes.size(), 1U);
+  EXPECT_THAT(changes[0].oldPlace,
+              testing::AllOf(testing::StartsWith("ooo"), testing::EndsWith("p.f")));
+  EXPECT_LE(changes[0].oldPlace.size(), 4003U);
 }
 
 // A place with more behind it.

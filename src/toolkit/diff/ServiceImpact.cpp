@@ -5,9 +5,7 @@
 
 #include "as/IHiddenParameter.h"
 #include "as/IOperation.h"
-#include "as/IParameter.h"
-#include "toolkit/flavour/FlavourProfile.h"
-#include "toolkit/text/Phrases.h"
+#include "toolkit/text/ShownPlace.h"
 #include "toolkit/walk/FieldWalk.h"
 
 namespace as::toolkit {
@@ -15,6 +13,16 @@ namespace as::toolkit {
 namespace {
 
 bool isOfTables(const std::string& kind) { return kind.rfind("table-", 0) == 0; }
+
+// Whether the two are called the same from the record down.
+bool isOnePath(const DictionaryFacts& before, ItemNumber old, const DictionaryFacts& after,
+               ItemNumber added) {
+  while (old != noItem && added != noItem && before[old].name == after[added].name) {
+    old = before[old].parent;
+    added = after[added].parent;
+  }
+  return old == noItem && added == noItem;
+}
 
 }  // namespace
 
@@ -32,14 +40,9 @@ ServiceImpact::ServiceImpact(const DictionaryFacts& before, const DictionaryFact
 void ServiceImpact::compare(as::IService& service, const std::string& file) {
   file_ = file;
   const FlavourProfile& flavour = profileOf(service);
-  forEachMember<as::IParameter>(service.getParameterTypeDefs(), [&](as::IParameter& definition) {
-    const std::string place = "type " + definition.getName();
-    forEachMember<as::IMapping>(definition.getMappings(),
-                                [&](as::IMapping& mapping) { compareMapping(mapping, place); });
-    compareFields(definition.getChildren(), place);
-  });
+  compareFields(service.getParameterTypeDefs(), "type ", flavour);
   forEachMember<as::IOperation>(service.getOperations(), [&](as::IOperation& operation) {
-    const std::string place = operation.getName();
+    const std::string place = shownPlace({operation.getName()});
     const std::string entry = operation.getAttributeValue("entryPoint");
     const auto found = entryChanges_.find(entry);
     if (found != entryChanges_.end() && !found->second.empty()) {
@@ -52,25 +55,40 @@ void ServiceImpact::compare(as::IService& service, const std::string& file) {
     forEachMember<as::IHiddenParameter>(
         operation.getHiddenParameters(),
         [&](as::IHiddenParameter& hidden) { compareMapping(hidden, place + " (hidden)"); });
-    compareFields(operation.getParameters(), place);
+    compareFields(operation.getParameters(), place + ".", flavour);
     for (const Message& message : flavour.messagesOf(operation)) {
-      compareFields(message.parameters, place + " " + message.kind);
+      compareFields(message.parameters, place + " " + message.kind + ".", flavour);
     }
   });
 }
 
-void ServiceImpact::compareFields(as::IList* fields, const std::string& place) {
+void ServiceImpact::compareFields(as::IList* fields, const std::string& place,
+                                  const FlavourProfile& flavour) {
   std::vector<std::string> names;
   walkFields(
       fields,
       [&](as::IField& field, std::size_t /*depth*/) {
         names.push_back(field.getName());
+        // What comes from a definition is told where it stands.
         if (!referenceOf(field).empty()) return;
-        forEachMember<as::IMapping>(field.getMappings(), [&](as::IMapping& mapping) {
-          compareMapping(mapping, place + "." + dotted(names));
+        compareMappings(field, place, names);
+        forEachMember<as::IField>(flavour.attributesOf(field), [&](as::IField& attribute) {
+          if (!referenceOf(attribute).empty()) return;
+          names.push_back("@" + attribute.getName());
+          compareMappings(attribute, place, names);
+          names.pop_back();
         });
       },
       [&](as::IField&) { names.pop_back(); });
+}
+
+void ServiceImpact::compareMappings(as::IField& field, const std::string& place,
+                                    const std::vector<std::string>& names) {
+  as::IList* const mappings = field.getMappings();
+  if (mappings->getLength() == 0) return;
+  const std::string at = shownPlace({place, shownPath(names)});
+  forEachMember<as::IMapping>(mappings,
+                              [&](as::IMapping& mapping) { compareMapping(mapping, at); });
 }
 
 void ServiceImpact::compareMapping(as::IMapping& mapping, const std::string& place) {
@@ -84,8 +102,9 @@ void ServiceImpact::compareMapping(as::IMapping& mapping, const std::string& pla
     tell("mapping-lost", place, path, "", true, noChange);
     return;
   }
-  const std::string newPath = after_.pathOf(added);
-  if (newPath != before_.pathOf(old)) tell("mapping-renamed", place, path, newPath, true, noChange);
+  if (!isOnePath(before_, old, after_, added)) {
+    tell("mapping-renamed", place, path, after_.pathOf(added), true, noChange);
+  }
   bool isTold = false;
   const auto tellChangesOf = [&](ItemNumber at, bool isAround) {
     for (const ChangeNumber number : items_.changesOf(at)) {

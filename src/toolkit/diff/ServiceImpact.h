@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "as/IField.h"
 #include "as/IMapping.h"
 #include "as/IService.h"
 #include "toolkit/diff/ChangeList.h"
@@ -13,6 +14,7 @@
 #include "toolkit/diff/ItemMatch.h"
 #include "toolkit/facts/DictionaryFacts.h"
 #include "toolkit/facts/ItemPaths.h"
+#include "toolkit/flavour/FlavourProfile.h"
 
 namespace as::toolkit {
 
@@ -26,8 +28,12 @@ class ServiceImpact {
   void compare(as::IService& service, const std::string& file);
 
  private:
+  // At parameters or type definitions with all below them. Their names stand behind `place`, the
+  // operation's with what is between.
+  void compareFields(as::IList* fields, const std::string& place, const FlavourProfile& flavour);
+  void compareMappings(as::IField& field, const std::string& place,
+                       const std::vector<std::string>& names);
   void compareMapping(as::IMapping& mapping, const std::string& place);
-  void compareFields(as::IList* fields, const std::string& place);
   void tell(const char* kind, const std::string& place, std::string oldValue, std::string newValue,
             bool breaks, ChangeNumber cause);
 
