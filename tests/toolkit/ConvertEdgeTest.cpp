@@ -91,6 +91,35 @@ TEST_F(ConvertEdge, FieldAttributesOfPrefixedDocumentsBecomePrefixedFields) {
   EXPECT_THAT(output(), Not(HasSubstr("fieldAttribute")));
 }
 
+// What a document says of an element for schemas is no longer true of another one.
+TEST_F(ConvertEdge, FieldAttributesLoseTheirSchemaTypesWhenTheyBecomeFields) {
+  const std::string attributes =
+      "<fieldAttribute name='a' dataType='string' xsi:type='fieldAttribute'/>"
+      "<fieldAttribute name='b' dataType='string' xmlns:i='http://www.w3.org/2001/"
+      "XMLSchema-instance' i:type='fieldAttribute'/>";
+  write("s.xml",
+        test::webService("name='S' implementation='ws'",
+                         "<operations><operation name='o'><parameters><parameter name='p' "
+                         "xsi:type='parameter'>" +
+                             attributes + "</parameter></parameters></operation></operations>"));
+  for (const char* const flavour : {"java", "com", "dotnet"}) {
+    toolkit::convertServiceFile(reader(), "s.xml", "out.xml", *toolkit::findFlavour(flavour));
+    EXPECT_THAT(output(), HasSubstr("xsi:type=\"parameter\"")) << flavour;
+    EXPECT_THAT(output(), Not(HasSubstr("fieldAttribute"))) << flavour;
+  }
+}
+
+TEST_F(ConvertEdge, PlacesAreNoLongerThanTheyAreRead) {
+  const toolkit::Findings notes =
+      convertJava("<parameter name='" + std::string(5000, 'p') +
+                      "'><field name='f' dataType='BigDecimal'/></parameter>",
+                  "dotnet");
+  ASSERT_EQ(notes.size(), 1U);
+  EXPECT_THAT(notes[0].place,
+              testing::AllOf(testing::StartsWith("o.ppp"), testing::EndsWith("p.f")));
+  EXPECT_EQ(notes[0].place.size(), 4003U);
+}
+
 TEST_F(ConvertEdge, WithoutADefaultNothingIsReadInstead) {
   EXPECT_THAT(textsOf(convertJava(parameterFor("OBJ", "byteArray"), "ws")),
               ElementsAre("o.p: data type 'byteArray' has no equivalent in Web services: left "

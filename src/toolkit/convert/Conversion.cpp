@@ -142,8 +142,20 @@ class Conversion {
     write(field, type);
   }
 
+  // What the element tells a schema of its own type.
+  static void dropSchemaType(XmlElement element) {
+    const std::string instances = "http://www.w3.org/2001/XMLSchema-instance";
+    for (const std::string& name : element.attributeNames()) {
+      const std::size_t colon = name.find(':');
+      if (colon == std::string::npos || name.substr(colon + 1) != "type") continue;
+      if (element.namespaceOf(name.substr(0, colon)) == instances) element.remove(name);
+    }
+  }
+
   void makeField(XmlElement& field) {
     field.rename("field");
+    // A field of that type there is none.
+    dropSchemaType(field);
     const std::string place = placeOf(field);
     std::string text =
         "it was a field attribute, which " + to_.name() + " services have not: made a field";

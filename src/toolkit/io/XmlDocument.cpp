@@ -44,6 +44,14 @@ std::string XmlElement::declaredNamespace() const {
   return get(before.empty() ? "xmlns" : "xmlns:" + before);
 }
 
+std::string XmlElement::namespaceOf(const std::string& prefix) const {
+  const std::string declaration = "xmlns:" + prefix;
+  for (XmlElement at = *this; at.isElement(); at = at.parent()) {
+    if (at.has(declaration)) return at.get(declaration);
+  }
+  return "";
+}
+
 void XmlElement::rename(const std::string& localName) {
   const std::string start = prefix();
   const std::string name = start.empty() ? localName : start + ":" + localName;

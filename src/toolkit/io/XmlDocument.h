@@ -30,6 +30,8 @@ class XmlElement {
   std::string prefix() const;
   // What its prefix, or having none, stands for, where it declares that itself; empty otherwise.
   std::string declaredNamespace() const;
+  // What the prefix stands for in the element; empty for nothing.
+  std::string namespaceOf(const std::string& prefix) const;
   // Gives it another local name.
   void rename(const std::string& localName);
 
