@@ -94,7 +94,7 @@ class AS_EXPORT DocumentReader {
   DocumentReader& operator=(const DocumentReader&) = delete;
 
   // The data dictionary or the service in `file`, whichever it is; a service comes without its
-  // program. Throws RefusedDocument.
+  // program. A pipe is read once, to its end, as documentFrom() has it. Throws RefusedDocument.
   Document read(const std::string& file) const;
   Document read(const DocumentSource& source) const;
 

@@ -6,6 +6,7 @@
 #include "as/toolkit/Files.h"
 #include "toolkit/diff/DictionaryDiff.h"
 #include "toolkit/diff/ServiceDiff.h"
+#include "toolkit/io/HeldSource.h"
 
 namespace as::toolkit {
 
@@ -36,8 +37,11 @@ Diff diffFiles(const DocumentReader& reader, const std::string& before, const st
 
 Diff diffDocuments(const DocumentReader& reader, const DocumentSource& before,
                    const DocumentSource& after, const std::vector<std::string>& services) {
-  const Document old = reader.read(before);
-  const Document added = reader.read(after);
+  // Dictionaries are read again for their conditions.
+  const HeldSource oldSource(before);
+  const HeldSource newSource(after);
+  const Document old = reader.read(oldSource.get());
+  const Document added = reader.read(newSource.get());
   if ((old.dictionary == nullptr) != (added.dictionary == nullptr)) {
     const bool isDictionary = added.dictionary != nullptr;
     throw RefusedDocument({after.name, 0, 0,
@@ -53,8 +57,8 @@ Diff diffDocuments(const DocumentReader& reader, const DocumentSource& before,
     }
     return diff(*old.service, *added.service);
   }
-  const DictionaryFacts olds(*old.dictionary, before);
-  const DictionaryFacts news(*added.dictionary, after);
+  const DictionaryFacts olds(*old.dictionary, oldSource.get());
+  const DictionaryFacts news(*added.dictionary, newSource.get());
   DictionaryDiff result(olds, news);
   for (const std::string& service : services) {
     result.compareService(*reader.readService(service), service);

@@ -11,6 +11,7 @@
 #include "as/toolkit/Text.h"
 #include "toolkit/generate/Generator.h"
 #include "toolkit/generate/ModelBuilder.h"
+#include "toolkit/io/HeldSource.h"
 #include "toolkit/io/OutputCheck.h"
 #include "toolkit/lint/LintedService.h"
 #include "toolkit/text/Phrases.h"
@@ -225,14 +226,14 @@ Generated generate(const GeneratorKind& kind, as::IProgram& program,
 Generated generateFrom(const DocumentReader& reader, const GeneratorKind& kind,
                        const DocumentSource& source, const GenerateOptions& options,
                        const std::optional<std::string>& dictionary) {
-  return makeOfDocument(reader, kind, source, options, dictionary).made;
+  return makeOfDocument(reader, kind, HeldSource(source).get(), options, dictionary).made;
 }
 
 GeneratedOutput generateFiles(const DocumentReader& reader, const GeneratorKind& kind,
                               const DocumentSource& source, const std::string& output,
                               const GenerateOptions& options,
                               const std::optional<std::string>& dictionary) {
-  MadeOfDocument read = makeOfDocument(reader, kind, source, options, dictionary);
+  MadeOfDocument read = makeOfDocument(reader, kind, HeldSource(source).get(), options, dictionary);
   GeneratedOutput result;
   result.findings = std::move(read.made.findings);
   if (read.made.files.empty()) return result;

@@ -22,6 +22,7 @@
 #include "as/Namespaces.h"
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Flavours.h"
+#include "toolkit/io/HeldSource.h"
 #include "toolkit/io/ServiceText.h"
 
 namespace as::toolkit {
@@ -175,6 +176,9 @@ DocumentReader::~DocumentReader() = default;
 
 Document DocumentReader::read(const std::string& file) const {
   checkReadable(file);
+  const DocumentSource source{file};
+  const HeldSource held(source);
+  if (held.get().text) return read(held.get());
   Document document;
   document.dictionary = rootFrom(file, [&] { return services_->parseCobolDD(file.c_str()); });
   if (document.dictionary) return document;

@@ -8,6 +8,7 @@
 #include "as/toolkit/Text.h"
 #include "toolkit/flavour/FlavourProfile.h"
 #include "toolkit/io/Bytes.h"
+#include "toolkit/io/HeldSource.h"
 #include "toolkit/lint/LintReport.h"
 #include "toolkit/lint/LintedService.h"
 #include "toolkit/lint/LintedText.h"
@@ -123,8 +124,9 @@ LintedService lintRead(const DocumentReader& reader, as::IService& service,
 
 Findings lintDocument(const DocumentReader& reader, const DocumentSource& source,
                       const LintOptions& options) {
-  const std::unique_ptr<as::IService> service = reader.readService(source);
-  return lintRead(reader, *service, source, options).findings;
+  const HeldSource held(source);
+  const std::unique_ptr<as::IService> service = reader.readService(held.get());
+  return lintRead(reader, *service, held.get(), options).findings;
 }
 
 Findings lintFile(const DocumentReader& reader, const std::string& file,

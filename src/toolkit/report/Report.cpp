@@ -11,6 +11,7 @@
 
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Generate.h"
+#include "toolkit/io/HeldSource.h"
 #include "toolkit/lint/LintedService.h"
 #include "toolkit/report/ReportData.h"
 #include "toolkit/report/ReportSource.h"
@@ -39,20 +40,22 @@ class ReportMaker {
     }
     std::stable_partition(report_.files.begin(), report_.files.end(),
                           [](const ReportFile& file) { return file.name == "index.html"; });
-    std::vector<std::pair<const DocumentSource*, std::unique_ptr<as::IService>>> services;
+    std::vector<std::pair<HeldSource, std::unique_ptr<as::IService>>> services;
     for (const DocumentSource& source : sources) {
       try {
-        Document document = reader_.read(source);
+        // Read again for conditions, for lint, and for what is made of it.
+        HeldSource held(source);
+        Document document = reader_.read(held.get());
         if (document.dictionary) {
-          addDictionary(*document.dictionary, source);
+          addDictionary(*document.dictionary, held.get());
         } else {
-          services.emplace_back(&source, std::move(document.service));
+          services.emplace_back(std::move(held), std::move(document.service));
         }
       } catch (const RefusedDocument& refused) {
         report_.refusals.push_back(refused.refusal());
       }
     }
-    for (const auto& [source, service] : services) addService(*service, *source);
+    for (const auto& [source, service] : services) addService(*service, source.get());
     ordered_json index;
     index["documents"] = std::move(documents_);
     report_.files.push_back({"data/index.js", scriptOf("index", index)});
