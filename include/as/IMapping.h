@@ -44,9 +44,10 @@ class AS_EXPORT IMapping : virtual public IElement {
   // and to "subscript". For any other item "subscript" stays as it was, neither removed nor
   // cleared: it may hold the list of an earlier table item. Null writes nothing. An item that has
   // "." or "(" in its name is not found again, or another one is.
-  // REQUIRES: `item` stands in no more than MAX_SUBSCRIPTS tables. The path of one in more is
-  // written like any other, but the schemas take no more subscripts than readers have room for:
-  // such a document is not read back.
+  // REQUIRES: `item` stands in no more than MAX_SUBSCRIPTS tables, and no name on its path holds a
+  // "(" with commas behind it. The path of another item is written like any other, but the schemas
+  // take no more subscripts, or what looks like them, than readers have room for: such a document
+  // may not be read back.
   virtual void setDataItem(IDataItem* item) = 0;
 
   // The subscripts in "subscript". Sets the first 16 entries of `subscripts` to -1, then stores
