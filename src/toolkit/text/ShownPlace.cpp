@@ -41,8 +41,9 @@ std::string endOf(const std::vector<std::string_view>& parts) {
     if (from > 0) break;
     room -= part->size();
   }
+  std::reverse(taken.begin(), taken.end());
   std::string end;
-  for (auto part = taken.rbegin(); part != taken.rend(); ++part) end += *part;
+  for (const std::string_view part : taken) end += part;
   return end;
 }
 
