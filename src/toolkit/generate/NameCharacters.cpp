@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "toolkit/text/Utf8.h"
+#include "toolkit/text/Utf8Text.h"
 
 namespace as::toolkit::gen {
 
@@ -24,7 +25,7 @@ std::u32string charactersOf(std::string_view text) {
     const int more = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : first >= 0xC0 ? 1 : 0;
     char32_t character = more == 0 ? replacement : first & (0x3FU >> static_cast<unsigned>(more));
     for (int k = 0; k < more; ++k) {
-      if (i == text.size() || (static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U) {
+      if (i == text.size() || !isWithinCharacter(text[i])) {
         character = replacement;
         break;
       }

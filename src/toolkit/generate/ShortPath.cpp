@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "toolkit/text/Utf8Text.h"
+
 namespace as::toolkit::gen {
 
 namespace {
@@ -14,15 +16,11 @@ constexpr std::string_view leftOut = "...";
 
 std::size_t lengthOf(std::string_view name) { return std::min(name.size(), longestName) + 1; }
 
-bool isInsideCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
-
 }  // namespace
 
 std::string shortName(std::string_view name) {
   if (name.size() <= longestName) return std::string(name);
-  std::size_t length = longestName;
-  while (length > 0 && isInsideCharacter(name[length])) --length;
-  return std::string(name.substr(0, length)).append(leftOut);
+  return std::string(beginningOf(name, longestName)).append(leftOut);
 }
 
 std::string shortPath(const std::vector<std::string_view>& names) {

@@ -7,6 +7,8 @@
 #include <limits>
 #include <string_view>
 
+#include "toolkit/text/Utf8Text.h"
+
 namespace as::toolkit {
 
 enum class CharacterClass : std::uint8_t {
@@ -51,11 +53,6 @@ constexpr bool isQuote(char character) { return character == '"' || character ==
 constexpr bool isDigit(char character) { return character >= '0' && character <= '9'; }
 constexpr bool isWordCharacter(char character) {
   return classOf(character) == CharacterClass::word;
-}
-
-// Whether it is a byte of a character that began before.
-constexpr bool isWithinCharacter(char character) {
-  return (static_cast<unsigned char>(character) & 0xC0U) == 0x80U;
 }
 
 // Whether a bar begins a comment: no half of "||", and no byte of a character of an encoding that

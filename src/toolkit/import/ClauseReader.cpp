@@ -6,8 +6,8 @@
 #include <string_view>
 #include <utility>
 
-#include "toolkit/import/Characters.h"
 #include "toolkit/import/EntryWords.h"
+#include "toolkit/text/Phrases.h"
 
 namespace as::toolkit {
 
@@ -20,9 +20,7 @@ constexpr int mostImplied = 1'000'000;
 
 // In characters of UTF-8.
 int lengthOf(const std::string& text) {
-  const std::ptrdiff_t length =
-      std::count_if(text.begin(), text.end(), [](char c) { return !isWithinCharacter(c); });
-  return static_cast<int>(std::min<std::ptrdiff_t>(length, mostImplied));
+  return static_cast<int>(std::min<std::size_t>(characterCount(text), mostImplied));
 }
 
 }  // namespace

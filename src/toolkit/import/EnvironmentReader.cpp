@@ -1,6 +1,5 @@
 #include "toolkit/import/EnvironmentReader.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <limits>
 #include <optional>
@@ -9,17 +8,13 @@
 
 #include "toolkit/import/ConstantReader.h"
 #include "toolkit/import/EntryWords.h"
+#include "toolkit/text/Phrases.h"
 
 namespace as::toolkit {
 
 namespace {
 
-// In characters of UTF-8.
-int lengthOf(const std::string& text) {
-  return static_cast<int>(std::count_if(text.begin(), text.end(), [](char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-  }));
-}
+int lengthOf(const std::string& text) { return static_cast<int>(characterCount(text)); }
 
 bool isSectionOfData(const Word& word) {
   switch (word.meaning.keyword) {

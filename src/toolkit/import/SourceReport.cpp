@@ -2,6 +2,7 @@
 
 #include "as/toolkit/Text.h"
 #include "toolkit/import/ImportLimits.h"
+#include "toolkit/text/Utf8Text.h"
 
 namespace as::toolkit {
 
@@ -40,14 +41,10 @@ void SourceReport::addMore(std::size_t findings, const char* rule) {
 
 std::string quoted(std::string_view text) {
   constexpr std::size_t most = 60;
-  std::size_t end = text.size();
-  if (end > most) {
-    // Not in the middle of a character.
-    for (end = most; end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U;) end--;
-  }
+  const std::string_view shown = beginningOf(text, most);
   std::string result = "\"";
-  result += text.substr(0, end);
-  if (end < text.size()) result += "...";
+  result += shown;
+  if (shown.size() < text.size()) result += "...";
   return result + '"';
 }
 

@@ -177,13 +177,11 @@ bool TokenReader::readPart(Token& token) {
 
 // As much of a word as is read.
 std::string_view TokenReader::withinLimit(std::string_view text, const SourcePlace& place) {
-  std::size_t end = importLimits::word;
-  if (text.size() <= end) return text;
-  while (end > 0 && isWithinCharacter(text[end])) --end;
+  if (text.size() <= importLimits::word) return text;
   report_.add(SourceRule::limit, place,
               "the word " + quoted(text) + " has more than " + std::to_string(importLimits::word) +
                   " bytes; what follows them is not read");
-  return text.substr(0, end);
+  return beginningOf(text, importLimits::word);
 }
 
 void TokenReader::endUnit() {

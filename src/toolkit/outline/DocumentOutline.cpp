@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "toolkit/outline/EntityTexts.h"
+#include "toolkit/text/Utf8Text.h"
 
 namespace as::toolkit {
 
@@ -26,7 +27,7 @@ class PlaceCounter {
       if (c == '\n' || (c == '\r' && !isFirstOfTwo)) {
         ++place_.line;
         place_.column = 1;
-      } else if ((static_cast<unsigned char>(c) & 0xC0U) != 0x80U) {
+      } else if (!isWithinCharacter(c)) {
         ++place_.column;
       }
     }

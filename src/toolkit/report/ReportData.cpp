@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "toolkit/text/Utf8Text.h"
 #include "toolkit/text/Words.h"
 
 namespace as::toolkit {
@@ -15,9 +16,7 @@ constexpr std::size_t longestName = 200;
 
 std::string shortened(const std::string& name) {
   if (name.size() <= longestName) return name;
-  std::size_t end = longestName;
-  while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0U) == 0x80) --end;
-  return name.substr(0, end) + "\u2026";
+  return std::string(beginningOf(name, longestName)) + "\u2026";
 }
 
 ordered_json numberOrNone(ItemNumber number) {

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "toolkit/text/Utf8Text.h"
+
 namespace as::toolkit {
 
 namespace {
@@ -28,7 +30,7 @@ struct Run {
 // The bytes of the UTF-8 character that `text` starts with.
 std::size_t characterSize(std::string_view text) {
   std::size_t size = 1;
-  while (size < text.size() && (static_cast<unsigned char>(text[size]) & 0xC0U) == 0x80U) ++size;
+  while (size < text.size() && isWithinCharacter(text[size])) ++size;
   return size;
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "toolkit/text/Utf8Text.h"
+
 namespace as::toolkit {
 
 std::string quote(const std::string& text) { return "'" + text + "'"; }
@@ -31,11 +33,8 @@ bool isNumeral(const std::string& text) {
 }
 
 std::size_t characterCount(std::string_view text) {
-  constexpr unsigned int continuationMask = 0xC0;
-  constexpr unsigned int continuation = 0x80;
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
-    return (static_cast<unsigned char>(byte) & continuationMask) != continuation;
-  }));
+  return static_cast<std::size_t>(
+      std::count_if(text.begin(), text.end(), [](char byte) { return !isWithinCharacter(byte); }));
 }
 
 }  // namespace as::toolkit

@@ -2,29 +2,20 @@
 
 #include <algorithm>
 
+#include "toolkit/text/Utf8Text.h"
+
 namespace as::toolkit {
 
 namespace {
 
 constexpr std::size_t half = longestPlace / 2;
 
-// Whether a character of UTF-8 goes on with that byte.
-bool isInside(char byte) {
-  constexpr unsigned int mask = 0xC0;
-  constexpr unsigned int continuation = 0x80;
-  return (static_cast<unsigned char>(byte) & mask) == continuation;
-}
-
 // The first bytes of the parts, up to the half: whole characters.
 std::string startOf(const std::vector<std::string_view>& parts) {
   std::string start;
   for (const std::string_view part : parts) {
     const std::size_t room = half - start.size();
-    if (part.size() > room) {
-      std::size_t end = room;
-      while (end > 0 && isInside(part[end])) --end;
-      return start.append(part.substr(0, end));
-    }
+    if (part.size() > room) return start.append(beginningOf(part, room));
     start += part;
   }
   return start;
@@ -36,7 +27,7 @@ std::string endOf(const std::vector<std::string_view>& parts) {
   std::size_t room = half;
   for (auto part = parts.rbegin(); part != parts.rend() && room > 0; ++part) {
     std::size_t from = part->size() - std::min(part->size(), room);
-    while (from > 0 && from < part->size() && isInside((*part)[from])) ++from;
+    while (from > 0 && from < part->size() && isWithinCharacter((*part)[from])) ++from;
     taken.push_back(part->substr(from));
     if (from > 0) break;
     room -= part->size();

@@ -28,7 +28,7 @@ std::size_t characterLength(std::string_view text, std::size_t at) {
   const auto byte = [&](std::size_t i) {
     return i < text.size() ? static_cast<Byte>(text[i]) : Byte{0};
   };
-  const auto goesOn = [&](std::size_t i) { return (byte(i) & 0xC0U) == 0x80U; };
+  const auto goesOn = [&](std::size_t i) { return isWithinCharacter(static_cast<char>(byte(i))); };
   const Byte first = byte(at);
   if (first < 0x80) return 1;
   if (first < 0xC2 || first > 0xF4) return 0;
@@ -42,6 +42,12 @@ std::size_t characterLength(std::string_view text, std::size_t at) {
   const bool isOverlong = first == 0xF0 && second < 0x90;
   const bool isBeyond = first == 0xF4 && second >= 0x90;
   return goesOn(at + 1) && goesOn(at + 2) && goesOn(at + 3) && !isOverlong && !isBeyond ? 4 : 0;
+}
+
+std::string_view beginningOf(std::string_view text, std::size_t most) {
+  if (text.size() <= most) return text;
+  while (most > 0 && isWithinCharacter(text[most])) --most;
+  return text.substr(0, most);
 }
 
 bool isUtf8(std::string_view text) {
