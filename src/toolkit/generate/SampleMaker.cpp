@@ -21,7 +21,10 @@ std::string digits(int count, int from = 1) {
   return text;
 }
 
-std::string zeros(int count) { return std::string(static_cast<std::size_t>(count), '0'); }
+std::string zeros(int count) {
+  std::string text(static_cast<std::size_t>(count), '0');
+  return text;
+}
 
 // 12345.67; 0.0012 of two digits with a scale of 4, and 1200 with one of -2.
 std::string numeral(int total, int scale) {

@@ -48,7 +48,7 @@ OpenRecord::Found OpenRecord::find(const std::vector<NameReference::Name>& names
 // much that was.
 std::size_t OpenRecord::lookAt(const std::vector<NameReference::Name>& names, const Entries& wanted,
                                const Entries& groups, Known& known) const {
-  const std::size_t begin = std::exchange(known.lookedAt, wanted.size());
+  const std::size_t first = std::exchange(known.lookedAt, wanted.size());
   std::size_t steps = 0;
   const auto take = [&](Index entry) {
     ++steps;
@@ -57,8 +57,8 @@ std::size_t OpenRecord::lookAt(const std::vector<NameReference::Name>& names, co
     if (found.first == none || entry < found.first) found.first = entry;
     found.last = std::max(found.last, entry);
   };
-  const auto from = wanted.begin() + static_cast<std::ptrdiff_t>(begin);
-  if (wanted.size() - begin <= groups.size()) {
+  const auto from = wanted.begin() + static_cast<std::ptrdiff_t>(first);
+  if (wanted.size() - first <= groups.size()) {
     std::for_each(from, wanted.end(), take);
     return steps;
   }

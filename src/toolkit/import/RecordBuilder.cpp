@@ -232,8 +232,8 @@ bool RecordBuilder::isOfCics(const NameReference& reference) {
 // Whether an item of a program around this one is meant, which says that it may be used here.
 bool RecordBuilder::isOfOuter(const NameReference& reference) const {
   for (const CobolProgram* outer = program_.outer; outer != nullptr; outer = outer->outer) {
-    const auto size = static_cast<Index>(outer->entries.size());
-    if (outer->globals && outer->globals->find(reference.names, {0, size}).entry != none) {
+    const auto end = static_cast<Index>(outer->entries.size());
+    if (outer->globals && outer->globals->find(reference.names, {0, end}).entry != none) {
       return true;
     }
   }
