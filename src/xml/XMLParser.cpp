@@ -94,7 +94,7 @@ CXMLParser::CXMLParser(std::shared_ptr<SharedSchemas> shared)
     : GrammarStore(std::move(shared)),
       TreeParser(nullptr, XMLPlatformUtils::fgMemoryManager, &grammars) {
   limits_.setEntityExpansionLimit(limits::entityExpansions);
-  memory.whenFull([this] { refuseAtOnce(refusals::ofGrammars()); });
+  watchMemory();
 }
 
 CXMLParser::~CXMLParser() {
@@ -102,6 +102,10 @@ CXMLParser::~CXMLParser() {
   memory.whenFull(nullptr);
   // The base class would release it.
   const DocumentPointer document(adoptDocument());
+}
+
+void CXMLParser::watchMemory() {
+  memory.whenFull([this] { refuseAtOnce(refusals::ofGrammars()); });
 }
 
 void CXMLParser::parse(const XMLCh* systemId) {
@@ -303,7 +307,7 @@ void CXMLParser::endIntSubset() {
   XercesDOMParser::endIntSubset();
   refuseAtOnce(dtd_.reasonSoFar());
   dtd_.end();
-  memory.whenFull([this] { refuseAtOnce(refusals::ofGrammars()); });
+  watchMemory();
 }
 
 void CXMLParser::entityDecl(const DTDEntityDecl& entity, bool isParameterEntity, bool isIgnored) {
@@ -438,9 +442,15 @@ std::unique_ptr<InputSource> CXMLParser::brought(const std::string& path, const 
 
 StreamSource::Stream CXMLParser::openBrought(const std::string& schema, const XMLCh* name) {
   broughtBytes_ += schema.size();
-  refuseAtOnce(refusals::ofSchemas("bytes", broughtBytes_, limits::schemaBytes));
-  if (const auto refusal = inspection_.refusalOf(schema, name)) stop(*refusal);
-  return StreamSource::Stream(sourceOfBytes(schema, name)->makeStream());
+  const std::string reason = refusals::ofSchemas("bytes", broughtBytes_, limits::schemaBytes);
+  std::optional<as::CASParseException> refusal;
+  if (!reason.empty()) {
+    refusal = messageHere(reason);
+  } else {
+    refusal = inspection_.refusalOf(schema, name);
+  }
+  if (refusal) report(*refusal);
+  return StreamSource::Stream(sourceOfBytes(refusal ? emptySchema() : schema, name)->makeStream());
 }
 
 void CXMLParser::warning(const SAXParseException& /*exception*/) {}

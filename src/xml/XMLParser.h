@@ -110,6 +110,9 @@ class CXMLParser : public TreeParser, public xercesc::ErrorHandler, protected vi
   // Opens a schema that the document brings, as it was read, once more.
   StreamSource::Stream openBrought(const std::string& schema, const XMLCh* name);
 
+  // Has the parse end when what is made of schemas passes its limit.
+  void watchMemory();
+
   // The document's source: pieces of it are handed out as long as nothing is refused.
   StreamSource::Stream watched(const xercesc::InputSource& source);
 

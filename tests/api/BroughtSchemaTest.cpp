@@ -343,6 +343,12 @@ TEST_F(BroughtSchemaDeathTest, OfAContentModelThatGrowsWithoutEndIsRefused) {
       "</xs:choice><xs:element name='a'/>" +
       repeated(either, 30));
   EXPECT_RESULT_IN_OWN_PROCESS(parseException, outcomeWith(schema), "more than 67108864 bytes");
+  // Nor is it where a DTD stands in front: while that is read, nothing is told of memory.
+  directory_.write("s.xsd", schema);
+  EXPECT_RESULT_IN_OWN_PROCESS(
+      parseException,
+      outcomeBesides("<!DOCTYPE program [<!ENTITY e ''>]>" + programWith(located("s.xsd"))),
+      "more than 67108864 bytes");
 }
 
 // A schema without a namespace is made anew for each that includes it.
@@ -367,6 +373,12 @@ TEST_F(BroughtSchema, CountsForEachNamespaceThatItIsReadFor) {
                                 std::string(400000, 'x') + "--></xs:schema>");
   EXPECT_EQ(outcomeOfSo(2).result, Result::root);
   EXPECT_THAT(outcomeOfSo(3).text, HasSubstr("more than 1048576 bytes"));
+  // That, too, gives way to the check of the root's namespace.
+  EXPECT_EQ(outcomeBesides("<o:root xmlns:o='urn:o' "
+                           "xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' " +
+                           located("s.xsd") + "/>")
+                .result,
+            Result::namespaceException);
 }
 
 // What a group was stands in its redefinition once, and may so in the redefinition of that.
