@@ -266,16 +266,6 @@ TEST_F(HostileReference, OfALongNameIsRefused) {
               HasSubstr(text));
 }
 
-// Each is looked up, whether it was looked up before or not.
-TEST_F(HostileReference, ToManySchemasIsRefused) {
-  const std::string places =
-      "<!DOCTYPE program [<!ENTITY e '" + hostile::repeated("u n ", 16000) + "'>]>";
-  const std::string attributes =
-      "xsi:schemaLocation='" + ns + " " + ns + " " + hostile::repeated("&e;", 60) + "'";
-  expectRefused(*servicesWithoutSchemas(), places + programWith(attributes), "");
-  expectRefused(*test::newServices(), places + programWith(attributes), "");
-}
-
 TEST_F(HostileReference, OfTheClientToANetworkIsRefused) {
   const auto services = test::newServices();
   for (const std::string& name :
