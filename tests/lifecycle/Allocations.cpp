@@ -1,5 +1,6 @@
 #include "lifecycle/Allocations.h"
 
+#include <cstddef>
 #include <cstdlib>
 #include <new>
 

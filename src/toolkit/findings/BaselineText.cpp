@@ -1,5 +1,7 @@
 #include "toolkit/findings/BaselineText.h"
 
+#include <algorithm>
+#include <limits>
 #include <nlohmann/json.hpp>
 #include <utility>
 
@@ -20,7 +22,9 @@ class Reader : public json::json_sax_t {
   bool boolean(bool /*value*/) override { return true; }
   bool number_integer(number_integer_t /*value*/) override { return true; }
   bool number_unsigned(number_unsigned_t value) override {
-    if (isInRow() && key_ == "count") row_.count = value;
+    // More than a program of 32 bits can count are as many as it can.
+    constexpr number_unsigned_t most = std::numeric_limits<std::size_t>::max();
+    if (isInRow() && key_ == "count") row_.count = static_cast<std::size_t>(std::min(value, most));
     return true;
   }
   bool number_float(number_float_t /*value*/, const string_t& /*text*/) override { return true; }
