@@ -64,6 +64,10 @@ TEST_F(ToolHelpTest, TellsTheExitCodes) {
                        "output failed\n  2  wrong usage\n"));
 }
 
+TEST_F(ToolHelpTest, TellsThatNamesMayBeSeveral) {
+  EXPECT_THAT(run({"validate", "--help"}).out, HasSubstr(" [OPTIONS] FILE...\n"));
+}
+
 TEST_F(ToolHelpTest, SuggestsTheCommandMeant) {
   EXPECT_THAT(run({"shwo", "a.xml"}).err,
               EndsWith("there is no command 'shwo'; did you mean 'show'?\n"));

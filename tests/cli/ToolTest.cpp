@@ -114,6 +114,16 @@ TEST_F(ToolTest, ValidateSearchesFolders) {
   EXPECT_EQ(run({"validate", "-r", "--quiet", "in/d.xml", "in/below"}).out, "");
 }
 
+// Names are taken as they are, whatever else they could mean to a parser of command lines.
+TEST_F(ToolTest, ValidateTakesNamesOfAnyCharacters) {
+  for (const char* const name : {"[a]", "[a,b]", "[]", "{}", "[[a]]", "a,b", "%%", "show"}) {
+    write(name, test::payProgram());
+    EXPECT_EQ(run({"validate", name}).out, std::string(name) + ": ok\n");
+    EXPECT_EQ(run({"validate", "--", name, name}).out,
+              std::string(name) + ": ok\n" + name + ": ok\n2 documents: 2 ok, 0 refused\n");
+  }
+}
+
 TEST_F(ToolTest, ValidateTellsPrograms) {
   write("bad.xml", test::dictionaryOf("\n\n<pointer name='A' lenght='4'/>"));
   const test::ToolOutcome outcome = run({"validate", "bad.xml", "--format", "sarif"});
