@@ -63,14 +63,17 @@ bool receive(int file, WorkOutcome& outcome) {
 // A process that does every `step`-th piece from `first` on.
 class Worker {
  public:
-  Worker(std::size_t first, std::size_t step, std::size_t count,
-         const std::function<WorkOutcome(std::size_t)>& work) {
+  // `others` are the ones that were started before.
+  Worker(const std::vector<std::unique_ptr<Worker>>& others, std::size_t first, std::size_t step,
+         std::size_t count, const std::function<WorkOutcome(std::size_t)>& work) {
     std::array<int, 2> ends{};
     if (::pipe(ends.data()) != 0) throw std::system_error(errno, std::generic_category());
     process_ = ::fork();
     if (process_ < 0) throw std::system_error(errno, std::generic_category());
     if (process_ == 0) {
       ::close(ends[0]);
+      // Who writes to a pipe that nobody reads is to be told so, and not to wait for this process.
+      for (const std::unique_ptr<Worker>& other : others) ::close(other->file_);
       try {
         bool isHeard = true;
         for (std::size_t i = first; i < count && isHeard; i += step) {
@@ -115,7 +118,7 @@ void workThrough(std::size_t count, std::size_t processes,
   }
   std::vector<std::unique_ptr<Worker>> workers;
   for (std::size_t i = 0; i < processes; ++i) {
-    workers.push_back(std::make_unique<Worker>(i, processes, count, work));
+    workers.push_back(std::make_unique<Worker>(workers, i, processes, count, work));
   }
   for (std::size_t i = 0; i < count; ++i) done(i, workers[i % processes]->next());
 }

@@ -132,6 +132,19 @@ TEST_F(ToolLintTest, SaysTheSameInAnyNumberOfProcesses) {
   }
 }
 
+// Those that were started have more to say than a pipe takes, and nobody is going to listen.
+TEST_F(ToolLintTest, EndsWhenNotAllProcessesCanBeStarted) {
+  std::string parameters;
+  for (int i = 0; i < 1000; ++i) parameters += unmapped;
+  writeService(parameters);
+  std::string names;
+  for (int i = 0; i < 20; ++i) names += " s.xml";
+  const test::ToolOutcome outcome = runProgram(
+      "/bin/sh", {"-c", "ulimit -n 12; exec timeout 60 " AS_TOOL " lint --jobs 20" + names});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err, "agentservices: error: Too many open files\n");
+}
+
 TEST_F(ToolLintTest, ReadsStandardInput) {
   writeService(unmapped);
   const int in = open(pathOf("s.xml").c_str(), O_RDONLY);
