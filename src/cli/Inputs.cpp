@@ -1,11 +1,15 @@
 #include "cli/Inputs.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
+#include <map>
+#include <optional>
 #include <set>
 #include <system_error>
+#include <utility>
 
 #include "as/toolkit/Files.h"
 #include "cli/Messages.h"
@@ -54,6 +58,35 @@ void tell(const Input& input, const WorkOutcome& outcome, const Inputs::Tellers&
       tellers.refused(input, {input.source.name, 0, 0, "the work at it came to no end", ""});
   }
 }
+
+// Which of the inputs a file is, whatever it is called.
+class FileNumbers {
+ public:
+  explicit FileNumbers(const std::vector<Input>& inputs) {
+    for (const Input& input : inputs) {
+      if (const auto number = numberOf(input.source.name)) inputs_.emplace(*number, &input);
+    }
+  }
+
+  // The first one; null when it is none.
+  const Input* find(const std::string& file) const {
+    const auto number = numberOf(file);
+    const auto found = number ? inputs_.find(*number) : inputs_.end();
+    return found == inputs_.end() ? nullptr : found->second;
+  }
+
+ private:
+  using Number = std::pair<dev_t, ino_t>;
+
+  // Nothing for what is no file.
+  static std::optional<Number> numberOf(const std::string& file) {
+    struct stat state = {};
+    if (::stat(file.c_str(), &state) != 0 || !S_ISREG(state.st_mode)) return std::nullopt;
+    return Number{state.st_dev, state.st_ino};
+  }
+
+  std::map<Number, const Input*> inputs_;
+};
 
 }  // namespace
 
@@ -128,10 +161,17 @@ std::vector<std::string> Inputs::targetsIn(const std::string& output) const {
   if (inputs_.size() == 1 && !inputs_.front().isSearched) return {output};
   std::vector<std::string> targets;
   std::set<std::string> taken;
+  const FileNumbers files(inputs_);
   for (const Input& input : inputs_) {
     targets.push_back((std::filesystem::path(output) / input.place).string());
-    if (taken.insert(targets.back()).second) continue;
-    printError("two documents would be written to " + targets.back());
+    if (!taken.insert(targets.back()).second) {
+      printError("two documents would be written to " + targets.back());
+      return {};
+    }
+    const Input* const other = files.find(targets.back());
+    if (other == nullptr || other == files.find(input.source.name)) continue;
+    printError("what is made of " + input.source.name + " would take the place of " +
+               other->source.name + ", which is to be read");
     return {};
   }
   return targets;

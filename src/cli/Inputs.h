@@ -54,7 +54,7 @@ class Inputs {
 
   // The files that commands write which make a document of each of theirs: `output` itself for one
   // that was named, files in the folder `output` for others. Empty, after a message, when two would
-  // be written to the same.
+  // be written to the same, or one in the place of another that is to be read.
   std::vector<std::string> targetsIn(const std::string& output) const;
 
  private:

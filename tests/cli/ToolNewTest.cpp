@@ -89,6 +89,19 @@ TEST_F(ToolNewTest, NoTwoDictionariesGoToOneFile) {
   EXPECT_FALSE(std::filesystem::exists(pathOf("out")));
 }
 
+// A search finds what would be written over, so that no name tells it.
+TEST_F(ToolNewTest, NoServiceTakesThePlaceOfADocumentToBeRead) {
+  write("a/p.xml", test::payProgram());
+  write("b/below/p.xml", test::payProgram());
+  const test::ToolOutcome outcome =
+      run({"new", "--flavour", "java", "a/p.xml", "-r", "b", "-o", "b/below"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err,
+            "agentservices: error: what is made of a/p.xml would take the place of b/below/p.xml, "
+            "which is to be read\n");
+  EXPECT_EQ(contentOf(pathOf("b/below/p.xml")), test::payProgram());
+}
+
 TEST_F(ToolNewTest, NeedsAFileToName) {
   write("p.xml", test::payProgram());
   const test::StandardInput redirected(open(pathOf("p.xml").c_str(), O_RDONLY));
