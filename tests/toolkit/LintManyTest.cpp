@@ -113,6 +113,68 @@ TEST_F(LintManyTest, TheFirstWrongRecordsOfADefinitionAreTold) {
   }
 }
 
+// Names that stand elsewhere than the element that something is told of: of any length, told with
+// each of many elements, they would come to thousands of times the size of the documents.
+struct LongNameRow {
+  const char* label;
+  // "@" is the long name.
+  const char* program;
+  const char* items;
+  const char* entryPoint;  // With what it is called with.
+  const char* operation;   // What follows in its start tag, and what is in it.
+};
+
+const char toR[] =
+    " entryPoint='PAY'><parameters><parameter name='p' dataType='int'><mappings><mapping item='R'/>"
+    "</mappings></parameter></parameters>";
+
+const LongNameRow longNameRows[] = {
+    {"ProgramWithoutAnEntryPoint", "@", "", "PAY'>", " entryPoint='GO'>"},
+    {"ProgramWithoutAnItem", "@", "", "PAY'>", toR},
+    {"LostRecord", "PAYROLL", "", "PAY'><parameter dataItem='@'/>", " entryPoint='PAY'>"},
+    {"RecordToMapTo", "PAYROLL",
+     "<numeric name='R' length='4' digits='4' picture='9(4)'/>"
+     "<numeric name='@' length='4' digits='4' picture='9(4)'/>",
+     "PAY'><parameter dataItem='@'/>", toR},
+    {"RecordThatIsRedefined", "PAYROLL",
+     "<numeric name='@' length='4' digits='4' picture='9(4)'/>"
+     "<numeric name='R' length='4' digits='4' picture='9(4)' redefines='true'/>",
+     "PAY'>", toR},
+    {"EntryPoint", "PAYROLL", "<numeric name='R' length='4' digits='4' picture='9(4)'/>", "@'>",
+     " entryPoint='@'><parameters><parameter name='p' dataType='int'><mappings><mapping item='R'/>"
+     "</mappings></parameter></parameters>"},
+    {"ItemThatIsMeant", "PAYROLL",
+     "<group name='@' length='4'><numeric name='R' length='4' digits='4' picture='9(4)'/></group>",
+     "PAY'>", toR}};
+
+class LintLongName : public test::ToolkitTest, public testing::WithParamInterface<LongNameRow> {};
+
+TEST_P(LintLongName, IsToldInPart) {
+  const LongNameRow& row = GetParam();
+  const auto filled = [](std::string text) {
+    for (std::size_t at = text.find('@'); at != std::string::npos; at = text.find('@', at)) {
+      text.replace(at, 1, std::string(100000, 'N'));
+    }
+    return text;
+  };
+  write("PAY.xml", test::element("program",
+                                 filled(std::string("<dataItems>") + row.items +
+                                        "</dataItems><entryPoints><entryPoint name='" +
+                                        row.entryPoint + "</entryPoint></entryPoints>"),
+                                 test::declarations(as::namespaces::dd.uri) + " name='" +
+                                     filled(row.program) + "'"));
+  write("s.xml", test::payService("<operations><operation name='pay'" + filled(row.operation) +
+                                  "</operation></operations>"));
+  const std::vector<std::string> told = test::textsOf(toolkit::lintFile(reader(), "s.xml"));
+  // In front of it stands once for the document that the program is another.
+  ASSERT_FALSE(told.empty());
+  EXPECT_THAT(told.back(), testing::HasSubstr("NNN...NNN"));
+  EXPECT_LT(told.back().size(), 10000U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, LintLongName, testing::ValuesIn(longNameRows),
+                         test::labelOf<LongNameRow>);
+
 // Definitions that refer to others by chance, and parameters that refer to them. A definition's
 // records are told in the order in which they are met, the first 20 of them.
 class LintTypeStorage : public LintManyTest, public testing::WithParamInterface<unsigned int> {

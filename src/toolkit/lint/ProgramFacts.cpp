@@ -9,13 +9,16 @@
 #include "as/IGroup.h"
 #include "as/ILinkageItem.h"
 #include "as/IProgram.h"
+#include "toolkit/text/Phrases.h"
+#include "toolkit/text/ShownPlace.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/ItemWalk.h"
 #include "toolkit/walk/TreeWalk.h"
 
 namespace as::toolkit {
 
-ProgramFacts::ProgramFacts(as::IProgram& program) : program_(program) {
+ProgramFacts::ProgramFacts(as::IProgram& program)
+    : program_(program), name_(shownPlace({program.getName()})) {
   as::IDataItem* last = nullptr;
   forEachMember<as::IDataItem>(program.getDataItems(), [&](as::IDataItem& item) {
     if (last == nullptr || !(item.isRedefined() || item.isRenamed())) last = &item;
@@ -27,8 +30,6 @@ ProgramFacts::ProgramFacts(as::IProgram& program) : program_(program) {
     if (entryPoints_.emplace(name, &entryPoint).second) entryPointNames_.add(name);
   });
 }
-
-std::string ProgramFacts::name() const { return program_.getName(); }
 
 as::IDataItem* ProgramFacts::find(const std::string& mapping) {
   if (!finder_) finder_.emplace(std::make_shared<const ItemIndex>(program_));
@@ -70,20 +71,27 @@ as::IDataItem* ProgramFacts::nearBeside(const std::string& path) {
                  : nullptr;
 }
 
-std::string ProgramFacts::pathMeant(const std::string& path) {
+as::IDataItem* ProgramFacts::itemMeant(const std::string& path) {
   if (!names_) findNames();
   const std::string last = path.substr(path.rfind('.') + 1);
-  as::IDataItem* meant = nullptr;
   if (const auto same = numbers_.find(last); same != numbers_.end()) {
-    meant = firstOfName_[same->second];
-  } else if (meant = nearBeside(path); meant == nullptr) {
-    const std::optional<std::size_t> nearest = names_->nearestTo(last);
-    if (nearest) meant = firstOfName_[*nearest];
+    return firstOfName_[same->second];
   }
+  if (as::IDataItem* const beside = nearBeside(path)) return beside;
+  const std::optional<std::size_t> nearest = names_->nearestTo(last);
+  return nearest ? firstOfName_[*nearest] : nullptr;
+}
+
+std::string ProgramFacts::pathMeant(const std::string& path) {
+  as::IDataItem* const meant = itemMeant(path);
   if (meant == nullptr) return "";
-  std::string found = dottedPath(*meant);
-  // Names may hold what separates those of a path.
-  return find(found) == nullptr ? "" : found;
+  const auto [known, isNew] = pathsMeant_.try_emplace(meant);
+  if (isNew) {
+    const std::string found = dottedPath(*meant);
+    // Names may hold what separates those of a path.
+    if (find(found) != nullptr) known->second = shownPlace({found});
+  }
+  return known->second;
 }
 
 std::string ProgramFacts::entryPointMeant(const std::string& name) {
@@ -98,6 +106,12 @@ as::IDataItem* ProgramFacts::recordOf(as::IDataItem& item) const {
   return found == records_.end() ? top : found->second;
 }
 
+const std::string& ProgramFacts::nameOf(as::IDataItem& record) {
+  const auto [known, isNew] = recordNames_.try_emplace(&record);
+  if (isNew) known->second = shownPlace({record.getName()});
+  return known->second;
+}
+
 const CallInterface* ProgramFacts::interfaceOf(const std::string& entryPoint) {
   const auto known = interfaces_.find(entryPoint);
   if (known != interfaces_.end()) return &known->second;
@@ -108,17 +122,19 @@ const CallInterface* ProgramFacts::interfaceOf(const std::string& entryPoint) {
 
 CallInterface ProgramFacts::read(as::IEntryPoint& entryPoint) const {
   CallInterface result;
-  result.entryPoint = entryPoint.getName();
+  result.entryPoint = shownPlace({entryPoint.getName()});
+  std::vector<std::string> names;
   forEachMember<as::ILinkageItem>(&entryPoint, [&](as::ILinkageItem& parameter) {
     const std::string name = parameter.getAttributeValue("dataItem");
     const auto found = recordsByName_.find(name);
     if (found == recordsByName_.end()) {
-      result.lost.push_back(name);
+      result.lost.push_back(shownPlace({name}));
       return;
     }
-    result.names.push_back(name);
+    names.push_back(name);
     result.records.emplace(recordOf(*found->second), parameter.getByType());
   });
+  result.names = shownPlace({firstOf(names)});
   return result;
 }
 

@@ -19,19 +19,21 @@ class IProgram;
 
 namespace as::toolkit {
 
-// What a caller of an entry point hands over.
+// What a caller of an entry point hands over. The names are told with each of many mappings: they
+// are as shownPlace() has them.
 struct CallInterface {
   std::string entryPoint;
   std::unordered_map<as::IDataItem*, int> records;  // With how they are handed over.
-  std::vector<std::string> names;
-  std::vector<std::string> lost;  // Names that no record has.
+  std::string names;                                // Those of the first; empty for none.
+  std::vector<std::string> lost;                    // Names that no record has.
 };
 
 class ProgramFacts {
  public:
   explicit ProgramFacts(as::IProgram& program);
 
-  std::string name() const;
+  // As shownPlace() has it.
+  const std::string& name() const { return name_; }
 
   // How items are found; null as long as none was looked for.
   std::shared_ptr<const ItemIndex> index() const { return finder_ ? finder_->index() : nullptr; }
@@ -41,7 +43,7 @@ class ProgramFacts {
 
   // The path of the item that a mapping may have meant that leads nowhere: the first one of the
   // name, wherever it stands, or else one whose name is nearly that, the one that stands where the
-  // rest of the path leads before others. Empty when there is none.
+  // rest of the path leads before others. As shownPlace() has it; empty when there is none.
   std::string pathMeant(const std::string& path);
 
   // The entry point whose name is nearly that; empty when there is none.
@@ -51,6 +53,10 @@ class ProgramFacts {
   // record.
   as::IDataItem* recordOf(as::IDataItem& item) const;
 
+  // What it is called, as shownPlace() has it. Any number of mappings lead to it, by names of what
+  // stands in it or takes its place.
+  const std::string& nameOf(as::IDataItem& record);
+
   // The interface of the entry point of that name; null when there is none. Stays where it is.
   const CallInterface* interfaceOf(const std::string& entryPoint);
 
@@ -58,8 +64,10 @@ class ProgramFacts {
   CallInterface read(as::IEntryPoint& entryPoint) const;
   void findNames();
   as::IDataItem* nearBeside(const std::string& path);
+  as::IDataItem* itemMeant(const std::string& path);
 
   as::IProgram& program_;
+  std::string name_;
   std::unordered_map<as::IDataItem*, as::IDataItem*> records_;     // Of the items at the top.
   std::unordered_map<std::string, as::IDataItem*> recordsByName_;  // The first of each name.
   std::unordered_map<std::string, as::IEntryPoint*> entryPoints_;  // The first of each name.
@@ -70,6 +78,9 @@ class ProgramFacts {
   std::vector<as::IDataItem*> firstOfName_;  // In the order of names_.
   std::unordered_map<std::string, std::size_t> numbers_;
   std::unordered_map<as::IDataItem*, NearNames> members_;  // Of groups that were asked for.
+  // Of those that were asked for.
+  std::unordered_map<as::IDataItem*, std::string> recordNames_;
+  std::unordered_map<as::IDataItem*, std::string> pathsMeant_;
   NearNames entryPointNames_;
 };
 

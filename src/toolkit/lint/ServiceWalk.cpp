@@ -275,7 +275,7 @@ class ServiceWalk {
   void lookAtStorage(as::IDataItem& record, const Place& place, int direction,
                      const CallInterface* interface) {
     if (!isKnown(interface)) return;
-    look(StorageSubject{place, record, *interface, direction}, report_);
+    look(StorageSubject{place, *program_, record, *interface, direction}, report_);
   }
 
   static bool isKnown(const CallInterface* interface) {
@@ -324,14 +324,15 @@ class ServiceWalk {
   void lookAtStorageOf(std::size_t definition, const Place& place, const Tree& tree) {
     const auto isWrong = [&](as::IDataItem& record) {
       LintReport trial = report_.emptyOne();
-      look(StorageSubject{place, record, *tree.interface, tree.direction}, trial);
+      look(StorageSubject{place, *program_, record, *tree.interface, tree.direction}, trial);
       return !trial.findings().empty();
     };
     const TypeStorage::WrongOnes wrong =
         typeStorage_.wrongOnes(definition, *tree.interface, tree.direction, isWrong);
     for (as::IDataItem* const record : wrong.told) {
       const bool hasMore = wrong.areMore && record == wrong.told.back();
-      look(StorageSubject{place, *record, *tree.interface, tree.direction, hasMore}, report_);
+      look(StorageSubject{place, *program_, *record, *tree.interface, tree.direction, hasMore},
+           report_);
     }
   }
 

@@ -14,6 +14,10 @@ bool isHandedOver(const StorageSubject& subject, int byType) {
   return found != subject.interface.records.end() && found->second == byType;
 }
 
+const std::string& recordName(const StorageSubject& subject) {
+  return subject.program.nameOf(subject.record);
+}
+
 // What is told of the record itself and of others for which it stands.
 std::string withOthers(const StorageSubject& subject, const std::string& problem) {
   return subject.hasMore ? problem + " (and there are others)" : problem;
@@ -23,24 +27,23 @@ std::string withOthers(const StorageSubject& subject, const std::string& problem
 
 void unreachableStorage(const StorageSubject& subject, const Tell& tell) {
   if (subject.interface.records.contains(&subject.record)) return;
-  const std::vector<std::string>& names = subject.interface.names;
-  tell(withOthers(subject, subject.record.getName() + " is nothing that entry point " +
+  const std::string& names = subject.interface.names;
+  tell(withOthers(subject, recordName(subject) + " is nothing that entry point " +
                                quote(subject.interface.entryPoint) + " is called with"),
-       names.empty() ? "it takes no parameters" : "map to something within " + firstOf(names));
+       names.empty() ? "it takes no parameters" : "map to something within " + names);
 }
 
 void nothingComesBack(const StorageSubject& subject, const Tell& tell) {
   if (subject.direction != as::IParameter::BY_OUT) return;
   if (!isHandedOver(subject, as::ILinkageItem::BY_VALUE)) return;
-  tell(withOthers(subject,
-                  subject.record.getName() + " is handed over by value: nothing comes back"),
+  tell(withOthers(subject, recordName(subject) + " is handed over by value: nothing comes back"),
        R"(make the parameter "in")");
 }
 
 void nothingGoesIn(const StorageSubject& subject, const Tell& tell) {
   if (subject.direction != as::IParameter::BY_IN) return;
   if (!isHandedOver(subject, as::ILinkageItem::BY_RETURNING)) return;
-  tell(withOthers(subject, subject.record.getName() + " is only returned: nothing goes in"),
+  tell(withOthers(subject, recordName(subject) + " is only returned: nothing goes in"),
        R"(make the parameter "out")");
 }
 

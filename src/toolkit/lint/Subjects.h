@@ -138,6 +138,7 @@ struct MappingSubject {
 // The record that something is mapped to, in an operation that is bound to an entry point.
 struct StorageSubject {
   const Place& place;
+  ProgramFacts& program;
   as::IDataItem& record;
   const CallInterface& interface;
   int direction = 0;     // Of the parameter.
