@@ -207,6 +207,17 @@ TEST_F(LintPlaceTest, WhatACommentSaysWrongIsTold) {
               ElementsAre(testing::EndsWith(" lint-comment")));
 }
 
+// A comment is judged like what stands beside it.
+TEST_F(LintPlaceTest, CommentsHoldForCommentsToo) {
+  const std::string off = "<!-- lint: off lint-comment -->";
+  const std::string wrong = "<!-- lint: off x -->";
+  EXPECT_THAT(placesIn(off + service(wrong + "<operations/>")), IsEmpty());
+  EXPECT_THAT(placesIn(off + wrong + service("") + wrong), IsEmpty());
+  EXPECT_THAT(placesIn(service(off + "<operations>" + wrong + "</operations>")), IsEmpty());
+  EXPECT_THAT(placesIn(service("\n" + wrong + off + "<operations/>")),
+              ElementsAre("2:1 lint-comment"));
+}
+
 TEST_F(LintPlaceTest, OtherCommentsSayNothing) {
   EXPECT_THAT(placesIn(service("<!-- lint off x --><!-- a lint: off x --><!-- --><!-- lint: "
                                "error: so it says --><operations/>")),

@@ -28,7 +28,7 @@ void lookAtComments(LintedText& text, LintReport& report) {
   const LintComments* const comments = text.comments();
   if (comments == nullptr) return;
   for (const LintComments::Mistake& mistake : comments->mistakes()) {
-    const Place place("comment", mistake.place);
+    const Place place("comment", mistake.place, mistake.around);
     look(CommentSubject{place, mistake.problem, mistake.advice}, report);
   }
 }

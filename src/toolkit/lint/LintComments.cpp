@@ -1,6 +1,7 @@
 #include "toolkit/lint/LintComments.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "toolkit/text/Phrases.h"
 
@@ -42,27 +43,34 @@ LintComments::LintComments(const DocumentOutline& outline) : outline_(outline) {
   }
 }
 
+void LintComments::addMistake(const DocumentOutline::Comment& comment, std::string problem,
+                              std::string advice) {
+  constexpr std::size_t root = 0;
+  const std::size_t around = comment.parent == DocumentOutline::none ? root : comment.parent;
+  mistakes_.push_back({comment.place, around, std::move(problem), std::move(advice)});
+}
+
 void LintComments::read(const DocumentOutline::Comment& comment, std::string_view words) {
   const std::string first(takeWord(words));
   // "lint: error: ..." quotes what lint says: words for people.
   if (!first.empty() && first.back() == ':') return;
   const RuleSetting* const setting = findRuleSetting(first);
   if (setting == nullptr) {
-    mistakes_.push_back(
-        {comment.place,
-         first.empty() ? "it says nothing" : quote(first) + " is nothing that can be said of rules",
-         "begin with one of " + wordList()});
+    addMistake(
+        comment,
+        first.empty() ? "it says nothing" : quote(first) + " is nothing that can be said of rules",
+        "begin with one of " + wordList());
     return;
   }
   const std::vector<DocumentOutline::Element>& elements = outline_.elements();
   if (comment.next >= elements.size() || elements[comment.next].parent != comment.parent) {
-    mistakes_.push_back({comment.place, "no element follows it, for which it could hold",
-                         "move it in front of the element that it is about"});
+    addMistake(comment, "no element follows it, for which it could hold",
+               "move it in front of the element that it is about");
     return;
   }
   std::string rule(takeWord(words));
   if (rule.empty()) {
-    mistakes_.push_back({comment.place, "it names no rule", "write rules behind " + quote(first)});
+    addMistake(comment, "it names no rule", "write rules behind " + quote(first));
   }
   for (; !rule.empty(); rule = takeWord(words)) switchRule(comment, *setting, rule);
 }
@@ -71,8 +79,8 @@ void LintComments::switchRule(const DocumentOutline::Comment& comment, const Rul
                               const std::string& rule) {
   if (findLintRule(rule) == nullptr) {
     const std::string near = nearestLintRule(rule);
-    mistakes_.push_back({comment.place, "there is no rule " + quote(rule),
-                         near.empty() ? "correct the name" : didYouMean(near)});
+    addMistake(comment, "there is no rule " + quote(rule),
+               near.empty() ? "correct the name" : didYouMean(near));
     return;
   }
   settings_[comment.next].insert_or_assign(rule, setting);

@@ -21,6 +21,7 @@ class LintComments {
   // What is wrong with a comment.
   struct Mistake {
     TextPlace place;
+    std::size_t around;  // The element that it stands in; the root for one beside that.
     std::string problem;
     std::string advice;
   };
@@ -37,6 +38,7 @@ class LintComments {
 
  private:
   void read(const DocumentOutline::Comment& comment, std::string_view words);
+  void addMistake(const DocumentOutline::Comment& comment, std::string problem, std::string advice);
   void switchRule(const DocumentOutline::Comment& comment, const RuleSetting& setting,
                   const std::string& rule);
 

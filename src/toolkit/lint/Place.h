@@ -2,10 +2,12 @@
 #ifndef TOOLKIT_LINT_PLACE_H_
 #define TOOLKIT_LINT_PLACE_H_
 
+#include <cstddef>
 #include <string>
 #include <utility>
 
 #include "as/IElement.h"
+#include "toolkit/outline/DocumentOutline.h"
 #include "toolkit/outline/TextPlace.h"
 
 namespace as::toolkit {
@@ -16,7 +18,9 @@ class Place {
  public:
   explicit Place(std::string step) : step_(std::move(step)) {}
   Place(std::string step, const as::IElement& object) : step_(std::move(step)), object_(&object) {}
-  Place(std::string step, const TextPlace& at) : step_(std::move(step)), at_(at) {}
+  // Something in the text of an element, which goes by its number.
+  Place(std::string step, const TextPlace& at, std::size_t element)
+      : step_(std::move(step)), at_(at), element_(element) {}
   Place(std::string step, const Place& around) : step_(std::move(step)), around_(&around) {}
   Place(std::string step, const Place& around, const as::IElement& object)
       : step_(std::move(step)), around_(&around), object_(&object) {}
@@ -29,12 +33,15 @@ class Place {
 
   // Where that is in the text, for a place that no object stands at; lines from 0 for others.
   const TextPlace& inText() const { return at_; }
+  // The element that such a place is in; DocumentOutline::none for others.
+  std::size_t elementAround() const { return element_; }
 
  private:
   std::string step_;
   const Place* around_ = nullptr;
   const as::IElement* object_ = nullptr;
   TextPlace at_;
+  std::size_t element_ = DocumentOutline::none;
 };
 
 // What stands in a place for a missing name.
