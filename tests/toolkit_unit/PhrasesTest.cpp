@@ -34,11 +34,12 @@ TEST(Phrases, TellTheFirstTwentyNames) {
   EXPECT_EQ(tk::firstOf(std::vector<std::string>(27, "A")), twenty + " and 7 others");
 }
 
-TEST(Numerals, HaveADigitAndNoLetter) {
-  for (const char* const text : {"0", "9", "-1", "+2", "3.4", "5,6", "1234567890"}) {
+TEST(Numerals, HaveDigitsAndOneSignAndOnePeriodAtMost) {
+  for (const char* const text : {"0", "9", "-1", "+2", "3.4", "5,6", "1234567890", "-.5", "7."}) {
     EXPECT_TRUE(tk::isNumeral(text)) << text;
   }
-  for (const char* const text : {"", "-", "+.,", "A", "1A", "1 ", "1/2"}) {
+  for (const char* const text :
+       {"", "-", "+.,", "A", "1A", "1 ", "1/2", "1-2", "2-", "--1", "1.2.3", "1.2,3", ".", "1E5"}) {
     EXPECT_FALSE(tk::isNumeral(text)) << text;
   }
 }

@@ -27,9 +27,22 @@ std::string firstOf(const std::vector<std::string>& names) {
   return text;
 }
 
-bool isNumeral(const std::string& text) {
-  return text.find_first_of("0123456789") != std::string::npos &&
-         text.find_first_not_of("+-.,0123456789") == std::string::npos;
+bool isNumeral(std::string_view text) {
+  constexpr std::string_view digits = "0123456789";
+  const auto takeOne = [&text](std::string_view of) {
+    const bool isThere = !text.empty() && of.find(text.front()) != std::string_view::npos;
+    text.remove_prefix(isThere ? 1 : 0);
+    return isThere;
+  };
+  const auto takeDigits = [&text] {
+    const std::size_t count = std::min(text.find_first_not_of(digits), text.size());
+    text.remove_prefix(count);
+    return count > 0;
+  };
+  takeOne("+-");
+  const bool hasWhole = takeDigits();
+  const bool hasPart = takeOne(".,") && takeDigits();
+  return (hasWhole || hasPart) && text.empty();
 }
 
 std::size_t characterCount(std::string_view text) {

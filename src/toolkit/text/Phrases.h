@@ -26,8 +26,8 @@ inline constexpr std::size_t mostTold = 20;
 // The first names with commas between, and how many others there are: "A, B, C and 7 others".
 std::string firstOf(const std::vector<std::string>& names);
 
-// Whether the text is a number as COBOL programs write it.
-bool isNumeral(const std::string& text);
+// Whether the text is a number as COBOL programs write it, without an exponent.
+bool isNumeral(std::string_view text);
 
 // How many characters the UTF-8 `text` has.
 std::size_t characterCount(std::string_view text);
