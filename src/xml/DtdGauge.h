@@ -23,8 +23,10 @@ class DtdGauge {
   // Why it is refused where it has come to; empty where it is not.
   std::string reasonSoFar() const;
 
-  // A piece of text that is looked at as a whole.
-  static constexpr XMLSize_t piece = 4096;
+  // How many bytes to hand out together from that place in a text on: they are looked at as a
+  // whole. The first ones hold the XML declaration, of which the parser reads as much as it holds
+  // of 16,384 characters: what is cut off would be read before its encoding is known.
+  static constexpr XMLSize_t pieceAt(XMLFilePos place) { return place == 0 ? 32768 : 4096; }
 
  private:
   const GrammarMemory& memory_;

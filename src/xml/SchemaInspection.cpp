@@ -261,9 +261,9 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
   }
 
   // To be called in front of each piece of the schema.
-  XMLSize_t nextPiece() const {
+  XMLSize_t pieceAt(XMLFilePos place) const {
     refuse(dtd_.reasonSoFar());
-    return DtdGauge::piece;
+    return DtdGauge::pieceAt(place);
   }
 
  private:
@@ -319,8 +319,9 @@ std::optional<as::CASParseException> SchemaInspection::refusalOf(const std::stri
   try {
     SchemaParser parser(counts_);
     parser.parse(StreamSource(name, [&] {
-      return std::make_unique<WatchedStream>(StreamSource::Stream(bytes.makeStream()),
-                                             [&] { return parser.nextPiece(); });
+      return std::make_unique<WatchedStream>(
+          StreamSource::Stream(bytes.makeStream()),
+          [&](XMLFilePos place) { return parser.pieceAt(place); });
     }));
   } catch (const as::CASParseException& refusal) {
     return as::CASParseException(refusal);

@@ -10,7 +10,8 @@ StreamSource::~StreamSource() = default;
 
 xercesc::BinInputStream* StreamSource::makeStream() const { return open_().release(); }
 
-WatchedStream::WatchedStream(StreamSource::Stream stream, std::function<XMLSize_t()> allowed)
+WatchedStream::WatchedStream(StreamSource::Stream stream,
+                             std::function<XMLSize_t(XMLFilePos)> allowed)
     : stream_(std::move(stream)), allowed_(std::move(allowed)) {}
 
 WatchedStream::~WatchedStream() = default;
@@ -18,7 +19,7 @@ WatchedStream::~WatchedStream() = default;
 XMLFilePos WatchedStream::curPos() const { return stream_->curPos(); }
 
 XMLSize_t WatchedStream::readBytes(XMLByte* bytes, XMLSize_t size) {
-  return stream_->readBytes(bytes, std::min(size, allowed_()));
+  return stream_->readBytes(bytes, std::min(size, allowed_(curPos())));
 }
 
 const XMLCh* WatchedStream::getContentType() const { return stream_->getContentType(); }

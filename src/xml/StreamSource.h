@@ -24,10 +24,10 @@ class StreamSource : public xercesc::InputSource {
 };
 
 // A stream of at most so many bytes at a time as `allowed` says, which is called in front of each
-// piece and may throw, to end the parse.
+// piece, with the place that has been reached, and may throw, to end the parse.
 class WatchedStream : public xercesc::BinInputStream {
  public:
-  WatchedStream(StreamSource::Stream stream, std::function<XMLSize_t()> allowed);
+  WatchedStream(StreamSource::Stream stream, std::function<XMLSize_t(XMLFilePos)> allowed);
   ~WatchedStream() override;
 
   XMLFilePos curPos() const override;
@@ -37,7 +37,7 @@ class WatchedStream : public xercesc::BinInputStream {
 
  private:
   const StreamSource::Stream stream_;
-  const std::function<XMLSize_t()> allowed_;
+  const std::function<XMLSize_t(XMLFilePos)> allowed_;
 };
 
 #endif  // XML_STREAMSOURCE_H_

@@ -7,6 +7,7 @@
 #include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/framework/XMLNotationDecl.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
+#include <xercesc/util/BinMemInputStream.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLString.hpp>
@@ -22,6 +23,7 @@
 #include "xml/Refusals.h"
 #include "xml/XStr.h"
 
+using xercesc::BinMemInputStream;
 using xercesc::DOMNode;
 using xercesc::DTDElementDecl;
 using xercesc::DTDEntityDecl;
@@ -71,9 +73,18 @@ const XMLCh* rootNamespaceOf(const DOMNode* node) {
   return node->getOwnerDocument()->getDocumentElement()->getNamespaceURI();
 }
 
+// In the pieces in which the inspection has read them: the two of them would not agree else on a
+// schema whose XML declaration is cut off.
+StreamSource::Stream streamOfBytes(const std::string& bytes) {
+  return std::make_unique<WatchedStream>(
+      std::make_unique<BinMemInputStream>(reinterpret_cast<const XMLByte*>(bytes.data()),
+                                          bytes.size(), BinMemInputStream::BufOpt_Reference),
+      DtdGauge::pieceAt);
+}
+
+// The bytes have to stay as long.
 std::unique_ptr<InputSource> sourceOfBytes(const std::string& bytes, const XMLCh* name) {
-  return std::make_unique<MemBufInputSource>(reinterpret_cast<const XMLByte*>(bytes.data()),
-                                             bytes.size(), name);
+  return std::make_unique<StreamSource>(name, [&bytes] { return streamOfBytes(bytes); });
 }
 
 // Stands in for a schema that was refused: one with nothing in it, which lets the parser go on to
@@ -351,10 +362,10 @@ InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
 StreamSource::Stream CXMLParser::watched(const InputSource& source) {
   StreamSource::Stream stream(source.makeStream());
   if (!stream) return stream;
-  return std::make_unique<WatchedStream>(std::move(stream), [this] {
+  return std::make_unique<WatchedStream>(std::move(stream), [this](XMLFilePos place) {
     refuseAtOnce(dtd_.reasonSoFar());
     // There is no DTD behind the root.
-    return rootSeen_ ? std::numeric_limits<XMLSize_t>::max() : DtdGauge::piece;
+    return rootSeen_ ? std::numeric_limits<XMLSize_t>::max() : DtdGauge::pieceAt(place);
   });
 }
 
@@ -450,7 +461,7 @@ StreamSource::Stream CXMLParser::openBrought(const std::string& schema, const XM
     refusal = inspection_.refusalOf(schema, name);
   }
   if (refusal) report(*refusal);
-  return StreamSource::Stream(sourceOfBytes(refusal ? emptySchema() : schema, name)->makeStream());
+  return streamOfBytes(refusal ? emptySchema() : schema);
 }
 
 void CXMLParser::warning(const SAXParseException& /*exception*/) {}

@@ -27,6 +27,12 @@ std::string declaredAs(const std::string& encoding, const std::string& name) {
   return encoded(encodingDeclaration(encoding) + item(name), encoding);
 }
 
+// As far behind as the parser looks for it.
+std::string toldLate(const std::string& encoding) {
+  return encodingDeclaration(encoding).insert(encodingDeclaration("").find(" encoding"),
+                                              std::string(15000, ' '));
+}
+
 TEST(Encoding, ManyAreRead) {
   const std::string umlauts = "\xC3\x84\xC3\xA9";  // UTF-8
   const struct {
@@ -61,6 +67,9 @@ TEST(Encoding, ManyAreRead) {
       {"ebcdic-cp-us", encoded(encodingDeclaration("ebcdic-cp-us") + item(umlauts), "IBM037")},
       {"ISO-8859-15", declaredAs("ISO-8859-15", umlauts)},
       {"XML 1.1", "<?xml version='1.1'?>" + item(umlauts)},
+      {"ISO-8859-1 told late", latin1(toldLate("ISO-8859-1") + item(umlauts))},
+      {"UTF-16 told late", utf16(toldLate("UTF-16") + item(umlauts), false)},
+      {"IBM037 told late", encoded(toldLate("IBM037") + item(umlauts), "IBM037")},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);

@@ -8,6 +8,7 @@
 #include "as/Namespaces.h"
 #include "hostile/Texts.h"
 #include "support/Documents.h"
+#include "support/Encodings.h"
 #include "support/OwnProcess.h"
 #include "support/Requests.h"
 #include "support/TempDirectory.h"
@@ -20,10 +21,13 @@ using hostile::programWith;
 using hostile::programWithHint;
 using test::dictionary;
 using test::dictionaryOf;
+using test::encoded;
+using test::encodingDeclaration;
 using test::outcomeOf;
 using test::Result;
 using test::servicesWithoutSchemas;
 using test::TempDirectory;
+using testing::AnyOf;
 using testing::HasSubstr;
 
 TEST(HostileSchemaDeathTest, DtdDoesNotReplaceTheSchema) {
@@ -84,6 +88,32 @@ TEST(HostileSchemaDeathTest, ADocumentDoesNotBringItsOwnSchema) {
     const std::string document = programWith("xsi:schemaLocation='" + hint + "'", content);
     EXPECT_RESULT_WITHOUT_ABORT(parseException,
                                 outcomeOf(*test::newServices(), document, id.c_str()));
+  }
+}
+
+// What looks at schemas took the end of such a declaration for the start of an unknown encoding,
+// and what then uses it did not.
+TEST(HostileSchema, AnEncodingToldLateHidesNothing) {
+  std::string groups;
+  for (int i = 0; i < 20; i++) {
+    const std::string next = "<xs:group ref='g" + std::to_string(i + 1) + "'/>";
+    groups += "<xs:group name='g" + std::to_string(i) + "'><xs:sequence>" + next + next +
+              "</xs:sequence></xs:group>";
+  }
+  groups += "<xs:group name='g20'><xs:sequence><xs:element name='e'/></xs:sequence></xs:group>";
+  const std::string type = "<xs:complexType name='t'><xs:group ref='g0'/></xs:complexType>";
+  std::string schema = hostile::laxSchema(ns, {"program"}, groups + type);
+  schema.insert(schema.find(" elementFormDefault"), " xmlns='" + ns + "'");
+  const std::string told = encodingDeclaration("IBM037");
+  const TempDirectory directory;
+  const std::string id = directory.path() + "/d.xml";
+  for (const std::size_t blanks : {5000, 15000, 20000, 40000, 70000}) {
+    SCOPED_TRACE(blanks);
+    directory.write("s.xsd", std::string(told).insert(told.find(" encoding"), blanks, ' ') +
+                                 encoded(schema, "IBM037"));
+    const auto outcome = outcomeOf(*servicesWithoutSchemas(), programWithHint("s.xsd"), id.c_str());
+    EXPECT_EQ(outcome.result, Result::parseException);
+    EXPECT_THAT(outcome.text, AnyOf(HasSubstr("2000 elements"), HasSubstr("unable to decode")));
   }
 }
 
