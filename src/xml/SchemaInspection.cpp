@@ -18,6 +18,7 @@
 #include <xercesc/util/XMLChar.hpp>
 #include <xercesc/util/XMLResourceIdentifier.hpp>
 #include <xercesc/util/XMLString.hpp>
+#include <xercesc/util/XMLUni.hpp>
 #include <xercesc/validators/schema/SchemaSymbols.hpp>
 
 #include "xml/DtdGauge.h"
@@ -40,6 +41,7 @@ using xercesc::XMLChar1_0;
 using xercesc::XMLElementDecl;
 using xercesc::XMLErrs;
 using xercesc::XMLString;
+using xercesc::XMLUni;
 
 namespace {
 
@@ -47,6 +49,7 @@ std::string narrow(const XMLCh* text) { return CXStr(text, false); }
 
 using Name = std::basic_string<XMLCh>;
 using Counts = SchemaInspection::Counts;
+using GroupName = SchemaInspection::GroupName;
 
 // Numbers that are too large for every limit, be it by how much.
 constexpr XMLSize_t tooMany = 1000000;
@@ -73,27 +76,40 @@ class Sum {
 
   XMLSize_t all() {
     XMLSize_t sum = 0;
-    for (const auto& [name, elements] : counts_.elements) sum += of(name);
+    for (const auto& [name, elements] : counts_.elements) sum += of(name, elements);
     return sum;
   }
 
  private:
-  XMLSize_t of(const Name& group) {
-    const auto found = counts_.elements.find(group);
-    if (found == counts_.elements.end()) return 0;
+  using Elements = SchemaInspection::Elements;
+
+  XMLSize_t of(const GroupName& group, const Elements& elements) {
     // A group that holds itself the parser refuses, but only after it has laid out what it met
     // on the way, and from wherever it comes in.
     const auto [entry, isNew] = sums_.try_emplace(group, tooMany);
     if (!isNew) return entry->second;
-    XMLSize_t sum = found->second.own;
-    for (const auto& [name, times] : found->second.groups) {
-      sum = std::min(sum + product(of(name), times), tooMany);
+    XMLSize_t sum = elements.own;
+    for (const auto& [name, times] : elements.groups) {
+      sum = std::min(sum + product(referredTo(name), times), tooMany);
     }
     return sums_[group] = sum;
   }
 
+  // All that the name may stand for.
+  XMLSize_t referredTo(const GroupName& name) {
+    XMLSize_t sum = 0;
+    for (auto at = counts_.elements.lower_bound({name.local, {}});
+         at != counts_.elements.end() && at->first.local == name.local; ++at) {
+      const auto& [group, elements] = *at;
+      if (name.uri.empty() || group.uri.empty() || group.uri == name.uri) {
+        sum = std::min(sum + of(group, elements), tooMany);
+      }
+    }
+    return sum;
+  }
+
   const Counts& counts_;
-  std::map<Name, XMLSize_t> sums_;
+  std::map<GroupName, XMLSize_t> sums_;
 };
 
 // Without the blanks around it, which a name may have.
@@ -160,15 +176,18 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
     const bool isGroup = is(SchemaSymbols::fgELT_GROUP);
     XMLSize_t times = 1;
     std::optional<Name> group;
-    std::optional<Name> referred;
+    std::optional<Name> reference;
+    here.prefixes = prefixes_.size();
     here.isRedefined = here.isRedefined || is(SchemaSymbols::fgELT_REDEFINE);
     for (XMLSize_t i = 0; i < attributeCount; ++i) {
       const XMLCh* const value = attributes.elementAt(i)->getValue();
       countCharacters(XMLString::stringLen(value));
       const XMLCh* const attribute = attributes.elementAt(i)->getName();
       const XMLCh* const whole = attributes.elementAt(i)->getQName();
-      if (XMLString::startsWith(whole, u"xmlns")) {
+      const bool isDefault = XMLString::equals(whole, XMLUni::fgXMLNSString);
+      if (isDefault || XMLString::startsWith(whole, XMLUni::fgXMLNSColonString)) {
         here.namespaces += XMLString::stringLen(whole) + XMLString::stringLen(value);
+        prefixes_.push_back({isDefault ? Name() : attribute, trimmed(value)});
       }
       const auto isNamed = [&](const XMLCh* other) { return XMLString::equals(attribute, other); };
       if (isNamed(SchemaSymbols::fgATT_MINOCCURS) || isNamed(SchemaSymbols::fgATT_MAXOCCURS)) {
@@ -176,7 +195,9 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
       } else if (isGroup && isNamed(SchemaSymbols::fgATT_NAME)) {
         group = trimmed(value);
       } else if (isGroup && isNamed(SchemaSymbols::fgATT_REF)) {
-        referred = trimmed(value + XMLString::indexOf(value, u':') + 1);
+        reference = trimmed(value);
+      } else if (open_.empty() && isNamed(SchemaSymbols::fgATT_TARGETNAMESPACE)) {
+        target_ = trimmed(value);
       } else if (isPattern && isNamed(SchemaSymbols::fgATT_VALUE)) {
         check("characters in a pattern", XMLString::stringLen(value), limits::schemaPattern);
         if (!leavesNoChoice(value)) refuse(refusals::ofPattern(narrow(value)));
@@ -194,7 +215,7 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
     if (is(SchemaSymbols::fgELT_COMPLEXTYPE)) here.times = 1;
     if (group) {
       here.times = 1;
-      here.group = *group;
+      here.group = {*group, target_};
       here.hasOriginal = here.isRedefined;
     }
     if (is(SchemaSymbols::fgELT_ANNOTATION)) countCharacters(here.namespaces);
@@ -204,15 +225,21 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
     checkElements(++counts_.elementsRead);
     checkElements(elements.own);
     // A group that is redefined holds, once, what it was; that is counted where it stands.
-    const bool isOriginal = referred && here.hasOriginal && *referred == here.group;
-    if (isOriginal) forgetOriginal();
-    if (referred && !(isOriginal && here.times == 1)) {
-      elements.groups.emplace_back(*referred, here.times);
+    if (reference) {
+      const GroupName referred = groupCalled(*reference);
+      const bool isOriginal = here.hasOriginal && referred == here.group;
+      if (isOriginal) forgetOriginal();
+      if (!isOriginal || here.times != 1) elements.groups.emplace_back(referred, here.times);
     }
-    if (!isEmpty) open_.push_back(std::move(here));
+    if (isEmpty) {
+      prefixes_.resize(here.prefixes);
+    } else {
+      open_.push_back(std::move(here));
+    }
   }
   void endElement(const XMLElementDecl& /*declaration*/, unsigned int /*uriId*/, bool /*isRoot*/,
                   const XMLCh* /*prefix*/) override {
+    prefixes_.resize(open_.back().prefixes);
     open_.pop_back();
     if (open_.empty()) checkElements(Sum(counts_).all());
   }
@@ -271,14 +298,32 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
   struct Open {
     bool isUnion = false;
     XMLSize_t times = 1;  // That it is laid out.
-    Name group;           // That it stands in.
+    GroupName group;      // That it stands in.
     // Whether it stands in a redefinition, and may yet refer to the group that this redefines.
     bool isRedefined = false;
     bool hasOriginal = false;
     // The characters of the declarations of namespaces that count here: the parser writes them all
     // into each annotation.
     XMLSize_t namespaces = 0;
+    std::size_t prefixes = 0;  // That are declared around it.
   };
+
+  struct Prefix {
+    Name name;  // Empty for the default namespace.
+    Name uri;
+  };
+
+  // What the parser takes a reference for. A prefix that nobody declares leads to no namespace.
+  GroupName groupCalled(const Name& reference) const {
+    const auto colon = reference.find(u':');
+    const bool isQualified = colon != Name::npos;
+    const Name prefix = isQualified ? reference.substr(0, colon) : Name();
+    const auto found =
+        std::find_if(prefixes_.rbegin(), prefixes_.rend(),
+                     [&](const Prefix& declared) { return declared.name == prefix; });
+    return {isQualified ? reference.substr(colon + 1) : reference,
+            found == prefixes_.rend() ? Name() : found->uri};
+  }
 
   void forgetOriginal() {
     for (Open& open : open_) open.hasOriginal = false;
@@ -308,6 +353,8 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
   xercesc::SecurityManager limits_;
   xercesc::HandlerBase nobody_;
   std::vector<Open> open_;
+  std::vector<Prefix> prefixes_;  // That are declared, the innermost last.
+  Name target_;                   // The namespace of the schema.
 };
 
 }  // namespace

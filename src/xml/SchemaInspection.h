@@ -2,6 +2,7 @@
 #ifndef XML_SCHEMAINSPECTION_H_
 #define XML_SCHEMAINSPECTION_H_
 
+#include <compare>
 #include <map>
 #include <optional>
 #include <string>
@@ -21,19 +22,28 @@ class SchemaInspection {
   // earlier ones held counts towards the limits. `name` is what messages call it.
   std::optional<as::CASParseException> refusalOf(const std::string& schema, const XMLCh* name);
 
+  // The name of a group. One without a namespace may be of any: a schema that has none takes that
+  // of those who include it.
+  struct GroupName {
+    std::basic_string<XMLCh> local;
+    std::basic_string<XMLCh> uri;
+
+    auto operator<=>(const GroupName&) const = default;
+  };
+
   // The elements of a group, or of all that stands in none.
   struct Elements {
     XMLSize_t own = 0;
     // The groups that it refers to, and how many times each is laid out in it.
-    std::vector<std::pair<std::basic_string<XMLCh>, XMLSize_t>> groups;
+    std::vector<std::pair<GroupName, XMLSize_t>> groups;
   };
 
   // How many of each the schemas hold, so far.
   struct Counts {
     XMLSize_t characters = 0;
     XMLSize_t elementsRead = 0;
-    // By the names of the groups, without their namespaces; the rest under an empty one.
-    std::map<std::basic_string<XMLCh>, Elements> elements;
+    // By the names of the groups; the rest under an empty one.
+    std::map<GroupName, Elements> elements;
     XMLSize_t unionMembers = 0;
     XMLSize_t constraints = 0;
   };

@@ -100,6 +100,33 @@ const Row rows[] = {
     {"GroupThatHoldsItself",
      schemaOf("<xs:group name='g'>" + sequenceOf("", "<xs:group ref='g'/>") + "</xs:group>"),
      tooManyElements},
+    {"GroupThatHoldsOneOfTheSameName",
+     schemaOf("<xs:group name='g'>" +
+              sequenceOf("",
+                         "<xs:group xmlns:o='urn:o' ref='o:g'/><xs:group ref='o:g' "
+                         "xmlns:o='urn:o'/>") +
+              "</xs:group>")
+         .insert(sizeof("<xs:schema"), "targetNamespace='urn:a' "),
+     ""},
+    {"GroupThatHoldsItselfByAPrefix",
+     schemaOf("<xs:group name='g'>" + sequenceOf("", "<xs:group ref='a:g' xmlns:a='urn:a'/>") +
+              "</xs:group>")
+         .insert(sizeof("<xs:schema"), "targetNamespace=' urn:a' "),
+     tooManyElements},
+    // What the prefix meant inside is gone.
+    {"GroupThatHoldsItselfByAPrefixDeclaredTwice",
+     schemaOf("<xs:group name='g'>" +
+              sequenceOf("xmlns:a='urn:a'",
+                         "<xs:element xmlns:a='urn:o'/><xs:element xmlns:a='urn:o'></xs:element>"
+                         "<xs:group ref='a:g'/>") +
+              "</xs:group>")
+         .insert(sizeof("<xs:schema"), "targetNamespace='urn:a' "),
+     tooManyElements},
+    // A schema without a namespace takes that of whoever includes it.
+    {"GroupsThatMayBeTakenOver",
+     schemaOf("<xs:group name='g'>" + sequenceOf("maxOccurs='50'", element) + "</xs:group>" +
+              sequenceOf("maxOccurs='50'", "<xs:group ref='o:g' xmlns:o='urn:o'/>")),
+     tooManyElements},
 
     {"Union",
      schemaOf("<xs:union memberTypes=' a  b\tc '>" + repeated("<xs:simpleType/>", 13) +
