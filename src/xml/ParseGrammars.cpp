@@ -9,10 +9,10 @@ using xercesc::XMLSchemaDescription;
 using xercesc::XMLStringPool;
 
 ParseGrammars::ParseGrammars(xercesc::MemoryManager* memory, std::shared_ptr<SharedSchemas> shared)
-    : XMLGrammarPoolImpl(memory), shared_(std::move(shared)) {
-  constexpr unsigned int buckets = 109;  // As the parser's own has.
-  if (shared_ != nullptr) names_.emplace(shared_->names(), buckets, memory);
-}
+    : XMLGrammarPoolImpl(memory),
+      shared_(std::move(shared)),
+      names_(shared_ == nullptr ? XMLGrammarPoolImpl::getURIStringPool() : shared_->names(),
+             memory) {}
 
 ParseGrammars::~ParseGrammars() = default;
 
@@ -25,6 +25,4 @@ Grammar* ParseGrammars::retrieveGrammar(XMLGrammarDescription* description) {
   return shared_->grammarFor(schema->getTargetNamespace(), places->elementAt(0));
 }
 
-XMLStringPool* ParseGrammars::getURIStringPool() {
-  return names_ ? &*names_ : XMLGrammarPoolImpl::getURIStringPool();
-}
+XMLStringPool* ParseGrammars::getURIStringPool() { return &names_; }

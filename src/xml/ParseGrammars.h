@@ -3,12 +3,11 @@
 #define XML_PARSEGRAMMARS_H_
 
 #include <memory>
-#include <optional>
 #include <utility>
 #include <xercesc/framework/XMLGrammarPoolImpl.hpp>
-#include <xercesc/util/SynchronizedStringPool.hpp>
 
 #include "xml/GrammarMemory.h"
+#include "xml/NamespaceNames.h"
 #include "xml/SharedSchemas.h"
 
 // A grammar that is shared is there from when the document has said where its schema is, and not
@@ -21,6 +20,8 @@ class ParseGrammars final : public xercesc::XMLGrammarPoolImpl {
 
   // Null for a parse that shares nothing.
   SharedSchemas* shared() const { return shared_.get(); }
+  // What the parser asks for names.
+  NamespaceNames& names() { return names_; }
 
   // Called only where the parser has been told to use what is here: throws
   // SharedSchemas::NotShared for a schema that it needs and that is not.
@@ -29,8 +30,7 @@ class ParseGrammars final : public xercesc::XMLGrammarPoolImpl {
 
  private:
   const std::shared_ptr<SharedSchemas> shared_;
-  // The names that the parse comes across, numbered behind those of what is shared.
-  std::optional<xercesc::XMLSynchronizedStringPool> names_;
+  NamespaceNames names_;  // Behind those of what is shared.
 };
 
 // Them with the memory of those that are made, for a parser to derive from virtually: made in front

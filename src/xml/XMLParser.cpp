@@ -106,17 +106,28 @@ CXMLParser::CXMLParser(std::shared_ptr<SharedSchemas> shared)
       TreeParser(nullptr, XMLPlatformUtils::fgMemoryManager, &grammars) {
   limits_.setEntityExpansionLimit(limits::entityExpansions);
   watchMemory();
+  watchNames();
 }
 
 CXMLParser::~CXMLParser() {
   // Nothing is refused any more.
   memory.whenFull(nullptr);
+  grammars.names().whenAsked(nullptr);
   // The base class would release it.
   const DocumentPointer document(adoptDocument());
 }
 
 void CXMLParser::watchMemory() {
   memory.whenFull([this] { refuseAtOnce(refusals::ofGrammars()); });
+}
+
+void CXMLParser::watchNames() {
+  // The parser looks each prefix of an element up among all that this declares, and calls
+  // startElement() only then. It asks for a few names besides the declared ones.
+  constexpr XMLSize_t most = 2 * limits::attributes;
+  grammars.names().whenAsked([this] {
+    if (!isReadingSchema_ && ++named_ > most) refuseAtOnce(refusals::ofTooManyAttributes());
+  });
 }
 
 void CXMLParser::parse(const XMLCh* systemId) {
@@ -201,6 +212,8 @@ void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int ur
   // In front of the DOM, which would hold them.
   if (attributeCount > limits::attributes) refuseAtOnce(refusals::ofTooManyAttributes());
   if (!brought_.empty()) countDefaults(attributes, attributeCount);
+  named_ = 0;
+  isReadingSchema_ = false;
   declared_ = 0;
   beginElement(declaration, uriId, prefix, attributes, attributeCount);
   if (declared_ > 0) checkNamespaces();
@@ -354,6 +367,7 @@ InputSource* CXMLParser::resolveEntity(XMLResourceIdentifier* reference) {
     // What the parser makes of an external DTD it never frees.
     refuseAtOnce(refusals::ofExternalEntity(narrow(reference->getSystemId())));
   }
+  isReadingSchema_ = true;
   // A document that brings schemas has all of them to itself.
   if (isSharing()) throw SharedSchemas::NotShared();
   return sourceOf(*reference).release();

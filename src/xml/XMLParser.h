@@ -116,6 +116,9 @@ class CXMLParser : public TreeParser, public xercesc::ErrorHandler, protected vi
   // The document's source: pieces of it are handed out as long as nothing is refused.
   StreamSource::Stream watched(const xercesc::InputSource& source);
 
+  // Has the parse end at an element that declares too many namespaces.
+  void watchNames();
+
   // What is refused of the namespaces that an element declares, and those around it.
   void checkNamespaces();
   // Counts the constraints of a schema that the document has brought, which hold inside the
@@ -177,6 +180,10 @@ class CXMLParser : public TreeParser, public xercesc::ErrorHandler, protected vi
   OpenSum namespaces_;
   OpenSum constraints_;
   XMLSize_t declared_ = 0;  // Namespaces, by the element that begins.
+  // Names of namespaces that the parser has asked for since the last element began, and whether
+  // some are those of a schema.
+  XMLSize_t named_ = 0;
+  bool isReadingSchema_ = false;
   std::unordered_set<std::u16string> prefixes_;
   std::unordered_set<std::u16string> uris_;
 };

@@ -131,6 +131,20 @@ TEST(HostileSize, ManyDifferentPrefixesOrNamespacesAreRefused) {
   EXPECT_EQ(outcomeOf(document("p", "u", 20000)).result, Result::root);
 }
 
+// Each is looked for among the others before the parser tells of the element.
+TEST(HostileSize, ManyPrefixesOfOneElementAreRefusedInTime) {
+  for (const int count : {3000, 150000}) {
+    SCOPED_TRACE(count);
+    std::string uses;
+    const std::string last = " a" + std::to_string(count - 1) + ":b";
+    for (int i = 0; i < count; i++) uses += last + std::to_string(i) + "=''";
+    const auto outcome =
+        outcomeOf(dictionaryOf("<numeric name='N'" + attributes("xmlns:a", count) + uses + "/>"));
+    EXPECT_EQ(outcome.result, Result::parseException);
+    EXPECT_THAT(outcome.text, HasSubstr("more than 1000 attributes"));
+  }
+}
+
 // The parser looks for a prefix among all that are declared around a name.
 TEST(HostileSize, ManyNamespaceDeclarationsAroundEachOtherAreRefused) {
   const std::string group = "<group name='G'" + attributes("xmlns:a", 500) + ">";
