@@ -31,7 +31,8 @@ class IService;
 //  - elements nested deeper than 2,048 levels;
 //  - an element with more than 1,000 attributes, namespace declarations included, or with more
 //    than 4,000 namespace declarations together with the elements around it, or more than 2,000
-//    different prefixes or namespaces that are declared in all;
+//    different prefixes or namespaces that are declared in all, or, where the document brings
+//    schemas, more than 10,000 different names of attributes;
 //  - more than 1,000 references to entities that the document declares, those in the text of an
 //    entity counted each time, and an entity whose text is longer than 65,536 characters;
 //  - more than 5,000 declarations in a DTD, or more than 50,000 parts of its content models, of

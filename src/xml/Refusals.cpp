@@ -92,7 +92,7 @@ std::string refusals::ofTooManyAttributes() {
   return "an element has more than " + std::to_string(limits::attributes) + " attributes";
 }
 
-std::string refusals::ofNamespaces(const char* what, XMLSize_t number, XMLSize_t limit) {
+std::string refusals::ofNumber(const char* what, XMLSize_t number, XMLSize_t limit) {
   if (number <= limit) return {};
   return "there are more than " + std::to_string(limit) + " " + what;
 }

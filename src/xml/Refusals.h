@@ -39,7 +39,7 @@ std::string ofDtd(const char* what, XMLSize_t number, XMLSize_t limit);
 // What stands in a document; the numbers are compared where they are counted, element by element.
 std::string ofVersion(const XMLCh* version);
 std::string ofTooManyAttributes();
-std::string ofNamespaces(const char* what, XMLSize_t number, XMLSize_t limit);
+std::string ofNumber(const char* what, XMLSize_t number, XMLSize_t limit);
 std::string ofTooManyLevels();
 std::string ofUndeclared(const std::string& element);
 std::string ofForeign(const std::string& element, const std::string& uri);

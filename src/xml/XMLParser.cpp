@@ -211,7 +211,7 @@ void CXMLParser::startElement(const XMLElementDecl& declaration, unsigned int ur
                               XMLSize_t attributeCount, bool isEmpty, bool isRoot) {
   // In front of the DOM, which would hold them.
   if (attributeCount > limits::attributes) refuseAtOnce(refusals::ofTooManyAttributes());
-  if (!brought_.empty()) countDefaults(attributes, attributeCount);
+  if (!brought_.empty()) countAttributes(attributes, attributeCount);
   named_ = 0;
   isReadingSchema_ = false;
   declared_ = 0;
@@ -247,14 +247,14 @@ void CXMLParser::declaresNamespace(const XMLCh* prefix, const XMLCh* uri) {
   declared_++;
   prefixes_.insert(prefix);
   uris_.insert(uri);
-  refuseAtOnce(refusals::ofNamespaces("different prefixes", prefixes_.size(), limits::prefixes));
-  refuseAtOnce(refusals::ofNamespaces("different namespaces", uris_.size(), limits::prefixes));
+  refuseAtOnce(refusals::ofNumber("different prefixes", prefixes_.size(), limits::prefixes));
+  refuseAtOnce(refusals::ofNumber("different namespaces", uris_.size(), limits::prefixes));
 }
 
 void CXMLParser::checkNamespaces() {
   namespaces_.add(depth_, declared_);
-  refuseAtOnce(refusals::ofNamespaces("namespace declarations of elements around each other",
-                                      namespaces_.sum, limits::declaredNamespaces));
+  refuseAtOnce(refusals::ofNumber("namespace declarations of elements around each other",
+                                  namespaces_.sum, limits::declaredNamespaces));
 }
 
 void CXMLParser::countConstraints(const XMLElementDecl& declaration) {
@@ -278,10 +278,14 @@ void CXMLParser::OpenSum::leave(XMLSize_t depth) {
   open.pop_back();
 }
 
-void CXMLParser::countDefaults(const RefVectorOf<XMLAttr>& attributes, XMLSize_t attributeCount) {
+void CXMLParser::countAttributes(const RefVectorOf<XMLAttr>& attributes, XMLSize_t attributeCount) {
   for (XMLSize_t i = 0; i < attributeCount; i++) {
-    if (!attributes.elementAt(i)->getSpecified()) defaults_++;
+    const XMLAttr& attribute = *attributes.elementAt(i);
+    if (!attribute.getSpecified()) defaults_++;
+    attributeNames_.insert(attribute.getQName());
   }
+  refuseAtOnce(refusals::ofNumber("different names of attributes", attributeNames_.size(),
+                                  limits::attributeNames));
   refuseAtOnce(refusals::ofSchemas("default and fixed values that the document takes over",
                                    defaults_, limits::schemaDefaults));
 }

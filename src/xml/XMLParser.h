@@ -124,9 +124,10 @@ class CXMLParser : public TreeParser, public xercesc::ErrorHandler, protected vi
   // Counts the constraints of a schema that the document has brought, which hold inside the
   // element.
   void countConstraints(const xercesc::XMLElementDecl& declaration);
-  // Counts the attributes that come from a schema, where the document has brought one.
-  void countDefaults(const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
-                     XMLSize_t attributeCount);
+  // Counts the names of attributes, and those that come from a schema, where the document has
+  // brought one.
+  void countAttributes(const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
+                       XMLSize_t attributeCount);
   // Whether the handler may be given `element`, which that declaration of a schema let in.
   bool belongs(const xercesc::DOMNode* element,
                const xercesc::SchemaElementDecl& declaration) const;
@@ -186,6 +187,7 @@ class CXMLParser : public TreeParser, public xercesc::ErrorHandler, protected vi
   bool isReadingSchema_ = false;
   std::unordered_set<std::u16string> prefixes_;
   std::unordered_set<std::u16string> uris_;
+  std::unordered_set<std::u16string> attributeNames_;
 };
 
 #endif  // XML_XMLPARSER_H_

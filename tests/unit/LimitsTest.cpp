@@ -105,6 +105,25 @@ const std::map<std::string, Case (*)(XMLSize_t)> cases = {
        }
        return ofDocument(documentWith(document + repeated("</r>", most)));
      }},
+    {"attributeNames",
+     [](XMLSize_t n) {
+       // The root has its own three.
+       const XMLSize_t most = 900;
+       std::string content;
+       for (XMLSize_t i = 0; i < n - 3; i++) {
+         content += (i % most > 0 ? ""
+                     : i > 0      ? "/><r"
+                                  : "<r") +
+                    (" a" + std::to_string(i)) + "=''";
+       }
+       Case made = ofDocument(documentWith(content + "/>"));
+       made.schema =
+           "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:x' "
+           "xmlns='urn:x' elementFormDefault='qualified'><xs:element name='r'><xs:complexType>"
+           "<xs:sequence><xs:element ref='r' minOccurs='0' maxOccurs='unbounded'/></xs:sequence>"
+           "<xs:anyAttribute processContents='skip'/></xs:complexType></xs:element></xs:schema>";
+       return made;
+     }},
     {"placeLength",
      [](XMLSize_t n) {
        const std::string file = "s.xsd";
