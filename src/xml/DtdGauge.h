@@ -24,9 +24,9 @@ class DtdGauge {
   std::string reasonSoFar() const;
 
   // How many bytes to hand out together from that place in a text on: they are looked at as a
-  // whole. The first ones hold the XML declaration, of which the parser reads as much as it holds
-  // of 16,384 characters: what is cut off would be read before its encoding is known.
-  static constexpr XMLSize_t pieceAt(XMLFilePos place) { return place == 0 ? 32768 : 4096; }
+  // whole. The first ones are more than the 16,384 characters that the parser takes for an XML
+  // declaration: what is cut off would be read before its encoding is known.
+  static constexpr XMLSize_t pieceAt(XMLFilePos place) { return place == 0 ? 20480 : 4096; }
 
  private:
   const GrammarMemory& memory_;
