@@ -208,8 +208,10 @@ class Writer {
   WideText text_;
 };
 
-// Lays a tree out. The texts that it has inserted it takes away again unless told to keep them: a
-// layout that is left half-way would be laid out anew by the next one.
+// Lays a tree out. All places for its texts are found before the first is inserted: a tree that is
+// nested too deep is to stay as it is, since texts that are taken away again go on taking memory of
+// the document, and a client may try again and again. Only when memory runs out are they taken away
+// again: a layout that is left half-way would be laid out anew by the next one.
 class Layout {
  public:
   Layout() = default;
@@ -226,15 +228,22 @@ class Layout {
     // Beside the root there is no place for text.
     const bool isApart =
         parent != nullptr && parent->getNodeType() != DOMNode::DOCUMENT_NODE && needsCR(parent);
-    layOut(parent, isApart, node, depth);
+    findPlaces(parent, isApart, node, depth);
+    inserted_.reserve(places_.size());
+    for (const Place& place : places_) insertSpacer(place);
+    inserted_.clear();
   }
 
-  void keep() { inserted_.clear(); }
-
  private:
-  // Lays out `node` and what follows it below `parent`, on lines of its own if `isApart`. That
-  // depends on the parent's last child as it was in front of all this, and so it does below.
-  void layOut(DOMNode* parent, bool isApart, DOMNode* node, int depth) {
+  // Where a text is to stand: in `parent`, in front of `before`, or behind all for null.
+  struct Place {
+    DOMNode* parent;
+    DOMNode* before;
+    int depth;
+  };
+
+  // Those of `node` and what follows it below `parent`, on lines of its own if `isApart`.
+  void findPlaces(DOMNode* parent, bool isApart, DOMNode* node, int depth) {
     for (; node != nullptr; node = node->getNextSibling()) {
       const DOMNode::NodeType type = node->getNodeType();
       if (type == DOMNode::TEXT_NODE) continue;
@@ -243,24 +252,20 @@ class Layout {
       }
       DOMNode* const first = node->getFirstChild();
       const bool areApart = first != nullptr && needsCR(node);
-      if (first != nullptr) layOut(node, areApart, first, depth + 1);
-      if (isApart) insertSpacer(parent, node, depth);
-      if (areApart && parent != nullptr) insertSpacer(node, nullptr, depth);
+      if (first != nullptr) findPlaces(node, areApart, first, depth + 1);
+      if (isApart) places_.push_back({parent, node, depth});
+      if (areApart && parent != nullptr) places_.push_back({node, nullptr, depth});
     }
   }
 
-  void insertSpacer(DOMNode* parent, DOMNode* before, int depth) {
-    CXStr text = spacer(depth);
-    DOMNode* const made = parent->getOwnerDocument()->createTextNode(text);
+  void insertSpacer(const Place& place) {
+    CXStr text = spacer(place.depth);
+    DOMNode* const made = place.parent->getOwnerDocument()->createTextNode(text);
+    place.parent->insertBefore(made, place.before);
     inserted_.push_back(made);
-    try {
-      parent->insertBefore(made, before);
-    } catch (...) {
-      inserted_.pop_back();
-      throw;
-    }
   }
 
+  std::vector<Place> places_;
   std::vector<DOMNode*> inserted_;
 };
 
@@ -278,11 +283,7 @@ bool needsCR(DOMNode* node) {
   return XMLString::indexOf(last->getNodeValue(), u'\r') >= 0;
 }
 
-void prettyPrintTree(DOMNode* node, int depth) {
-  Layout layout;
-  layout.layOut(node, depth);
-  layout.keep();
-}
+void prettyPrintTree(DOMNode* node, int depth) { Layout().layOut(node, depth); }
 
 std::string serialiseNode(DOMDocument* document) {
   Writer writer;

@@ -5,6 +5,8 @@
 #include <memory>
 #include <string>
 
+#include "as/CASException.h"
+#include "as/CAgentServicesFactory.h"
 #include "fuzz/DictionaryWalk.h"
 #include "memory/Allocations.h"
 #include "memory/Models.h"
@@ -67,6 +69,18 @@ TEST(Growth, ReadingTakesNothingFromTheDom) {
       blocksFor([&] { fuzz::DictionaryWalk(fuzz::Schemas::shipped).walk(*program); });
   EXPECT_EQ(blocks.parsers, 0);
   EXPECT_EQ(blocks.ours, 0);
+}
+
+// A client that tries again and again would pay for each layout that is not kept.
+TEST(Growth, AWriteThatIsRefusedForItsDepthTakesNothingFromTheDom) {
+  const memory::Model model = memory::newModel(test::flavours::java);
+  as::IField* field = model.parameter();
+  for (int i = 0; i < 2048; i++) field = field->addField("f", 1);
+  const Blocks blocks = blocksFor([&] {
+    EXPECT_THROW(as::CAgentServicesFactory::SerializeToString(model.service.get()),
+                 as::CASException);
+  });
+  EXPECT_EQ(blocks.parsers, 0);
 }
 
 class GrowthByFlavour : public testing::TestWithParam<test::Flavour> {};
