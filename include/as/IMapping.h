@@ -43,7 +43,8 @@ class AS_EXPORT IMapping : virtual public IElement {
   // item in one or more tables (its own OCCURS counts), "*" for each of them goes behind the path
   // and to "subscript". For any other item "subscript" stays as it was, neither removed nor
   // cleared: it may hold the list of an earlier table item. Null writes nothing. An item that has
-  // "." or "(" in its name is not found again, or another one is.
+  // "." or "(" in its name is not found again, or another one is; nor is one that is called like a
+  // special name, which is then what "item" holds.
   // REQUIRES: `item` stands in no more than MAX_SUBSCRIPTS tables, and no name on its path holds a
   // "(" with commas behind it. The path of another item is written like any other, but the schemas
   // take no more subscripts, or what looks like them, than readers have room for: such a document
@@ -70,7 +71,7 @@ class AS_EXPORT IMapping : virtual public IElement {
 
   // By the whole text of "item": MAP_COMMAND_LINE for "$command_line", MAP_RETURN_CODE for
   // "$return_code", MAP_STDIN for "$stdin", MAP_STDOUT for "$stdout", else MAP_DATA_ITEM, also when
-  // absent. Letter case counts. No operation writes a special name.
+  // absent. Letter case counts. No operation writes one of its own accord.
   virtual TYPE getType() = 0;
 };
 

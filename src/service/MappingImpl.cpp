@@ -65,6 +65,8 @@ std::string GetNormalizedName(as::IDataItem* item) {
 }
 
 as::IDataItem* CMappingImpl::getDataItem() {
+  // A special name is none, also where an item is called so.
+  if (getType() != MAP_DATA_ITEM) return nullptr;
   CServiceImpl* const service = getService();
   if (service == nullptr) return nullptr;
   return CParameterImpl::GetDataItem(getRawMapping(), service->getProgram());

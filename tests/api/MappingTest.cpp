@@ -160,6 +160,26 @@ TEST(Mapping, FindsItsItemInTheProgram) {
   }
 }
 
+// No program has such items, but a document may.
+TEST(Mapping, ToASpecialSourceFindsNoItemThatIsCalledLikeIt) {
+  const test::TempDirectory directory;
+  const std::string file = directory.write(
+      "PAY.xml", test::dictionaryOf("<numeric name='$stdin'/><numeric name='$other'/>"));
+  const struct {
+    const char* item;
+    bool isFound;
+  } rows[] = {{"$stdin", false}, {"$stdin(1)", true}, {"$other", true}};
+  for (const auto& row : rows) {
+    const auto service = parseService(
+        test::parameterDocument(as::namespaces::java.uri,
+                                "<parameter><mappings><mapping item='" + std::string(row.item) +
+                                    "'/></mappings></parameter>",
+                                "", file),
+        true);
+    EXPECT_EQ(mappingOf(*service)->getDataItem() != nullptr, row.isFound) << row.item;
+  }
+}
+
 TEST(HiddenParameter, ReadsAndWritesItsValue) {
   const auto service = parsedJava("");
   as::IHiddenParameter* const hidden = operationOf(*service)->addHiddenParameter(nullptr, "x");
