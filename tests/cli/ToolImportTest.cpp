@@ -201,6 +201,20 @@ TEST_F(ToolImportTest, NoDictionaryTakesThePlaceOfItsSource) {
   }
 }
 
+TEST_F(ToolImportTest, NoDictionaryTakesThePlaceOfACopybook) {
+  const std::string copybook = "       01 R PIC X.\n";
+  write("a.cbl", program("A", "COPY REC."));
+  write("REC.cpy", copybook);
+  std::filesystem::create_symlink("REC.cpy", pathOf("link"));
+  for (const char* const output : {"REC.cpy", "./REC.cpy", "link"}) {
+    const test::ToolOutcome outcome = run({"import", "a.cbl", "-o", output});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.err, std::string(output) + ": error: this is the copybook\n" +
+                               "hint: name another file\n");
+    EXPECT_EQ(contentOf(pathOf("REC.cpy")), copybook);
+  }
+}
+
 TEST_F(ToolImportTest, WritesNoTwoSourcesToOneDictionary) {
   makeFolder("in");
   makeFolder("in/b");

@@ -111,8 +111,9 @@ struct ImportedFile {
 // The same from file to file, with copybooks from `folders` and from that of the source (see
 // FolderCopybooks). The first program goes to the file `output`, others beside it to one with the
 // PROGRAM-ID in its name: OUT.xml and OUT-OTHER.xml. Programs with errors leave what is there, and
-// an empty `output` has nothing written. Throws RefusedDocument for a source that cannot be read,
-// FileError (see Files.h), and what importCobol() throws.
+// an empty `output` has nothing written. Throws RefusedDocument for a source that cannot be read
+// and for a file that would take the place of the source or of a copybook that it has, FileError
+// (see Files.h), and what importCobol() throws.
 AS_EXPORT ImportedFile importCobolFile(const DocumentSource& source, const std::string& output,
                                        const std::vector<std::string>& folders = {},
                                        const ImportOptions& options = {});

@@ -6,10 +6,12 @@
 #include <cerrno>
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <set>
 #include <system_error>
 #include <utility>
 
+#include "as/toolkit/Copybooks.h"
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Files.h"
 #include "as/toolkit/Import.h"
@@ -41,6 +43,23 @@ std::string contentOf(const std::string& file) {
   return content;
 }
 
+// Notes the files that it finds.
+class NotedCopybooks : public FolderCopybooks {
+ public:
+  using FolderCopybooks::FolderCopybooks;
+
+  std::optional<Copybook> find(const std::string& name, const std::string& library) override {
+    std::optional<Copybook> copybook = FolderCopybooks::find(name, library);
+    if (copybook) files_.insert(copybook->name);
+    return copybook;
+  }
+
+  const std::set<std::string>& files() const { return files_; }
+
+ private:
+  std::set<std::string> files_;
+};
+
 // As a part of the name of a file.
 std::string fileNameOf(const std::string& program) {
   std::string name = program;
@@ -63,7 +82,7 @@ ImportedFile importCobolFile(const DocumentSource& source, const std::string& ou
                              const std::vector<std::string>& folders,
                              const ImportOptions& options) {
   const std::string& file = source.name;
-  FolderCopybooks copybooks(folders, file);
+  NotedCopybooks copybooks(folders, file);
   ImportedFile result;
   result.imported =
       importCobol(source.text ? *source.text : contentOf(file), file, &copybooks, options);
@@ -82,6 +101,9 @@ ImportedFile importCobolFile(const DocumentSource& source, const std::string& ou
     const std::string target =
         i == 0 ? output : (first.parent_path() / (name + first.extension().string())).string();
     checkOutput(target, file, "source");
+    for (const std::string& copybook : copybooks.files()) {
+      checkOutput(target, copybook, "copybook");
+    }
     replaceFile(target, program.dictionary);
     result.written.push_back(target);
   }
