@@ -69,7 +69,13 @@ class AS_EXPORT CAgentServicesFactory {
   // Writes the whole document of `service` to the file named `file`, in place of what that held, as
   // indented XML 1.0 in UTF-8, whatever it was read as. Comments and processing instructions are
   // written; a DOCTYPE is not, the text of its entities stands in their places. The indentation is
-  // put into the document itself and stays there; a second time changes nothing more.
+  // put into the document itself and stays there; a second time changes nothing more. But where
+  // something has been added behind what was laid out, all that stands beside it is laid out once
+  // more, and blank lines come of that.
+  //
+  // Each element that is laid out takes a line that begins with two blanks a level. So what nests
+  // deeply comes to many times the size of its document: 20,000 empty fields 2,030 levels deep,
+  // 190 KB without blanks, are 90 MB when they are written, and the model has grown like that.
   //
   // A file that cannot be opened or written (a null name counts as an empty one) is passed over
   // without a word, and one that can be written only in part is left so: to handle such errors use

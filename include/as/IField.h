@@ -72,13 +72,15 @@ class AS_EXPORT IField : virtual public IElement {
 
   // Adds a mapping to `item` behind the others and returns it; null, and nothing changes, when
   // there is a reference or `item` is null. A missing "mappings" child is added first.
-  // REQUIRES: what IMapping::setDataItem does of `item`.
+  // REQUIRES: what IMapping::setDataItem does of `item`; and that the mapping, two levels below the
+  // element, is nested no deeper than can be written.
   virtual IMapping* addMapping(IDataItem* item) = 0;
 
   // The names on the way here, from the outside in: the operation's (where the way starts in an
   // operation's parameters, and the document writes its elements without a prefix), the
   // parameter's, those of the fields around this one, and its own. They are joined with nothing
-  // between them: field F of parameter P of operation OP is "OPPF". References have no part in it:
+  // between them: field F of parameter P of operation OP is "OPPF". Inside a field attribute (see
+  // as::IWSField) the way starts behind that: its field F is "F". References have no part in it:
   // a field reached through one is named by where it stands, inside the definition. An operation
   // added to a document with a prefix has none before it has been written and read again.
   virtual std::string getQualifiedName() = 0;

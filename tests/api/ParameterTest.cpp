@@ -88,6 +88,17 @@ TEST(QualifiedName, OfAPrefixedDocumentStartsAtTheParameter) {
   EXPECT_EQ(test::itemOf<as::IField>(parameter->getChildren(), 0)->getQualifiedName(), "pf");
 }
 
+TEST(QualifiedName, StartsBehindAFieldAttribute) {
+  const auto service = parseService(test::parameterDocument(
+      as::namespaces::ws.uri,
+      "<parameter name='p'><fieldAttribute name='a'><field name='f'/></fieldAttribute>"
+      "</parameter>"));
+  auto* const attribute =
+      test::itemOf<as::IField>(parameterOf<as::IWSParameter>(*service)->getFieldAttributes(), 0);
+  EXPECT_EQ(attribute->getQualifiedName(), "oppa");
+  EXPECT_EQ(test::itemOf<as::IField>(attribute->getChildren(), 0)->getQualifiedName(), "f");
+}
+
 TEST(Parameter, AddsFieldsAndMappingsWhereTheSchemaWantsThem) {
   const auto service = parsedJava("<parameter name='p'><field name='f'/></parameter>");
   const auto program = test::parse(test::payProgram());
