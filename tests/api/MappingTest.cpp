@@ -140,6 +140,15 @@ TEST(Mapping, QualifiesInCobolsOrder) {
   }
 }
 
+// A service of the program in the file `dictionary`, with one mapping.
+auto mappedTo(const std::string& item, const std::string& dictionary) {
+  return parseService(test::parameterDocument(as::namespaces::java.uri,
+                                              "<parameter><mappings><mapping item='" + item +
+                                                  "'/></mappings></parameter>",
+                                              "", dictionary),
+                      true);
+}
+
 TEST(Mapping, FindsItsItemInTheProgram) {
   const test::TempDirectory directory;
   const std::string file = directory.write("PAY.xml", test::payProgram());
@@ -149,12 +158,7 @@ TEST(Mapping, FindsItsItemInTheProgram) {
   } rows[] = {
       {"REQ.LINE.CELL(*,2)", "CELL"}, {"REQ", "REQ"}, {"REQ.NONE", ""}, {"ID", ""}, {"$stdin", ""}};
   for (const auto& row : rows) {
-    const auto service = parseService(
-        test::parameterDocument(as::namespaces::java.uri,
-                                "<parameter><mappings><mapping item='" + std::string(row.item) +
-                                    "'/></mappings></parameter>",
-                                "", file),
-        true);
+    const auto service = mappedTo(row.item, file);
     as::IDataItem* const item = mappingOf(*service)->getDataItem();
     EXPECT_EQ(item == nullptr ? "" : item->getName(), row.name) << row.item;
   }
@@ -170,12 +174,7 @@ TEST(Mapping, ToASpecialSourceFindsNoItemThatIsCalledLikeIt) {
     bool isFound;
   } rows[] = {{"$stdin", false}, {"$stdin(1)", true}, {"$other", true}};
   for (const auto& row : rows) {
-    const auto service = parseService(
-        test::parameterDocument(as::namespaces::java.uri,
-                                "<parameter><mappings><mapping item='" + std::string(row.item) +
-                                    "'/></mappings></parameter>",
-                                "", file),
-        true);
+    const auto service = mappedTo(row.item, file);
     EXPECT_EQ(mappingOf(*service)->getDataItem() != nullptr, row.isFound) << row.item;
   }
 }
