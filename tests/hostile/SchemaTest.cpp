@@ -107,7 +107,7 @@ TEST(HostileSchema, AnEncodingToldLateHidesNothing) {
   const std::string told = encodingDeclaration("IBM037");
   const TempDirectory directory;
   const std::string id = directory.path() + "/d.xml";
-  for (const std::size_t blanks : {5000, 15000, 20000, 40000, 70000}) {
+  for (const unsigned blanks : {5000U, 15000U, 20000U, 40000U, 70000U}) {
     SCOPED_TRACE(blanks);
     directory.write("s.xsd", std::string(told).insert(told.find(" encoding"), blanks, ' ') +
                                  encoded(schema, "IBM037"));

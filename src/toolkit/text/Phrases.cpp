@@ -28,7 +28,7 @@ std::string firstOf(const std::vector<std::string>& names) {
 }
 
 bool isNumeral(std::string_view text) {
-  constexpr std::string_view digits = "0123456789";
+  static constexpr std::string_view digits = "0123456789";
   const auto takeOne = [&text](std::string_view of) {
     const bool isThere = !text.empty() && of.find(text.front()) != std::string_view::npos;
     text.remove_prefix(isThere ? 1 : 0);
