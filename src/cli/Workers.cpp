@@ -9,6 +9,7 @@
 #include <exception>
 #include <memory>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace cli {
@@ -63,13 +64,28 @@ bool receive(int file, WorkOutcome& outcome) {
 // A process that does every `step`-th piece from `first` on.
 class Worker {
  public:
-  // `others` are the ones that were started before.
-  Worker(const std::vector<std::unique_ptr<Worker>>& others, std::size_t first, std::size_t step,
-         std::size_t count, const std::function<WorkOutcome(std::size_t)>& work) {
+  Worker() = default;
+  ~Worker() {
+    if (file_ >= 0) ::close(file_);
+    while (process_ > 0 && ::waitpid(process_, nullptr, 0) < 0 && errno == EINTR) {
+    }
+  }
+  Worker(const Worker&) = delete;
+  Worker& operator=(const Worker&) = delete;
+
+  // `others` are the ones that were started before. The number of the error if it cannot start,
+  // else 0.
+  int start(const std::vector<std::unique_ptr<Worker>>& others, std::size_t first, std::size_t step,
+            std::size_t count, const std::function<WorkOutcome(std::size_t)>& work) {
     std::array<int, 2> ends{};
-    if (::pipe(ends.data()) != 0) throw std::system_error(errno, std::generic_category());
+    if (::pipe(ends.data()) != 0) return errno;
+    file_ = ends[0];
     process_ = ::fork();
-    if (process_ < 0) throw std::system_error(errno, std::generic_category());
+    if (process_ < 0) {
+      const int error = errno;
+      ::close(ends[1]);
+      return error;
+    }
     if (process_ == 0) {
       ::close(ends[0]);
       // Who writes to a pipe that nobody reads is to be told so, and not to wait for this process.
@@ -85,15 +101,8 @@ class Worker {
       ::_exit(0);
     }
     ::close(ends[1]);
-    file_ = ends[0];
+    return 0;
   }
-  ~Worker() {
-    ::close(file_);
-    while (::waitpid(process_, nullptr, 0) < 0 && errno == EINTR) {
-    }
-  }
-  Worker(const Worker&) = delete;
-  Worker& operator=(const Worker&) = delete;
 
   WorkOutcome next() const {
     WorkOutcome outcome;
@@ -118,7 +127,14 @@ void workThrough(std::size_t count, std::size_t processes,
   }
   std::vector<std::unique_ptr<Worker>> workers;
   for (std::size_t i = 0; i < processes; ++i) {
-    workers.push_back(std::make_unique<Worker>(workers, i, processes, count, work));
+    auto worker = std::make_unique<Worker>();
+    if (const int error = worker->start(workers, i, processes, count, work); error != 0) {
+      // What the others hold is given back first: to say what an error is may take a descriptor.
+      worker.reset();
+      workers.clear();
+      throw std::system_error(error, std::generic_category());
+    }
+    workers.push_back(std::move(worker));
   }
   for (std::size_t i = 0; i < count; ++i) done(i, workers[i % processes]->next());
 }
