@@ -1,9 +1,11 @@
 #include "xml/SchemaInspection.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <utility>
 #include <vector>
 #include <xercesc/framework/MemBufInputSource.hpp>
@@ -187,7 +189,7 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
       const bool isDefault = XMLString::equals(whole, XMLUni::fgXMLNSString);
       if (isDefault || XMLString::startsWith(whole, XMLUni::fgXMLNSColonString)) {
         here.namespaces += XMLString::stringLen(whole) + XMLString::stringLen(value);
-        prefixes_.push_back({isDefault ? Name() : attribute, trimmed(value)});
+        declare(isDefault ? Name() : attribute, trimmed(value));
       }
       const auto isNamed = [&](const XMLCh* other) { return XMLString::equals(attribute, other); };
       if (isNamed(SchemaSymbols::fgATT_MINOCCURS) || isNamed(SchemaSymbols::fgATT_MAXOCCURS)) {
@@ -224,12 +226,13 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
     elements.own += here.times;
     checkElements(++counts_.elementsRead);
     checkElements(elements.own);
-    // A group that is redefined holds, once, what it was; that is counted where it stands.
     if (reference) {
-      const GroupName referred = groupCalled(*reference);
-      const bool isOriginal = here.hasOriginal && referred == here.group;
+      Reference made = referenceTo(*reference, here);
+      // A group that is redefined holds, once, what it was; that is counted where it stands.
+      const bool isOriginal = here.hasOriginal && made.group == here.group;
       if (isOriginal) forgetOriginal();
-      if (!isOriginal || here.times != 1) elements.groups.emplace_back(referred, here.times);
+      made.counts = !isOriginal || here.times != 1;
+      references_.push_back(std::move(made));
     }
     if (isEmpty) {
       prefixes_.resize(here.prefixes);
@@ -241,7 +244,9 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
                   const XMLCh* /*prefix*/) override {
     prefixes_.resize(open_.back().prefixes);
     open_.pop_back();
-    if (open_.empty()) checkElements(Sum(counts_).all());
+    if (!open_.empty()) return;
+    for (const Reference& reference : references_) add(reference);
+    checkElements(Sum(counts_).all());
   }
   void docCharacters(const XMLCh* /*text*/, XMLSize_t length, bool /*isCData*/) override {
     countCharacters(length);
@@ -313,16 +318,50 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
     Name uri;
   };
 
-  // What the parser takes a reference for. A prefix that nobody declares leads to no namespace.
-  GroupName groupCalled(const Name& reference) const {
-    const auto colon = reference.find(u':');
+  // A reference to a group.
+  struct Reference {
+    GroupName from;
+    GroupName group;  // As it stands.
+    XMLSize_t times;
+    Name prefix;
+    bool isSure;         // That the parser takes the prefix for what it is where it stands.
+    bool counts = true;  // If it is sure.
+  };
+
+  void declare(const Name& prefix, const Name& uri) {
+    prefixes_.push_back({prefix, uri});
+    // All that a prefix is declared to be counts, and one that the root knows nothing of may be one
+    // of a schema that includes this one.
+    const auto [first, isNew] = namespaces_.try_emplace(prefix, uri);
+    if (isNew ? !open_.empty() : first->second != uri) unsure_.insert(prefix);
+  }
+
+  // One from `here`, whose declarations have been noted.
+  Reference referenceTo(const Name& name, const Open& here) const {
+    const auto colon = name.find(u':');
     const bool isQualified = colon != Name::npos;
-    const Name prefix = isQualified ? reference.substr(0, colon) : Name();
+    Name prefix = isQualified ? name.substr(0, colon) : Name();
     const auto found =
         std::find_if(prefixes_.rbegin(), prefixes_.rend(),
                      [&](const Prefix& declared) { return declared.name == prefix; });
-    return {isQualified ? reference.substr(colon + 1) : reference,
-            found == prefixes_.rend() ? Name() : found->uri};
+    const bool isDeclared = found != prefixes_.rend();
+    const GroupName group = {isQualified ? name.substr(colon + 1) : name,
+                             isDeclared ? found->uri : Name()};
+    const bool isHere =
+        isDeclared &&
+        found - prefixes_.rbegin() < static_cast<std::ptrdiff_t>(prefixes_.size() - here.prefixes);
+    return {here.group, group, here.times, std::move(prefix), isHere};
+  }
+
+  // To the parser a prefix is what it was declared to be last on its way to where it is looked up,
+  // be it somewhere else in the schema: unless that is always the same, or the element itself
+  // tells, a reference may be one to any group of that name.
+  void add(const Reference& reference) {
+    const bool isSure = reference.isSure || unsure_.count(reference.prefix) == 0;
+    if (isSure && !reference.counts) return;
+    const Name uri = isSure ? reference.group.uri : Name();
+    counts_.elements[reference.from].groups.emplace_back(GroupName{reference.group.local, uri},
+                                                         reference.times);
   }
 
   void forgetOriginal() {
@@ -353,8 +392,11 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
   xercesc::SecurityManager limits_;
   xercesc::HandlerBase nobody_;
   std::vector<Open> open_;
-  std::vector<Prefix> prefixes_;  // That are declared, the innermost last.
-  Name target_;                   // The namespace of the schema.
+  std::vector<Prefix> prefixes_;     // That are declared, the innermost last.
+  std::map<Name, Name> namespaces_;  // What each prefix is declared to be first.
+  std::set<Name> unsure_;            // The prefixes that may be something else, too.
+  std::vector<Reference> references_;
+  Name target_;  // The namespace of the schema.
 };
 
 }  // namespace

@@ -117,6 +117,28 @@ TEST(HostileSchema, AnEncodingToldLateHidesNothing) {
   }
 }
 
+// To the parser a prefix is what it was declared to be last on the way to where it is looked up,
+// and that leads from one component of a schema to the next.
+TEST(HostileSchema, APrefixDeclaredTwiceHidesNoGroups) {
+  std::string groups;
+  for (int i = 0; i < 20; i++) {
+    const std::string next = "<xs:group ref='p:g" + std::to_string(i + 1) + "'/>";
+    groups += "<xs:group name='g" + std::to_string(i) + "'><xs:sequence>" + next + next +
+              "</xs:sequence></xs:group>";
+  }
+  groups += "<xs:group name='g20'><xs:sequence><xs:element name='e'/></xs:sequence></xs:group>";
+  const std::string type =
+      "<xs:complexType name='t' xmlns:p='" + ns + "'><xs:group ref='p:g0'/></xs:complexType>";
+  std::string schema = hostile::laxSchema(ns, {"program"}, type + groups);
+  schema.insert(schema.find(" elementFormDefault"), " xmlns:p='urn:other'");
+  const TempDirectory directory;
+  directory.write("s.xsd", schema);
+  const std::string id = directory.path() + "/d.xml";
+  const auto outcome = outcomeOf(*servicesWithoutSchemas(), programWithHint("s.xsd"), id.c_str());
+  EXPECT_EQ(outcome.result, Result::parseException);
+  EXPECT_THAT(outcome.text, HasSubstr("2000 elements"));
+}
+
 // A schema may import a namespace without telling where its schema is.
 TEST(HostileSchemaDeathTest, ImportsWithoutALocationAreNotFetched) {
   const std::string start =

@@ -59,6 +59,71 @@ TEST(SchemaCounts, CountsGroupsWhereTheyAreReferredTo) {
   EXPECT_FALSE(isRefused(schema("20", "other")));
 }
 
+// To the parser a prefix is what it was declared to be last, be it on the way through another type.
+TEST(SchemaCounts, CountsGroupsOfAnyNamespaceWhereAPrefixIsUnsure) {
+  const auto isHeavy = [](const std::string& root, const std::string& above,
+                          const std::string& reference) {
+    SchemaInspection inspection;
+    return inspection
+        .refusalOf("<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='t' " +
+                       root +
+                       "><xs:group name='g'><xs:element name='a' maxOccurs='98'/></xs:group>"
+                       "<xs:sequence " +
+                       above + "><xs:group maxOccurs='20' " + reference + "/></xs:sequence>" +
+                       "</xs:schema>",
+                   u"s.xsd")
+        .has_value();
+  };
+  EXPECT_TRUE(isHeavy("xmlns:p='t'", "", "ref='p:g'"));
+  EXPECT_FALSE(isHeavy("xmlns:p='u'", "", "ref='p:g'"));
+  EXPECT_FALSE(isHeavy("xmlns:p='u'", "xmlns:p=' u'", "ref='p:g'"));
+  EXPECT_FALSE(isHeavy("xmlns:p='u'", "xmlns:q='t'", "ref='p:g'"));
+  EXPECT_TRUE(isHeavy("xmlns:p='t'", "xmlns:p='u'", "ref='p:g'"));
+  EXPECT_TRUE(isHeavy("xmlns:p='u'", "xmlns:p='t'", "ref='p:g'"));
+  EXPECT_TRUE(isHeavy("xmlns='u'", "xmlns='v'", "ref='g'"));
+  // One that a schema which includes it may have declared.
+  EXPECT_TRUE(isHeavy("", "", "ref='p:g'"));
+  EXPECT_TRUE(isHeavy("", "xmlns:p='u'", "ref='p:g'"));
+  // What the element itself says holds.
+  EXPECT_FALSE(isHeavy("", "", "ref='p:g' xmlns:p='u'"));
+  EXPECT_FALSE(isHeavy("xmlns:p='t'", "", "ref='p:g' xmlns:q='v' xmlns:p='u'"));
+  EXPECT_TRUE(isHeavy("xmlns:p='u'", "", "ref='p:g' xmlns:q='v' xmlns:p='t'"));
+}
+
+// Behind the reference, too: components are read when they are first needed.
+TEST(SchemaCounts, CountsGroupsOfAnyNamespaceWhereAPrefixIsSomethingElseLater) {
+  const auto isHeavy = [](const std::string& later) {
+    SchemaInspection inspection;
+    return inspection
+        .refusalOf(
+            "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='t' "
+            "xmlns:p='u'><xs:group name='g'><xs:element name='a' maxOccurs='98'/>"
+            "</xs:group><xs:group maxOccurs='20' ref='p:g'/><xs:sequence " +
+                later + "/></xs:schema>",
+            u"s.xsd")
+        .has_value();
+  };
+  EXPECT_FALSE(isHeavy("xmlns:p='u'"));
+  EXPECT_TRUE(isHeavy("xmlns:p='v'"));
+}
+
+// A group that is redefined may hold what it was, once; whether it does must be sure.
+TEST(SchemaCounts, CountsWhatAGroupWasWhereAPrefixIsUnsure) {
+  const auto isRefusedWith = [](const std::string& later) {
+    SchemaInspection inspection;
+    return inspection
+        .refusalOf(
+            "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='t' "
+            "xmlns:p='t'><xs:redefine><xs:group name='g'><xs:group ref='p:g'/></xs:group>"
+            "</xs:redefine><xs:sequence " +
+                later + "/></xs:schema>",
+            u"s.xsd")
+        .has_value();
+  };
+  EXPECT_FALSE(isRefusedWith("xmlns:p='t'"));
+  EXPECT_TRUE(isRefusedWith("xmlns:p='v'"));
+}
+
 TEST(SchemaCounts, CountsMembersOfUnions) {
   const auto members = [](const std::string& types, int simple) {
     std::string text = "<xs:simpleType><xs:union memberTypes='" + types + "'>";
