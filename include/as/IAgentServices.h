@@ -53,11 +53,13 @@ class IService;
 // too, when they hold in a DTD what is refused in a document's, or, all together, more than
 //  - 1,000 places of schemas, those that the document itself tells included;
 //  - 1,048,576 bytes, or characters with entities in their places;
-//  - 2,000 elements, as many times as minOccurs, maxOccurs and references to groups have them laid
-//    out, or 100 levels of them;
+//  - 2,000 elements, and namespaces in lists of wildcards, as many times as minOccurs, maxOccurs
+//    and references to groups have them laid out, or 100 levels of elements;
 //  - 256 characters in a pattern, or a pattern that leaves a choice how to go on;
-//  - 16 members of unions, or 16 paths of keys, references to keys and unique values, or 64 of
-//    these that hold for an element and those around it;
+//  - 16 members of unions, or 256 words of enumerated values, or 16 elements that stand for others
+//    (in substitution groups);
+//  - 16 paths of keys, references to keys and unique values, or 64 of these that hold for an
+//    element and those around it;
 //  - 256 characters in a default or fixed value, or 100,000 of these values taken over.
 // A character beyond U+FFFF counts as two, and a schema that is read for several namespaces each
 // time. What comes of all schemas may take 67,108,864 bytes. SECURITY.md gives the reasons, and

@@ -176,6 +176,9 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
     here.isUnion = is(SchemaSymbols::fgELT_UNION);
     const bool isPattern = is(SchemaSymbols::fgELT_PATTERN);
     const bool isGroup = is(SchemaSymbols::fgELT_GROUP);
+    const bool isWildcard = is(SchemaSymbols::fgELT_ANY) || is(SchemaSymbols::fgELT_ANYATTRIBUTE);
+    const bool isEnumeration = is(SchemaSymbols::fgELT_ENUMERATION);
+    XMLSize_t namespaces = 0;
     XMLSize_t times = 1;
     std::optional<Name> group;
     std::optional<Name> reference;
@@ -203,6 +206,13 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
       } else if (isPattern && isNamed(SchemaSymbols::fgATT_VALUE)) {
         check("characters in a pattern", XMLString::stringLen(value), limits::schemaPattern);
         if (!leavesNoChoice(value)) refuse(refusals::ofPattern(narrow(value)));
+      } else if (isWildcard && isNamed(SchemaSymbols::fgATT_NAMESPACE)) {
+        namespaces = wordsIn(value);
+      } else if (isEnumeration && isNamed(SchemaSymbols::fgATT_VALUE)) {
+        check("words of enumerated values",
+              counts_.values += std::max<XMLSize_t>(wordsIn(value), 1), limits::schemaValues);
+      } else if (isNamed(SchemaSymbols::fgATT_SUBSTITUTIONGROUP)) {
+        check("elements that stand for others", ++counts_.substitutes, limits::schemaSubstitutes);
       } else if (here.isUnion && isNamed(SchemaSymbols::fgATT_MEMBERTYPES)) {
         countUnionMembers(wordsIn(value));
       } else if (isNamed(SchemaSymbols::fgATT_DEFAULT) || isNamed(SchemaSymbols::fgATT_FIXED)) {
@@ -223,7 +233,8 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
     if (is(SchemaSymbols::fgELT_ANNOTATION)) countCharacters(here.namespaces);
     here.times = product(here.times, times);
     SchemaInspection::Elements& elements = counts_.elements[here.group];
-    elements.own += here.times;
+    // A namespace in a list is a wildcard of its own.
+    elements.own += product(here.times, 1 + namespaces);
     checkElements(++counts_.elementsRead);
     checkElements(elements.own);
     if (reference) {

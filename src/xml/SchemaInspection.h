@@ -46,6 +46,8 @@ class SchemaInspection {
     std::map<GroupName, Elements> elements;
     XMLSize_t unionMembers = 0;
     XMLSize_t constraints = 0;
+    XMLSize_t values = 0;
+    XMLSize_t substitutes = 0;
   };
 
  private:

@@ -322,6 +322,18 @@ TEST_F(BroughtSchemaDeathTest, OfAnyCostIsRefused) {
                 "<xs:selector xpath='a" +
                 repeated("|a", 20000) + "'/><xs:field xpath='@a'/></xs:unique></xs:element>"),
        "more than 16 paths"},
+      {"namespaces of a wildcard",
+       schemaWith("<xs:complexType name='t'><xs:anyAttribute namespace='" +
+                  numbered("u# ", 100000) + "'/></xs:complexType>"),
+       "more than 2000 elements"},
+      {"substitution groups",
+       schemaWith(numbered("<xs:element name='e#' substitutionGroup='e@'/>", 900)),
+       "more than 16 elements that stand for others"},
+      {"enumerated durations",
+       schemaWith("<xs:simpleType name='t'><xs:restriction base='xs:duration'>" +
+                  numbered("<xs:enumeration value='P#D'/>", 1900) +
+                  "</xs:restriction></xs:simpleType>"),
+       "more than 256 words of enumerated values"},
       {"a pattern within a pattern", schemaOfPattern("(P*)*x"), "the pattern '\\(P\\*\\)\\*x' is"},
       {"a pattern with choices", schemaOfPattern("(P|PP)*x"), "a schema that a document brings"},
       {"a long pattern", schemaOfPattern(std::string(100000, 'P')), "more than 256 characters"},

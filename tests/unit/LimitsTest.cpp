@@ -169,6 +169,19 @@ const std::map<std::string, Case (*)(XMLSize_t)> cases = {
        return ofSchema("<xs:simpleType name='t'><xs:union memberTypes='" + repeated("xs:int ", n) +
                        "'/></xs:simpleType>");
      }},
+    {"schemaSubstitutes",
+     [](XMLSize_t n) {
+       return ofSchema(numbered("<xs:element name='s", n, "' substitutionGroup='r'/>"));
+     }},
+    {"schemaValues",
+     [](XMLSize_t n) {
+       return ofSchema(
+           "<xs:simpleType name='t'><xs:restriction base='xs:string'>"
+           "<xs:enumeration value=''/>" +
+           numbered("<xs:enumeration value='a", n % 2 + 1, "'/>") +
+           numbered("<xs:enumeration value='b ", (n - 2) / 2, "'/>") +
+           "</xs:restriction></xs:simpleType>");
+     }},
     {"schemaConstraints",
      [](XMLSize_t n) {
        return ofSchema("<xs:element name='k'><xs:unique name='u'><xs:selector xpath='a'/>" +

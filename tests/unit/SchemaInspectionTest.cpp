@@ -41,6 +41,10 @@ std::string attributes(int count) {
   return text;
 }
 
+std::string anyOf(const std::string& namespaces) {
+  return "<xs:any namespace='" + namespaces + "'/>";
+}
+
 struct Row {
   const char* name;
   std::string schema;
@@ -52,6 +56,8 @@ void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 const std::string element = "<xs:element name='e'/>";
 const std::string tooManyElements = "2000 elements, as many times as they are laid out";
 const std::string tooManyMembers = "16 members of unions";
+const std::string tooManyValues = "256 words of enumerated values";
+const std::string tooManySubstitutes = "16 elements that stand for others";
 const std::string tooManyPaths = "16 paths of keys";
 
 const Row rows[] = {
@@ -91,6 +97,30 @@ const Row rows[] = {
                                                sequenceOf("maxOccurs='50'", "") +
                                                "</xs:complexType></xs:element>")),
      ""},
+    {"NamespacesOfAWildcard", schemaOf(anyOf(repeated("u ", 1998))), ""},
+    {"TooManyNamespacesOfAWildcard", schemaOf(anyOf(repeated("u ", 1999))), tooManyElements},
+    {"NamespacesOfAWildcardThatMultiply", schemaOf(sequenceOf("maxOccurs='50'", anyOf("a b c d"))),
+     ""},
+    {"TooManyNamespacesOfAWildcardThatMultiply",
+     schemaOf(sequenceOf("maxOccurs='500'", anyOf("a b c"))), tooManyElements},
+    {"NamespacesOfAWildcardForAttributes",
+     schemaOf("<xs:anyAttribute namespace='" + repeated("u ", 1999) + "'/>"), tooManyElements},
+    {"NamespacesOfAnotherElement",
+     schemaOf("<xs:import namespace='" + repeated("u ", 1999) + "'/>"), ""},
+
+    {"EnumeratedValues", schemaOf(repeated("<xs:enumeration value='a'/>", 256)), ""},
+    {"TooManyEnumeratedValues", schemaOf(repeated("<xs:enumeration value='a'/>", 257)),
+     tooManyValues},
+    {"EnumeratedListOfTooManyWords",
+     schemaOf("<xs:enumeration value='" + repeated(" a", 257) + "'/>"), tooManyValues},
+    {"EnumeratedValuesWithoutWords", schemaOf(repeated("<xs:enumeration value=''/>", 257)),
+     tooManyValues},
+    {"WordsOfAnotherElement", schemaOf("<xs:length value='" + repeated(" a", 257) + "'/>"), ""},
+
+    {"Substitutes", schemaOf(repeated("<xs:element substitutionGroup='a'/>", 16)), ""},
+    {"TooManySubstitutes", schemaOf(repeated("<xs:element substitutionGroup='a'/>", 17)),
+     tooManySubstitutes},
+
     {"GroupsThatMultiply",
      schemaOf("<xs:group name='g'>" + sequenceOf("maxOccurs='50'", element) + "</xs:group>" +
               sequenceOf("maxOccurs='50'", "<xs:group ref='x:g'/>")),
