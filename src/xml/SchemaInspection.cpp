@@ -368,7 +368,7 @@ class SchemaParser final : private SchemaMemory, public xercesc::SAXParser {
   // be it somewhere else in the schema: unless that is always the same, or the element itself
   // tells, a reference may be one to any group of that name.
   void add(const Reference& reference) {
-    const bool isSure = reference.isSure || unsure_.count(reference.prefix) == 0;
+    const bool isSure = reference.isSure || !unsure_.contains(reference.prefix);
     if (isSure && !reference.counts) return;
     const Name uri = isSure ? reference.group.uri : Name();
     counts_.elements[reference.from].groups.emplace_back(GroupName{reference.group.local, uri},

@@ -2,10 +2,10 @@
 #ifndef XML_SCHEMAINSPECTION_H_
 #define XML_SCHEMAINSPECTION_H_
 
-#include <compare>
 #include <map>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 #include <xercesc/util/XercesDefs.hpp>
@@ -28,7 +28,12 @@ class SchemaInspection {
     std::basic_string<XMLCh> local;
     std::basic_string<XMLCh> uri;
 
-    auto operator<=>(const GroupName&) const = default;
+    bool operator==(const GroupName& other) const {
+      return local == other.local && uri == other.uri;
+    }
+    bool operator<(const GroupName& other) const {
+      return std::tie(local, uri) < std::tie(other.local, other.uri);
+    }
   };
 
   // The elements of a group, or of all that stands in none.
