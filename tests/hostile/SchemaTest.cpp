@@ -91,18 +91,23 @@ TEST(HostileSchemaDeathTest, ADocumentDoesNotBringItsOwnSchema) {
   }
 }
 
-// What looks at schemas took the end of such a declaration for the start of an unknown encoding,
-// and what then uses it did not.
-TEST(HostileSchema, AnEncodingToldLateHidesNothing) {
+// Groups that hold the next one twice, the last one an element; references have this `prefix`.
+std::string doublingGroups(const std::string& prefix) {
   std::string groups;
   for (int i = 0; i < 20; i++) {
-    const std::string next = "<xs:group ref='g" + std::to_string(i + 1) + "'/>";
+    const std::string next = "<xs:group ref='" + prefix + "g" + std::to_string(i + 1) + "'/>";
     groups += "<xs:group name='g" + std::to_string(i) + "'><xs:sequence>" + next + next +
               "</xs:sequence></xs:group>";
   }
-  groups += "<xs:group name='g20'><xs:sequence><xs:element name='e'/></xs:sequence></xs:group>";
+  return groups +
+         "<xs:group name='g20'><xs:sequence><xs:element name='e'/></xs:sequence></xs:group>";
+}
+
+// What looks at schemas took the end of such a declaration for the start of an unknown encoding,
+// and what then uses it did not.
+TEST(HostileSchema, AnEncodingToldLateHidesNothing) {
   const std::string type = "<xs:complexType name='t'><xs:group ref='g0'/></xs:complexType>";
-  std::string schema = hostile::laxSchema(ns, {"program"}, groups + type);
+  std::string schema = hostile::laxSchema(ns, {"program"}, doublingGroups("") + type);
   schema.insert(schema.find(" elementFormDefault"), " xmlns='" + ns + "'");
   const std::string told = encodingDeclaration("IBM037");
   const TempDirectory directory;
@@ -120,16 +125,9 @@ TEST(HostileSchema, AnEncodingToldLateHidesNothing) {
 // To the parser a prefix is what it was declared to be last on the way to where it is looked up,
 // and that leads from one component of a schema to the next.
 TEST(HostileSchema, APrefixDeclaredTwiceHidesNoGroups) {
-  std::string groups;
-  for (int i = 0; i < 20; i++) {
-    const std::string next = "<xs:group ref='p:g" + std::to_string(i + 1) + "'/>";
-    groups += "<xs:group name='g" + std::to_string(i) + "'><xs:sequence>" + next + next +
-              "</xs:sequence></xs:group>";
-  }
-  groups += "<xs:group name='g20'><xs:sequence><xs:element name='e'/></xs:sequence></xs:group>";
   const std::string type =
       "<xs:complexType name='t' xmlns:p='" + ns + "'><xs:group ref='p:g0'/></xs:complexType>";
-  std::string schema = hostile::laxSchema(ns, {"program"}, type + groups);
+  std::string schema = hostile::laxSchema(ns, {"program"}, type + doublingGroups("p:"));
   schema.insert(schema.find(" elementFormDefault"), " xmlns:p='urn:other'");
   const TempDirectory directory;
   directory.write("s.xsd", schema);
