@@ -19,7 +19,9 @@ WatchedStream::~WatchedStream() = default;
 XMLFilePos WatchedStream::curPos() const { return stream_->curPos(); }
 
 XMLSize_t WatchedStream::readBytes(XMLByte* bytes, XMLSize_t size) {
-  return stream_->readBytes(bytes, std::min(size, allowed_(curPos())));
+  const XMLSize_t got = stream_->readBytes(bytes, std::min(size, allowed_(curPos())));
+  guard_.look(bytes, got);
+  return got;
 }
 
 const XMLCh* WatchedStream::getContentType() const { return stream_->getContentType(); }

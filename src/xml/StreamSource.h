@@ -7,6 +7,8 @@
 #include <xercesc/sax/InputSource.hpp>
 #include <xercesc/util/BinInputStream.hpp>
 
+#include "xml/Utf8Guard.h"
+
 class StreamSource : public xercesc::InputSource {
  public:
   using Stream = std::unique_ptr<xercesc::BinInputStream>;
@@ -24,7 +26,8 @@ class StreamSource : public xercesc::InputSource {
 };
 
 // A stream of at most so many bytes at a time as `allowed` says, which is called in front of each
-// piece, with the place that has been reached, and may throw, to end the parse.
+// piece, with the place that has been reached, and may throw, to end the parse. In UTF-8, bytes
+// that it cannot have are such as the parser refuses.
 class WatchedStream : public xercesc::BinInputStream {
  public:
   WatchedStream(StreamSource::Stream stream, std::function<XMLSize_t(XMLFilePos)> allowed);
@@ -38,6 +41,7 @@ class WatchedStream : public xercesc::BinInputStream {
  private:
   const StreamSource::Stream stream_;
   const std::function<XMLSize_t(XMLFilePos)> allowed_;
+  Utf8Guard guard_;
 };
 
 #endif  // XML_STREAMSOURCE_H_

@@ -15,6 +15,7 @@
 #include <xercesc/util/XMLString.hpp>
 
 #include "as/Globals.h"
+#include "xml/Utf8Guard.h"
 
 using xercesc::XMLException;
 using xercesc::XMLString;
@@ -73,6 +74,8 @@ std::string replaceMalformed(std::string_view text) {
 
 // The XMLCh rendering of `text`, which includes its terminating zero; null for malformed text.
 std::unique_ptr<XMLCh[]> transcode(std::string_view text) {
+  // The transcoder loses some of those.
+  if (std::any_of(text.begin(), text.end(), Utf8Guard::isNeverUtf8)) return nullptr;
   const std::size_t capacity = 2 * text.size() + 1;
   std::unique_ptr<XMLCh[]> wide(new XMLCh[capacity]);
   Scratch<unsigned char> charSizes(capacity);

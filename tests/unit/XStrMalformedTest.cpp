@@ -47,9 +47,11 @@ TEST(XStrMalformed, WholeCharactersStayBesideABadByte) {
 TEST(XStrMalformed, EachByteOfWhatIsNearlyACharacterIsReplaced) {
   for (const char* const narrow :
        {"\xC1\xBF", "\xE0\x9F\xBF", "\xED\xA0\x80", "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80",
-        "\xF5\x80\x80\x80", "\xE2\x82", "\xF1\x80"}) {
+        "\xF5\x80\x80\x80", "\xF7\xBF\xBF\xBF", "\xE2\x82", "\xF1\x80"}) {
     const std::u16string expected(std::string(narrow).size(), u'\uFFFD');
     EXPECT_EQ(wideOf(narrow), expected) << narrow;
+    // The parser's transcoder stops there, or goes on behind it.
+    EXPECT_EQ(wideOf(std::string(100, 'x') + narrow), std::u16string(100, u'x') + expected);
     EXPECT_EQ(wideOf(std::string(narrow) + "a"), expected + u"a") << narrow;
   }
 }
