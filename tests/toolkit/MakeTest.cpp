@@ -9,6 +9,7 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/Documents.h"
@@ -34,6 +35,7 @@ using testing::Field;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using testing::Pair;
 using testing::StartsWith;
 
 const std::vector<std::string> flavours = {"com", "dotnet", "java", "ws"};
@@ -617,6 +619,36 @@ TEST_F(MakeTest, ItemsOfPathsThatNobodyReadsAreLeftOut) {
   EXPECT_EQ(longer[0].problem, "its path is longer than 4096 bytes: left out");
   EXPECT_THAT(contentOf("s.xml"), Not(HasSubstr("XXX")));
   EXPECT_THAT(contentOf("s.xml"), HasSubstr("GGG.Y"));
+}
+
+// A record counts for each entry point that gets it: the service would come to the square of its
+// dictionary.
+TEST_F(MakeTest, BehindAHundredThousandItemsParametersAreLeftOut) {
+  std::string entryPoints;
+  for (int i = 0; i <= 100; i++) {
+    entryPoints += "<entryPoint name='E" + std::to_string(i) +
+                   "'><parameter dataItem='R'/><parameter dataItem='K'/></entryPoint>";
+  }
+  // How many mappings there are, and what is left out, where an entry point gets so many items: the
+  // group R, its members and K.
+  const auto madeWith = [this, &entryPoints](int items) {
+    std::string members;
+    for (int i = 2; i < items; i++)
+      members += "<alphanumeric name='FILLER' length='1' picture='X'/>";
+    const toolkit::MadeService made =
+        make(dictionary("<dataItems><group name='R'>" + members +
+                        "</group><alphanumeric name='K' length='1' picture='X'/></dataItems>"
+                        "<entryPoints>" +
+                        entryPoints + "</entryPoints>"));
+    EXPECT_EQ(made.operations, 101);
+    std::vector<std::string> places;
+    for (const toolkit::Finding& note : made.notes) {
+      if (note.rule == "too-many-items") places.push_back(note.place);
+    }
+    return std::pair(made.mappings, places);
+  };
+  EXPECT_THAT(madeWith(1000), Pair(100, ElementsAre("E100.R", "E100.K")));
+  EXPECT_THAT(madeWith(999), Pair(100, ElementsAre("E100.K")));
 }
 
 TEST_F(MakeTest, WhatIsNoDictionaryIsRefused) {

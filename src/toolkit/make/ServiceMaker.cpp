@@ -31,6 +31,10 @@ bool isUnnamed(as::IDataItem& item) {
 // some hundred levels comes to thousands of times its own size.
 constexpr std::size_t longestPath = 4096;
 
+// Behind so many items no more parameters are begun: a record counts for each entry point that it
+// is handed to, and a service could come to the square of its dictionary.
+constexpr std::size_t mostItems = 100'000;
+
 // An item that becomes a field, with what becomes of its members.
 struct Plan {
   as::IDataItem* item = nullptr;
@@ -82,6 +86,12 @@ class ServiceMaker {
         notes_.note("lost-record", place_, "it is no record of the dictionary: left out");
         return;
       }
+      if (looked_ >= mostItems) {
+        notes_.note("too-many-items", place_,
+                    "the parameters in front of it have " + std::to_string(looked_) +
+                        " items, more than a service is for: left out");
+        return;
+      }
       unnamed_ = 0;
       std::vector<Plan> plans;
       plan(*item, 0, items_.top(), plans, true);
@@ -119,6 +129,7 @@ class ServiceMaker {
   // stands in so many tables, and below the entry `around`, null where no mapping reaches.
   void plan(as::IDataItem& item, std::size_t tables, const ItemIndex::Entry* around,
             std::vector<Plan>& plans, bool isRecord = false) {
+    ++looked_;
     if (item.getMaxOccurs() != 0) ++tables;
     const ItemIndex::Entry* const entry = items_.below(around, item.getName());
     auto* const group = as::interface_cast<as::IGroup>(&item);
@@ -262,6 +273,7 @@ class ServiceMaker {
   std::string operation_;
   std::string place_;
   int unnamed_ = 0;
+  std::size_t looked_ = 0;        // Items of all parameters so far.
   std::vector<std::string> way_;  // The names of the groups around it, from the record on, ...
   std::size_t wayLength_ = 0;     // ... and how long they are with a period behind each.
 };
