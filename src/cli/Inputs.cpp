@@ -1,6 +1,5 @@
 #include "cli/Inputs.h"
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -12,6 +11,7 @@
 #include <utility>
 
 #include "as/toolkit/Files.h"
+#include "cli/FileNumber.h"
 #include "cli/Messages.h"
 #include "cli/Progress.h"
 #include "cli/Workers.h"
@@ -64,28 +64,19 @@ class FileNumbers {
  public:
   explicit FileNumbers(const std::vector<Input>& inputs) {
     for (const Input& input : inputs) {
-      if (const auto number = numberOf(input.source.name)) inputs_.emplace(*number, &input);
+      if (const auto number = fileNumberOf(input.source.name)) inputs_.emplace(*number, &input);
     }
   }
 
   // The first one; null when it is none.
   const Input* find(const std::string& file) const {
-    const auto number = numberOf(file);
+    const auto number = fileNumberOf(file);
     const auto found = number ? inputs_.find(*number) : inputs_.end();
     return found == inputs_.end() ? nullptr : found->second;
   }
 
  private:
-  using Number = std::pair<dev_t, ino_t>;
-
-  // Nothing for what is no file.
-  static std::optional<Number> numberOf(const std::string& file) {
-    struct stat state = {};
-    if (::stat(file.c_str(), &state) != 0 || !S_ISREG(state.st_mode)) return std::nullopt;
-    return Number{state.st_dev, state.st_ino};
-  }
-
-  std::map<Number, const Input*> inputs_;
+  std::map<FileNumber, const Input*> inputs_;
 };
 
 }  // namespace

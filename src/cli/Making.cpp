@@ -2,10 +2,11 @@
 
 #include <filesystem>
 #include <iostream>
-#include <vector>
+#include <map>
 
 #include "as/toolkit/Text.h"
 #include "cli/Command.h"
+#include "cli/FileNumber.h"
 #include "cli/Folder.h"
 #include "cli/Messages.h"
 
@@ -18,15 +19,16 @@ void Making::declareOutput(Arguments& arguments) {
   output_.declare(arguments);
 }
 
-int Making::run(const std::optional<std::string>& schemas, const Make& make) {
-  return withReader(schemas,
-                    [&](const toolkit::DocumentReader& reader) { return makeAll(reader, make); });
+int Making::run(const std::optional<std::string>& schemas, const Make& make, const Need& need) {
+  return withReader(
+      schemas, [&](const toolkit::DocumentReader& reader) { return makeAll(reader, make, need); });
 }
 
-int Making::makeAll(const toolkit::DocumentReader& reader, const Make& make) {
+int Making::makeAll(const toolkit::DocumentReader& reader, const Make& make, const Need& need) {
   bool isFine = inputs_.find();
   const std::vector<std::string> targets = inputs_.targetsIn(target_);
   if (targets.size() != inputs_.all().size()) return exitRefused;
+  if (need && !sparesWhatIsNeeded(reader, targets, need)) return exitRefused;
   const bool isFolder = inputs_.areSeveral() || (targets.size() == 1 && targets[0] != target_);
   const auto targetOf = [&](const Input& input) {
     return targets[static_cast<std::size_t>(&input - inputs_.all().data())];
@@ -48,6 +50,33 @@ int Making::makeAll(const toolkit::DocumentReader& reader, const Make& make) {
        },
        [] {}});
   return isFine ? exitFine : exitRefused;
+}
+
+bool Making::sparesWhatIsNeeded(const toolkit::DocumentReader& reader,
+                                const std::vector<std::string>& targets, const Need& need) const {
+  std::map<FileNumber, std::size_t> replaced;  // With the number of the input that is made of.
+  for (std::size_t i = 0; i < targets.size(); i++) {
+    if (const auto number = fileNumberOf(targets[i])) replaced.emplace(*number, i);
+  }
+  if (replaced.empty()) return true;
+  for (const Input& input : inputs_.all()) {
+    std::string needed;
+    try {
+      needed = need(reader, input);
+    } catch (const toolkit::RefusedDocument&) {  // NOLINT(bugprone-empty-catch)
+      // It is told when its turn comes.
+    }
+    const auto number = fileNumberOf(needed);
+    const auto found = number ? replaced.find(*number) : replaced.end();
+    if (found == replaced.end()) continue;
+    const Input& other = inputs_.all()[found->second];
+    // What one document needs itself is told with it.
+    if (&other == &input) continue;
+    printError("what is made of " + other.source.name + " would take the place of " + needed +
+               ", which " + input.source.name + " names");
+    return false;
+  }
+  return true;
 }
 
 void Making::tell(const std::string& target, OpenedParcel& parcel) const {

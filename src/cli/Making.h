@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "as/toolkit/DocumentReader.h"
 #include "as/toolkit/Finding.h"
@@ -31,11 +32,19 @@ class Making {
   using Make = std::function<Made(const as::toolkit::DocumentReader& reader, const Input& input,
                                   const std::string& output)>;
 
-  // Has all of them made, and tells what came of it. Returns the exit code.
-  int run(const std::optional<std::string>& schemas, const Make& make);
+  // The file that a document is read with, besides its own; empty for none. May throw
+  // toolkit::RefusedDocument.
+  using Need =
+      std::function<std::string(const as::toolkit::DocumentReader& reader, const Input& input)>;
+
+  // Has all of them made, and tells what came of it. Returns the exit code. Nothing is made where
+  // that would take the place of a file that another document needs.
+  int run(const std::optional<std::string>& schemas, const Make& make, const Need& need = nullptr);
 
  private:
-  int makeAll(const as::toolkit::DocumentReader& reader, const Make& make);
+  int makeAll(const as::toolkit::DocumentReader& reader, const Make& make, const Need& need);
+  bool sparesWhatIsNeeded(const as::toolkit::DocumentReader& reader,
+                          const std::vector<std::string>& targets, const Need& need) const;
   void tell(const std::string& target, OpenedParcel& parcel) const;
 
   Inputs inputs_;

@@ -1,12 +1,22 @@
 // agentservices convert: carries services over to another flavour.
 #include "as/toolkit/Convert.h"
 
+#include <string>
+
+#include "as/IService.h"
+#include "as/toolkit/Files.h"
 #include "cli/Command.h"
 #include "cli/Making.h"
 
 namespace cli {
 
 namespace {
+
+// The dictionary that a service names; empty for none.
+std::string dictionaryOf(const toolkit::DocumentReader& reader, const Input& input) {
+  const std::string named = reader.readService(input.source)->getDDFilename();
+  return named.empty() ? named : toolkit::besideFile(input.source.name, named);
+}
 
 class Convert : public Command {
  public:
@@ -26,13 +36,14 @@ class Convert : public Command {
 
   int run(const std::optional<std::string>& schemas) override {
     const toolkit::Flavour& flavour = *toolkit::findFlavour(flavour_);
-    return making_.run(schemas, [&flavour](const toolkit::DocumentReader& reader,
-                                           const Input& input, const std::string& output) {
+    const auto make = [&flavour](const toolkit::DocumentReader& reader, const Input& input,
+                                 const std::string& output) {
       const toolkit::ConvertedService converted =
           toolkit::convertServiceFile(reader, input.source, output, flavour);
       return Made{converted.notes, std::string(converted.from->name) + " service made a " +
                                        flavour.name + " service"};
-    });
+    };
+    return making_.run(schemas, make, dictionaryOf);
   }
 
  private:

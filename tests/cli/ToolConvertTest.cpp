@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -56,6 +57,35 @@ TEST_F(ToolConvertTest, ARefusalIsToldAndChangesNothing) {
   EXPECT_EQ(outcome.out, "");
   EXPECT_THAT(outcome.err, HasSubstr("PAY.xml: error: this is the dictionary\nhint: "));
   EXPECT_EQ(contentOf(pathOf("PAY.xml")), test::payProgram());
+}
+
+// What one document is converted with is not written over by another one in front of it.
+TEST_F(ToolConvertTest, NoServiceTakesThePlaceOfADictionaryThatAnotherNames) {
+  write("a.xml", test::payService(""));
+  write("b.xml", test::javaService("dataDictFilename='out/a.xml'", ""));
+  write("out/a.xml", test::payProgram());
+  const test::ToolOutcome outcome =
+      run({"convert", "--flavour", "ws", "a.xml", "b.xml", "-o", "out"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err,
+            "agentservices: error: what is made of a.xml would take the place of out/a.xml, which "
+            "b.xml names\n");
+  EXPECT_EQ(contentOf(pathOf("out/a.xml")), test::payProgram());
+}
+
+TEST_F(ToolConvertTest, OtherFilesInTheFolderAreReplaced) {
+  write("PAY.xml", test::payProgram());
+  write("a.xml", test::payService(""));
+  write("b.xml", test::payService(""));
+  write("bad.xml", "<service");
+  write("out/a.xml", test::payProgram());
+  const test::ToolOutcome outcome =
+      run({"convert", "--flavour", "ws", "bad.xml", "a.xml", "b.xml", "-o", "out"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.err, testing::StartsWith("bad.xml:1:"));
+  EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1);
+  EXPECT_THAT(contentOf(pathOf("out/a.xml")), HasSubstr("<service"));
+  EXPECT_THAT(contentOf(pathOf("out/b.xml")), HasSubstr("<service"));
 }
 
 TEST_F(ToolConvertTest, AFileThatCannotBeWrittenIsTold) {

@@ -34,6 +34,30 @@ TEST_F(DocumentReaderTest, ADocumentOfEitherKindIsRead) {
   EXPECT_EQ(service.service->getProgram(), nullptr);
 }
 
+// As the system has it; the parser would take "link/.." out of the name.
+TEST_F(DocumentReaderTest, ALinkInANameIsFollowedBeforeItIsLeft) {
+  std::filesystem::create_directories("real/sub");
+  std::filesystem::create_directory("other");
+  std::filesystem::create_directory_symlink("../real/sub", "other/link");
+  write("real/PAY.xml", test::payProgram());
+  write("real/s.xml", test::javaService("name='RIGHT' dataDictFilename='PAY.xml'", ""));
+  write("other/PAY.xml", test::dictionary("<dataItems/>"));
+  write("other/s.xml", test::javaService("name='WRONG' dataDictFilename='PAY.xml'", ""));
+  const std::string dictionary = "other/link/../PAY.xml";
+  const std::string service = "other/link/../s.xml";
+  EXPECT_EQ(reader().read(dictionary).dictionary->getName(), "PAYROLL");
+  EXPECT_EQ(reader().readDictionary(dictionary)->getName(), "PAYROLL");
+  EXPECT_EQ(reader().read(service).service->getName(), "RIGHT");
+  EXPECT_EQ(reader().readService(service)->getName(), "RIGHT");
+  EXPECT_EQ(reader().readServiceWithProgram(service).service->getProgram()->getName(), "PAYROLL");
+  const toolkit::ProgramChoice chosen{dictionary};
+  EXPECT_EQ(reader().readServiceWithProgram("other/s.xml", chosen).service->getProgram()->getName(),
+            "PAYROLL");
+  write("real/bad.xml", "<program");
+  EXPECT_EQ(refusalOf([&] { reader().read("other/link/../bad.xml"); }).file,
+            "other/link/../bad.xml");
+}
+
 // Programs
 
 TEST_F(DocumentReaderTest, AServiceComesWithTheProgramThatItNames) {

@@ -33,8 +33,8 @@ struct MadeService {
 // for each entry point, a parameter for each linkage item with its direction, fields for the
 // members of groups, and for each elementary item a mapping and the data type that holds it without
 // loss. Once the parameters have 100,000 items together, records counted for each entry point that
-// has them, the rest is left out with notes. REQUIRES: every one of options.entryPoints is an entry point of the program; see
-// unknownEntryPoints(). Throws as::CASException.
+// has them, the rest is left out with notes. REQUIRES: every one of options.entryPoints is an entry
+// point of the program; see unknownEntryPoints(). Throws as::CASException.
 AS_EXPORT MadeService makeService(std::unique_ptr<as::IProgram> program, const Flavour& flavour,
                                   const MakeOptions& options = {});
 

@@ -70,6 +70,9 @@ std::string nameFor(const std::string& systemId, const std::string& file) {
   return systemId.empty() || fs::equivalent(systemId, file, ignored) ? file : systemId;
 }
 
+// What the library is to call the file: it takes ".." out of names as if folders were no links.
+std::string calledForLibrary(const std::string& file) { return besideFile("", file); }
+
 // What helps when the parser's message is about a root that no schema declares: the document does
 // not lead the parser to the schema.
 std::string hintFor(std::string_view message) {
@@ -123,7 +126,8 @@ const unsigned char* bytesOf(const std::string& text) {
 
 as::IService* parseText(as::IAgentServices& services, const std::string& text,
                         const std::string& file, bool loadProgram) {
-  return services.parseService(file.c_str(), bytesOf(text), sizeOf(text, file), loadProgram);
+  return services.parseService(calledForLibrary(file).c_str(), bytesOf(text), sizeOf(text, file),
+                               loadProgram);
 }
 
 // The dictionary that `service`, read from `file`, is to have its program from, which can be read.
@@ -143,7 +147,7 @@ std::string dictionaryOf(as::IService& service, const std::string& file,
 // dictionary that a document names, counted from the current directory: `service` is told of it.
 std::unique_ptr<as::IService> loaded(as::IAgentServices& services, as::IService& service,
                                      const std::string& file, const std::string& dictionary) {
-  service.setDDFilename(dictionary.c_str());
+  service.setDDFilename(calledForLibrary(dictionary).c_str());
   const std::string text = documentOf(service, file);
   std::unique_ptr<as::IService> result =
       rootFrom(dictionary, [&] { return parseText(services, text, file, true); });
@@ -180,9 +184,11 @@ Document DocumentReader::read(const std::string& file) const {
   const HeldSource held(source);
   if (held.get().text) return read(held.get());
   Document document;
-  document.dictionary = rootFrom(file, [&] { return services_->parseCobolDD(file.c_str()); });
+  document.dictionary =
+      rootFrom(file, [&] { return services_->parseCobolDD(calledForLibrary(file).c_str()); });
   if (document.dictionary) return document;
-  document.service = rootFrom(file, [&] { return services_->parseService(file.c_str(), false); });
+  document.service = rootFrom(
+      file, [&] { return services_->parseService(calledForLibrary(file).c_str(), false); });
   if (!document.service) throw ofAnotherKind(file, noDictionary() + "; and " + noService());
   return document;
 }
@@ -192,7 +198,8 @@ Document DocumentReader::read(const DocumentSource& source) const {
   const std::string& file = source.name;
   Document document;
   document.dictionary = rootFrom(file, [&] {
-    return services_->parseCobolDD(file.c_str(), bytesOf(*source.text), sizeOf(*source.text, file));
+    return services_->parseCobolDD(calledForLibrary(file).c_str(), bytesOf(*source.text),
+                                   sizeOf(*source.text, file));
   });
   if (document.dictionary) return document;
   document.service =
@@ -207,8 +214,8 @@ std::unique_ptr<as::IService> DocumentReader::readService(const DocumentSource& 
 
 std::unique_ptr<as::IService> DocumentReader::readService(const std::string& file) const {
   checkReadable(file);
-  std::unique_ptr<as::IService> service =
-      rootFrom(file, [&] { return services_->parseService(file.c_str(), false); });
+  std::unique_ptr<as::IService> service = rootFrom(
+      file, [&] { return services_->parseService(calledForLibrary(file).c_str(), false); });
   if (!service) throw ofAnotherKind(file, noService());
   return service;
 }
@@ -216,7 +223,7 @@ std::unique_ptr<as::IService> DocumentReader::readService(const std::string& fil
 std::unique_ptr<as::IProgram> DocumentReader::readDictionary(const std::string& file) const {
   checkReadable(file);
   std::unique_ptr<as::IProgram> dictionary =
-      rootFrom(file, [&] { return services_->parseCobolDD(file.c_str()); });
+      rootFrom(file, [&] { return services_->parseCobolDD(calledForLibrary(file).c_str()); });
   if (!dictionary) throw ofAnotherKind(file, noDictionary());
   return dictionary;
 }

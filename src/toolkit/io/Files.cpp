@@ -244,7 +244,7 @@ std::string besideFile(const std::string& file, const std::string& name) {
   if (!fs::exists(plain, failure) || fs::equivalent(plain, plain.lexically_normal(), failure)) {
     return plain.string();
   }
-  return (fs::canonical(folder, failure) / name).lexically_normal().string();
+  return (fs::canonical(plain.parent_path(), failure) / plain.filename()).string();
 }
 
 std::string nameSeenFrom(const std::string& from, const std::string& to) {
