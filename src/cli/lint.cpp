@@ -184,6 +184,7 @@ class Lint : public Command {
     Tally tally;
     tally.documents = 1;
     for (std::size_t left = parcel.number(); left > 0; --left) tell(file, parcel.finding(), tally);
+    if (known_) left_ += known_->left(file);
     if (report_.isText() && !output_.isQuiet()) {
       std::cout << toolkit::printable(file) << ": " << textOf(tally) << "\n";
     }
@@ -207,9 +208,8 @@ class Lint : public Command {
     if (inputs_.areSeveral()) {
       std::cout << toolkit::count(all.documents, "service") << ": " << textOf(all) << "\n";
     }
-    if (known_ && known_->left() > 0) {
-      std::cout << toolkit::printable(*baseline_) << ": "
-                << toolkit::count(known_->left(), "finding")
+    if (left_ > 0) {
+      std::cout << toolkit::printable(*baseline_) << ": " << toolkit::count(left_, "finding")
                 << " of it not found any more; write it anew\n";
     }
   }
@@ -223,6 +223,7 @@ class Lint : public Command {
   Output output_;
   bool rules_ = false;
   std::unique_ptr<toolkit::Baseline> known_;
+  std::size_t left_ = 0;  // Findings of the baseline that its documents here have no more.
   std::unique_ptr<toolkit::Baseline> written_;
 };
 

@@ -35,11 +35,16 @@ TEST_F(BaselineTest, KnowsFindingsByDocumentRuleAndPlace) {
   toolkit::Baseline known("known.json");
   known.read();
   EXPECT_EQ(known.left(), 3U);
+  EXPECT_EQ(known.left("./s.xml"), 2U);
+  EXPECT_EQ(known.left("t.xml"), 1U);
+  EXPECT_EQ(known.left("s"), 0U);
   EXPECT_FALSE(known.take("s.xml", finding("r", "q")));
   EXPECT_FALSE(known.take("s.xml", finding("q", "p")));
   EXPECT_FALSE(known.take("t.xml", finding("r", "p")));
   EXPECT_TRUE(known.take("t.xml", finding("r", "ü\"\n")));
+  EXPECT_EQ(known.left("t.xml"), 0U);
   EXPECT_TRUE(known.take("s.xml", finding("r", "p")));
+  EXPECT_EQ(known.left("s.xml"), 1U);
   EXPECT_TRUE(known.take("./s.xml", finding("r", "p")));
   EXPECT_FALSE(known.take("s.xml", finding("r", "p")));
   EXPECT_EQ(known.left(), 0U);

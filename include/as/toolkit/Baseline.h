@@ -35,6 +35,9 @@ class AS_EXPORT Baseline {
   // How many were added and not taken: what is not found any more.
   std::size_t left() const;
 
+  // How many of those are of the document: what counts where not all documents were looked at.
+  std::size_t left(const std::string& document);
+
   // Throws RefusedDocument when `file` holds something that is no baseline, and FileError (see
   // Files.h).
   void write() const;
@@ -43,6 +46,7 @@ class AS_EXPORT Baseline {
   using Key = std::tuple<std::string, std::string, std::string>;  // Document, rule, place.
 
   Key keyOf(const std::string& document, const Finding& finding);
+  void see(const std::string& document);
 
   std::string file_;
   std::map<Key, std::size_t> counts_;

@@ -61,6 +61,16 @@ std::size_t Baseline::left() const {
   return all;
 }
 
+std::size_t Baseline::left(const std::string& document) {
+  see(document);
+  std::size_t all = 0;
+  for (auto at = counts_.lower_bound({seen_, "", ""});
+       at != counts_.end() && std::get<0>(at->first) == seen_; ++at) {
+    all += at->second;
+  }
+  return all;
+}
+
 void Baseline::write() const {
   std::ostringstream out;
   // Else it would keep half of the text, and tell nobody, when memory runs out.
@@ -88,13 +98,16 @@ void Baseline::write() const {
 }
 
 Baseline::Key Baseline::keyOf(const std::string& document, const Finding& finding) {
-  if (seen_.empty() || document != document_) {
-    // Standard input has no folder.
-    std::string seen = document == "-" ? document : nameSeenFrom(file_, document);
-    document_ = document;
-    seen_ = std::move(seen);
-  }
+  see(document);
   return {seen_, finding.rule, finding.place};
+}
+
+void Baseline::see(const std::string& document) {
+  if (!seen_.empty() && document == document_) return;
+  // Standard input has no folder.
+  std::string seen = document == "-" ? document : nameSeenFrom(file_, document);
+  document_ = document;
+  seen_ = std::move(seen);
 }
 
 }  // namespace as::toolkit
