@@ -57,12 +57,12 @@ Row com(const std::string& label, const std::string& rule, const std::string& co
 }
 
 Row web(const std::string& label, const std::string& rule, const std::string& content,
-        const std::string& text) {
+        const std::string& text, const std::string& program = test::payProgram()) {
   return {label, rule,
           test::webService("name='Pay' implementation='ws' programName='PAYROLL' "
                            "dataDictFilename='PAY.xml'",
                            content),
-          text};
+          text, program};
 }
 
 // A Java service with such attributes.
@@ -95,6 +95,14 @@ std::string mapped(const std::string& attributes, const std::string& mapping) {
 
 std::string hidden(const std::string& attributes) {
   return operation("<hiddenParameters><hiddenParameter " + attributes + "/></hiddenParameters>");
+}
+
+// A header or fault with a parameter that is mapped to the item.
+std::string message(const std::string& kind, const std::string& attributes,
+                    const std::string& item) {
+  return "<" + kind + " use='literal' namespace='urn:m' " + attributes +
+         "><parameters><parameter name='p' dataType='int'><mappings><mapping item='" + item +
+         "'/></mappings></parameter></parameters></" + kind + ">";
 }
 
 // An operation of a Web service.
@@ -317,6 +325,9 @@ std::vector<Family> families() {
                 programWith("<parameter dataItem='REQ' byType='value'/>")),
            java("ByValueAndIn", "", mapped("byType='in' dataType='int'", "item='REQ.ID'"), "",
                 programWith("<parameter dataItem='REQ' byType='value'/>")),
+           java("HiddenOnlyReturned", "nothing-goes-in", hidden("item='RC' value='1'"),
+                "warning: pay, hidden parameter 1: RC is only returned: nothing goes in; map to "
+                "another record"),
            java("HiddenNotHandedOver", "unreachable-storage", hidden("item='WS-COUNT' value='1'"),
                 "error: pay, hidden parameter 1: WS-COUNT is nothing that entry point 'PAY' is "
                 "called "
@@ -489,14 +500,26 @@ std::vector<Family> families() {
             "error: pay, fault 1: its use is encoded, but the style is document; make it literal, "
             "or the style rpc"),
         web("ParameterOfAHeader", "unreachable-storage",
-            webOperation(
-                goodDocument,
-                "<header use='literal' namespace='urn:h'><parameters><parameter name='p' "
-                "dataType='int'><mappings><mapping item='WS-COUNT'/></mappings></parameter>"
-                "</parameters></header>"),
+            webOperation(goodDocument, message("header", "", "WS-COUNT")),
             "error: pay, header 1.p: WS-COUNT is nothing that entry point 'PAY' is called with; "
             "map "
             "to something within REQ, RC"),
+        web("HeaderThatGoesIn", "nothing-goes-in",
+            webOperation(goodDocument, message("header", "byType='in'", "RC")),
+            "warning: pay, header 1.p: RC is only returned: nothing goes in; make the header "
+            "\"out\""),
+        web("HeaderThatComesBack", "",
+            webOperation(goodDocument, message("header", "byType='out'", "RC")), ""),
+        web("HeaderOfACopy", "nothing-comes-back",
+            webOperation(goodDocument, message("header", "byType='out'", "REQ.ID")),
+            "warning: pay, header 1.p: REQ is handed over by value: nothing comes back; make the "
+            "header \"in\"",
+            programWith("<parameter dataItem='REQ' byType='value'/>")),
+        web("FaultOfACopy", "nothing-comes-back",
+            webOperation(goodDocument, message("fault", "", "REQ.ID")),
+            "warning: pay, fault 1.p: REQ is handed over by value: nothing comes back; map to "
+            "another record",
+            programWith("<parameter dataItem='REQ' byType='value'/>")),
         web("NamesOfFieldAttributes", "unnamed-member",
             webOperation(goodDocument,
                          "<parameters><parameter name='p' dataType='int'><mappings><mapping "

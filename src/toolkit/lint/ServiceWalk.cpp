@@ -32,7 +32,7 @@ namespace {
 
 // What holds for a parameter or type definition with everything below it.
 struct Tree {
-  int direction = 0;                         // Of the parameter.
+  Direction direction;
   const CallInterface* interface = nullptr;  // Null when unknown, and in a type definition.
   std::optional<std::size_t> definition;     // Its number; none in an operation.
 };
@@ -77,7 +77,7 @@ class ServiceWalk {
     std::size_t number = 0;
     forEachMember<as::IParameter>(definitions, [&](as::IParameter& definition) {
       const Place place(nameOrUnnamed(definition.getName()), types, definition);
-      lookAtTree(definition, place, {as::IParameter::BY_IO, nullptr, number++});
+      lookAtTree(definition, place, {{as::IParameter::BY_IO, ""}, nullptr, number++});
     });
     static const Place nowhere("");
     lookAtNames<as::IOperation>(service_.getOperations(), "operation", nowhere, "");
@@ -119,34 +119,46 @@ class ServiceWalk {
     for (const Message& message : profile_.messagesOf(operation)) {
       const std::string number = std::to_string(++numbers[message.kind]);
       const Place at(std::string(", ") + message.kind + " " + number, place, *message.element);
-      lookAtParameters(message.parameters, at, interface);
+      lookAtParameters(message.parameters, at, interface, &message);
     }
   }
 
   void lookAtHiddenParameters(as::IOperation& operation, const Place& operationPlace,
                               const CallInterface* interface) {
     int number = 0;
-    forEachMember<as::IHiddenParameter>(
-        operation.getHiddenParameters(), [&](as::IHiddenParameter& hidden) {
-          const Place place(", hidden parameter " + std::to_string(++number), operationPlace,
-                            hidden);
-          as::IDataItem* item = nullptr;
-          if (const std::optional<MappingSubject> mapping = subjectOf(hidden, place)) {
-            look(*mapping, report_);
-            item = reachedBy(*mapping);
-          }
-          if (item != nullptr) {
-            lookAtStorage(*program_->recordOf(*item), place, as::IParameter::BY_IN, interface);
-          }
-          look(HiddenSubject{place, hidden.getValue(), item}, report_);
-        });
+    forEachMember<as::IHiddenParameter>(operation.getHiddenParameters(), [&](as::IHiddenParameter&
+                                                                                 hidden) {
+      const Place place(", hidden parameter " + std::to_string(++number), operationPlace, hidden);
+      as::IDataItem* item = nullptr;
+      if (const std::optional<MappingSubject> mapping = subjectOf(hidden, place)) {
+        look(*mapping, report_);
+        item = reachedBy(*mapping);
+      }
+      if (item != nullptr) {
+        lookAtStorage(*program_->recordOf(*item), place, {as::IParameter::BY_IN, ""}, interface);
+      }
+      look(HiddenSubject{place, hidden.getValue(), item}, report_);
+    });
   }
 
-  void lookAtParameters(as::IList* parameters, const Place& place, const CallInterface* interface) {
+  static Direction directionOf(as::IField& field) {
+    auto* const parameter = as::interface_cast<as::IParameter>(&field);
+    return {parameter == nullptr ? as::IParameter::BY_IO : parameter->getByType(), "parameter"};
+  }
+
+  static Direction directionOf(const Message& message) {
+    const bool isChosen =
+        std::any_of(message.traits.begin(), message.traits.end(),
+                    [](const Trait& trait) { return trait.attribute == "byType"; });
+    return {message.direction, isChosen ? message.kind : ""};
+  }
+
+  // Those of an operation, or of a message.
+  void lookAtParameters(as::IList* parameters, const Place& place, const CallInterface* interface,
+                        const Message* message = nullptr) {
     lookAtNames<as::IField>(parameters, "parameter", place, ".");
     forEachMember<as::IField>(parameters, [&](as::IField& field) {
-      auto* const parameter = as::interface_cast<as::IParameter>(&field);
-      const int direction = parameter == nullptr ? as::IParameter::BY_IO : parameter->getByType();
+      const Direction direction = message == nullptr ? directionOf(field) : directionOf(*message);
       const Place at("." + nameOrUnnamed(field.getName()), place, field);
       lookAtTree(field, at, {direction, interface, std::nullopt});
     });
@@ -272,7 +284,7 @@ class ServiceWalk {
     return mapping.isInnerReadable ? mapping.item : nullptr;
   }
 
-  void lookAtStorage(as::IDataItem& record, const Place& place, int direction,
+  void lookAtStorage(as::IDataItem& record, const Place& place, const Direction& direction,
                      const CallInterface* interface) {
     if (!isKnown(interface)) return;
     look(StorageSubject{place, *program_, record, *interface, direction}, report_);
@@ -328,7 +340,7 @@ class ServiceWalk {
       return !trial.findings().empty();
     };
     const TypeStorage::WrongOnes wrong =
-        typeStorage_.wrongOnes(definition, *tree.interface, tree.direction, isWrong);
+        typeStorage_.wrongOnes(definition, *tree.interface, tree.direction.byType, isWrong);
     for (as::IDataItem* const record : wrong.told) {
       const bool hasMore = wrong.areMore && record == wrong.told.back();
       look(StorageSubject{place, *program_, *record, *tree.interface, tree.direction, hasMore},

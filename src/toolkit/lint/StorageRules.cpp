@@ -1,4 +1,6 @@
 // Rules about whether what is mapped reaches the program, and comes back.
+#include <string>
+
 #include "as/ILinkageItem.h"
 #include "as/IParameter.h"
 #include "toolkit/lint/Rules.h"
@@ -23,6 +25,11 @@ std::string withOthers(const StorageSubject& subject, const std::string& problem
   return subject.hasMore ? problem + " (and there are others)" : problem;
 }
 
+std::string makeIt(const Direction& direction, const char* word) {
+  if (direction.owner.empty()) return "map to another record";
+  return "make the " + std::string(direction.owner) + " " + word;
+}
+
 }  // namespace
 
 void unreachableStorage(const StorageSubject& subject, const Tell& tell) {
@@ -34,17 +41,17 @@ void unreachableStorage(const StorageSubject& subject, const Tell& tell) {
 }
 
 void nothingComesBack(const StorageSubject& subject, const Tell& tell) {
-  if (subject.direction != as::IParameter::BY_OUT) return;
+  if (subject.direction.byType != as::IParameter::BY_OUT) return;
   if (!isHandedOver(subject, as::ILinkageItem::BY_VALUE)) return;
   tell(withOthers(subject, recordName(subject) + " is handed over by value: nothing comes back"),
-       R"(make the parameter "in")");
+       makeIt(subject.direction, "\"in\""));
 }
 
 void nothingGoesIn(const StorageSubject& subject, const Tell& tell) {
-  if (subject.direction != as::IParameter::BY_IN) return;
+  if (subject.direction.byType != as::IParameter::BY_IN) return;
   if (!isHandedOver(subject, as::ILinkageItem::BY_RETURNING)) return;
   tell(withOthers(subject, recordName(subject) + " is only returned: nothing goes in"),
-       R"(make the parameter "out")");
+       makeIt(subject.direction, "\"out\""));
 }
 
 }  // namespace as::toolkit::rules

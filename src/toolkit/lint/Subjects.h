@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "as/IDataItem.h"
@@ -135,13 +136,19 @@ struct MappingSubject {
   bool fitsInterface() const;
 };
 
+// Which way things go, and what says so.
+struct Direction {
+  int byType = 0;          // As that of a parameter.
+  std::string_view owner;  // "parameter", "header"; empty where it cannot be another one.
+};
+
 // The record that something is mapped to, in an operation that is bound to an entry point.
 struct StorageSubject {
   const Place& place;
   ProgramFacts& program;
   as::IDataItem& record;
   const CallInterface& interface;
-  int direction = 0;     // Of the parameter.
+  Direction direction;
   bool hasMore = false;  // Whether there are others like it, of which nothing is told.
 };
 
