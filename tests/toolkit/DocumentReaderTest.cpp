@@ -271,4 +271,13 @@ TEST_F(DocumentReaderTest, WhatIsNoFileIsNamed) {
             "folder: is a directory, not a document");
 }
 
+// The parser could not open it.
+TEST_F(DocumentReaderTest, ANameThatIsNoUtf8IsTold) {
+  write("\xE4.xml", test::payProgram());
+  const toolkit::Refusal refusal = refusalOf([&] { reader().read("\xE4.xml"); });
+  EXPECT_EQ(refusal.file, "\xE4.xml");
+  EXPECT_EQ(refusal.text, "cannot be read: its name is no UTF-8");
+  EXPECT_EQ(refusal.hint, "rename it");
+}
+
 }  // namespace

@@ -24,6 +24,7 @@
 #include "as/toolkit/Flavours.h"
 #include "toolkit/io/HeldSource.h"
 #include "toolkit/io/ServiceText.h"
+#include "toolkit/text/Utf8Text.h"
 
 namespace as::toolkit {
 
@@ -58,6 +59,9 @@ RefusedDocument ofAnotherKind(const std::string& file, const std::string& text) 
 void checkReadable(const std::string& file) {
   std::error_code ignored;
   if (fs::is_directory(file, ignored)) throw refused(file, "is a directory, not a document");
+  if (!isUtf8(file)) {
+    throw RefusedDocument({file, 0, 0, "cannot be read: its name is no UTF-8", "rename it"});
+  }
   if (::access(file.c_str(), R_OK) != 0) {
     const int reason = errno;
     throw refused(file, "cannot be read: " + std::generic_category().message(reason));
