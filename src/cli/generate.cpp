@@ -91,7 +91,10 @@ class Generate : public Command {
     if (!problem.empty()) return wrong(problem);
     if (record_) options_.record = *record_;
     return withReader(schemas, [&](const toolkit::DocumentReader& reader) {
-      if (names_) options_.names = toolkit::readChosenNames(textOfFile(*names_), *names_);
+      if (names_) {
+        options_.names = toolkit::readChosenNames(textOfFile(*names_), *names_);
+        options_.namesFile = *names_;
+      }
       return make(reader, *kind);
     });
   }

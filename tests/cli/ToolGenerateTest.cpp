@@ -95,6 +95,15 @@ TEST_F(ToolGenerateTest, TakesNamesFromAFile) {
   }
 }
 
+TEST_F(ToolGenerateTest, NothingTakesThePlaceOfTheNames) {
+  write("names", "Savings deposits = Deposits\n");
+  const test::ToolOutcome outcome =
+      generate("wsdl", "DEPINT01-ws.xml", {"-o", "./names", "--names", "names"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("./names: error: this is the file of names"));
+  EXPECT_EQ(contentOf(pathOf("names")), "Savings deposits = Deposits\n");
+}
+
 // Nor does a link to it.
 TEST_F(ToolGenerateTest, NothingTakesThePlaceOfWhatItIsMadeOf) {
   for (const char* const file : {"PAYSLIP.xml", "PAYSLIP-ws.xml"}) {

@@ -173,6 +173,13 @@ TEST_F(DictionaryRenderTest, ShowReadsTheDeepestNesting) {
   EXPECT_THAT(jsonText(document), HasSubstr(R"("name": "BOTTOM")"));
 }
 
+TEST_F(DictionaryRenderTest, ALongNameIsNotRepeatedWithEachRedefinition) {
+  const std::string redefined = shown(test::dictionaryOf("<group name='" + std::string(5000, 'L') +
+                                                         "'/><group name='A' redefines='true'/>"));
+  EXPECT_THAT(redefined, HasSubstr("redefines LLL"));
+  EXPECT_THAT(redefined, HasSubstr("LLL...LLL"));
+}
+
 // How one data item is shown: its attributes and the end of its line.
 struct ItemCase {
   std::string label;

@@ -395,18 +395,62 @@ TEST(LinesAbout, TellItemTableAndConditions) {
               ElementsAre("occurs 1 to 2 times, depending on R.N"));
 }
 
-TEST(LinesAbout, AreThirtyOfAKindAtMost) {
+// The lines about a field of an item with those conditions.
+std::vector<std::string> linesWith(const std::vector<Condition>& conditions) {
   Item of = sized(Kind::text, 2);
-  const Condition condition{"C", std::vector<ConditionValue>(31, value("A"))};
-  of.conditions.assign(31, condition);
-  Case made(texts, &of);
-  made.field.mappings.assign(31, {Mapping::Source::item, "R.I", 0});
-  const std::vector<std::string> lines = linesAbout(made.model, made.field);
-  ASSERT_EQ(lines.size(), 60U);
-  EXPECT_EQ(lines[29], "R.I");
+  of.conditions = conditions;
+  const Case made(texts, &of);
+  return linesAbout(made.model, made.field);
+}
+
+Condition manyValues(std::size_t number) {
+  return {"C", std::vector<ConditionValue>(number, value("A"))};
+}
+
+TEST(LinesAbout, AreThirtyOfAKindAtMost) {
   std::string values = "C: 'A'";
   for (int i = 1; i < 30; ++i) values += ", 'A'";
-  EXPECT_EQ(lines[30], values);
+  EXPECT_THAT(linesWith({manyValues(30)}), ElementsAre(values));
+  EXPECT_THAT(linesWith({manyValues(31)}), ElementsAre(values + ", ..."));
+  const std::vector<Condition> thirty(30, manyValues(1));
+  EXPECT_EQ(linesWith(thirty), std::vector<std::string>(30, "C: 'A'"));
+  std::vector<Condition> more = thirty;
+  more.push_back(manyValues(1));
+  std::vector<std::string> expected(30, "C: 'A'");
+  expected.emplace_back("...");
+  EXPECT_EQ(linesWith(more), expected);
+  Item of = sized(Kind::text, 2);
+  Case made(texts, &of);
+  made.field.mappings.assign(31, {Mapping::Source::item, "R.I", 0});
+  EXPECT_EQ(linesAbout(made.model, made.field), std::vector<std::string>(30, "R.I"));
+}
+
+// An item may have any number of fields, each of which tells them.
+TEST(LinesAbout, TellLongTextsOfTheItemShortened) {
+  const std::string longText(201, 'X');
+  const std::string shown = std::string(200, 'X') + "...";
+  EXPECT_THAT(linesWith({{longText, {{longText, longText, true}}}}),
+              ElementsAre(shown + ": '" + shown + "' to '" + shown + "'"));
+  Item of = sized(Kind::text, 2);
+  of.picture = longText;
+  Case made(texts, &of);
+  made.field.mappings = {{Mapping::Source::item, "R.I", 0}};
+  EXPECT_THAT(linesAbout(made.model, made.field), ElementsAre("R.I, PIC " + shown));
+}
+
+TEST(LinesAbout, AreSomeThousandBytesOfConditions) {
+  const ConditionValue longValue = value(std::string(195, 'X').c_str());  // With all else 199.
+  const Condition twenty{"C", std::vector<ConditionValue>(20, longValue)};
+  ASSERT_EQ(linesWith({twenty}).front().size(), 3981U);
+  EXPECT_THAT(linesWith({twenty, manyValues(1)}), ElementsAre(testing::_, "C: 'A'"));
+  EXPECT_THAT(linesWith({twenty, manyValues(2), manyValues(1)}),
+              ElementsAre(testing::_, "C: 'A', 'A'", "C: 'A'"));
+  EXPECT_THAT(linesWith({twenty, manyValues(3), manyValues(1), manyValues(1)}),
+              ElementsAre(testing::_, "C: 'A', 'A', 'A'", "C: 'A'", "..."));
+  const Condition twentyThree{"C", std::vector<ConditionValue>(23, longValue)};
+  const std::string line = linesWith({twentyThree}).front();
+  EXPECT_EQ(line.size(), 4185U);
+  EXPECT_THAT(line, testing::EndsWith("X', ..."));
 }
 
 }  // namespace

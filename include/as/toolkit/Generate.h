@@ -53,6 +53,8 @@ struct GenerateOptions {
   // Values of the kind's options by their names.
   std::map<std::string, std::string, std::less<>> values;
   ChosenNames names;  // Empty for those that the rule of the language makes.
+  // The file that they were read from, which no output takes the place of; empty for none.
+  std::string namesFile;
   // What the output calls the document that it was made of; empty for the service's or program's
   // name.
   std::string source;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "toolkit/generate/ShortPath.h"
 #include "toolkit/text/Phrases.h"
 
 namespace as::toolkit::gen {
@@ -13,8 +14,11 @@ using CapacityKind = Capacity::Kind;
 
 // No item has more digits, or more zeros beside them; documents may say so.
 constexpr int mostDigits = 1000;
-// So many values and conditions are told of one field.
+// So many mappings, values and conditions are told of one field, and so many bytes about its
+// conditions: an item may have any number of fields.
 constexpr std::size_t mostTold = 30;
+constexpr std::size_t mostAboutConditions = 4000;
+constexpr const char* andMore = "...";
 
 bool isOfUse(int digits, int scale) {
   return digits > 0 && digits <= mostDigits && scale >= -mostDigits && scale <= mostDigits;
@@ -71,6 +75,18 @@ void limitText(const Item* item, Facets& facets) {
     default:
       return;
   }
+}
+
+std::string lineAbout(const Condition& condition) {
+  std::string line = shortName(condition.name) + ":";
+  for (std::size_t i = 0; i < condition.values.size(); ++i) {
+    const ConditionValue& value = condition.values[i];
+    line += i == 0 ? " " : ", ";
+    if (i == mostTold || line.size() > mostAboutConditions) return line + andMore;
+    line += quote(shortName(value.from));
+    if (value.isRange) line += " to " + quote(shortName(value.to));
+  }
+  return line;
 }
 
 }  // namespace
@@ -141,7 +157,7 @@ std::vector<std::string> linesAbout(const ServiceModel& model, const Field& fiel
     std::string line = mapping.text;
     if (mapping.item != none) {
       const Item& item = model.items[mapping.item];
-      if (!item.picture.empty()) line += ", PIC " + item.picture;
+      if (!item.picture.empty()) line += ", PIC " + shortName(item.picture);
       if (!item.usage.empty()) line += ", " + item.usage;
     }
     lines.push_back(std::move(line));
@@ -153,17 +169,22 @@ std::vector<std::string> linesAbout(const ServiceModel& model, const Field& fiel
   } else if (field.isTable()) {
     lines.push_back("occurs " + std::to_string(field.occurs) + " times");
   }
+  for (std::string& line : linesAboutConditions(model, field)) lines.push_back(std::move(line));
+  return lines;
+}
+
+std::vector<std::string> linesAboutConditions(const ServiceModel& model, const Field& field) {
+  std::vector<std::string> lines;
   const Item* const item = model.itemOf(field);
   if (item == nullptr) return lines;
-  for (std::size_t i = 0; i < std::min(item->conditions.size(), mostTold); ++i) {
-    const Condition& condition = item->conditions[i];
-    std::string line = condition.name + ":";
-    for (std::size_t k = 0; k < std::min(condition.values.size(), mostTold); ++k) {
-      const ConditionValue& value = condition.values[k];
-      line += (k == 0 ? " " : ", ") + quote(value.from);
-      if (value.isRange) line += " to " + quote(value.to);
+  std::size_t told = 0;
+  for (const Condition& condition : item->conditions) {
+    if (lines.size() == mostTold || told > mostAboutConditions) {
+      lines.emplace_back(andMore);
+      break;
     }
-    lines.push_back(std::move(line));
+    lines.push_back(lineAbout(condition));
+    told += lines.back().size();
   }
   return lines;
 }

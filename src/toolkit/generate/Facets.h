@@ -50,6 +50,10 @@ std::string ninesOf(int digits, int fraction);
 // What is known of a field, in lines: its item with picture and usage, its table, its conditions.
 std::vector<std::string> linesAbout(const ServiceModel& model, const Field& field);
 
+// The last of those: "NAME: 'A', 'C' to 'E'". "..." stands for what goes beyond some thousand
+// bytes.
+std::vector<std::string> linesAboutConditions(const ServiceModel& model, const Field& field);
+
 }  // namespace as::toolkit::gen
 
 #endif  // TOOLKIT_GENERATE_FACETS_H_

@@ -224,18 +224,21 @@ Mapping FieldReader::readMapping(as::IMapping& mapping) {
 // out. What two fields of one table say in different ways is said of none.
 void FieldReader::readTables(as::IMapping& mapping, const std::string& text, const Item& item,
                              const Way& way) {
-  if (item.tables.empty()) return;
+  const Item::Table* table = item.table.get();
+  if (table == nullptr) return;
   const std::vector<int> inner = dataItemSubscripts(mapping, text);
   const std::vector<int> outer = interfaceSubscripts(mapping);
-  if (inner.size() != item.tables.size()) return;
-  std::size_t table = inner.size();
+  if (inner.size() != table->number) return;
   std::size_t place = way.tables.size();
   for (std::size_t i = outer.size(); i > 0 && place > 0; --i) {
     --place;
     if (outer[i - 1] != everyOccurrence) continue;
-    while (table > 0 && inner[table - 1] != everyOccurrence) --table;
-    if (table == 0) return;
-    tell(at(way.tables[place], *way.root), item.tables[--table]);
+    while (table != nullptr && inner[table->number - 1] != everyOccurrence) {
+      table = table->around.get();
+    }
+    if (table == nullptr) return;
+    tell(at(way.tables[place], *way.root), *table);
+    table = table->around.get();
   }
 }
 

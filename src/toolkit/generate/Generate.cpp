@@ -241,6 +241,7 @@ GeneratedOutput generateFiles(const DocumentReader& reader, const GeneratorKind&
   for (const FileContent& content : contents) {
     checkOutput(content.file, source.name, "document");
     checkOutput(content.file, read.dictionary, "dictionary");
+    checkOutput(content.file, options.namesFile, "file of names");
     result.files.push_back(content.file);
   }
   result.written = replaceFiles(contents);

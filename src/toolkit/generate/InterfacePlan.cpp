@@ -41,7 +41,10 @@ class ReservingRule {
 class Planner {
  public:
   Planner(const Job& job, const Language& language)
-      : job_(job), model_(job.model), language_(language) {}
+      : job_(job), model_(job.model), language_(language), owners_(model_.types.size()) {
+    for (const Operation& operation : model_.operations) noteOwners(operation.parameters);
+    for (const Type& type : model_.types) noteOwners(type.fields);
+  }
 
   InterfacePlan plan() {
     nameAll();
@@ -53,6 +56,13 @@ class Planner {
   }
 
  private:
+  // Structures that are not declared have one each.
+  void noteOwners(const std::vector<Field>& fields) {
+    for (const Field& field : fields) {
+      if (field.structure != none) owners_[field.structure] = &field;
+    }
+  }
+
   // A declared type without parts is the value that it stands for; one that refers to another is
   // that one.
   bool isWanted(std::size_t number) const {
@@ -135,12 +145,7 @@ class Planner {
   std::string valueTypeOf(std::size_t number) {
     const Type& type = model_.types[number];
     if (type.isDeclared) return typeOf(type.self, Spot(model_, type), true).first;
-    const auto isIts = [number](const Field& field) { return field.structure == number; };
-    const std::vector<Field>& around = type.owner == none
-                                           ? model_.operations[type.operation].parameters
-                                           : model_.types[type.owner].fields;
-    const auto field = std::find_if(around.begin(), around.end(), isIts);
-    return typeOf(*field, Spot(model_, type), true).first;
+    return typeOf(*owners_[number], Spot(model_, type), true).first;
   }
 
   void add(const Field& field, const Spot& place, std::vector<Member>& members,
@@ -237,6 +242,7 @@ class Planner {
   const Job& job_;
   const ServiceModel& model_;
   const Language& language_;
+  std::vector<const Field*> owners_;  // Of the structures that are not declared.
   InterfacePlan plan_;
   std::vector<std::string> typeNames_;
   std::vector<std::string> answerNames_;

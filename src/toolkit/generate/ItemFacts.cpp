@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "as/ICondition.h"
 #include "as/IConditionValue.h"
@@ -131,11 +132,13 @@ std::vector<Condition> conditionsOf(as::IDataItem& item) {
 }
 
 Item::Table readTable(as::IDataItem& item) {
-  Item::Table table{item.getMaxOccurs(), item.getMaxOccurs(), ""};
+  Item::Table table;
+  table.least = table.most = item.getMaxOccurs();
   if (!item.hasODO()) return table;
   as::IDataItem* const counter = item.getODO();
   table.least = item.getMinOccurs();
-  table.dependingOn = counter == nullptr ? item.getAttributeValue("odo") : shortPathOf(*counter);
+  table.dependingOn =
+      counter == nullptr ? shortName(item.getAttributeValue("odo")) : shortPathOf(*counter);
   return table;
 }
 
@@ -180,7 +183,7 @@ std::size_t ItemFacts::numberOf(as::IDataItem& item) {
     facts.path = pathOf(item, facts.name);
     facts.picture = item.getPicture();
     read(item, pictureOf(facts.picture), facts);
-    facts.tables = tablesAround(item);
+    facts.table = tableAround(item);
     items_.push_back(std::move(facts));
   }
   return found->second;
@@ -204,16 +207,27 @@ std::string ItemFacts::pathOf(as::IDataItem& item, const std::string& name) {
   return groupPath_ + "." + shortName(name);
 }
 
-std::vector<Item::Table> ItemFacts::tablesAround(as::IDataItem& item) {
-  std::vector<Item::Table> tables;
-  for (as::IDataItem* at = &item; at != nullptr; at = at->getParent()) {
+// All items of a table share what there is to know of it, and of those around it.
+std::shared_ptr<const Item::Table> ItemFacts::tableAround(as::IDataItem& item) {
+  std::vector<as::IDataItem*> unread;
+  std::shared_ptr<const Item::Table> table;
+  for (as::IDataItem* at = &item; at != nullptr && table == nullptr; at = at->getParent()) {
     if (at->getMaxOccurs() == 0) continue;
-    const auto [found, isNew] = tables_.try_emplace(at);
-    if (isNew) found->second = readTable(*at);
-    tables.push_back(found->second);
+    const auto found = tables_.find(at);
+    if (found == tables_.end()) {
+      unread.push_back(at);
+    } else {
+      table = found->second;
+    }
   }
-  std::reverse(tables.begin(), tables.end());
-  return tables;
+  for (; !unread.empty(); unread.pop_back()) {
+    Item::Table read = readTable(*unread.back());
+    if (table != nullptr) read.number = table->number + 1;
+    read.around = std::move(table);
+    table = std::make_shared<const Item::Table>(std::move(read));
+    tables_.emplace(unread.back(), table);
+  }
+  return table;
 }
 
 }  // namespace as::toolkit::gen

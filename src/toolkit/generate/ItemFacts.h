@@ -4,10 +4,10 @@
 
 #include <cstddef>
 #include <deque>
+#include <memory>
 #include <optional>
 #include <string>
 #include <unordered_map>
-#include <vector>
 
 #include "as/toolkit/Picture.h"
 #include "toolkit/generate/ServiceModel.h"
@@ -32,7 +32,7 @@ class ItemFacts {
 
  private:
   std::string pathOf(as::IDataItem& item, const std::string& name);
-  std::vector<Item::Table> tablesAround(as::IDataItem& item);
+  std::shared_ptr<const Item::Table> tableAround(as::IDataItem& item);
   const std::optional<Picture>& pictureOf(const std::string& text);
 
   std::deque<Item>& items_;
@@ -40,7 +40,7 @@ class ItemFacts {
   // The group that the last item stands in, with its path. Most items stand behind one of theirs.
   as::IDataItem* group_ = nullptr;
   std::string groupPath_;
-  std::unordered_map<as::IDataItem*, Item::Table> tables_;
+  std::unordered_map<as::IDataItem*, std::shared_ptr<const Item::Table>> tables_;
   std::unordered_map<std::string, std::optional<Picture>> pictures_;
 };
 

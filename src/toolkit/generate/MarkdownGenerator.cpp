@@ -4,7 +4,9 @@
 #include <string_view>
 #include <vector>
 
+#include "toolkit/generate/Facets.h"
 #include "toolkit/generate/Generator.h"
+#include "toolkit/generate/ShortPath.h"
 #include "toolkit/generate/TextWriter.h"
 #include "toolkit/text/Phrases.h"
 
@@ -195,7 +197,7 @@ class Page {
     for (const Mapping& mapping : field.mappings) {
       if (mapping.item == none) continue;
       const Item& item = model_.items[mapping.item];
-      std::string words = plain(item.picture);
+      std::string words = plain(shortName(item.picture));
       if (!item.usage.empty()) words += (words.empty() ? "" : " ") + plain(item.usage);
       join(cell, words);
     }
@@ -204,17 +206,8 @@ class Page {
 
   std::string conditionsOf(const Field& field) const {
     std::string cell;
-    const Item* const item = model_.itemOf(field);
-    if (item == nullptr || field.reference != none) return cell;
-    for (const Condition& condition : item->conditions) {
-      std::string words = plain(condition.name) + ":";
-      for (std::size_t i = 0; i < condition.values.size(); ++i) {
-        const ConditionValue& value = condition.values[i];
-        words += (i == 0 ? " " : ", ") + plain(quote(value.from));
-        if (value.isRange) words += " to " + plain(quote(value.to));
-      }
-      join(cell, words);
-    }
+    if (field.reference != none) return cell;
+    for (const std::string& line : linesAboutConditions(model_, field)) join(cell, plain(line));
     return cell;
   }
 

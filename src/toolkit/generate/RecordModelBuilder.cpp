@@ -108,7 +108,7 @@ class RecordBuilder {
     field.capacity = facts.capacity;
     field.mappings.push_back({Mapping::Source::item, facts.path, number});
     if (item.getMaxOccurs() > 0) {
-      const Item::Table& table = facts.tables.back();
+      const Item::Table& table = *facts.table;
       field.occurs = table.most;
       field.least = std::min(table.least, table.most);
       field.dependingOn = table.dependingOn;

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <deque>
 #include <limits>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -62,13 +63,15 @@ struct Item {
   // What holds all of its values. Its kind is open for what is no value (an object).
   Capacity capacity;
   std::vector<Condition> conditions;
-  // Of the tables that it stands in, itself included, outermost first.
+  // The innermost table that it stands in, itself included; null for none.
   struct Table {
     int least = 0;
     int most = 0;
     std::string dependingOn;  // The path of the item; empty for a fixed table.
+    std::shared_ptr<const Table> around;
+    std::size_t number = 1;  // How many tables that makes, itself included.
   };
-  std::vector<Table> tables;
+  std::shared_ptr<const Table> table;
 
   // Whether values of both are the same.
   bool isLike(const Item& other) const;

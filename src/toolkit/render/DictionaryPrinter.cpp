@@ -19,6 +19,7 @@
 #include "as/toolkit/Text.h"
 #include "toolkit/render/PrinterParts.h"
 #include "toolkit/text/Phrases.h"
+#include "toolkit/text/ShownPlace.h"
 #include "toolkit/text/TextTable.h"
 #include "toolkit/text/Words.h"
 #include "toolkit/walk/ItemWalk.h"
@@ -138,7 +139,7 @@ class ItemRows {
     }
     const bool renames = item.isRenamed();
     clauses.addIf(renames, "renames");
-    if (!redefines && !renames) redefinable_.back() = name;
+    if (!redefines && !renames) redefinable_.back() = shownPlace({name});
 
     const std::string occurs = occursClause(item);
     if (!occurs.empty()) clauses.add(occurs);
