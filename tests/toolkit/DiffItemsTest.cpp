@@ -12,6 +12,7 @@
 namespace {
 
 namespace toolkit = as::toolkit;
+using test::DiffTest;
 using test::summaryOf;
 
 struct Row {
@@ -156,6 +157,37 @@ const Row rows[] = {
      "01 R. 05 FILLER PIC X(4). 05 FILLER. 10 B PIC X(3). 05 A PIC X.",
      "item-removed R.FILLER -> : alphanumeric X(3) ->  +1\n"
      "item-added  -> R.FILLER:  -> group of 3 bytes\n"},
+    // Names in them are lost with them.
+    {"01 R. 05 FILLER. 10 B PIC X(3). 05 A PIC X.", "01 R. 05 FILLER PIC X(3). 05 A PIC X.",
+     "item-removed R.FILLER -> : group of 3 bytes ->  !\n"
+     "item-added  -> R.FILLER:  -> alphanumeric X(3)\n"},
+    {"01 R. 05 A PIC X(3). 05 FILLER REDEFINES A. 10 FILLER PIC X. 10 FILLER. 15 B PIC X(2).",
+     "01 R. 05 A PIC X(3).", "item-removed R.FILLER -> : group of 3 bytes ->  !\n"},
+    {"01 R. 05 A PIC X(3). 05 FILLER REDEFINES A. 10 FILLER PIC X. 10 FILLER PIC X(2).",
+     "01 R. 05 A PIC X(3).", "item-removed R.FILLER -> : group of 3 bytes -> \n"},
+    // What is told of them holds for what has a name in them.
+    {"01 R. 05 N PIC 9. 05 M PIC 9. 05 FILLER OCCURS 1 TO 3 DEPENDING ON N. 10 B PIC X.",
+     "01 R. 05 N PIC 9. 05 M PIC 9. 05 FILLER OCCURS 1 TO 3 DEPENDING ON M. 10 B PIC X.",
+     "table-depending-changed R.FILLER: R.N -> R.M !\n"},
+    {"01 R. 05 N PIC 9. 05 M PIC 9. 05 FILLER OCCURS 1 TO 3 DEPENDING ON N. 10 FILLER PIC X.",
+     "01 R. 05 N PIC 9. 05 M PIC 9. 05 FILLER OCCURS 1 TO 3 DEPENDING ON M. 10 FILLER PIC X.",
+     "table-depending-changed R.FILLER: R.N -> R.M\n"},
+    {"01 R. 05 FILLER. 10 B PIC X(3).", "01 R. 05 FILLER OCCURS 1. 10 B PIC X(3).",
+     "table-made R.FILLER: 0 -> 1 !\n"},
+    {"01 R. 05 A PIC X(3). 05 K PIC X(3). 05 FILLER REDEFINES K. 10 B PIC X(3).",
+     "01 R. 05 K PIC X(3). 05 A PIC X(3). 05 FILLER REDEFINES A. 10 B PIC X(3).",
+     "item-reordered R.A: 0 -> 3 +2 !\n"
+     "redefinition-changed R.FILLER: K -> A !\n"},
+    // Records are known without names.
+    {"01 R PIC X. 01 FILLER PIC X(80).", "01 R PIC X. 01 FILLER PIC X(100).",
+     "picture-widened FILLER: X(80) -> X(100) +1 !\n"},
+    {"01 R PIC X. 01 FILLER PIC X(80).", "01 R PIC X.",
+     "item-removed FILLER -> : alphanumeric X(80) ->  !\n"},
+    // What an entry point hands over from elsewhere callers see.
+    {"01 S PIC X. WORKING-STORAGE SECTION. 01 R. 05 A PIC X(5). 01 W PIC X(5).",
+     "01 S PIC X. WORKING-STORAGE SECTION. 01 R. 05 A PIC X(9). 01 W PIC X(9).",
+     "picture-widened R.A: X(5) -> X(9) +2 !\n"
+     "picture-widened W: X(5) -> X(9) +1\n"},
     // Records.
     {"01 R PIC X. WORKING-STORAGE SECTION. 01 A PIC X(4). 01 B PIC 9.",
      "01 R PIC X. 01 A PIC X(4).",
@@ -187,6 +219,50 @@ const Row rows[] = {
      "01 R. 05 A PIC X. 05 B PIC S9(9) COMP SYNC. 05 C PIC X.",
      "sync-changed R.B: no -> yes +3 !\n"},
 };
+
+// How many digits there are, a document may leave out.
+TEST_F(DiffTest, DigitsThatAreNotToldAreNoOthers) {
+  const auto documentOf = [](const std::string& digits) {
+    return test::dictionary("<dataItems><numeric name='N' length='4' picture='9(4)' " + digits +
+                            " linkage='true'/></dataItems>");
+  };
+  const auto summary = [&](const std::string& before, const std::string& after) {
+    write("old.xml", documentOf(before));
+    write("new.xml", documentOf(after));
+    return summaryOf(toolkit::diffFiles(reader(), "old.xml", "new.xml"));
+  };
+  EXPECT_EQ(summary("", "digits='4'"), "");
+  EXPECT_EQ(summary("digits='4'", ""), "");
+  EXPECT_EQ(summary("digits='4'", "digits='5'"), "picture-widened N: 9(4) -> 9(4) !\n");
+}
+
+TEST_F(DiffTest, AParameterWithoutItsRecordIsKnownByItsName) {
+  const auto documentOf = [](const std::string& items) {
+    return test::dictionary("<dataItems>" + items +
+                            "</dataItems><entryPoints><entryPoint name='E'><parameter "
+                            "dataItem='B'/><parameter dataItem='A'/></entryPoint></entryPoints>");
+  };
+  write("all.xml", documentOf("<index name='A'/><pointer name='B'/>"));
+  write("less.xml", documentOf("<pointer name='B'/>"));
+  EXPECT_EQ(summaryOf(toolkit::diffFiles(reader(), "all.xml", "less.xml")),
+            "item-removed A -> : index ->  !\n");
+  EXPECT_EQ(summaryOf(toolkit::diffFiles(reader(), "less.xml", "all.xml")),
+            "item-added  -> A:  -> index\n");
+}
+
+TEST_F(DiffTest, LongNamesOfEntryPointsAreShortened) {
+  const std::string name(3000, 'E');
+  const std::string item(3000, 'R');
+  const auto documentOf = [&](const std::string& parameters) {
+    return test::dictionary("<dataItems/><entryPoints><entryPoint name='" + name + "'>" +
+                            parameters + "</entryPoint></entryPoints>");
+  };
+  write("old.xml", documentOf(""));
+  write("new.xml", documentOf("<parameter dataItem='" + item + "'/>"));
+  const toolkit::Diff diff = toolkit::diffFiles(reader(), "old.xml", "new.xml");
+  ASSERT_EQ(diff.changes.size(), 1U);
+  EXPECT_EQ(diff.changes[0].newPlace.size(), 4003U);
+}
 
 INSTANTIATE_TEST_SUITE_P(Pairs, DiffItems, testing::ValuesIn(rows));
 
@@ -254,10 +330,23 @@ const Row others[] = {
      ENTRIES(ENTRY("E", TAKES("B") TAKES("A") TAKES("A"))),
      "entry-parameter-added  -> entry point E A:  -> reference !\n"
      "entry-parameters-reordered entry point E: A, B -> B, A, A !\n"},
+    // Each of many is looked for among those that are left.
+    {ENTRIES(ENTRY("E", TAKES("A") TAKES("LOST") TAKES("B") TAKES("A") TAKES("LOST"))),
+     ENTRIES(ENTRY("E", TAKES("LOST") TAKES("A") TAKES("GONE") TAKES("A") TAKES("B"))),
+     "entry-parameter-removed entry point E LOST -> : reference ->  !\n"
+     "entry-parameter-added  -> entry point E GONE:  -> reference !\n"
+     "entry-parameters-reordered entry point E: A, LOST, B, A, LOST -> LOST, A, GONE, A, B !\n"},
+    {ENTRIES(ENTRY("E", TAKES("A") GIVEN("A"))), ENTRIES(ENTRY("E", GIVEN("A") TAKES("A"))),
+     "entry-parameter-passing-changed entry point E A: reference -> value !\n"
+     "entry-parameter-passing-changed entry point E A: value -> reference !\n"},
+    // What COBOL takes the absence of the clauses for.
+    {"<fileSection><fd name='F'/></fileSection>",
+     "<fileSection><fd name='F' organization='sequential' accessMode='sequential'/></fileSection>",
+     ""},
     // Files that are called in another way, and hold nothing that tells them.
     {"<fileSection><fd name='F'/><fd name='G' organization='indexed'/></fileSection>",
      "<fileSection><fd name='G'/></fileSection>",
-     "file-organization-changed fd G: indexed -> none !\nfile-removed fd F ->  !\n"},
+     "file-organization-changed fd G: indexed -> sequential !\nfile-removed fd F ->  !\n"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Documents, DiffDictionaries, testing::ValuesIn(others));

@@ -262,7 +262,8 @@ const DiffRow rows[] = {
      "property-changed property owner: Motor insurance, product team -> Motors insurance, product "
      "team\n"},
     {"MOTPREM-java.xml", "<parameter name=\"Claim\" ", "<parameter name=\"Damage\" ",
-     "type-definition-renamed type Claim -> type Damage: Claim -> Damage\n"},
+     "type-definition-renamed type Claim -> type Damage: Claim -> Damage\n"
+     "reference-changed type Driver.claims: Claim -> Claim (not found) !\n"},
     {"PAYSLIP-java.xml", "exitProgramName=\"", "exitProgramName=\"X",
      "exit-program-changed service: PAYEXIT -> XPAYEXIT\n"},
     {"DEPINT01.cbl", "       FD  JOURNAL.",

@@ -13,6 +13,7 @@
 namespace {
 
 namespace toolkit = as::toolkit;
+using test::DiffTest;
 using test::summaryOf;
 
 struct Row {
@@ -74,6 +75,32 @@ const Row fields[] = {
 #undef A
 #undef B
 #undef MAPPED
+
+// What an absent direction reads as; attributes of XML have no order.
+const Row alike[] = {
+    {"<parameter name='a' dataType='int'/>", "<parameter name='a' byType='io' dataType='int'/>",
+     ""},
+    {"<parameter name='a' dataType='int'/>", "<parameter name='a' byType='in' dataType='int'/>",
+     "direction-changed op.a: io -> in !\n"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Alike, DiffFields, testing::ValuesIn(alike));
+
+TEST_F(DiffTest, FieldAttributesHaveNoOrder) {
+  const auto written = [this](const char* file, const std::string& attributes) {
+    write(file,
+          test::parameterDocument(as::namespaces::ws.uri, "<parameter name='p' dataType='string'>" +
+                                                              attributes + "</parameter>"));
+  };
+  const std::string x = "<fieldAttribute name='x' dataType='string'/>";
+  const std::string y = "<fieldAttribute name='y' dataType='string'/>";
+  written("old.xml", x + y);
+  written("new.xml", y + x);
+  EXPECT_EQ(summaryOf(toolkit::diffFiles(reader(), "old.xml", "new.xml")), "");
+  written("new.xml", y);
+  EXPECT_EQ(summaryOf(toolkit::diffFiles(reader(), "old.xml", "new.xml")),
+            "field-removed op.p.@x -> : string ->  !\n");
+}
 
 INSTANTIATE_TEST_SUITE_P(Rows, DiffFields, testing::ValuesIn(fields));
 

@@ -1,6 +1,8 @@
 #include "toolkit/diff/DictionaryDiff.h"
 
 #include <algorithm>
+#include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -8,12 +10,61 @@
 #include "toolkit/diff/NameMatch.h"
 #include "toolkit/diff/Sequence.h"
 #include "toolkit/diff/ServiceImpact.h"
+#include "toolkit/text/ShownPlace.h"
 
 namespace as::toolkit {
 
 namespace {
 
-std::string orNone(const std::string& text) { return text.empty() ? "none" : text; }
+// What COBOL takes the absence of such a clause for.
+std::string orSequential(const std::string& text) { return text.empty() ? "sequential" : text; }
+
+// The parameters of an entry point that no other has been found to be.
+class FreeParameters {
+ public:
+  explicit FreeParameters(const std::vector<EntryParameterFacts>& parameters)
+      : isTaken_(parameters.size(), false) {
+    for (std::size_t i = parameters.size(); i-- > 0;) {
+      const EntryParameterFacts& parameter = parameters[i];
+      byName_[parameter.item].push_back(i);
+      if (parameter.number == noItem) {
+        lost_[parameter.item].push_back(i);
+      } else {
+        byNumber_[parameter.number].push_back(i);
+      }
+    }
+  }
+
+  // Takes the first one that is `item`, called so; noItem for an item that is in the new dictionary
+  // no more. Of an item that no dictionary knew, only its name counts.
+  std::size_t take(const std::string& name, bool isKnown, ItemNumber item) {
+    std::size_t first = noPartner;
+    if (!isKnown) {
+      first = firstOf(byName_, name);
+    } else {
+      first = std::min(firstOf(lost_, name), firstOf(byNumber_, item));
+    }
+    if (first != noPartner) isTaken_[first] = true;
+    return first;
+  }
+
+ private:
+  // The last of a list is the first of the parameters.
+  template <class Key, class Value>
+  std::size_t firstOf(std::unordered_map<Key, std::vector<std::size_t>>& lists,
+                      const Value& key) const {
+    const auto found = lists.find(key);
+    if (found == lists.end()) return noPartner;
+    std::vector<std::size_t>& list = found->second;
+    while (!list.empty() && isTaken_[list.back()]) list.pop_back();
+    return list.empty() ? noPartner : list.back();
+  }
+
+  std::vector<bool> isTaken_;
+  std::unordered_map<std::string_view, std::vector<std::size_t>> byName_;
+  std::unordered_map<std::string_view, std::vector<std::size_t>> lost_;  // No items.
+  std::unordered_map<ItemNumber, std::vector<std::size_t>> byNumber_;
+};
 
 std::vector<const SectionFacts*> filesOf(const DictionaryFacts& facts) {
   std::vector<const SectionFacts*> files;
@@ -101,10 +152,10 @@ void DictionaryDiff::compareFiles() {
 
 void DictionaryDiff::compareFile(const SectionFacts& before, const SectionFacts& after) {
   const ChangeList::Place place = {before.title(), after.title()};
-  changes_.addIfDifferent("file-organization-changed", place, orNone(before.organization),
-                          orNone(after.organization));
-  changes_.addIfDifferent("file-access-changed", place, orNone(before.access),
-                          orNone(after.access));
+  changes_.addIfDifferent("file-organization-changed", place, orSequential(before.organization),
+                          orSequential(after.organization));
+  changes_.addIfDifferent("file-access-changed", place, orSequential(before.access),
+                          orSequential(after.access));
 }
 
 bool DictionaryDiff::isSameItem(const EntryParameterFacts& before,
@@ -169,6 +220,19 @@ void DictionaryDiff::compareEntryPoints() {
   }
 }
 
+std::vector<std::size_t> DictionaryDiff::parameterPartners(const EntryPointFacts& before,
+                                                           const EntryPointFacts& after) const {
+  FreeParameters left(after.parameters);
+  std::vector<std::size_t> partners;
+  partners.reserve(before.parameters.size());
+  for (const EntryParameterFacts& parameter : before.parameters) {
+    const bool isKnown = parameter.number != noItem;
+    partners.push_back(
+        left.take(parameter.item, isKnown, isKnown ? match_.newOf(parameter.number) : noItem));
+  }
+  return partners;
+}
+
 void DictionaryDiff::compareEntryPoint(const EntryPointFacts& before,
                                        const EntryPointFacts& after) {
   const ChangeList::Place place = {"entry point " + before.name, "entry point " + after.name};
@@ -178,23 +242,15 @@ void DictionaryDiff::compareEntryPoint(const EntryPointFacts& before,
   };
   note(changes_.addIfDifferent("call-convention-changed", place, std::to_string(before.convention),
                                std::to_string(after.convention)));
-  std::vector<std::size_t> partners(before.parameters.size(), noPartner);
-  std::vector<bool> taken(after.parameters.size(), false);
-  std::size_t next = 0;  // None in front of it is free.
-  for (std::size_t i = 0; i < before.parameters.size(); ++i) {
-    while (next < taken.size() && taken[next]) ++next;
-    for (std::size_t j = next; j < after.parameters.size(); ++j) {
-      if (taken[j] || !isSameItem(before.parameters[i], after.parameters[j])) continue;
-      partners[i] = j;
-      taken[j] = true;
-      break;
-    }
-  }
+  const std::vector<std::size_t> partners = parameterPartners(before, after);
+  const auto placeOf = [](const std::string& around, const EntryParameterFacts& parameter) {
+    return shownPlace({around, " ", parameter.item});
+  };
   for (std::size_t i = 0; i < before.parameters.size(); ++i) {
     const EntryParameterFacts& old = before.parameters[i];
     const ChangeList::Place at = {
-        place.before + " " + old.item,
-        partners[i] == noPartner ? "" : place.after + " " + after.parameters[partners[i]].item};
+        placeOf(place.before, old),
+        partners[i] == noPartner ? "" : placeOf(place.after, after.parameters[partners[i]])};
     if (partners[i] == noPartner) {
       note(changes_.add("entry-parameter-removed", at, old.passing, ""));
       continue;
@@ -202,10 +258,9 @@ void DictionaryDiff::compareEntryPoint(const EntryPointFacts& before,
     note(changes_.addIfDifferent("entry-parameter-passing-changed", at, old.passing,
                                  after.parameters[partners[i]].passing));
   }
-  for (std::size_t j = 0; j < after.parameters.size(); ++j) {
-    if (taken[j]) continue;
-    note(changes_.add("entry-parameter-added", {"", place.after + " " + after.parameters[j].item},
-                      "", after.parameters[j].passing));
+  for (const std::size_t j : withoutPartner(partners, after.parameters.size())) {
+    note(changes_.add("entry-parameter-added", {"", placeOf(place.after, after.parameters[j])}, "",
+                      after.parameters[j].passing));
   }
   const std::vector<bool> keeps = keepingOrder(partners);
   bool isReordered = false;

@@ -34,6 +34,8 @@ class DictionaryDiff {
   void compareFile(const SectionFacts& before, const SectionFacts& after);
   void compareEntryPoints();
   void compareEntryPoint(const EntryPointFacts& before, const EntryPointFacts& after);
+  std::vector<std::size_t> parameterPartners(const EntryPointFacts& before,
+                                             const EntryPointFacts& after) const;
   bool isSameItem(const EntryParameterFacts& before, const EntryParameterFacts& after) const;
   bool haveSameParameters(const EntryPointFacts& before, const EntryPointFacts& after) const;
 

@@ -16,7 +16,8 @@ class ItemChanges {
 
   ChangeNumber tell(const char* kind, ItemNumber old, ItemNumber added, std::string oldValue = "",
                     std::string newValue = "", ChangeNumber cause = noChange);
-  ChangeNumber tellRemoved(ItemNumber old);
+  // An unnamed group may lose names that stand in it.
+  ChangeNumber tellRemoved(ItemNumber old, bool losesNames);
   ChangeNumber tellAdded(ItemNumber added);
   // Of a condition of the two items; null for one that was not there or is no more.
   void tellCondition(const char* kind, ItemNumber old, const ConditionFacts* before,
@@ -27,6 +28,7 @@ class ItemChanges {
   const std::vector<ChangeNumber>& of(ItemNumber old) const { return changesOf_[old]; }
 
  private:
+  bool isKnown(ItemNumber old) const;
   bool isSeen(ItemNumber old, ItemNumber added) const;
 
   const DictionaryFacts& before_;
@@ -36,6 +38,8 @@ class ItemChanges {
   // Of each item, whether callers see it: by the record that it stands in.
   std::vector<bool> oldSeen_;
   std::vector<bool> newSeen_;
+  std::vector<bool> oldNamed_;
+  std::vector<bool> newNamed_;
 };
 
 }  // namespace as::toolkit

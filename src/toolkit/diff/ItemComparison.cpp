@@ -81,7 +81,7 @@ void ItemComparison::compareLists(const Items& old, const Items& added, Flow& fl
   for (std::size_t i = 0; i <= old.size(); ++i) {
     if (i < old.size() && !keeps[i]) {
       if (match_.newOf(old[i]) == noItem) {
-        passOld(old[i], flow, changes_.tellRemoved(old[i]));
+        passOld(old[i], flow, changes_.tellRemoved(old[i], losesNames(old[i])));
       } else if (partners[i] == noPartner) {
         if (!areRecords) passOld(old[i], flow, regroup(old[i]));
       } else {
@@ -122,6 +122,19 @@ void ItemComparison::compareLists(const Items& old, const Items& added, Flow& fl
     compareItem(old[i], added[next], flow, noChange, areRecords);
     ++next;
   }
+}
+
+// Whether anything with a name stands in it that is nowhere any more.
+bool ItemComparison::losesNames(ItemNumber group) const {
+  Items waiting = before_[group].children;
+  while (!waiting.empty()) {
+    const ItemNumber number = waiting.back();
+    waiting.pop_back();
+    if (!before_[number].isUnnamed() && match_.newOf(number) == noItem) return true;
+    const Items& children = before_[number].children;
+    waiting.insert(waiting.end(), children.begin(), children.end());
+  }
+  return false;
 }
 
 // That an item stands in another group: told once, when it is missed in the old one or found in the

@@ -38,6 +38,7 @@ class ItemComparison {
   void compareLists(const Items& old, const Items& added, Flow& flow, bool areRecords);
   void compareItem(ItemNumber old, ItemNumber added, Flow& flow, ChangeNumber reordered,
                    bool isRecord);
+  bool losesNames(ItemNumber group) const;
   ChangeNumber regroup(ItemNumber old);
   void compareWrapped(ItemNumber group, ChangeNumber change);
   void passOld(ItemNumber old, Flow& flow, ChangeNumber cause);

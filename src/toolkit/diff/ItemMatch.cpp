@@ -205,6 +205,8 @@ bool ItemMatch::isRenamed(const ItemFacts& old, const ItemFacts& added) const {
                        old.scale == added.scale && old.sign == added.sign &&
                        old.redefines == added.redefines && old.renames == added.renames;
   if (!isAlike || !old.isGroup()) return isAlike;
+  // Many old groups may be compared with a large new one, whose names are not worth reading then.
+  if (2 * old.children.size() < added.children.size()) return false;
   // A group is what it is made of: half of its members have their names or their places.
   std::unordered_set<std::string_view> names;
   for (const ItemNumber child : added.children) names.insert(after_[child].name);

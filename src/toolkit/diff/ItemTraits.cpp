@@ -27,7 +27,9 @@ const char* pictureKind(const ItemFacts& before, const ItemFacts& after) {
   const bool isNumber = before.category == as::IDataItem::TYPE_NUMERIC;
   if (isNumber && before.scale != after.scale) return "scale-changed";
   if (before.picture == after.picture) {
-    return isNumber && before.digits != after.digits
+    // Documents may leave the number of digits out.
+    const bool areTold = before.digits > 0 && after.digits > 0;
+    return isNumber && areTold && before.digits != after.digits
                ? (before.digits < after.digits ? "picture-widened" : "picture-narrowed")
                : nullptr;
   }

@@ -5,9 +5,11 @@
 #include <map>
 #include <string_view>
 
+#include "as/IParameter.h"
 #include "toolkit/diff/DictionaryDiff.h"
 #include "toolkit/diff/NameMatch.h"
 #include "toolkit/text/ShownPlace.h"
+#include "toolkit/text/Words.h"
 
 namespace as::toolkit {
 
@@ -71,6 +73,16 @@ std::string describe(const FieldFacts& field) {
   std::string text;
   for (const std::string& word : words) text += (text.empty() ? "" : " ") + word;
   return text;
+}
+
+// What an absent one reads as.
+std::string directionOf(const FieldFacts& field) {
+  return field.direction.empty() ? directionWord(as::IParameter::BY_IO) : field.direction;
+}
+
+std::string referenceOf(const FieldFacts& field) {
+  if (field.reference.empty()) return "none";
+  return field.reference + (field.isReferenceFound ? "" : " (not found)");
 }
 
 std::string joined(const std::vector<std::string>& texts) {
@@ -226,6 +238,7 @@ void ServiceDiff::compareFields(const Place& place, const char* separator, Level
       {"type-definition-added", "type-definition-removed", "type-definition-renamed", nullptr},
       {"parameter-added", "parameter-removed", "parameter-renamed", "parameter-reordered"},
       {"field-added", "field-removed", "field-renamed", "field-reordered"},
+      {"field-added", "field-removed", "field-renamed", nullptr},
   };
   const Kinds& kind = kinds[static_cast<std::size_t>(level)];
   const std::vector<std::size_t> partners = matchByName(before, after, isRenamedField);
@@ -252,11 +265,10 @@ void ServiceDiff::compareFields(const Place& place, const char* separator, Level
 
 void ServiceDiff::compareField(const Place& place, const FieldFacts& before,
                                const FieldFacts& after) {
-  changes_.addIfDifferent("direction-changed", place, orNone(before.direction),
-                          orNone(after.direction));
-  if (before.reference != after.reference) {
+  changes_.addIfDifferent("direction-changed", place, directionOf(before), directionOf(after));
+  if (before.reference != after.reference || before.isReferenceFound != after.isReferenceFound) {
     // What comes from the definition is compared where it stands.
-    changes_.add("reference-changed", place, orNone(before.reference), orNone(after.reference));
+    changes_.add("reference-changed", place, referenceOf(before), referenceOf(after));
     return;
   }
   changes_.addIfDifferent("type-changed", place, orNone(before.type), orNone(after.type));
@@ -264,7 +276,7 @@ void ServiceDiff::compareField(const Place& place, const FieldFacts& before,
                           std::to_string(after.occurs));
   compareAttributes(place, before.attributes, after.attributes);
   compareMappings(place, before.mappings, after.mappings);
-  compareFields(place, ".@", Level::field, before.fieldAttributes, after.fieldAttributes);
+  compareFields(place, ".@", Level::attribute, before.fieldAttributes, after.fieldAttributes);
   compareFields(place, ".", Level::field, before.members, after.members);
 }
 

@@ -20,7 +20,7 @@ class ServiceDiff {
  private:
   using Place = ChangeList::Place;
   using Hidden = std::vector<std::pair<std::string, std::string>>;
-  enum class Level { definition, parameter, field };
+  enum class Level { definition, parameter, field, attribute };
 
   void compareService(const ServiceFacts& before, const ServiceFacts& after);
   void compareOperations(const std::vector<OperationFacts>& before,

@@ -56,13 +56,15 @@ class Reader {
   FieldFacts factsOf(as::IField& field) const {
     FieldFacts facts;
     facts.name = field.getName();
-    if (!field.getAttributeValue("byType").empty()) {
-      if (auto* const parameter = as::interface_cast<as::IParameter>(&field)) {
-        facts.direction = directionWord(parameter->getByType());
-      }
+    auto* const parameter = as::interface_cast<as::IParameter>(&field);
+    if (parameter != nullptr && !field.getAttributeValue("byType").empty()) {
+      facts.direction = directionWord(parameter->getByType());
     }
     facts.reference = referenceOf(field);
-    if (!facts.reference.empty()) return facts;
+    if (!facts.reference.empty()) {
+      facts.isReferenceFound = parameter != nullptr && parameter->getReferenceType() != nullptr;
+      return facts;
+    }
     facts.occurs = field.getOccurs();
     facts.attributes = attributesOf(flavour_.traitsOf(field));
     facts.hasDataType = !field.getAttributeValue("dataType").empty();

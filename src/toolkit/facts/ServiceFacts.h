@@ -24,6 +24,7 @@ struct FieldFacts {
   std::string type;          // What the model answers,
   bool hasDataType = false;  // and whether the document says so.
   std::string reference;
+  bool isReferenceFound = false;  // Whether it leads to a definition.
   std::vector<AttributeFacts> attributes;
   std::vector<std::string> mappings;  // "RECORD.ITEM(*)", with " as *" for subscripts of its own.
   std::vector<FieldFacts> members;
