@@ -65,6 +65,8 @@ void Parcel::put(const as::toolkit::Diff& diff) {
     put(change.cause ? *change.cause + 1 : 0);
     put(change.service);
   }
+  put(diff.services.size());
+  for (const std::string& service : diff.services) put(service);
 }
 
 std::size_t OpenedParcel::number() {
@@ -134,6 +136,7 @@ as::toolkit::Diff OpenedParcel::diff() {
     change.service = text();
     diff.changes.push_back(std::move(change));
   }
+  for (std::size_t left = number(); left > 0; --left) diff.services.push_back(text());
   return diff;
 }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <set>
 
 #include "as/CASException.h"
 #include "as/toolkit/Text.h"
@@ -138,11 +139,13 @@ class DiffCommand : public Command {
       printError("there are no documents *.xml in " + old_ + " and " + new_);
       return failureCode();
     }
+    const std::vector<toolkit::ServiceOfProgram> services =
+        toolkit::servicesWithPrograms(reader, services_);
     std::vector<toolkit::DocumentDiff> diffs;
     bool isComplete = true;
     const Progress progress(pairs.size(), isQuiet_);
     workThrough(
-        pairs.size(), jobs_, [&](std::size_t i) { return comparePair(reader, pairs[i]); },
+        pairs.size(), jobs_, [&](std::size_t i) { return comparePair(reader, pairs[i], services); },
         [&](std::size_t i, const WorkOutcome& outcome) {
           progress.clear();
           OpenedParcel parcel(outcome.results);
@@ -158,7 +161,7 @@ class DiffCommand : public Command {
           progress.show(i + 1);
         });
     print(diffs);
-    if (!isComplete) return exitUsage;
+    if (!isComplete || !haveCounted(diffs)) return exitUsage;
     const bool breaks =
         std::any_of(diffs.begin(), diffs.end(), [](const toolkit::DocumentDiff& document) {
           return toolkit::breaksCallers(document.diff);
@@ -166,11 +169,26 @@ class DiffCommand : public Command {
     return breaks ? exitRefused : exitFine;
   }
 
-  WorkOutcome comparePair(const toolkit::DocumentReader& reader,
-                          const toolkit::DocumentPair& pair) const {
+  // False, with messages, when nothing was compared for one of the services.
+  bool haveCounted(const std::vector<toolkit::DocumentDiff>& diffs) const {
+    std::set<std::string> counted;
+    for (const toolkit::DocumentDiff& document : diffs) {
+      counted.insert(document.diff.services.begin(), document.diff.services.end());
+    }
+    bool haveAll = true;
+    for (const std::string& service : services_) {
+      if (counted.contains(service)) continue;
+      printError("the program of " + service + " has no dictionary in " + old_);
+      haveAll = false;
+    }
+    return haveAll;
+  }
+
+  WorkOutcome comparePair(const toolkit::DocumentReader& reader, const toolkit::DocumentPair& pair,
+                          const std::vector<toolkit::ServiceOfProgram>& services) const {
     Parcel parcel;
     try {
-      toolkit::Diff diff = toolkit::diffPair(reader, pair, services_);
+      toolkit::Diff diff = toolkit::diffPair(reader, pair, services);
       accept(diff);
       parcel.put(diff);
       return {true, "", parcel.take()};

@@ -143,6 +143,24 @@ TEST_F(ToolDiffTest, ARefusedDocumentOfAFolderLeavesTheOthers) {
   EXPECT_THAT(outcome.out, HasSubstr("1 document, 1 of them changed"));
 }
 
+// Nothing is said of it, and that is not to look as if nothing happened to it.
+TEST_F(ToolDiffTest, AServiceOfNoDictionaryInTheFoldersIsTold) {
+  for (const char* const folder : {"old", "new"}) {
+    write(std::string(folder) + "/a.xml", test::payProgram());
+  }
+  write("own.xml", test::payService(""));
+  write("other.xml", test::javaService("programName='OTHER'", ""));
+  write("none.xml", test::javaService("", ""));
+  EXPECT_EQ(run({"diff", "-q", "old", "new", "--service", "own.xml"}).exitCode, 0);
+  const test::ToolOutcome outcome =
+      run({"diff", "old", "new", "--service", "own.xml,other.xml,none.xml"});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_EQ(outcome.err,
+            "agentservices: error: the program of other.xml has no dictionary in old\n"
+            "agentservices: error: the program of none.xml has no dictionary in old\n");
+  EXPECT_THAT(outcome.out, HasSubstr("1 document, 0 of them changed"));
+}
+
 TEST_F(ToolDiffTest, AFolderIsNotComparedWithAFile) {
   std::filesystem::create_directory(pathOf("old"));
   const test::ToolOutcome outcome = run({"diff", "old", "new.xml"});

@@ -202,8 +202,8 @@ TEST_F(DiffTest, APlaceIsNoPartOfALongerName) {
 }
 
 TEST(DiffAllowTest, RulesOfATextAreItsLines) {
-  EXPECT_THAT(toolkit::allowRulesIn("# why\n\n  item-moved:R \r\n*:Q\n"),
-              ElementsAre("item-moved:R", "*:Q"));
+  EXPECT_THAT(toolkit::allowRulesIn("# why\n\n  item-moved:R \r\n*:Q\n*:A # why\n*:B\t#\n*:C#1\n"),
+              ElementsAre("item-moved:R", "*:Q", "*:A", "*:B", "*:C#1"));
 }
 
 TEST_F(DiffTest, JsonHoldsAllChanges) {
@@ -298,8 +298,18 @@ TEST_F(DiffTest, ServicesOfFoldersCountForTheirPrograms) {
                                       example("MOTPREM.xml")};
   const toolkit::DocumentPair other = {"PAYSLIP.xml", example("PAYSLIP.xml"),
                                        example("WHSLOTS.xml")};
-  const std::vector<std::string> services = {example("MOTPREM-java.xml")};
-  EXPECT_THAT(toolkit::diffPair(reader(), pair, services).changes, IsEmpty());
+  const std::string file = example("MOTPREM-java.xml");
+  const auto services = toolkit::servicesWithPrograms(reader(), {file});
+  ASSERT_EQ(services.size(), 1U);
+  EXPECT_EQ(services[0].program, "MOTPREM");
+  const toolkit::Diff own = toolkit::diffPair(reader(), pair, services);
+  EXPECT_THAT(own.changes, IsEmpty());
+  EXPECT_THAT(own.services, ElementsAre(file));
+  EXPECT_THAT(toolkit::diffPair(reader(), other, services).services, IsEmpty());
+  // One that is gone had it, one that is new has not.
+  EXPECT_THAT(toolkit::diffPair(reader(), {"a", pair.before, ""}, services).services,
+              ElementsAre(file));
+  EXPECT_THAT(toolkit::diffPair(reader(), {"a", "", pair.before}, services).services, IsEmpty());
   for (const toolkit::Change& change : toolkit::diffPair(reader(), other, services).changes) {
     EXPECT_EQ(change.service, "") << change.kind;
   }

@@ -183,7 +183,7 @@ TEST_F(DiffText, ServicesOfFoldersAreComparedToo) {
   }
   const std::vector<toolkit::DocumentPair> pairs = toolkit::pairsIn("old", "new");
   ASSERT_EQ(pairs.size(), 1U);
-  const toolkit::Diff diff = toolkit::diffPair(reader(), pairs[0], {"old/s.xml"});
+  const toolkit::Diff diff = toolkit::diffPair(reader(), pairs[0], {{"old/s.xml", ""}});
   EXPECT_TRUE(diff.isOfServices);
   EXPECT_THAT(test::summaryOf(diff), HasSubstr("service-renamed service: old -> new !\n"));
 }

@@ -136,7 +136,7 @@ TEST_F(TextsGolden, DifferencesAndWhatFollowsAreAsTheyWere) {
   write("new/MOTPREM-ws.xml", test::contentOf(examples + "MOTPREM-ws.xml"));
   std::vector<toolkit::DocumentDiff> diffs;
   for (const toolkit::DocumentPair& pair : toolkit::pairsIn("old", "new")) {
-    const std::vector<std::string> services = {examples + "MOTPREM-ws.xml"};
+    const auto services = toolkit::servicesWithPrograms(reader(), {examples + "MOTPREM-ws.xml"});
     diffs.push_back({pair.name, toolkit::diffPair(reader(), pair, services)});
     // The name of the folder is no part of what is told.
     for (toolkit::Change& change : diffs.back().diff.changes) {

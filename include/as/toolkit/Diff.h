@@ -55,6 +55,8 @@ struct Diff {
   bool isOfServices = false;  // Or of dictionaries.
   // In the order in which they were found, which is nearly that of the documents.
   std::vector<Change> changes;
+  // The services of diffPair() that counted.
+  std::vector<std::string> services{};
 };
 
 // From `before` to `after`. Lines of the source do not count. Dictionaries tell conditions as far
@@ -84,10 +86,20 @@ struct DocumentPair {
 // RefusedDocument for a folder that cannot be read.
 AS_EXPORT std::vector<DocumentPair> pairsIn(const std::string& before, const std::string& after);
 
+// A service, and the program that it names; empty for none.
+struct ServiceOfProgram {
+  std::string file;
+  std::string program;
+};
+
+// Those of the files. Throws RefusedDocument.
+AS_EXPORT std::vector<ServiceOfProgram> servicesWithPrograms(const DocumentReader& reader,
+                                                             const std::vector<std::string>& files);
+
 // What became of one of them; of `services`, those count whose program it is the dictionary of.
 // Throws RefusedDocument.
 AS_EXPORT Diff diffPair(const DocumentReader& reader, const DocumentPair& pair,
-                        const std::vector<std::string>& services = {});
+                        const std::vector<ServiceOfProgram>& services = {});
 
 // What became of one document of many.
 struct DocumentDiff {

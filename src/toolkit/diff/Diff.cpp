@@ -89,6 +89,9 @@ std::vector<std::string> allowRulesIn(const std::string& text) {
     const std::size_t end = std::min(text.find('\n', from), text.size());
     std::string line = text.substr(from, end - from);
     from = end + 1;
+    // No name has a blank in front of such a character.
+    for (const char* const remark : {" #", "\t#"})
+      line.resize(std::min(line.find(remark), line.size()));
     const std::size_t start = line.find_first_not_of(" \t\r");
     if (start == std::string::npos || line[start] == '#') continue;
     rules.push_back(line.substr(start, line.find_last_not_of(" \t\r") - start + 1));

@@ -1,7 +1,7 @@
 // Compares the documents of two folders.
-#include <algorithm>
 #include <filesystem>
 #include <map>
+#include <utility>
 
 #include "as/toolkit/Diff.h"
 #include "as/toolkit/Files.h"
@@ -17,17 +17,14 @@ std::vector<std::string> documentsIn(const std::string& folder) {
   return std::move(found.files);
 }
 
-std::vector<std::string> servicesFor(const DocumentReader& reader, const std::string& dictionary,
-                                     const std::vector<std::string>& services) {
-  if (services.empty()) return {};
-  const Document document = reader.read(dictionary);
+std::vector<std::string> servicesFor(const Document& document,
+                                     const std::vector<ServiceOfProgram>& services) {
   std::vector<std::string> own;
   if (!document.dictionary) return own;
   const std::string program = document.dictionary->getName();
-  std::copy_if(services.begin(), services.end(), std::back_inserter(own),
-               [&](const std::string& file) {
-                 return reader.readService(file)->getAttributeValue("programName") == program;
-               });
+  for (const ServiceOfProgram& service : services) {
+    if (service.program == program) own.push_back(service.file);
+  }
   return own;
 }
 
@@ -52,10 +49,24 @@ std::vector<DocumentPair> pairsIn(const std::string& before, const std::string& 
   return all;
 }
 
+std::vector<ServiceOfProgram> servicesWithPrograms(const DocumentReader& reader,
+                                                   const std::vector<std::string>& files) {
+  std::vector<ServiceOfProgram> services;
+  services.reserve(files.size());
+  for (const std::string& file : files) {
+    services.push_back({file, reader.readService(file)->getAttributeValue("programName")});
+  }
+  return services;
+}
+
 Diff diffPair(const DocumentReader& reader, const DocumentPair& pair,
-              const std::vector<std::string>& services) {
+              const std::vector<ServiceOfProgram>& services) {
   if (!pair.before.empty() && !pair.after.empty()) {
-    return diffFiles(reader, pair.before, pair.after, servicesFor(reader, pair.before, services));
+    std::vector<std::string> own;
+    if (!services.empty()) own = servicesFor(reader.read(pair.before), services);
+    Diff diff = diffFiles(reader, pair.before, pair.after, own);
+    diff.services = std::move(own);
+    return diff;
   }
   const bool isRemoved = pair.after.empty();
   const Document document = reader.read(isRemoved ? pair.before : pair.after);
@@ -65,7 +76,11 @@ Diff diffPair(const DocumentReader& reader, const DocumentPair& pair,
   } else {
     changes.add("document-added", {"", pair.name});
   }
-  return {document.service != nullptr, changes.take()};
+  Diff diff;
+  diff.isOfServices = document.service != nullptr;
+  diff.changes = changes.take();
+  if (isRemoved) diff.services = servicesFor(document, services);
+  return diff;
 }
 
 }  // namespace as::toolkit
