@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -238,6 +239,35 @@ const ImpactRow impacts[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Rows, DiffImpact, testing::ValuesIn(impacts));
+
+// As many as a mapping has subscripts.
+TEST_F(DiffImpact, OfTablesAroundAnItemIsThatOfSixteen) {
+  const auto recordOf = [](int tables, const std::string& times) {
+    std::string record = "01 R.";
+    for (int i = 0; i < tables; ++i) {
+      const std::string number = std::to_string(i + 10);
+      record += " " + number + " G" + number + " OCCURS " + times + ".";
+    }
+    return record + " 49 A PIC X.";
+  };
+  const auto toldWith = [&](int tables) {
+    dictionary("old.xml", recordOf(tables, "2"));
+    dictionary("new.xml", recordOf(tables, "3"));
+    std::string path = "R";
+    for (int i = 0; i < tables; ++i) path += ".G" + std::to_string(i + 10);
+    write("s.xml", test::javaService("",
+                                     "<operations><operation name='o' entryPoint='T'><parameters>"
+                                     "<parameter name='p'><mappings><mapping item='" +
+                                         path +
+                                         ".A'/></mappings></parameter></parameters></operation>"
+                                         "</operations>"));
+    const toolkit::Diff diff = toolkit::diffFiles(reader(), "old.xml", "new.xml", {"s.xml"});
+    return std::count_if(diff.changes.begin(), diff.changes.end(),
+                         [](const auto& change) { return change.kind == "mapping-changed"; });
+  };
+  EXPECT_EQ(toldWith(16), 16);
+  EXPECT_EQ(toldWith(17), 16);
+}
 
 TEST_F(DiffImpact, EntryPointsMayBeGoneOrCalledInAnotherWay) {
   const auto dictionaryOf = [](const std::string& entryPoints) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "as/IHiddenParameter.h"
+#include "as/IMapping.h"
 #include "as/IOperation.h"
 #include "toolkit/text/ShownPlace.h"
 #include "toolkit/walk/FieldWalk.h"
@@ -107,6 +108,7 @@ void ServiceImpact::compareMapping(as::IMapping& mapping, const std::string& pla
   }
   bool isTold = false;
   const auto tellChangesOf = [&](ItemNumber at, bool isAround) {
+    bool isOneTold = false;
     for (const ChangeNumber number : items_.changesOf(at)) {
       const Change change = changes_.all()[number];
       if (isAround && !isOfTables(change.kind)) continue;
@@ -116,12 +118,16 @@ void ServiceImpact::compareMapping(as::IMapping& mapping, const std::string& pla
       tell("mapping-changed", place,
            change.oldPlace + ": " + kind.text + " from " + change.oldValue, change.newValue, true,
            number);
-      isTold = true;
+      isTold = isOneTold = true;
     }
+    return isOneTold;
   };
   tellChangesOf(old, false);
-  for (ItemNumber at = before_[old].parent; at != noItem; at = before_[at].parent) {
-    tellChangesOf(at, true);
+  // No mapping reaches into more tables; groups around it may be as many as there are mappings.
+  int tables = 0;
+  for (ItemNumber at = before_[old].parent; at != noItem && tables < as::IMapping::MAX_SUBSCRIPTS;
+       at = before_[at].parent) {
+    if (tellChangesOf(at, true)) ++tables;
   }
   // What a group has become is told by what is in it.
   const bool isResized = before_[old].length != after_[added].length;
