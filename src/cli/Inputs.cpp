@@ -1,5 +1,6 @@
 #include "cli/Inputs.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -135,6 +136,21 @@ bool Inputs::add(const std::string& name) {
   }
   for (const Refusal& refusal : found.refusals) printRefusal(refusal);
   return found.refusals.empty();
+}
+
+void Inputs::holdPipes() {
+  for (Input& input : inputs_) {
+    std::error_code ignored;
+    if (input.source.text || !std::filesystem::is_fifo(input.source.name, ignored)) continue;
+    const int pipe = ::open(input.source.name.c_str(), O_RDONLY | O_CLOEXEC);
+    if (pipe < 0) continue;
+    try {
+      input.source = as::toolkit::documentFrom(pipe, input.source.name);
+    } catch (const as::toolkit::RefusedDocument&) {  // NOLINT(bugprone-empty-catch)
+      // It is told when its turn comes.
+    }
+    ::close(pipe);
+  }
 }
 
 void Inputs::workThrough(const Output& output, const Work& work, const Tellers& tellers) const {

@@ -33,6 +33,10 @@ class Inputs {
   // others are there all the same.
   bool find();
 
+  // Reads those that are pipes to their ends: they give their documents only once, and are to be
+  // read more than once. What cannot be read stays as it is.
+  void holdPipes();
+
   const std::vector<Input>& all() const { return inputs_; }
   bool areSeveral() const { return inputs_.size() > 1; }
 

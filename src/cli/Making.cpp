@@ -53,12 +53,15 @@ int Making::makeAll(const toolkit::DocumentReader& reader, const Make& make, con
 }
 
 bool Making::sparesWhatIsNeeded(const toolkit::DocumentReader& reader,
-                                const std::vector<std::string>& targets, const Need& need) const {
+                                const std::vector<std::string>& targets, const Need& need) {
+  // What one document needs itself is told with it.
+  if (!inputs_.areSeveral()) return true;
   std::map<FileNumber, std::size_t> replaced;  // With the number of the input that is made of.
   for (std::size_t i = 0; i < targets.size(); i++) {
     if (const auto number = fileNumberOf(targets[i])) replaced.emplace(*number, i);
   }
   if (replaced.empty()) return true;
+  inputs_.holdPipes();
   for (const Input& input : inputs_.all()) {
     std::string needed;
     try {
@@ -70,7 +73,6 @@ bool Making::sparesWhatIsNeeded(const toolkit::DocumentReader& reader,
     const auto found = number ? replaced.find(*number) : replaced.end();
     if (found == replaced.end()) continue;
     const Input& other = inputs_.all()[found->second];
-    // What one document needs itself is told with it.
     if (&other == &input) continue;
     printError("what is made of " + other.source.name + " would take the place of " + needed +
                ", which " + input.source.name + " names");

@@ -44,7 +44,7 @@ class Making {
  private:
   int makeAll(const as::toolkit::DocumentReader& reader, const Make& make, const Need& need);
   bool sparesWhatIsNeeded(const as::toolkit::DocumentReader& reader,
-                          const std::vector<std::string>& targets, const Need& need) const;
+                          const std::vector<std::string>& targets, const Need& need);
   void tell(const std::string& target, OpenedParcel& parcel) const;
 
   Inputs inputs_;

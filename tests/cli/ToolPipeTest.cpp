@@ -25,6 +25,7 @@ class ToolPipe : public test::ToolTest, public testing::WithParamInterface<PipeR
   void SetUp() override {
     write("PAY.xml", test::payProgram());
     write("other.xml", test::dictionaryOf("<numeric name='N' digits='4' length='4'/>"));
+    write("beside.xml", test::payService(""));
     write("file.xml", GetParam().document);
   }
 
@@ -73,6 +74,8 @@ INSTANTIATE_TEST_SUITE_P(
                             "generate markdown DOCUMENT -o made"},
                     PipeRow{"ConvertService", test::payService(""),
                             "convert DOCUMENT --flavour com -o c.xml"},
+                    PipeRow{"ConvertSeveral", test::payService(""),
+                            "convert DOCUMENT beside.xml --flavour com -o made"},
                     PipeRow{"DiffOfDictionaries", test::payProgram(), "diff other.xml DOCUMENT"},
                     PipeRow{"DiffOfServices", test::payService(""), "diff DOCUMENT file.xml"},
                     PipeRow{"DiffWithService", test::payService(""),
