@@ -76,6 +76,37 @@ TEST_F(GenerateSchemas, AnAttributeThatRepeatsIsToldAndOneOfAnythingIsText) {
                "make it a field"));
 }
 
+// An attribute has a simple type: what a reference leads to may have none.
+TEST_F(GenerateSchemas, AttributesThatReferToWhatIsNoValueAreText) {
+  const char* const types[][2] = {
+      {"<mappings/>", "<field name='x' dataType='int'><mappings/></field>"},
+      {"<mappings/>", "<fieldAttribute name='x' dataType='int'><mappings/></fieldAttribute>"}};
+  for (const auto& [mappings, parts] : types) {
+    const Service service = {
+        operation("op", parameter("name='p'" + in,
+                                  mapped("NAME") + attribute("name='a' ref='T'", "<mappings/>"))),
+        parameter("name='T' dataType='string'", std::string(mappings) + parts),
+        "name='Tests'",
+        "",
+        {"structured-attribute"}};
+    const toolkit::Generated made = this->made("xsd", service);
+    EXPECT_THAT(allOf(made),
+                HasSubstr("<xs:attribute name=\"a\" use=\"required\" type=\"xs:string\"/>"));
+    EXPECT_THAT(textsOf(made.findings),
+                Contains("op.p.a: an attribute has one value: the parts of 'T' are not said; make "
+                         "it a field"));
+  }
+  const Service anything = {
+      operation("op", parameter("name='p'" + in,
+                                mapped("NAME") + attribute("name='a' ref='Other'", "<mappings/>"))),
+      parameter("name='T' dataType='XML'", "<mappings/>") + parameter("name='Other' ref='T'", "")};
+  const std::string xsd = text("xsd", anything);
+  EXPECT_THAT(xsd, HasSubstr("<xs:attribute name=\"a\" use=\"required\" type=\"xs:string\"/>"));
+  // Another name of what may be anything may be anything.
+  EXPECT_THAT(xsd, HasSubstr("<xs:complexType name=\"Other\" mixed=\"true\">"));
+  EXPECT_THAT(xsd, Not(HasSubstr("<xs:restriction base=\"tns:T\"/>")));
+}
+
 TEST_F(GenerateSchemas, ADeclaredTypeThatIsAnotherExtendsIt) {
   const Service service = {operation("op", parameter("name='p' byType='in' ref='Other'", "") +
                                                parameter("name='q' byType='in' ref='Word'", "")),

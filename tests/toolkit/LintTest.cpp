@@ -534,6 +534,32 @@ std::vector<Family> families() {
                          "<field/><fieldAttribute/></fieldAttribute></parameter></parameters>"),
             "error: pay.p.a: it is a field attribute and has fields or field attributes inside it; "
             "make it a field, or move what is inside it"),
+        web("FieldAttributesReferToNoParts", "structured-attribute",
+            "<parameterTypeDefs><parameter name='T'><field name='f' dataType='int'><mappings>"
+            "<mapping item='REQ.ID'/></mappings></field></parameter><parameter name='U' "
+            "ref='T'/></parameterTypeDefs>" +
+                webOperation(goodDocument,
+                             "<parameters><parameter name='p' dataType='int'><mappings/>"
+                             "<fieldAttribute name='a' ref='U'/></parameter></parameters>"),
+            "error: pay.p.a: it is a field attribute and refers to 'U', which has fields or field "
+            "attributes; make it a field, or refer to the definition of a value"),
+        web("FieldAttributesReferToAttributes", "structured-attribute",
+            "<parameterTypeDefs><parameter name='T' dataType='int'><mappings><mapping "
+            "item='REQ.ID'/></mappings><fieldAttribute name='f' dataType='int'><mappings><mapping "
+            "item='REQ.ID'/></mappings></fieldAttribute></parameter></parameterTypeDefs>" +
+                webOperation(goodDocument,
+                             "<parameters><parameter name='p' dataType='int'><mappings/>"
+                             "<fieldAttribute name='a' ref='T'/></parameter></parameters>"),
+            "error: pay.p.a: it is a field attribute and refers to 'T', which has fields or field "
+            "attributes; make it a field, or refer to the definition of a value"),
+        web("FieldAttributesReferToValues", "",
+            "<parameterTypeDefs><parameter name='T' dataType='int'><mappings><mapping "
+            "item='REQ.ID'/></mappings></parameter></parameterTypeDefs>" +
+                webOperation(goodDocument,
+                             "<parameters><parameter name='p' dataType='int'><mappings><mapping "
+                             "item='REQ.ID'/></mappings><fieldAttribute name='a' ref='T'/>"
+                             "</parameter></parameters>"),
+            ""),
         web("FieldAttributesAreMappings", "",
             webOperation(
                 goodDocument,

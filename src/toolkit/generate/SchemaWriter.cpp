@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "toolkit/generate/NameCharacters.h"
+#include "toolkit/generate/ShortPath.h"
 #include "toolkit/generate/XsdTypes.h"
+#include "toolkit/text/Phrases.h"
 
 namespace as::toolkit::gen {
 
@@ -164,6 +166,12 @@ void SchemaWriter::writeAttributes(Part& part, const Type& type, const Around& a
                     " times is not said",
                 "make it a field");
     }
+    if (field.structure != none) {
+      job_.warn("structured-attribute", place.of(field.name).text(),
+                "an attribute has one value: the parts of " +
+                    quote(shortName(job_.model.types[field.structure].name)) + " are not said",
+                "make it a field");
+    }
     const bool isQualified = around.attributeForm == Form::qualified;
     writeTyped(part, "attribute",
                xmlAttribute("name", names[i]) + (isQualified ? R"( form="qualified")" : "") +
@@ -179,11 +187,13 @@ void SchemaWriter::writeTyped(Part& part, std::string_view tag, const std::strin
   Facets facets;
   bool isAny = false;
   const std::size_t own = field.reference != none ? field.reference : field.structure;
-  if (own != none) {
+  if (isAttribute && (field.structure != none || set_.builtIn(field) == anyType)) {
+    // Attributes have simple types alone, whatever a reference leads to.
+    type = "xs:string";
+  } else if (own != none) {
     type = texts_.qualified(part, set_.types()[own].uri, set_.types()[own].name);
   } else if (set_.builtIn(field) == anyType) {
-    isAny = !isAttribute;
-    if (isAttribute) type = "xs:string";
+    isAny = true;
   } else {
     facets = set_.facetsIn(field);
     if (!SchemaSet::saysAnything(facets)) type = set_.builtIn(field);
@@ -217,6 +227,11 @@ void SchemaWriter::writeAny(Part& part, const std::string& attributes) {
 // A restriction of a built-in type or, for what has no restriction, of one that is declared.
 void SchemaWriter::writeSimpleType(Part& part, const Field& field, const std::string& name) {
   const std::string named = xmlAttribute("name", name);
+  // What another name stands for may be anything, too: there is nothing simple to restrict.
+  if (field.structure == none && set_.builtIn(field) == anyType) {
+    writeAny(part, named);
+    return;
+  }
   const std::size_t declared = field.reference != none ? field.reference : field.structure;
   if (declared != none) {
     // Of a structure, or of what another name stands for.
@@ -233,10 +248,6 @@ void SchemaWriter::writeSimpleType(Part& part, const Field& field, const std::st
     part.text.line("<xs:extension" + xmlAttribute("base", base) + "/>");
     part.text.close("</xs:complexContent>");
     part.text.close("</xs:complexType>");
-    return;
-  }
-  if (set_.builtIn(field) == anyType) {
-    writeAny(part, named);
     return;
   }
   part.text.open("<xs:simpleType" + named + ">");

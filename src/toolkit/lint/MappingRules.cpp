@@ -4,6 +4,7 @@
 #include "toolkit/lint/Rules.h"
 #include "toolkit/lint/SubscriptText.h"
 #include "toolkit/text/Phrases.h"
+#include "toolkit/walk/FieldWalk.h"
 #include "toolkit/walk/Subscripts.h"
 
 namespace as::toolkit::rules {
@@ -15,8 +16,15 @@ void unmappedField(const FieldSubject& subject, const Tell& tell) {
 
 void structuredAttribute(const FieldSubject& subject, const Tell& tell) {
   if (!subject.isAttribute || subject.isElementary) return;
-  tell("it is a field attribute and has fields or field attributes inside it",
-       "make it a field, or move what is inside it");
+  const std::string type = referenceOf(subject.field);
+  if (type.empty()) {
+    tell("it is a field attribute and has fields or field attributes inside it",
+         "make it a field, or move what is inside it");
+  } else {
+    tell("it is a field attribute and refers to " + quote(type) +
+             ", which has fields or field attributes",
+         "make it a field, or refer to the definition of a value");
+  }
 }
 
 void emptyMapping(const MappingSubject& subject, const Tell& tell) {

@@ -209,8 +209,18 @@ class ServiceWalk {
     lookAtNames<as::IField>(attributes, "field attribute", at.place, ".");
     forEachMember<as::IField>(attributes, [&](as::IField& attribute) {
       const FieldPlace below = placeBelow(attribute, at);
-      if (!lookAtReference(attribute, below.place, tree)) lookAtField(below, tree, true);
+      if (!lookAtReference(attribute, below.place, tree)) {
+        lookAtField(below, tree, true);
+      } else if (hasParts(attribute)) {
+        look(FieldSubject{below.place, attribute, false, true}, report_);
+      }
     });
+  }
+
+  // Of its own, or of the definition that it refers to.
+  bool hasParts(as::IField& field) const {
+    as::IList* const attributes = profile_.attributesOf(field);
+    return field.hasChildren() || (attributes != nullptr && attributes->getLength() > 0);
   }
 
   static bool hasDataType(as::IField& field) {

@@ -73,7 +73,8 @@ struct HiddenSubject {
   as::IDataItem* item;  // Null when there is none.
 };
 
-// A field that is no reference, or a field attribute.
+// A field or field attribute that is no reference, or a field attribute that refers to a definition
+// with parts.
 struct FieldSubject {
   const Place& place;
   as::IField& field;
