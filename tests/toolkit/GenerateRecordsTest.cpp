@@ -147,9 +147,15 @@ const ItemRow items[] = {
      R"({"type": "integer", "minimum": -32768, "maximum": 32767})"},
     {"<numeric length='2' usage='comp-5' picture='9(2)V99' digits='4' alignment='2'/>",
      R"({"type": "string", "pattern": "^[0-9]{1,3}([.][0-9]{1,2})?$"})"},
-    // Zeros in front of the point.
+    // Zeros in front of the point, and behind it.
     {"<numeric length='3' picture='9(3)P(2)' digits='5'/>",
-     R"({"type": "integer", "minimum": 0, "maximum": 99999})"},
+     R"({"type": "integer", "minimum": 0, "maximum": 99900})"},
+    {"<numeric length='3' picture='9(3)P(2)'/>",
+     R"({"type": "integer", "minimum": 0, "maximum": 99900})"},
+    {"<numeric length='1' usage='comp-5' picture='9(2)P(2)' digits='4'/>",
+     R"({"type": "integer", "minimum": 0, "maximum": 25500})"},
+    {"<numeric length='3' picture='VP(2)9(3)' digits='5' alignment='5'/>",
+     R"({"type": "string", "pattern": "^(0|0?[.][0-9]{1,5})$"})"},
     // Texts of which no picture tells the length.
     {"<alphanumeric length='7'/>", R"({"type": "string", "maxLength": 7})"},
     {"<alphanumeric/>", R"({"type": "string"})"},
@@ -159,7 +165,9 @@ const ItemRow items[] = {
     {"<numericEdited length='6' picture='ZZ9.99' digits='5' alignment='2'/>",
      R"({"type": "string", "maxLength": 6})"},
     {"<numericEdited length='6' digits='5'/>", R"({"type": "string", "maxLength": 6})"},
-    {"<index length='4'/>", R"({"type": "integer"})"},
+    {"<index length='4'/>", R"({"type": "integer", "minimum": 0, "maximum": 4294967295})"},
+    {"<pointer length='8'/>", R"({"type": "string", "pattern": "^[0-9]{1,20}$"})"},
+    {"<index/>", R"({"type": "string", "pattern": "^-?[0-9]+$"})"},
 };
 
 class GenerateRecordItems : public GenerateRecords, public testing::WithParamInterface<ItemRow> {};

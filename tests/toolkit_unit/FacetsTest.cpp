@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <iterator>
 #include <limits>
 #include <ostream>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -18,11 +20,23 @@ using as::toolkit::Capacity;
 using testing::ElementsAre;
 using Kind = Item::Kind;
 
-TEST(NinesOf, AreAsManyAsThereAreDigits) {
-  EXPECT_EQ(ninesOf(1, 0), "9");
-  EXPECT_EQ(ninesOf(5, 2), "999.99");
-  EXPECT_EQ(ninesOf(5, 4), "9.9999");
-  EXPECT_EQ(ninesOf(2, 2), "0.99");
+TEST(IsMore, TellsNumeralsApart) {
+  const char* const rising[] = {"0", "0.0009", "0.001", "0.01", "9", "9.5", "9.51", "9.6", "10"};
+  for (std::size_t i = 0; i < std::size(rising); ++i) {
+    for (std::size_t k = 0; k < std::size(rising); ++k) {
+      EXPECT_EQ(isMore(rising[i], rising[k]), i > k) << rising[i] << " " << rising[k];
+    }
+  }
+}
+
+// Of numerals without digits in front of the point, too.
+TEST(NumeralPattern, TakesNoTextWithoutADigit) {
+  for (const char* const text : {"", "-", ".", "-.", "5", "0.123"}) {
+    EXPECT_FALSE(std::regex_match(text, std::regex(numeralPattern(2, 2, true)))) << text;
+  }
+  for (const char* const text : {"0", "-0", "0.1", ".12", "-.12"}) {
+    EXPECT_TRUE(std::regex_match(text, std::regex(numeralPattern(2, 2, true)))) << text;
+  }
 }
 
 TEST(NumeralPattern, IsOfTheDigits) {
@@ -31,8 +45,8 @@ TEST(NumeralPattern, IsOfTheDigits) {
   EXPECT_EQ(numeralPattern(3, 0, false), "[0-9]{1,3}");
   EXPECT_EQ(numeralPattern(3, -1, true), "-?[0-9]{1,3}([.][0-9]+)?");
   EXPECT_EQ(numeralPattern(3, 2, true), "-?[0-9]{1,1}([.][0-9]{1,2})?");
-  EXPECT_EQ(numeralPattern(2, 2, false), "0?([.][0-9]{1,2})?");
-  EXPECT_EQ(numeralPattern(1, 1, false), "0?([.][0-9]{1,1})?");
+  EXPECT_EQ(numeralPattern(2, 2, true), "-?(0|0?[.][0-9]{1,2})");
+  EXPECT_EQ(numeralPattern(1, 1, false), "(0|0?[.][0-9]{1,1})");
 }
 
 Capacity capacityOf(Capacity::Kind kind) {
@@ -70,8 +84,8 @@ Item number(int digits, int scale = 0, bool isSigned = false, Kind kind = Kind::
   made.isSigned = isSigned;
   return made;
 }
-Item binary(int bits, bool isSigned) {
-  Item made = number(4, 2, isSigned);
+Item binary(int bits, bool isSigned, int scale = 0) {
+  Item made = number(bits == 8 ? 3 : 5, scale, isSigned);
   made.bits = bits;
   return made;
 }
@@ -155,8 +169,49 @@ INSTANTIATE_TEST_SUITE_P(
             decimal(),
             {number(5, 2, true)},
             "digits 5 behind 2 from -999.99 to 999.99"},
-        Row{"ZerosInFront", decimal(), {number(2, 4)}, "digits 4 behind 4 from 0 to 0.9999"},
-        Row{"ZerosBehind", decimal(), {number(3, -3)}, "digits 6 behind 0 from 0 to 999999"},
+        Row{"FractionAlone", decimal(), {number(2, 2)}, "digits 2 behind 2 from 0 to 0.99"},
+        Row{"ZerosInFront", decimal(), {number(2, 4)}, "digits 4 behind 4 from 0 to 0.0099"},
+        Row{"ZerosBehind", decimal(), {number(3, -3)}, "digits 6 behind 0 from 0 to 999000"},
+        Row{"BitsWithAPoint",
+            decimal(),
+            {binary(16, true, 2)},
+            "digits 5 behind 2 from -327.68 to 327.67"},
+        Row{"BitsBehindZeros",
+            decimal(),
+            {binary(8, false, 4)},
+            "digits 4 behind 4 from 0 to 0.0255"},
+        Row{"BitsInFrontOfZeros",
+            decimal(),
+            {binary(8, true, -2)},
+            "digits 5 behind 0 from -12800 to 12700"},
+        // What lint was asked not to tell: the field holds less than the item.
+        Row{"FewerBitsThanDigits", integer(8), {number(5, 0, true)}, "behind 0 from -128 to 127"},
+        Row{"FewerBitsThanUnsignedDigits", integer(8), {number(3)}, "behind 0 from 0 to 127"},
+        Row{"MoreBitsThanDigits", integer(8), {number(2)}, "digits 2 behind 0 from 0 to 99"},
+        Row{"FewerBitsThanBits", integer(8), {binary(16, true)}, "behind 0 from -128 to 127"},
+        Row{"NoSign", integer(8, false), {number(2, 0, true)}, "digits 2 behind 0 from 0 to 99"},
+        Row{"NoSignOfADecimal",
+            decimal(0, -1, 0, false),
+            {number(2, 1, true)},
+            "digits 2 behind 1 from 0 to 9.9"},
+        Row{"NoPlaces", integer(32), {number(5, 2, true)}, "digits 3 behind 0 from -999 to 999"},
+        Row{"NoPlacesOfADecimal",
+            decimal(0, 0),
+            {number(5, 2, true)},
+            "digits 3 behind 0 from -999 to 999"},
+        Row{"FewerPlaces", decimal(0, 1), {number(5, 2)}, "digits 4 behind 1 from 0 to 999.9"},
+        Row{"NoPlacesOfAFraction",
+            integer(8),
+            {number(2, 2, true)},
+            "digits 1 behind 0 from 0 to 0"},
+        Row{"FewerDigitsInFront",
+            decimal(0, 4, 2),
+            {number(5, 2, true)},
+            "digits 4 behind 2 from -99.99 to 99.99"},
+        Row{"AsManyDigitsInFront",
+            decimal(0, 4, 3),
+            {number(5, 2)},
+            "digits 5 behind 2 from 0 to 999.99"},
         Row{"Edited",
             decimal(),
             {number(3, 1, false, Kind::numberEdited)},
@@ -164,8 +219,12 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"OneDigit", integer(32), {number(1)}, "digits 1 behind 0 from 0 to 9"},
         Row{"NoDigits", integer(8), {number(0)}, "behind 0 from -128 to 127"},
         Row{"NoDigitsOfADecimal", decimal(), {number(0)}, ""},
-        Row{"Pointer", integer(32), {item(Kind::pointer)}, "behind 0"},
-        Row{"Index", integer(32), {item(Kind::index)}, "behind 0"},
+        Row{"Pointer",
+            integer(32),
+            {item(Kind::pointer)},
+            "behind 0 from -2147483648 to 2147483647"},
+        Row{"Index", integer(8, false), {item(Kind::index)}, "behind 0 from 0 to 255"},
+        Row{"IndexAsADecimal", decimal(), {item(Kind::index)}, "behind 0"},
         Row{"OtherItem", integer(16), {item(Kind::text)}, "behind 0 from -32768 to 32767"},
         Row{"AnyDecimal", decimal(), {}, ""}, Row{"DecimalOfDigits", decimal(28), {}, "digits 28"},
         Row{"DecimalOfDigitsAndPlaces",
@@ -196,7 +255,7 @@ TEST(FacetsOfManyDigits, AreLeftOut) {
   };
   EXPECT_EQ(patternOf(number(1000)), "[0-9]{1,1000}");
   EXPECT_EQ(patternOf(number(1001)), "");
-  EXPECT_EQ(patternOf(number(5, 1000)), "0?([.][0-9]{1,1000})?");
+  EXPECT_EQ(patternOf(number(5, 1000)), "(0|0?[.][0-9]{1,1000})");
   EXPECT_EQ(patternOf(number(5, -1000)), "[0-9]{1,1005}");
   for (const int scale :
        {1001, -1001, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
@@ -240,7 +299,7 @@ INSTANTIATE_TEST_SUITE_P(
     Conditions, FacetsTest,
     testing::Values(
         Row{"Numerals",
-            integer(32),
+            decimal(),
             {with(number(3, 1, true),
                   {value("+01.50"), value("00"), value("1.5"), value(".5"), value("12.")})},
             "digits 3 behind 1 from -99.9 to 99.9 '1.5' '0' '0.5' '12'"},
@@ -304,11 +363,23 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"AnAddress",
             integer(8, false),
             {with(item(Kind::pointer), {value("255")})},
-            "behind 0 '255'"},
+            "behind 0 from 0 to 255 '255'"},
         Row{"NoAddress",
             integer(8, false),
             {with(item(Kind::pointer), {value("256")})},
-            "behind 0"},
+            "behind 0 from 0 to 255"},
+        Row{"TheMostBehindZeros",
+            decimal(),
+            {with(number(2, 4), {value("0.0099")})},
+            "digits 4 behind 4 from 0 to 0.0099 '0.0099'"},
+        Row{"MoreThanTheMostBehindZeros",
+            decimal(),
+            {with(number(2, 4), {value("0.01")})},
+            "digits 4 behind 4 from 0 to 0.0099"},
+        Row{"MoreThanTheField",
+            integer(8),
+            {with(number(3), {value("128")})},
+            "behind 0 from 0 to 127"},
         Row{"NumeralsAsText",
             texts,
             {with(number(2), {value("+7"), value("07")})},
@@ -365,9 +436,9 @@ TEST(FacetsOfManyConditions, AreThoseOfEachCapacity) {
   const Item of = with(item(Kind::pointer), {value("256")});
   Case made(integer(16, false), &of);
   const FacetLookup lookup(made.model);
-  EXPECT_EQ(told(lookup.facetsOf(made.field, true)), "behind 0 '256'");
+  EXPECT_EQ(told(lookup.facetsOf(made.field, true)), "behind 0 from 0 to 65535 '256'");
   made.field.capacity = integer(8, false);
-  EXPECT_EQ(told(lookup.facetsOf(made.field, true)), "behind 0");
+  EXPECT_EQ(told(lookup.facetsOf(made.field, true)), "behind 0 from 0 to 255");
   made.field.capacity = texts;
   EXPECT_EQ(told(lookup.facetsOf(made.field, true)), "'256'");
 }

@@ -73,6 +73,28 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"OneZeroInFrontOfThePoint", 1, -1, "10", "10"}),
     [](const auto& row) { return std::string(row.param.label); });
 
+// Of a field that holds less than its item.
+TEST(SampleOfLess, IsWhatTheFieldHolds) {
+  const auto sampleOf = [](int digits, int scale, const Capacity& capacity) {
+    ServiceModel model;
+    Item item;
+    item.kind = Item::Kind::number;
+    item.digits = digits;
+    item.scale = scale;
+    model.items.push_back(item);
+    Field field;
+    field.item = 0;
+    field.capacity = capacity;
+    return SampleMaker(model).valueOf(field);
+  };
+  using Kind = Capacity::Kind;
+  EXPECT_EQ(sampleOf(5, 2, {Kind::decimal, 0, 0, true, 0}), "123");
+  EXPECT_EQ(sampleOf(5, 2, {Kind::decimal, 0, 0, true, 1}), "123.4");
+  EXPECT_EQ(sampleOf(5, 2, {Kind::decimal, 0, 0, true, 4, 2}), "12.34");
+  EXPECT_EQ(sampleOf(2, 2, {Kind::decimal, 0, 0, true, 0}), "0");
+  EXPECT_EQ(sampleOf(5, 0, as::toolkit::integerOf(8)), "20");
+}
+
 // A type in each of the next, the last one in the field.
 class SampleOfChain : public testing::Test {
  protected:

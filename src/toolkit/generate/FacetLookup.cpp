@@ -50,11 +50,11 @@ bool fits(std::string_view numeral, const Facets& facets) {
   const std::size_t behind = numeral.size() - std::min(point + 1, numeral.size());
   const int fraction = std::max(facets.fractionDigits, 0);
   if (facets.fractionDigits >= 0 && behind > static_cast<std::size_t>(fraction)) return false;
-  if (facets.totalDigits > 0) {
-    return whole.size() <= static_cast<std::size_t>(facets.totalDigits - fraction);
+  if (facets.totalDigits > 0 &&
+      whole.size() > static_cast<std::size_t>(facets.totalDigits - fraction)) {
+    return false;
   }
-  // The limit of so many bits.
-  return limit.empty() || std::pair(whole.size(), whole) <= std::pair(limit.size(), limit);
+  return limit.empty() || !isMore(numeral, limit);
 }
 
 bool isWord(std::string_view text) {
@@ -90,10 +90,6 @@ std::vector<std::string> valuesOf(const Item& item, const Capacity& capacity,
   Facets limits = facets;
   // Those of a number that is a text to callers.
   if (!facets.pattern.empty()) limitDigits(item.digits, item.scale, item.isSigned, limits);
-  // What has no limits of its own (an address) has those of its type.
-  if (limits.most.empty() && capacity.kind == Capacity::Kind::integer) {
-    limitBits(capacity.bits, capacity.isSigned, limits);
-  }
   for (const Condition& condition : item.conditions) {
     for (const ConditionValue& value : condition.values) {
       std::optional<std::string> read = valueOf(value, capacity, limits);

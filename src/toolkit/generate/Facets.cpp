@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <tuple>
+#include <utility>
 
 #include "toolkit/generate/ShortPath.h"
 #include "toolkit/text/Phrases.h"
@@ -24,23 +26,89 @@ bool isOfUse(int digits, int scale) {
   return digits > 0 && digits <= mostDigits && scale >= -mostDigits && scale <= mostDigits;
 }
 
-void limitNumber(const Capacity& capacity, const Item* item, Facets& facets) {
+// The numeral of an integer with the point so many digits further in front: 12.34 of 1234, 0.01 of
+// 1. Zeros follow where the number is less than 0.
+std::string shifted(const std::string& numeral, int scale) {
+  const std::string sign = numeral.starts_with('-') ? "-" : "";
+  std::string digits = numeral.substr(sign.size());
+  if (scale <= 0) return sign + digits.append(static_cast<std::size_t>(-scale), '0');
+  const auto fraction = static_cast<std::size_t>(scale);
+  if (digits.size() <= fraction) digits.insert(0, fraction + 1 - digits.size(), '0');
+  return sign + digits.insert(digits.size() - fraction, ".");
+}
+
+void limitByItem(const Item& item, Facets& facets) {
   using Kind = Item::Kind;
-  if (item != nullptr && item->bits > 0) {
-    limitBits(item->bits, item->isSigned, facets);
-    facets.fractionDigits = 0;
-    return;
+  const bool isNumber = item.kind == Kind::number || item.kind == Kind::numberEdited;
+  if (item.bits > 0 && item.scale == 0) {
+    limitBits(item.bits, item.isSigned, facets);
+  } else if (isNumber && item.digits > 0) {
+    limitDigits(item.digits, item.scale, item.isSigned, facets);
+    Facets bits;
+    limitBits(item.bits, item.isSigned, bits);
+    if (bits.most.empty() || facets.most.empty()) return;
+    facets.least = item.isSigned ? shifted(bits.least, item.scale) : "0";
+    facets.most = shifted(bits.most, item.scale);
   }
-  if (item != nullptr && (item->kind == Kind::number || item->kind == Kind::numberEdited) &&
-      item->digits > 0) {
-    return limitDigits(item->digits, item->scale, item->isSigned, facets);
+}
+
+// The numeral with no more digits behind the point.
+std::string cut(std::string numeral, int places) {
+  const std::size_t point = numeral.find('.');
+  if (point == std::string::npos) return numeral;
+  const std::size_t kept = places == 0 ? 0 : static_cast<std::size_t>(places) + 1;
+  numeral.resize(std::min(numeral.size(), point + kept));
+  return numeral.find_first_of("123456789") == std::string::npos ? "0" : numeral;
+}
+
+void cutPlaces(int places, Facets& facets) {
+  if (facets.fractionDigits <= places) return;
+  facets.totalDigits = std::max(facets.totalDigits - (facets.fractionDigits - places), 1);
+  facets.fractionDigits = places;
+  facets.least = cut(std::move(facets.least), places);
+  facets.most = cut(std::move(facets.most), places);
+}
+
+void cutToBits(const Capacity& capacity, Facets& facets) {
+  Facets bits;
+  limitBits(capacity.bits, capacity.isSigned, bits);
+  if (bits.most.empty()) return;
+  if (isMore(facets.most, bits.most)) {
+    facets.most = bits.most;
+    facets.totalDigits = 0;
   }
-  if (item != nullptr && (item->kind == Kind::pointer || item->kind == Kind::index)) {
-    facets.fractionDigits = 0;
-    return;
+  const std::string_view least = facets.least;
+  if (capacity.isSigned && least.starts_with('-') &&
+      isMore(least.substr(1), std::string_view(bits.least).substr(1))) {
+    facets.least = bits.least;
+    facets.totalDigits = 0;
   }
+}
+
+// Limits of an item to what a field of that capacity holds of it, which may be less where lint was
+// asked not to tell.
+void narrow(const Capacity& capacity, Facets& facets) {
+  const bool isInteger = capacity.kind == CapacityKind::integer;
+  if (isInteger) facets.fractionDigits = std::max(facets.fractionDigits, 0);
+  if (isInteger || capacity.places >= 0) cutPlaces(isInteger ? 0 : capacity.places, facets);
+  const std::size_t whole = std::min(facets.most.find('.'), facets.most.size());
+  if (!isInteger && capacity.whole > 0 && whole > static_cast<std::size_t>(capacity.whole)) {
+    const int fraction = std::max(facets.fractionDigits, 0);
+    limitDigits(capacity.whole + fraction, fraction, facets.least.front() == '-', facets);
+  }
+  if (isInteger) cutToBits(capacity, facets);
+  if (!capacity.isSigned) facets.least = "0";
+}
+
+void limitNumber(const Capacity& capacity, const Item* item, Facets& facets) {
+  if (item != nullptr) limitByItem(*item, facets);
+  if (!facets.most.empty()) return narrow(capacity, facets);
   if (capacity.kind == CapacityKind::integer) {
     limitBits(capacity.bits, capacity.isSigned, facets);
+  }
+  const bool isAddress =
+      item != nullptr && (item->kind == Item::Kind::pointer || item->kind == Item::Kind::index);
+  if (capacity.kind == CapacityKind::integer || isAddress) {
     facets.fractionDigits = 0;
     return;
   }
@@ -68,8 +136,9 @@ void limitText(const Item* item, Facets& facets) {
       return;
     case Kind::number:
       if (item->floatingDigits == 0 && isOfUse(item->digits, item->scale)) {
-        const int digits = item->scale < 0 ? item->digits - item->scale : item->digits;
-        facets.pattern = numeralPattern(digits, std::max(item->scale, 0), item->isSigned);
+        Facets limits;
+        limitDigits(item->digits, item->scale, item->isSigned, limits);
+        facets.pattern = numeralPattern(limits.totalDigits, limits.fractionDigits, item->isSigned);
       }
       return;
     default:
@@ -101,6 +170,7 @@ void limitBits(int bits, bool isSigned, Facets& facets) {
   if (bits <= 0 || bits > widest) return;
   const int value = isSigned ? bits - 1 : bits;
   const Wide most = value == widest ? ~Wide{0} : (Wide{1} << static_cast<unsigned>(value)) - 1;
+  facets.fractionDigits = 0;
   facets.most = std::to_string(most);
   facets.least = isSigned ? "-" + std::to_string(most + 1) : "0";
 }
@@ -110,27 +180,30 @@ void limitDigits(int digits, int scale, bool isSigned, Facets& facets) {
   const int fraction = std::max(scale, 0);
   facets.totalDigits = std::max(scale < 0 ? digits - scale : digits, fraction);
   facets.fractionDigits = fraction;
-  facets.most = ninesOf(facets.totalDigits, fraction);
+  facets.most = shifted(std::string(static_cast<std::size_t>(digits), '9'), scale);
   facets.least = isSigned ? "-" + facets.most : "0";
 }
 
-std::string ninesOf(int digits, int fraction) {
-  const int whole = digits - fraction;
-  std::string text =
-      whole > 0 ? std::string(static_cast<std::size_t>(whole), '9') : std::string("0");
-  if (fraction > 0) text.append(".").append(static_cast<std::size_t>(fraction), '9');
-  return text;
+bool isMore(std::string_view left, std::string_view right) {
+  const auto partsOf = [](std::string_view numeral) {
+    const std::size_t point = std::min(numeral.find('.'), numeral.size());
+    return std::tuple(point, numeral.substr(0, point),
+                      numeral.substr(std::min(point + 1, numeral.size())));
+  };
+  return partsOf(left) > partsOf(right);
 }
 
 std::string numeralPattern(int digits, int fraction, bool isSigned) {
   std::string pattern = isSigned ? "-?" : "";
   const int whole = digits - std::max(fraction, 0);
+  if (digits > 0 && whole <= 0) {
+    // There is a digit in any numeral.
+    return pattern + "(0|0?[.][0-9]{1," + std::to_string(fraction) + "})";
+  }
   if (digits == 0) {
     pattern += "[0-9]+";
-  } else if (whole > 0) {
-    pattern += "[0-9]{1," + std::to_string(whole) + "}";
   } else {
-    pattern += "0?";
+    pattern += "[0-9]{1," + std::to_string(whole) + "}";
   }
   if (fraction < 0) pattern += "([.][0-9]+)?";
   if (fraction > 0) pattern += "([.][0-9]{1," + std::to_string(fraction) + "})?";

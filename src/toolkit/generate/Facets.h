@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "toolkit/generate/ServiceModel.h"
@@ -40,12 +41,12 @@ bool isExact(const Capacity& capacity);
 void limitBits(int bits, bool isSigned, Facets& facets);
 void limitDigits(int digits, int scale, bool isSigned, Facets& facets);
 
+// Whether the first of two numerals is the greater one. Neither has a sign, nor zeros at its ends.
+bool isMore(std::string_view left, std::string_view right);
+
 // A regular expression for numerals of so many digits, 0 for any number, `fraction` of them behind
 // the point, -1 for any.
 std::string numeralPattern(int digits, int fraction, bool isSigned);
-
-// The greatest number of so many digits: "999.99".
-std::string ninesOf(int digits, int fraction);
 
 // What is known of a field, in lines: its item with picture and usage, its table, its conditions.
 std::vector<std::string> linesAbout(const ServiceModel& model, const Field& field);

@@ -68,14 +68,17 @@ void readNumber(as::INumeric& number, const std::optional<Picture>& picture, Ite
     facts.isSigned = true;
     return;
   }
-  const int scaling = picture ? picture->scaling : 0;
-  const int most = limited(digitsIn(usage, facts.bytes)) + scaling;
+  const int most = limited(digitsIn(usage, facts.bytes));
   if (isOfAllBits(usage)) {
     facts.digits = most;
-    if (scaling == 0 && facts.scale == 0) facts.bits = limited(bitsOf(facts.bytes));
+    facts.bits = limited(bitsOf(facts.bytes));
   } else if (facts.digits == 0 && facts.bytes > 0) {
     facts.digits = most;
+  } else if (picture && facts.digits == picture->digits) {
+    facts.digits = picture->storedDigits();
   }
+  // The digits that a P stands for are zeros.
+  if (picture && picture->scaling > 0 && picture->scale == 0) facts.scale = -picture->scaling;
 }
 
 void readEdited(as::INumericEdited& edited, as::IDataItem& item,
@@ -95,10 +98,11 @@ Capacity capacityOf(const Item& facts) {
       if (facts.floatingDigits > 0) {
         capacity.kind = Capacity::Kind::floating;
         capacity.digits = facts.floatingDigits;
-      } else if (facts.bits > 0) {
+      } else if (facts.bits > 0 && facts.scale == 0) {
         capacity = {Capacity::Kind::integer, 0, facts.bits, facts.isSigned};
       } else {
-        const int digits = facts.scale < 0 ? facts.digits - facts.scale : facts.digits;
+        const int digits =
+            facts.digits == 0 ? 0 : std::max(facts.digits - std::min(facts.scale, 0), facts.scale);
         capacity = {Capacity::Kind::decimal, digits, 0, facts.isSigned, std::max(facts.scale, 0)};
       }
       return capacity;

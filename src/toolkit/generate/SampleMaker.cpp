@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace as::toolkit::gen {
 
@@ -37,9 +38,15 @@ std::string numeral(int total, int scale) {
 // Of what facetsOf() says of a field with that item, or none.
 std::string numberOf(const Facets& facets, const Item* item) {
   using ItemKind = Item::Kind;
+  if (facets.most == "0") return "0";
   if (facets.totalDigits > 0) {
-    const bool isOfItem = item != nullptr && item->digits > 0 &&
-                          (item->kind == ItemKind::number || item->kind == ItemKind::numberEdited);
+    // The field may hold less of it.
+    Facets all;
+    if (item != nullptr) limitDigits(item->digits, item->scale, item->isSigned, all);
+    const bool isOfItem =
+        item != nullptr &&
+        (item->kind == ItemKind::number || item->kind == ItemKind::numberEdited) &&
+        all.totalDigits == facets.totalDigits;
     return isOfItem ? numeral(item->digits, item->scale)
                     : numeral(facets.totalDigits, std::max(facets.fractionDigits, 0));
   }

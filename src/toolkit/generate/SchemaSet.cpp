@@ -265,7 +265,10 @@ std::string_view SchemaSet::builtIn(const Field& field) const {
 // What the built-in type does not say by itself.
 Facets SchemaSet::facetsIn(const Field& field) const {
   Facets facets = facets_.facetsOf(field, withConditions_);
-  if (job_.model.itemOf(field) == nullptr && field.capacity.kind == Capacity::Kind::integer) {
+  const Item* const item = job_.model.itemOf(field);
+  const bool isOfType =
+      item == nullptr || item->kind == Item::Kind::pointer || item->kind == Item::Kind::index;
+  if (isOfType && field.capacity.kind == Capacity::Kind::integer) {
     facets.least.clear();
     facets.most.clear();
   }

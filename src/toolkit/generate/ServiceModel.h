@@ -53,7 +53,7 @@ struct Item {
   std::string usage;    // The word of it; empty for DISPLAY and groups.
   int bytes = 0;        // One occurrence.
   // Of numbers, edited ones too.
-  int digits = 0;  // 0 when unknown, and of floating-point numbers.
+  int digits = 0;  // 0 when unknown, and of floating-point numbers. Zeros of P are not counted.
   int scale = 0;   // How many of them stand behind the point; less than 0 for zeros in front.
   bool isSigned = false;
   int bits = 0;            // Of binary items that hold all that fits into them; else 0.
