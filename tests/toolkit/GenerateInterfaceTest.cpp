@@ -179,6 +179,32 @@ TEST_F(GenerateInterface, JavaKeepsWhatStandsInItself) {
               HasSubstr("record Node(Node next) {}"));
 }
 
+// Folders may not tell capital letters from small ones.
+TEST_F(GenerateInterface, TypesAreNotCalledAsFilesOfTheOutputInAnyCase) {
+  const auto typesOf = [](const std::string& name) {
+    return "<parameter name='" + name +
+           "'><mappings/><field name='f' dataType='String'><mappings/></field></parameter>";
+  };
+  const struct {
+    const char* kind;
+    const char* type;
+    const char* text;
+  } rows[] = {{"java", "TESTS", "record TESTS_("},
+              {"java", "TRANSACTION", "record TRANSACTION_("},
+              {"java", "transactionType", "record transactionType_("},
+              {"csharp", "iTESTS", "class iTESTS_"},
+              {"csharp", "tests", "class tests_"},
+              // Words that no file is called by, in the case that they have.
+              {"java", "STRING", "record STRING("},
+              {"java", "Class", "record Class("}};
+  for (const auto& row : rows) {
+    EXPECT_THAT(
+        text(row.kind, "<parameter name='p' byType='in' ref='" + std::string(row.type) + "'/>",
+             typesOf(row.type)),
+        HasSubstr(row.text));
+  }
+}
+
 TEST_F(GenerateInterface, IdlTakesIdentifiersOfTheDocument) {
   const std::string idl =
       textOf(made("idl", "", "", {},

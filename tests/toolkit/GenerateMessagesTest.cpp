@@ -33,6 +33,36 @@ TEST_F(GenerateMessages, PathsOfOpenApiAreOperationsInTheBytesOfUrls) {
   EXPECT_EQ(made["paths"]["/a%20b%2Fc"]["post"]["operationId"], "a b/c");
 }
 
+// lint may be asked not to tell of two operations of one name.
+TEST_F(GenerateMessages, OperationsOfOneNameHavePathsOfTheirOwn) {
+  const json made = openApi({operation("op", "") + operation("op", "") + operation("Op", ""),
+                             "",
+                             "name='Tests'",
+                             "",
+                             {"same-name"}});
+  ASSERT_THAT(made["paths"], SizeIs(3));
+  for (const auto& path : made["paths"].items()) {
+    EXPECT_EQ("/" + path.value()["post"]["operationId"].get<std::string>(), path.key());
+  }
+  EXPECT_TRUE(made["paths"].contains("/op"));
+  EXPECT_TRUE(made["paths"].contains("/Op"));
+}
+
+// What OpenAPI says elsewhere is looked at there alone.
+TEST_F(GenerateMessages, HeadersAreNotCalledAsWhatIsSaidElsewhere) {
+  const std::string header =
+      message("header",
+              parameter("name='Authorization'" + in) + parameter("name='ACCEPT'" + in) +
+                  parameter("name='content-type'" + in) + parameter("name='Accepts'" + in),
+              "byType='in' namespace='u' use='literal'");
+  const json post = openApi({operation("op", "", header)})["paths"]["/op"]["post"];
+  ASSERT_THAT(post["parameters"], SizeIs(4));
+  EXPECT_EQ(post["parameters"][0]["name"], "Authorization_");
+  EXPECT_EQ(post["parameters"][1]["name"], "ACCEPT_");
+  EXPECT_EQ(post["parameters"][2]["name"], "content-type_");
+  EXPECT_EQ(post["parameters"][3]["name"], "Accepts");
+}
+
 TEST_F(GenerateMessages, OpenApiTellsServerVersionAndProperties) {
   const Service service = {operation("op", ""), "", "name='Tests'",
                            "<property name='team' value='claims'/>"};

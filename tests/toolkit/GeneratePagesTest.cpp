@@ -68,6 +68,14 @@ TEST_F(GeneratePages, OperationsAndMessagesWithoutNamesHavePlaces) {
   EXPECT_THAT(text("markdown", service), HasSubstr("op, fault 1.f"));
 }
 
+// A name that would begin a list, or code, at the start of a list item.
+TEST_F(GeneratePages, NamesOfPropertiesBeginNothing) {
+  const std::string page = text("markdown", Service{operation("op", ""), "", "name='Tests'",
+                                                    "<property name='1. one' value='x'/>"
+                                                    "<property name='- two' value='y'/>"});
+  EXPECT_THAT(page, HasSubstr("\n- **1. one**: x\n- **- two**: y\n"));
+}
+
 TEST_F(GeneratePages, PagesTellWhatLintFinds) {
   const std::string page = text("markdown", operation("op", parameter("name='p'" + in, "") +
                                                                 parameter("name='q|r'" + in, "")));

@@ -126,7 +126,7 @@ TEST_F(GenerateRecords, PropertiesOfTheProgramAreTold) {
                                   text + "</dataItems>"));
   const toolkit::Generated made =
       toolkit::generateFrom(reader(), *toolkit::findGeneratorKind("markdown"), {"p.xml"});
-  EXPECT_THAT(textOf(made), HasSubstr("- owner: Claims\n"));
+  EXPECT_THAT(textOf(made), HasSubstr("- **owner**: Claims\n"));
   EXPECT_THAT(textOf(made), HasSubstr("## Records\n"));
 }
 

@@ -191,6 +191,15 @@ TEST_F(GenerateTest, NamespacesThatAreNoUrisAreRefused) {
   options.values = {{"namespace", "a|b"}};
   EXPECT_THAT(textsOf(make("xsd", example, "out/", options).findings),
               Contains(HasSubstr("'a|b' is no URI")));
+  for (const char* const uri :
+       {"http://www.w3.org/2000/xmlns/", "http://www.w3.org/XML/1998/namespace",
+        "http://www.w3.org/2001/XMLSchema", "http://www.w3.org/2001/XMLSchema-instance"}) {
+    options.values = {{"namespace", uri}};
+    const toolkit::GeneratedOutput made = make("xsd", example, "out/", options);
+    EXPECT_THAT(textsOf(made.findings), Contains("service: namespace '" + std::string(uri) +
+                                                 "' is one of XML itself; choose another one"));
+    EXPECT_THAT(made.files, IsEmpty());
+  }
 }
 
 TEST_F(GenerateTest, OneOperationIsMadeWhereItIsAskedFor) {
@@ -356,6 +365,12 @@ TEST_F(GenerateTest, NamesAreOnePerLine) {
         << text;
   }
   EXPECT_EQ(toolkit::readChosenNames("a=b = c \r\n", "names").at("a=b"), "c");
+  // Some editors begin with a mark of the encoding.
+  EXPECT_EQ(toolkit::readChosenNames("\xEF\xBB\xBF"
+                                     "a = c",
+                                     "names")
+                .at("a"),
+            "c");
 }
 
 TEST_F(GenerateTest, SourcesCannotEndComments) {

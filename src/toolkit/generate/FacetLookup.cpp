@@ -33,7 +33,7 @@ std::optional<std::string> numeralOf(std::string_view text) {
   while (!fraction.empty() && fraction.back() == '0') fraction.remove_suffix(1);
   result += whole.empty() ? std::string_view("0") : whole;
   if (!fraction.empty()) result.append(".").append(fraction);
-  return result;
+  return result == "-0" ? "0" : result;
 }
 
 // Whether an item of these limits can have that value: programs may have conditions that are never

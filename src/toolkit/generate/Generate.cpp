@@ -184,7 +184,9 @@ ChosenNames readChosenNames(const std::string& text, const std::string& file) {
   };
   ChosenNames names;
   int number = 0;
-  for (std::size_t from = 0; from < text.size();) {
+  constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+  for (std::size_t from = text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0;
+       from < text.size();) {
     const std::size_t to = std::min(text.find('\n', from), text.size());
     const std::string line = trimmed(std::string_view(text).substr(from, to - from));
     from = to + 1;

@@ -15,17 +15,21 @@ namespace {
 
 using CapacityKind = Capacity::Kind;
 
-// A rule with further reserved words.
+// A rule with further reserved words, in the case that they have or, as what is called so besides
+// what is looked at, in any case.
 class ReservingRule {
  public:
-  ReservingRule(const NameRule& rule, std::vector<std::string> words)
+  enum class As { words, taken };
+
+  ReservingRule(const NameRule& rule, std::vector<std::string> words, As as = As::words)
       : rule_(rule), words_(std::move(words)) {
-    if (rule.reserved != nullptr) all_ = *rule.reserved;
-    if (rule.isReservedInAnyCase) {
+    const Words*& added = as == As::taken ? rule_.taken : rule_.reserved;
+    if (added != nullptr) all_ = *added;
+    if (as == As::taken || rule.isReservedInAnyCase) {
       for (std::string& word : words_) word = inSmallLetters(word);
     }
     all_.insert(words_.begin(), words_.end());
-    rule_.reserved = &all_;
+    added = &all_;
   }
   ReservingRule(const ReservingRule&) = delete;
   ReservingRule& operator=(const ReservingRule&) = delete;
@@ -91,7 +95,9 @@ class Planner {
       if (!answersStructure(operation)) continue;
       wanted.push_back({operation.name + " result", model_.placeOf(operation) + " result", true});
     }
-    const ReservingRule rule(language_.types, {plan_.name, plan_.interface});
+    const ReservingRule rule(
+        language_.types, {plan_.name, plan_.interface},
+        language_.types.tellsCases ? ReservingRule::As::words : ReservingRule::As::taken);
     std::vector<std::string> names = job_.namesBy(rule.rule()).namesIn(wanted);
     typeNames_.resize(model_.types.size());
     auto next = names.begin();

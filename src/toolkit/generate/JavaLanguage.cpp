@@ -31,6 +31,12 @@ const Words& typeWords() {
   return words;
 }
 
+// Files that the output itself makes.
+const Words& files() {
+  static const Words words = {"transaction", "transactiontype"};
+  return words;
+}
+
 // Every object has operations of these names, which nothing may have in their place; and the output
 // names a constant of TransactionType.
 const Words& memberWords() {
@@ -51,6 +57,7 @@ NameRule typeRule(std::size_t longest) {
   rule.change = NameRule::Change::toHumps;
   rule.start = NameRule::Start::capital;
   rule.tellsCases = false;
+  rule.taken = &files();
   rule.mostCharacters = longest;
   return rule;
 }

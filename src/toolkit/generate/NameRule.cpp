@@ -10,6 +10,7 @@ namespace as::toolkit::gen {
 namespace {
 
 bool isReserved(const NameRule& rule, const std::string& name) {
+  if (rule.taken != nullptr && rule.taken->contains(inSmallLetters(name))) return true;
   if (rule.reserved == nullptr) return false;
   return rule.reserved->contains(rule.isReservedInAnyCase ? inSmallLetters(name) : name);
 }

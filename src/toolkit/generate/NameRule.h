@@ -7,7 +7,8 @@
 //    place. A name that could not start so gets a "_" in front (or the language's own prefix), as
 //    does one that is empty.
 // 3. Names that are too long are cut, and end with eight digits made of the whole name.
-// 4. A reserved word gets a "_" behind it, as many as it takes to be none.
+// 4. A reserved word, or a name that is taken, gets a "_" behind it, as many as it takes to be
+// none.
 // 5. Of names in one scope that are the same then, or differ in case only where the language or its
 //    files do not tell cases apart, one keeps it: one that needed no change before one that did, of
 //    these the first in the order of characters. The others get "_" and eight digits made of the
@@ -40,6 +41,9 @@ struct NameRule {
   std::function<bool(char32_t character)> mayFollow;  // the others.
   const Words* reserved = nullptr;                    // Null for none.
   bool isReservedInAnyCase = false;
+  // In small letters, names of others than those that are looked at (files that the output makes):
+  // nothing is called so in any case. Null for none.
+  const Words* taken = nullptr;
   Change change = Change::toUnderscore;
   Start start = Start::asIs;
   bool tellsCases = true;

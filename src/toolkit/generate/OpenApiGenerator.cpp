@@ -1,6 +1,8 @@
 // openapi: OpenAPI 3.1 of a service, a path for each operation.
 #include <cstddef>
+#include <limits>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -28,11 +30,25 @@ bool isTokenCharacter(char32_t character) {
          others.find(character) != std::u32string_view::npos;
 }
 
-// Names of HTTP's headers, which tell no cases apart.
+// Names of HTTP's headers, which tell no cases apart. Parameters of some are not looked at: what
+// OpenAPI says elsewhere holds.
 const NameRule& headerNames() {
   static const NameRule rule = [] {
+    static const Words saidElsewhere = {"accept", "authorization", "content-type"};
     NameRule made{"HTTP headers", isTokenCharacter, isTokenCharacter};
+    made.taken = &saidElsewhere;
     made.tellsCases = false;
+    return made;
+  }();
+  return rule;
+}
+
+// Operations are called as they are. Two of one name are told apart.
+const NameRule& operationNames() {
+  static const NameRule rule = [] {
+    const auto any = [](char32_t) { return true; };
+    NameRule made{"OpenAPI", any, any};
+    made.mostCharacters = std::numeric_limits<std::size_t>::max();
     return made;
   }();
   return rule;
@@ -48,6 +64,7 @@ class OpenApi {
 
   void make() {
     for (const Operation& operation : model_.operations) plan(operation);
+    nameOperations();
     schemas_.complete();
     JsonText text;
     text.member("openapi", "3.1.0");
@@ -56,7 +73,7 @@ class OpenApi {
     if (!server.empty()) text.member("servers", Json::array({{{"url", server}}}));
     text.open("paths");
     for (const Planned& planned : operations_) {
-      text.open("/" + partOfUri(planned.operation.name));
+      text.open("/" + partOfUri(planned.name));
       text.member("post", operationOf(planned));
       text.close();
     }
@@ -72,6 +89,7 @@ class OpenApi {
  private:
   struct Planned {
     const Operation& operation;
+    std::string name;
     std::size_t request;
     std::size_t answer;
     std::vector<std::size_t> faults;
@@ -81,6 +99,7 @@ class OpenApi {
     const std::string place = model_.placeOf(operation);
     Planned planned{
         operation,
+        "",
         schemas_.addObject(requestWish(model_, operation), operation.parameters, true, false,
                            place),
         schemas_.addObject(answerWish(model_, operation), operation.parameters, false, true, place),
@@ -92,6 +111,15 @@ class OpenApi {
                                                   model_.placeOf(operation, message)));
     }
     operations_.push_back(std::move(planned));
+  }
+
+  void nameOperations() {
+    std::vector<NameWish> wishes;
+    for (const Planned& planned : operations_) {
+      wishes.push_back({planned.operation.name, model_.placeOf(planned.operation)});
+    }
+    const std::vector<std::string> names = job_.namesBy(operationNames()).namesIn(wishes);
+    for (std::size_t i = 0; i < names.size(); ++i) operations_[i].name = names[i];
   }
 
   void writeInfo(JsonText& text) const {
@@ -108,7 +136,7 @@ class OpenApi {
   Json operationOf(const Planned& planned) {
     const Operation& operation = planned.operation;
     Json made = objectFor(6);
-    append(made, "operationId", operation.name);
+    append(made, "operationId", planned.name);
     append(made, "summary", "Entry point " + operation.entryPoint);
     if (!operation.transactionType.empty()) {
       append(made, "x-transaction-type", operation.transactionType);

@@ -1,5 +1,7 @@
 #include "toolkit/generate/SchemaSet.h"
 
+#include <string_view>
+#include <unordered_set>
 #include <utility>
 
 #include "toolkit/generate/FieldShape.h"
@@ -11,7 +13,19 @@ namespace as::toolkit::gen {
 
 namespace {
 
+// Those of XML and its schemas, which hold what they are made to hold.
+bool isReserved(std::string_view uri) {
+  static const std::unordered_set<std::string_view> reserved = {
+      "http://www.w3.org/2000/xmlns/", "http://www.w3.org/XML/1998/namespace",
+      "http://www.w3.org/2001/XMLSchema", "http://www.w3.org/2001/XMLSchema-instance"};
+  return reserved.contains(uri);
+}
+
 void refuseUnlessUri(const Job& job, const std::string& text) {
+  if (isReserved(text)) {
+    job.refuse("reserved-namespace", "service",
+               "namespace " + quote(text) + " is one of XML itself", "choose another one");
+  }
   if (isUri(text)) return;
   job.refuse("no-uri", "service", "namespace " + quote(text) + " is no URI",
              "write what it cannot hold as %20");
