@@ -44,6 +44,14 @@ const Row rows[] = {
      "item-removed R.G -> : group of 3 bytes ->  !\n"
      "item-regrouped R.G.A -> R.A: R.G.A -> R.A !\n"
      "item-regrouped R.G.B -> R.B: R.G.B -> R.B !\n"},
+    // Groups with what they hold, whose names are not the only ones of their kind.
+    {"01 R. 05 A. 10 C PIC X. 10 O PIC X(3). 05 B. 10 C PIC X(2). 10 D PIC 9.",
+     "01 R. 05 W. 10 A. 15 C PIC X. 15 N PIC X(3). 10 B. 15 C PIC 99. 15 D PIC 9.",
+     "item-regrouped R.A -> R.W.A: R.A -> R.W.A !\n"
+     "item-regrouped R.B -> R.W.B: R.B -> R.W.B !\n"
+     "item-added  -> R.W:  -> group of 7 bytes\n"
+     "item-renamed R.A.O -> R.W.A.N: O -> N !\n"
+     "category-changed R.B.C -> R.W.B.C: alphanumeric X(2) -> numeric 99 !\n"},
     // Between groups.
     {"01 R. 05 G. 10 A PIC X. 10 B PIC X(2). 05 H. 10 C PIC X.",
      "01 R. 05 G. 10 B PIC X(2). 05 H. 10 A PIC X. 10 C PIC X.",

@@ -258,16 +258,20 @@ void ItemMatch::matchRegrouped() {
     ItemNumber added = noItem;
     bool isSingle = true;
   };
+  // What a joined group holds goes with it.
+  std::vector<bool> isRegrouped(before_.items().size());
   for (const SectionFacts& section : before_.sections()) {
     for (const ItemNumber record : section.records) {
       if (newOf_[record] == noItem) continue;
       std::unordered_map<std::string_view, Pair> pairs;
+      Items olds;
       const auto note = [](ItemNumber& place, bool& isSingle, ItemNumber number) {
         if (place != noItem) isSingle = false;
         place = number;
       };
       forEachBelow(before_, {record}, [&](ItemNumber number) {
         if (newOf_[number] != noItem || before_[number].isUnnamed()) return;
+        olds.push_back(number);
         Pair& pair = pairs[before_[number].name];
         note(pair.old, pair.isSingle, number);
       });
@@ -277,12 +281,22 @@ void ItemMatch::matchRegrouped() {
         const auto found = pairs.find(after_[number].name);
         if (found != pairs.end()) note(found->second.added, found->second.isSingle, number);
       });
-      for (const auto& [name, pair] : pairs) {
+      for (const ItemNumber old : olds) {
+        const Pair& pair = pairs.at(before_[old].name);
         if (!pair.isSingle || pair.added == noItem) continue;
-        if (before_[pair.old].isGroup() != after_[pair.added].isGroup()) continue;
-        join(pair.old, pair.added);
+        if (newOf_[old] != noItem || oldOf_[pair.added] != noItem) continue;
+        if (before_[old].isGroup() != after_[pair.added].isGroup()) continue;
+        join(old, pair.added);
+        isRegrouped[old] = true;
+        matchNames(before_[old].children, after_[pair.added].children);
       }
     }
+  }
+  for (ItemNumber old = 0; old < newOf_.size(); ++old) {
+    const ItemNumber parent = before_[old].parent;
+    if (parent != noItem && isRegrouped[parent]) isRegrouped[old] = true;
+    if (!isRegrouped[old] || newOf_[old] == noItem) continue;
+    matchRenamed(before_[old].children, after_[newOf_[old]].children);
   }
 }
 

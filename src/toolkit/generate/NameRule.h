@@ -7,8 +7,7 @@
 //    place. A name that could not start so gets a "_" in front (or the language's own prefix), as
 //    does one that is empty.
 // 3. Names that are too long are cut, and end with eight digits made of the whole name.
-// 4. A reserved word, or a name that is taken, gets a "_" behind it, as many as it takes to be
-// none.
+// 4. A word that is reserved or taken gets a "_" behind it, as many as it takes to be neither.
 // 5. Of names in one scope that are the same then, or differ in case only where the language or its
 //    files do not tell cases apart, one keeps it: one that needed no change before one that did, of
 //    these the first in the order of characters. The others get "_" and eight digits made of the
