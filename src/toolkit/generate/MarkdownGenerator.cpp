@@ -90,7 +90,8 @@ class Page {
     fact("Made of", model_.source);
     fact("Flavour", model_.flavour == nullptr ? "" : model_.flavour->name);
     fact("Program", model_.program);
-    for (const Property& property : model_.properties) fact("**" + plain(property.name) + "**", property.value);
+    for (const Property& property : model_.properties)
+      fact("**" + plain(property.name) + "**", property.value);
   }
 
   void writeOperation(const Operation& operation) {
