@@ -42,12 +42,12 @@ void Arguments::required(const char* name, std::string& value,
 }
 
 void Arguments::required(const char* name, std::vector<std::string>& values, const char* help) {
-  CLI::Option* const option = app_.add_option(name, values, help)->required()->type_name("");
+  CLI::Option* const added = app_.add_option(name, values, help)->required()->type_name("");
   // Of what may be any number of extra arguments the parser takes brackets and commas out: "[a,b]"
   // would be two files. As something that never has enough it gets all that come, as they are.
   constexpr int most = CLI::detail::expected_max_vector_size;
-  option->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  option->expected(most - 1, most)->allow_extra_args(false);
+  added->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  added->expected(most - 1, most)->allow_extra_args(false);
   Argument& argument = note(name, name, help);
   argument.isRequired = true;
   argument.isRepeated = true;

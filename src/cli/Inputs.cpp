@@ -72,7 +72,8 @@ class FileNumbers {
   // The first one; null when it is none.
   const Input* find(const std::string& file) const {
     const auto number = fileNumberOf(file);
-    const auto found = number ? inputs_.find(*number) : inputs_.end();
+    if (!number) return nullptr;
+    const auto found = inputs_.find(*number);
     return found == inputs_.end() ? nullptr : found->second;
   }
 

@@ -70,7 +70,8 @@ bool Making::sparesWhatIsNeeded(const toolkit::DocumentReader& reader,
       // It is told when its turn comes.
     }
     const auto number = fileNumberOf(needed);
-    const auto found = number ? replaced.find(*number) : replaced.end();
+    if (!number) continue;
+    const auto found = replaced.find(*number);
     if (found == replaced.end()) continue;
     const Input& other = inputs_.all()[found->second];
     if (&other == &input) continue;

@@ -64,9 +64,9 @@ Diff diffPair(const DocumentReader& reader, const DocumentPair& pair,
   if (!pair.before.empty() && !pair.after.empty()) {
     std::vector<std::string> own;
     if (!services.empty()) own = servicesFor(reader.read(pair.before), services);
-    Diff diff = diffFiles(reader, pair.before, pair.after, own);
-    diff.services = std::move(own);
-    return diff;
+    Diff result = diffFiles(reader, pair.before, pair.after, own);
+    result.services = std::move(own);
+    return result;
   }
   const bool isRemoved = pair.after.empty();
   const Document document = reader.read(isRemoved ? pair.before : pair.after);
@@ -76,11 +76,11 @@ Diff diffPair(const DocumentReader& reader, const DocumentPair& pair,
   } else {
     changes.add("document-added", {"", pair.name});
   }
-  Diff diff;
-  diff.isOfServices = document.service != nullptr;
-  diff.changes = changes.take();
-  if (isRemoved) diff.services = servicesFor(document, services);
-  return diff;
+  Diff result;
+  result.isOfServices = document.service != nullptr;
+  result.changes = changes.take();
+  if (isRemoved) result.services = servicesFor(document, services);
+  return result;
 }
 
 }  // namespace as::toolkit

@@ -5,13 +5,13 @@ namespace as::toolkit {
 void LintReport::add(const LintRule& rule, const Place& place, const std::string& problem,
                      const std::string& advice) {
   const as::IElement* const object = place.object();
-  const bool isObject = frame_.text != nullptr && object != nullptr;
+  const bool isInDocument = frame_.text != nullptr && object != nullptr;
   const std::size_t element =
-      isObject ? frame_.text->outline().elementOf(*object) : place.elementAround();
+      isInDocument ? frame_.text->outline().elementOf(*object) : place.elementAround();
   const RuleSetting* const setting = settingFor(rule, element);
   if (setting != nullptr && !setting->severity) return;
   const Severity severity = setting != nullptr ? *setting->severity : rule.severity;
-  const TextPlace& at = !isObject || element == DocumentOutline::none
+  const TextPlace& at = !isInDocument || element == DocumentOutline::none
                             ? place.inText()
                             : frame_.text->outline().document().elements()[element].place;
   findings_.push_back({rule.id, severity, place.text(), problem, advice, at.line, at.column});
