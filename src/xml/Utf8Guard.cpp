@@ -9,7 +9,7 @@ constexpr std::string_view blanks = " \t\r\n";
 
 // How the texts begin that the parser does not begin to read byte by byte, as ASCII.
 bool isWideOrEbcdic(std::string_view text) {
-  return text.substr(0, 4).find('\0') != text.npos || text.starts_with("\xFE\xFF") ||
+  return text.substr(0, 4).find('\0') != std::string_view::npos || text.starts_with("\xFE\xFF") ||
          text.starts_with("\xFF\xFE") || text.starts_with("\x4C\x6F\xA7\x94\x93\x40");
 }
 
@@ -30,10 +30,10 @@ std::string_view declaredEncoding(std::string_view text) {
   if (!text.starts_with(beginning) || text.find_first_of(blanks) != beginning.size()) return {};
   std::string_view declaration = text.substr(0, text.find('>'));
   const std::size_t at = declaration.find(name);
-  if (at == declaration.npos) return {};
+  if (at == std::string_view::npos) return {};
   declaration.remove_prefix(at + name.size());
   const std::size_t begin = declaration.find_first_of("'\"");
-  if (begin == declaration.npos) return {};
+  if (begin == std::string_view::npos) return {};
   const std::size_t end = declaration.find(declaration[begin], begin + 1);
   return declaration.substr(begin + 1, end - begin - 1);
 }
