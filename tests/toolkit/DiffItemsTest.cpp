@@ -272,6 +272,19 @@ TEST_F(DiffTest, LongNamesOfEntryPointsAreShortened) {
   EXPECT_EQ(diff.changes[0].newPlace.size(), 4003U);
 }
 
+// What came in front of an item that has another name.
+TEST_F(DiffTest, RenamedItemsAreLookedForNearBy) {
+  const auto isFound = [&](int inFront) {
+    std::string after = "01 R.";
+    for (int i = 0; i < inFront; ++i) after += " 05 N" + std::to_string(i) + " PIC 9.";
+    after += " 05 B PIC X(7).";
+    return summaryOf(diffOf("01 R. 05 A PIC X(7).", after)).find("item-renamed") !=
+           std::string::npos;
+  };
+  EXPECT_TRUE(isFound(63));
+  EXPECT_FALSE(isFound(64));
+}
+
 INSTANTIATE_TEST_SUITE_P(Pairs, DiffItems, testing::ValuesIn(rows));
 
 // What dictionaries hold beside items.

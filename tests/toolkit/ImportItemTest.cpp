@@ -75,6 +75,8 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"VALUE 'abc' & \"de\"",
                   "<alphanumeric name='A' picture='X(5)' offset='0' length='5'"},
         ImportRow{"ANY LENGTH", "<alphanumeric name='A' picture='X' offset='0' length='1'"},
+        ImportRow{"ANY LENGTH JUSTIFIED",
+                  "<alphanumeric name='A' picture='X' justified='right' offset='0' length='1'"},
         ImportRow{"ANY NUMERIC",
                   "<numeric name='A' picture='9' usage='display' sign='false' digits='1' "
                   "alignment='0' offset='0' length='1'"},
