@@ -4,9 +4,9 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <nlohmann/json.hpp>
 #include <string>
 
+#include "support/Json.h"
 #include "support/Requests.h"
 #include "support/Tool.h"
 
@@ -121,7 +121,7 @@ TEST_F(ToolImportTest, TellsProgramsWhatItFinds) {
         run({"import", "a.cbl", "b.cbl", "-o", "out", "--messages", "json", "--jobs", jobs});
     EXPECT_EQ(outcome.exitCode, 1);
     EXPECT_EQ(outcome.err, "");
-    const auto report = nlohmann::json::parse(outcome.out);
+    const auto report = test::parsedJson(outcome.out);
     ASSERT_EQ(report["findings"].size(), 2U);
     const auto& first = report["findings"][0];
     EXPECT_EQ(first["rule"], "bad-picture");
@@ -139,7 +139,7 @@ TEST_F(ToolImportTest, TellsProgramsWhatItFinds) {
 TEST_F(ToolImportTest, TellsProgramsWhatItCannotRead) {
   const test::ToolOutcome outcome =
       run({"import", "none.cbl", "-o", "a.xml", "--messages", "sarif"});
-  const auto log = nlohmann::json::parse(outcome.out);
+  const auto log = test::parsedJson(outcome.out);
   const auto& result = log["runs"][0]["results"][0];
   EXPECT_EQ(result["ruleId"], "refused-document");
   EXPECT_EQ(result["locations"][0]["physicalLocation"]["artifactLocation"]["uri"], "none.cbl");
@@ -148,7 +148,7 @@ TEST_F(ToolImportTest, TellsProgramsWhatItCannotRead) {
 TEST_F(ToolImportTest, DescribesItsRulesToPrograms) {
   write("a.cbl", program("A", "01 R PIC X."));
   const auto log =
-      nlohmann::json::parse(run({"import", "a.cbl", "-o", "a.xml", "--messages", "sarif"}).out);
+      test::parsedJson(run({"import", "a.cbl", "-o", "a.xml", "--messages", "sarif"}).out);
   const auto& rules = log["runs"][0]["tool"]["driver"]["rules"];
   EXPECT_TRUE(std::any_of(rules.begin(), rules.end(),
                           [](const auto& rule) { return rule["id"] == "copybook-not-found"; }));

@@ -3,13 +3,13 @@
 #define TESTS_SUPPORT_DIFFS_H_
 
 #include <map>
-#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "as/toolkit/Diff.h"
 #include "as/toolkit/Import.h"
+#include "support/Json.h"
 #include "support/Toolkit.h"
 
 namespace test {
@@ -75,7 +75,7 @@ class DiffTest : public ToolkitTest {
   static nlohmann::json jsonOfDiff(const toolkit::Diff& diff) {
     std::ostringstream out;
     toolkit::renderJson(out, diff);
-    return nlohmann::json::parse(out.str());
+    return parsedJson(out.str());
   }
 };
 

@@ -5,12 +5,12 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
 #include "support/Documents.h"
 #include "support/Generated.h"
+#include "support/Json.h"
 
 namespace test {
 
@@ -129,7 +129,7 @@ class GenerateWebTest : public GenerateTest {
   }
   nlohmann::json openApi(const web::Service& service,
                          const std::map<std::string, std::string>& values = {}) const {
-    return nlohmann::json::parse(text("openapi", service, values), nullptr, false);
+    return parsedJson(text("openapi", service, values));
   }
 
   static toolkit::GenerateOptions optionsOf(const std::map<std::string, std::string>& values) {

@@ -6,13 +6,13 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "as/AgentServices.h"
 #include "as/toolkit/Toolkit.h"
+#include "support/Json.h"
 #include "support/Labels.h"
 #include "support/TempDirectory.h"
 
@@ -41,7 +41,7 @@ class ToolkitTest : public testing::Test {
   static nlohmann::json jsonOf(Root& root) {
     std::ostringstream out;
     toolkit::renderJson(out, root);
-    return nlohmann::json::parse(out.str(), nullptr, false);
+    return parsedJson(out.str());
   }
 
   // Those of the document in `file`; a service is shown without its program.

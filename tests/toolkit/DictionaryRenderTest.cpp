@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
 
 #include "support/Documents.h"
+#include "support/Json.h"
 #include "support/Model.h"
 #include "support/Requests.h"
 #include "support/Toolkit.h"
@@ -287,7 +287,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(DictionaryRenderTest, JsonHasTheProgramsSections) {
   const json program = shownJson(test::dictionary(""));
-  EXPECT_EQ(program, json::parse(R"({"name": "PAYROLL", "properties": [], "fileSection": [],
+  EXPECT_EQ(program, test::parsedJson(R"({"name": "PAYROLL", "properties": [], "fileSection": [],
                                      "dataItems": [], "entryPoints": []})"));
 }
 
@@ -307,7 +307,7 @@ TEST_P(DictionaryJsonTest, HoldsWhatTheAccessorsAnswer) {
   const json program = shownJson(orders());
   const json::json_pointer pointer(GetParam().pointer);
   ASSERT_TRUE(program.contains(pointer));
-  EXPECT_EQ(program.at(pointer), json::parse(GetParam().expected));
+  EXPECT_EQ(program.at(pointer), test::parsedJson(GetParam().expected));
 }
 
 INSTANTIATE_TEST_SUITE_P(

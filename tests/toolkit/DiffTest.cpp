@@ -5,6 +5,7 @@
 
 #include "support/Diffs.h"
 #include "support/Documents.h"
+#include "support/Json.h"
 #include "support/Toolkit.h"
 
 namespace {
@@ -319,7 +320,7 @@ TEST_F(DiffTest, JsonOfFoldersHoldsAllDocuments) {
   const toolkit::Diff breaking = diffOf("01 R PIC X.", "01 R PIC X(2).");
   std::ostringstream out;
   toolkit::renderJson(out, std::vector<toolkit::DocumentDiff>{{"a.xml", {}}, {"b.xml", breaking}});
-  const nlohmann::json json = nlohmann::json::parse(out.str());
+  const nlohmann::json json = test::parsedJson(out.str());
   EXPECT_EQ(json["of"], "folders");
   EXPECT_EQ(json["breaks"], true);
   EXPECT_EQ(json["documents"][0]["name"], "a.xml");

@@ -2,12 +2,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "as/toolkit/FindingsWriter.h"
+#include "support/Json.h"
 
 namespace {
 
@@ -61,7 +61,7 @@ TEST(FindingsWriterTest, ColoursSeverities) {
 }
 
 TEST(FindingsWriterTest, WritesAnObject) {
-  EXPECT_EQ(json::parse(written("json", {odd, copied})), json::parse(R"json({
+  EXPECT_EQ(test::parsedJson(written("json", {odd, copied})), test::parsedJson(R"json({
     "tool": "tool", "version": "1.2.3", "errors": 0, "warnings": 1, "notes": 1,
     "findings": [
       {"rule": "odd", "severity": "warning", "file": "a b.xml", "line": 3, "column": 7,
@@ -73,15 +73,15 @@ TEST(FindingsWriterTest, WritesAnObject) {
 }
 
 TEST(FindingsWriterTest, WritesNothingFoundAsJson) {
-  EXPECT_EQ(json::parse(written("json", {})).at("findings"), json::array());
-  EXPECT_EQ(json::parse(written("sarif", {})).at("runs").at(0).at("results"), json::array());
+  EXPECT_EQ(test::parsedJson(written("json", {})).at("findings"), json::array());
+  EXPECT_EQ(test::parsedJson(written("sarif", {})).at("runs").at(0).at("results"), json::array());
 }
 
 TEST(FindingsWriterTest, DescribesRulesInSarif) {
-  const json log = json::parse(written("sarif", {}));
+  const json log = test::parsedJson(written("sarif", {}));
   EXPECT_EQ(log.at("version"), "2.1.0");
   EXPECT_EQ(log.at("runs").at(0).at("columnKind"), "unicodeCodePoints");
-  EXPECT_EQ(log.at("runs").at(0).at("tool").at("driver"), json::parse(R"json({
+  EXPECT_EQ(log.at("runs").at(0).at("tool").at("driver"), test::parsedJson(R"json({
     "name": "tool", "version": "1.2.3", "rules": [
       {"id": "odd", "shortDescription": {"text": "it is even"}, "help": {"text": "add one"},
        "defaultConfiguration": {"level": "warning"}}]})json"));
@@ -89,8 +89,8 @@ TEST(FindingsWriterTest, DescribesRulesInSarif) {
 
 TEST(FindingsWriterTest, WritesResultsOfSarif) {
   const json results =
-      json::parse(written("sarif", {odd, bare, copied})).at("runs").at(0).at("results");
-  EXPECT_EQ(results.at(0), json::parse(R"json({
+      test::parsedJson(written("sarif", {odd, bare, copied})).at("runs").at(0).at("results");
+  EXPECT_EQ(results.at(0), test::parsedJson(R"json({
     "ruleId": "odd", "ruleIndex": 0, "level": "warning",
     "message": {"text": "op.p: it is odd; look"},
     "locations": [{
@@ -99,12 +99,12 @@ TEST(FindingsWriterTest, WritesResultsOfSarif) {
       "logicalLocations": [{"fullyQualifiedName": "op.p"}]}],
     "partialFingerprints": {"place/v1": "odd op.p"}})json"));
   // A rule that is not described, a finding without a place, and text that is no plain one.
-  EXPECT_EQ(results.at(1), json::parse(R"json({
+  EXPECT_EQ(results.at(1), test::parsedJson(R"json({
     "ruleId": "new", "level": "error", "message": {"text": "\u001B"},
     "locations": [{"physicalLocation":
                    {"artifactLocation": {"uri": "file:///%C3%A4%3A%25%0A.xml"}}}],
     "partialFingerprints": {"place/v1": "new "}})json"));
-  EXPECT_EQ(results.at(2).at("relatedLocations"), json::parse(R"json([
+  EXPECT_EQ(results.at(2).at("relatedLocations"), test::parsedJson(R"json([
     {"physicalLocation": {"artifactLocation": {"uri": "p.cbl"},
                           "region": {"startLine": 9, "startColumn": 8}},
      "message": {"text": "copied here"}},
@@ -115,7 +115,7 @@ TEST(FindingsWriterTest, WritesResultsOfSarif) {
 TEST(FindingsWriterTest, ReplacesWhatIsNoText) {
   const toolkit::FileFinding broken = {"\xFF", {"odd", Severity::error, "\xC3", "", ""}};
   for (const char* const format : {"json", "sarif"}) {
-    EXPECT_FALSE(json::parse(written(format, {broken}), nullptr, false).is_discarded()) << format;
+    EXPECT_FALSE(test::parsedJson(written(format, {broken})).is_discarded()) << format;
   }
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "support/Documents.h"
+#include "support/Json.h"
 #include "support/Toolkit.h"
 
 namespace {
@@ -272,7 +273,7 @@ TEST_F(GenerateFindings, WhatHasNoTypeIsAnythingInJson) {
             {},
             literal});
   ASSERT_EQ(json.files.size(), 1U) << testing::PrintToString(textsOf(json.findings));
-  const auto schemas = nlohmann::json::parse(json.files.front().content)["$defs"];
+  const auto schemas = test::parsedJson(json.files.front().content)["$defs"];
   EXPECT_EQ(schemas["ask"]["properties"]["o"], nlohmann::json::object()) << schemas;
 }
 

@@ -3,11 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <nlohmann/json.hpp>
 #include <string>
 #include <utility>
 
 #include "support/Documents.h"
+#include "support/Json.h"
 #include "support/SmallStack.h"
 #include "support/Toolkit.h"
 
@@ -205,9 +205,9 @@ TEST_F(GenerateLimits, ExamplesOfWhatStandsInItselfEnd) {
   const toolkit::Generated made =
       toolkit::generateFrom(reader(), *toolkit::findGeneratorKind("openapi"), {"s.xml"});
   ASSERT_EQ(made.files.size(), 1U) << testing::PrintToString(textsOf(made.findings));
-  const nlohmann::json page = nlohmann::json::parse(made.files.front().content);
+  const nlohmann::json page = test::parsedJson(made.files.front().content);
   EXPECT_EQ(page["paths"]["/ask"]["post"]["requestBody"]["content"]["application/json"]["example"],
-            nlohmann::json::parse(R"({"p": [{"n": 1147483647}, {"n": 1147483647}, {"n": 1147483647},
+            test::parsedJson(R"({"p": [{"n": 1147483647}, {"n": 1147483647}, {"n": 1147483647},
                                             {"n": 1147483647}, {"n": 1147483647}]})"));
 }
 

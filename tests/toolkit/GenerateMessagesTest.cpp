@@ -3,11 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
 #include "support/GeneratedWeb.h"
+#include "support/Json.h"
 
 namespace {
 
@@ -67,7 +67,7 @@ TEST_F(GenerateMessages, OpenApiTellsServerVersionAndProperties) {
   const Service service = {operation("op", ""), "", "name='Tests'",
                            "<property name='team' value='claims'/>"};
   const json told = openApi(service, {{"server", "https://host/base"}, {"version", "2.1-beta"}});
-  EXPECT_EQ(told["servers"], json::parse(R"([{"url": "https://host/base"}])"));
+  EXPECT_EQ(told["servers"], test::parsedJson(R"([{"url": "https://host/base"}])"));
   EXPECT_EQ(told["info"]["version"], "2.1-beta");
   EXPECT_EQ(told["info"]["description"], "Program PAYROLL\nteam: claims");
   const json untold = openApi(service);
@@ -123,7 +123,7 @@ TEST_F(GenerateMessages, OneFaultOfOpenApiIsTheAnswerAndSeveralAreAnyOfThem) {
   EXPECT_EQ(content["application/json"]["example"]["why"], "ABCDEFGH");
   const json two = openApi({operation("op", "", fault + fault), ""});
   EXPECT_EQ(two["paths"]["/op"]["post"]["responses"]["500"]["content"]["application/json"],
-            json::parse(R"({"schema": {"anyOf": [{"$ref": "#/components/schemas/opFault"},
+            test::parsedJson(R"({"schema": {"anyOf": [{"$ref": "#/components/schemas/opFault"},
                                                  {"$ref": "#/components/schemas/opFault2"}]}})"));
   EXPECT_TRUE(two["components"]["schemas"].contains("opFault2"));
   EXPECT_FALSE(
@@ -155,7 +155,7 @@ TEST_F(GenerateMessages, ExamplesEndWhereTypesStandInThemselves) {
                parameter("name='Node'", "<mappings/>" + field("name='next' ref='Node'", "") +
                                             field("name='v'" + in))});
   EXPECT_EQ(made["paths"]["/op"]["post"]["requestBody"]["content"]["application/json"]["example"],
-            json::parse(R"({"p": {"v": "ABCDEFGH"}})"));
+            test::parsedJson(R"({"p": {"v": "ABCDEFGH"}})"));
 }
 
 TEST_F(GenerateMessages, ValuesOfConditionsAreOfTheFieldsType) {
@@ -167,8 +167,8 @@ TEST_F(GenerateMessages, ValuesOfConditionsAreOfTheFieldsType) {
     return made["components"]["schemas"]["op"]["properties"];
   };
   const json told = propertiesOf(openApi(service, {{"conditions", "enumerations"}}));
-  EXPECT_EQ(told["number"]["enum"], json::parse("[1, 2]"));
-  EXPECT_EQ(told["text"]["enum"], json::parse(R"(["1", "2"])"));
+  EXPECT_EQ(told["number"]["enum"], test::parsedJson("[1, 2]"));
+  EXPECT_EQ(told["text"]["enum"], test::parsedJson(R"(["1", "2"])"));
   EXPECT_EQ(told["text"]["pattern"], "^[0-9]{1,1}$");
   EXPECT_FALSE(propertiesOf(openApi(service))["number"].contains("enum"));
 }
@@ -177,10 +177,10 @@ TEST_F(GenerateMessages, ValuesOfConditionsAreOfTheFieldsType) {
 TEST_F(GenerateMessages, WhatHasNoTypeMayBeAnything) {
   const Service service = {operation("op", parameter("name='p' byType='in' dataType='Array'", ""))};
   const toolkit::Generated made = this->made("openapi", service);
-  const json told = json::parse(allOf(made));
+  const json told = test::parsedJson(allOf(made));
   EXPECT_EQ(told["components"]["schemas"]["op"]["properties"]["p"], json::object());
   EXPECT_EQ(told["paths"]["/op"]["post"]["requestBody"]["content"]["application/json"]["example"],
-            json::parse(R"({"p": ""})"));
+            test::parsedJson(R"({"p": ""})"));
   EXPECT_THAT(textsOf(made.findings),
               Contains("op.p: there is no type for 'Array': it may hold anything; give it fields, "
                        "or a data type of a value"));
@@ -240,7 +240,7 @@ TEST_F(GenerateMessages, MessagesOfOneOperationAreNumbered) {
     EXPECT_THAT(wsdl, HasSubstr(std::string("<wsdl:message name=\"") + name + "\">"));
   }
   EXPECT_THAT(wsdl, HasSubstr("<wsdl:fault name=\"opFault2\" message=\"tns:opFault2\"/>"));
-  const json schema = json::parse(text("jsonschema", service));
+  const json schema = test::parsedJson(text("jsonschema", service));
   for (const char* const name : {"opHeader", "opHeader2", "opFault", "opFault2"}) {
     EXPECT_TRUE(schema["$defs"].contains(name)) << name;
   }

@@ -3,12 +3,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
 #include "support/Documents.h"
 #include "support/Generated.h"
+#include "support/Json.h"
 
 namespace {
 
@@ -24,7 +24,7 @@ class GenerateRecords : public test::GenerateTest {
  protected:
   // The JSON Schema of a dictionary with those top-level items.
   json schema(const std::string& items, const toolkit::GenerateOptions& options = {}) const {
-    return json::parse(textOf(made("jsonschema", items, options)), nullptr, false);
+    return test::parsedJson(textOf(made("jsonschema", items, options)));
   }
   toolkit::Generated made(const char* kind, const std::string& items,
                           const toolkit::GenerateOptions& options = {}) const {
@@ -66,7 +66,7 @@ TEST_F(GenerateRecords, RecordsOfFilesAreRecords) {
                          "</dataItems>"));
   const toolkit::Generated made =
       toolkit::generateFrom(reader(), *toolkit::findGeneratorKind("jsonschema"), {"p.xml"});
-  EXPECT_THAT(keysOf(json::parse(textOf(made))["$defs"]), ElementsAre("R", "S"));
+  EXPECT_THAT(keysOf(test::parsedJson(textOf(made))["$defs"]), ElementsAre("R", "S"));
 }
 
 TEST_F(GenerateRecords, AWantedRecordIsWhatTheSchemaIsAbout) {
@@ -179,7 +179,7 @@ TEST_P(GenerateRecordItems, HaveTheLimitsThatTheirDictionaryTells) {
   item.insert(item.find_first_of(" /"), " name='I' offset='0'");
   json made = schema(group("name='R'", item))["$defs"]["R"]["properties"]["I"];
   made.erase("description");
-  EXPECT_EQ(made, json::parse(GetParam().schema));
+  EXPECT_EQ(made, test::parsedJson(GetParam().schema));
 }
 
 INSTANTIATE_TEST_SUITE_P(Items, GenerateRecordItems, testing::ValuesIn(items));

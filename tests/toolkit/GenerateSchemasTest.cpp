@@ -3,12 +3,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <nlohmann/json.hpp>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "support/GeneratedWeb.h"
+#include "support/Json.h"
 
 namespace {
 
@@ -217,9 +217,9 @@ TEST_F(GenerateSchemas, WhatIsMappedToItemsThatThereAreNotHasNoLimits) {
                         "name='Tests'",
                         "",
                         {"lost-data-item"}};
-  const json schema = json::parse(text("jsonschema", lost));
+  const json schema = test::parsedJson(text("jsonschema", lost));
   EXPECT_EQ(schema["$defs"]["op"]["properties"]["p"],
-            json::parse(R"({"type": "string", "description": "R.NONE"})"));
+            test::parsedJson(R"({"type": "string", "description": "R.NONE"})"));
 }
 
 TEST_F(GenerateSchemas, WithoutADictionaryThereAreTypesAlone) {
@@ -229,8 +229,8 @@ TEST_F(GenerateSchemas, WithoutADictionaryThereAreTypesAlone) {
   std::filesystem::remove("p.xml");
   const toolkit::Generated alone =
       toolkit::generateFrom(reader(), *toolkit::findGeneratorKind("jsonschema"), {"s.xml"});
-  EXPECT_EQ(json::parse(allOf(alone))["$defs"]["op"]["properties"]["p"],
-            json::parse(R"({"type": "string", "description": "R.NAME"})"));
+  EXPECT_EQ(test::parsedJson(allOf(alone))["$defs"]["op"]["properties"]["p"],
+            test::parsedJson(R"({"type": "string", "description": "R.NAME"})"));
 }
 
 // How often a field of four occurs, by its mapping.
@@ -265,7 +265,7 @@ TEST_F(GenerateSchemas, TablesOccurAsOftenAsTheirItemsSay) {
   for (const Row& row : rows) {
     const Service service = {operation("op", parameter("name='p' occurs='4'" + in, row.content)),
                              "", "name='Tests'", "", row.withoutRules};
-    const json p = json::parse(text("jsonschema", service))["$defs"]["op"]["properties"]["p"];
+    const json p = test::parsedJson(text("jsonschema", service))["$defs"]["op"]["properties"]["p"];
     EXPECT_EQ(p["minItems"], row.least) << row.content;
     EXPECT_EQ(p["maxItems"], 4) << row.content;
     EXPECT_THAT(p["description"], HasSubstr(row.about)) << row.content;

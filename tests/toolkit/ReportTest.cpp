@@ -5,6 +5,7 @@
 #include <set>
 
 #include "support/Documents.h"
+#include "support/Json.h"
 #include "support/Toolkit.h"
 
 namespace {
@@ -48,8 +49,7 @@ class ReportTest : public test::ToolkitTest {
     const std::string end = ");\n";
     EXPECT_EQ(script.substr(0, start.size()), start);
     EXPECT_EQ(script.substr(script.size() - end.size()), end);
-    return nlohmann::json::parse(
-        script.substr(start.size(), script.size() - start.size() - end.size()));
+    return test::parsedJson(script.substr(start.size(), script.size() - start.size() - end.size()));
   }
 };
 
@@ -122,7 +122,7 @@ TEST_F(ReportTest, ItemsHaveTheirPlacesAndConditions) {
       EXPECT_EQ(item["o"], 2);
     }
     if (item["n"] == "LK-REQ-COMPANY") {
-      EXPECT_EQ(item["k"], nlohmann::json::parse(R"([["LK-OWN-COMPANY", ["MI", "MD"]]])"));
+      EXPECT_EQ(item["k"], test::parsedJson(R"([["LK-OWN-COMPANY", ["MI", "MD"]]])"));
       return;
     }
   }
@@ -234,7 +234,7 @@ TEST_F(ReportTest, FilesAreShownAndFound) {
   EXPECT_THAT(sections[0]["records"], IsEmpty());
   EXPECT_EQ(sections[1]["title"], "linkage section");
   EXPECT_THAT(dataOf(report, "names")["d1"],
-              Contains(nlohmann::json::parse(R"(["file", 0, "EMPTY", ""])")));
+              Contains(test::parsedJson(R"(["file", 0, "EMPTY", ""])")));
 }
 
 // The first page waits for the index: what it takes is told of documents, not of their names.
@@ -299,7 +299,7 @@ TEST_F(ReportTest, SourcesOfOldCodePagesAreRead) {
   write("d.xml",
         test::dictionary("<properties><property name='source' value='T.cbl'/></properties>"));
   EXPECT_EQ(dataOf(reportOf({"d.xml"}), "t1")["lines"],
-            nlohmann::json::parse(R"(["* M\u00fcnchen", "01 A."])"));
+            test::parsedJson(R"(["* M\u00fcnchen", "01 A."])"));
 }
 
 TEST_F(ReportTest, IsWrittenBelowAFolder) {

@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <string>
 
 #include "support/Documents.h"
+#include "support/Json.h"
 #include "support/Requests.h"
 #include "support/Toolkit.h"
 
@@ -171,14 +171,15 @@ TEST_F(ServiceRenderTest, JsonHoldsWhatTheAccessorsAnswer) {
   EXPECT_EQ(service.at("implementation"), 1);
   EXPECT_EQ(service.at("ddFilename"), "../d/PAY.xml");
   EXPECT_EQ(service.at("program"), nullptr);
-  EXPECT_EQ(service.at("properties"), json::parse(R"([{"name": "team", "value": "salaries"}])"));
+  EXPECT_EQ(service.at("properties"),
+            test::parsedJson(R"([{"name": "team", "value": "salaries"}])"));
   const json& pay = service.at("operations").at(0);
   EXPECT_EQ(pay.at("entryPoint"), nullptr);
   EXPECT_EQ(pay.at("entryPointText"), "PAY");
   EXPECT_EQ(pay.at("exitPoints"), 1);
   EXPECT_EQ(pay.at("transactionType"), 3);
   EXPECT_EQ(pay.at("transactionTypeText"), "requires");
-  EXPECT_EQ(pay.at("parameters").at(0), json::parse(R"json({
+  EXPECT_EQ(pay.at("parameters").at(0), test::parsedJson(R"json({
       "name": "id", "qualifiedName": "payid", "occurs": 0, "byType": 0, "byTypeText": "in",
       "referenceType": null, "referenceTypeText": "", "type": 2, "typeText": "int",
       "hasChildren": false, "children": [], "mappings": [
@@ -197,7 +198,7 @@ TEST_F(ServiceRenderTest, JsonWithTheProgramHoldsWhatIsFound) {
   EXPECT_EQ(pay.at("hiddenParameters").at(0).at("value"), "MR");
   const json& mapping = service.at("/parameterTypeDefs/0/children/0/mappings/0"_json_pointer);
   EXPECT_EQ(mapping.at("dataItem"), "REQ.LINE.AMOUNT");
-  EXPECT_EQ(mapping.at("dataItemSubscripts"), json::parse("[-1]"));
+  EXPECT_EQ(mapping.at("dataItemSubscripts"), test::parsedJson("[-1]"));
 }
 
 TEST_F(ServiceRenderTest, JsonDoesNotFollowReferences) {

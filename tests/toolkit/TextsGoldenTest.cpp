@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "support/Json.h"
 #include "support/Kept.h"
 #include "support/Toolkit.h"
 
