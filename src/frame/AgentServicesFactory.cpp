@@ -111,7 +111,7 @@ void CAgentServicesFactory::Serialize(IService* service, const char* file) {
     const std::string text = toText(service);
     // What became of the file is for the caller to find out: SerializeToString() is there for those
     // who want to know.
-    std::ofstream(file, std::ios::out | std::ios::trunc) << text;
+    std::ofstream(file) << text;
   });
 }
 

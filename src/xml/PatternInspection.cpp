@@ -37,7 +37,6 @@ class Inspection {
       ++at_;
       const Part next = sequence();
       result.mayBeEmpty = result.mayBeEmpty || next.mayBeEmpty;
-      result.isSingle = false;
       result.first.insert(next.first.begin(), next.first.end());
       result.last.insert(next.last.begin(), next.last.end());
     }
@@ -86,7 +85,6 @@ class Inspection {
       follow(part.last, part.first);
     }
     part.mayBeEmpty = part.mayBeEmpty || isOptional;
-    part.isSingle = false;
     return part;
   }
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "support/Kept.h"
 #include "support/Requests.h"
 #include "support/Tool.h"
 
@@ -131,6 +132,22 @@ TEST_F(ToolHelpTest, CompletionsAreScripts) {
   EXPECT_EQ(runProgram("/bin/bash", {"-n", "bash"}).err, "");
   EXPECT_THAT(run({"completion", "zsh"}).out, StartsWith("#compdef agentservices\n"));
   EXPECT_EQ(run({"completion", "fish"}).exitCode, 2);
+}
+
+// What is told of commands and options, each compared with what is kept: texts change on purpose
+// only.
+TEST_F(ToolHelpTest, PagesAndCompletionsAreAsTheyWere) {
+  ASSERT_EQ(run({"manual", "-o", "man"}).exitCode, 0);
+  std::vector<std::string> names = {"agentservices.1"};
+  for (const std::string& command : commands()) names.push_back("agentservices-" + command + ".1");
+  for (const std::string& name : names) {
+    const std::string page = test::contentOf(directory() / "man" / name);
+    // The first line has the version and its date.
+    test::expectKept("tool/" + name, page.substr(page.find('\n') + 1));
+  }
+  for (const char* const shell : {"bash", "zsh"}) {
+    test::expectKept(std::string("tool/completion.") + shell, run({"completion", shell}).out);
+  }
 }
 
 // As a shell would offer it, with what is typed so far.

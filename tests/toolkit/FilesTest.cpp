@@ -1,6 +1,8 @@
 // Tests of writing files so that nothing is lost, and of names of files in documents.
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <pthread.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -8,6 +10,7 @@
 #include <csignal>
 #include <filesystem>
 #include <string>
+#include <thread>
 
 #include "support/Documents.h"
 #include "support/Requests.h"
@@ -30,6 +33,33 @@ TEST_F(FilesTest, AFileHoldsWhatItIsGiven) {
   EXPECT_EQ(contentOf("new.txt"), content);
   toolkit::replaceFile("new.txt", "");
   EXPECT_EQ(contentOf("new.txt"), "");
+}
+
+// A signal ends a write that has begun: what is left goes behind it.
+TEST_F(FilesTest, APipeHoldsAllWhateverInterrupts) {
+  std::string content;
+  for (int i = 0; content.size() < (1U << 20U); ++i) content += std::to_string(i) + "\n";
+  ASSERT_EQ(::mkfifo("pipe", 0600), 0);
+  struct sigaction interrupting = {};
+  struct sigaction before = {};
+  interrupting.sa_handler = [](int) {};
+  ASSERT_EQ(::sigaction(SIGUSR1, &interrupting, &before), 0);
+  const pthread_t writer = ::pthread_self();
+  std::string read;
+  std::thread reader([&read, writer] {
+    const int pipe = ::open("pipe", O_RDONLY | O_CLOEXEC);
+    std::string part(5000, '\0');
+    for (ssize_t got = 1; got > 0;) {
+      got = ::read(pipe, part.data(), part.size());
+      if (got > 0) read.append(part, 0, static_cast<std::size_t>(got));
+      ::pthread_kill(writer, SIGUSR1);
+    }
+    ::close(pipe);
+  });
+  toolkit::replaceFile("pipe", content);
+  reader.join();
+  ::sigaction(SIGUSR1, &before, nullptr);
+  EXPECT_TRUE(read == content);
 }
 
 TEST_F(FilesTest, NothingElseIsLeftBeside) {

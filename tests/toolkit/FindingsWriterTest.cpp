@@ -56,8 +56,10 @@ TEST(FindingsWriterTest, WritesLines) {
 TEST(FindingsWriterTest, ColoursSeverities) {
   toolkit::FindingsOptions how = options();
   how.isColored = true;
-  EXPECT_EQ(written("text", {odd}, how),
-            "a b.xml:3:7: \x1B[1;33mwarning\x1B[0m: op.p: it is odd; look\n");
+  EXPECT_EQ(written("text", {odd, bare, {"c.cpy", copied.finding}}, how),
+            "a b.xml:3:7: \x1B[1;33mwarning\x1B[0m: op.p: it is odd; look\n"
+            "/ä:%\\u000A.xml: \x1B[1;31merror\x1B[0m: \\u001B\n"
+            "c.cpy:1:2: \x1B[1;36mnote\x1B[0m: so\n");
 }
 
 TEST(FindingsWriterTest, WritesAnObject) {

@@ -91,7 +91,8 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"csharp", "PAYSLIP-dotnet"}, Row{"csharp", "WHSLOTS-dotnet"},
         Row{"idl", "DEPINT01-com"}, Row{"idl", "MOTPREM-com"}, Row{"idl", "PAYSLIP-com"},
         Row{"idl", "WHSLOTS-com"}, Row{"markdown", "DEPINT01-ws"}, Row{"markdown", "MOTPREM-ws"},
-        Row{"markdown", "PAYSLIP-ws"}, Row{"markdown", "WHSLOTS-ws"}));
+        Row{"markdown", "PAYSLIP-ws"}, Row{"markdown", "WHSLOTS-ws"}, Row{"jsonschema", "DEPINT01"},
+        Row{"java", "MOTPREM"}, Row{"csharp", "WHSLOTS"}, Row{"markdown", "MOTPREM"}));
 
 INSTANTIATE_TEST_SUITE_P(Oddities, GenerateGolden,
                          testing::Values(Row{"wsdl", "ODDITIES-ws", oddities, true},

@@ -591,6 +591,14 @@ INSTANTIATE_TEST_SUITE_P(
                               "  T.cbl:5: 3 bytes as DISPLAY in dialect ibm\n"
                               "  T.cbl:5: a record: starts at offset 0\n"
                               "  T.cbl:5: offset 0\n"},
+                    ReasonRow{"01 R.\n05 A PIC 9(4) COMP SYNC.", "A",
+                              "R.A: bytes 0 to 1\n"
+                              "  T.cbl:6: PICTURE 9(4): 4 digits, unsigned\n"
+                              "  T.cbl:6: USAGE COMP\n"
+                              "  T.cbl:6: 2 bytes as COMP in dialect ibm\n"
+                              "  T.cbl:5: first in R, which starts at offset 0\n"
+                              "  T.cbl:6: SYNCHRONIZED: stands on a multiple of 2 without slack\n"
+                              "  T.cbl:6: offset 0\n"},
                     ReasonRow{"01 A INDEX.", "a",
                               "A: bytes 0 to 3\n"
                               "  T.cbl:5: USAGE INDEX\n"

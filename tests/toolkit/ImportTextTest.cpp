@@ -5,6 +5,7 @@
 
 #include "as/toolkit/Import.h"
 #include "support/Imports.h"
+#include "support/Kept.h"
 
 namespace {
 
@@ -45,6 +46,7 @@ INSTANTIATE_TEST_SUITE_P(
                   "COLOUR in the entry of B begins no clause that is known\nCOLOUR in the entry of "
                   "C begins no clause that is known"},
         ImportRow{"01 A USAGE FANCY.", "FANCY is no type that stands in front"},
+        ImportRow{"01 A PIC S9 COMP-6.", "A is COMP-6 and has a sign: taken for COMP-3"},
         ImportRow{"01 A PIC X PIC X.", "A: PICTURE stands there twice"},
         ImportRow{"01 A PIC 9 COMP DISPLAY.",
                   "A: USAGE stands there twice\nA has 2 bytes in dialect ibm and 1 byte in dialect "
@@ -245,5 +247,49 @@ INSTANTIATE_TEST_SUITE_P(
         ImportRow{"FUNCTION-ID. F.\nPROCEDURE DIVISION.\nEND FUNCTION F.",
                   "a function is passed over\nthe source holds no program: there is no dictionary "
                   "of it"}));
+
+// Each with all that is told of it, compared with what is kept.
+TEST(ImportTexts, OfOddSourcesAreAsTheyWere) {
+  const std::string entries[] = {"01 A PIC X. 01 B REDEFINES A REDEFINES A PIC X.",
+                                 "01 A PIC X ANY NUMBER.",
+                                 "01 A PIC X DYNAMIC LENGTH.",
+                                 "01 A GROUP-USAGE DISPLAY. 05 B PIC X.",
+                                 "01 A PIC. 01 B PIC X.",
+                                 "01 A PIC X. 88 VALUE 1.",
+                                 "01 R. 05 A PIC X OCCURS UNBOUNDED DEPENDING ON N. 05 N PIC 9.",
+                                 "01 R. 05 A PIC X OCCURS 1 TO 5 DEPENDING ON. 05 N PIC 9.",
+                                 "01 A. 05 N PIC 9. 01 B. 05 N PIC 9. 01 R. 05 T PIC X OCCURS 1 TO "
+                                 "5 DEPENDING ON N.",
+                                 "01 A LIKE. 01 B PIC X.",
+                                 "01 T TYPEDEF PIC X. 01 A TYPE T TYPE T.",
+                                 "01 A PIC X RENAMES B.",
+                                 "01 R. 05 A PIC X. 66 B RENAMES A THRU.",
+                                 "01 R. 05 A PIC X. 66 B RENAMES.",
+                                 "01 A PIC X VALUE X'00'. 88 B VALUE X'0001'.",
+                                 "01 A" + std::string(1100, 'B') + " PIC X."};
+  const std::string sections[] = {"FILE SECTION. FD. 01 A PIC X.",
+                                  "FILE SECTION. FD F\n01 A PIC X.",
+                                  "BASED-STORAGE SECTION. 01 A PIC X.",
+                                  "ODD SECTION. 01 A PIC X.",
+                                  "WORKING-STORAGE SECTION. COPY. 01 A PIC X.",
+                                  "WORKING-STORAGE SECTION.\n++INCLUDE\n01 A PIC X.",
+                                  "WORKING-STORAGE SECTION. REPLACE == == BY ==B==. 01 A PIC X.",
+                                  "WORKING-STORAGE SECTION. REPLACE BY. 01 A PIC X."};
+  std::string told;
+  const auto tell = [&told](const std::string& name, const std::string& source) {
+    told += (name.size() > 80 ? name.substr(0, 80) + "..." : name) + "\n" +
+            textsOf(importOf(source)) + "\n\n";
+  };
+  for (const std::string& text : entries) tell(text, test::programOf(text));
+  for (const std::string& text : sections) {
+    tell(text, "PROGRAM-ID. T. DATA DIVISION.\n" + text);
+  }
+  tell("05 A PIC X.", "05 A PIC X.");
+  tell("an item of a program around this one",
+       "PROGRAM-ID. T. DATA DIVISION. WORKING-STORAGE SECTION. 01 N PIC 9 GLOBAL. PROCEDURE "
+       "DIVISION. PROGRAM-ID. U. DATA DIVISION. WORKING-STORAGE SECTION. 01 R. 05 A PIC X OCCURS 1 "
+       "TO 3 DEPENDING ON N. END PROGRAM U. END PROGRAM T.");
+  test::expectKept("texts/import.txt", told);
+}
 
 }  // namespace

@@ -106,7 +106,7 @@ TEST_F(LintPlaceTest, EveryKindOfElementHasOne) {
 
 TEST_F(LintPlaceTest, ElementsFromEntitiesStandWhereTheDocumentRefersToThem) {
   const std::string start =
-      "<?xml version='1.0'?>\n<!DOCTYPE service [\n<!-- ]> <!ENTITY p ''> -->\n<?x ]>?>\n"
+      "<?xml version='1.0'?>\n<!DOCTYPE service [\n<!---> <!ENTITY p ''> ]> -->\n<?x ]>?>\n"
       "<!ELEMENT a EMPTY>\n<!ENTITY n \"name='n' dataType='int'\">\n"
       "<!ENTITY p \"<parameter name='p' dataType='int'/>&#60;!-- x -->\">\n"
       "<!ENTITY p ''>\n<!ENTITY two '&p; <parameter name=\"q\" dataType=\"int\"/>'>\n]>\n";

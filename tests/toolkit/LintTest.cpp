@@ -230,6 +230,10 @@ std::vector<Family> families() {
                 mapped("dataType='BigDecimal'", "item='REQ.LINE.AMOUNT(0)'"),
                 "error: pay.p: subscript 0 of 'REQ.LINE.AMOUNT' is outside of LINE, which occurs 3 "
                 "times; write a number from 1 to 3, or *"),
+           java("OutOfTheInnerRange", "subscript-range",
+                mapped("dataType='int'", "item='REQ.LINE.CELL(1,3)'"),
+                "error: pay.p: subscript 3 of 'REQ.LINE.CELL' is outside of CELL, which occurs 2 "
+                "times; write a number from 1 to 2, or *"),
            java("Unreadable", "unreadable-subscripts",
                 mapped("dataType='BigDecimal'", "item='REQ.LINE.AMOUNT(x)'"),
                 "error: pay.p: the subscripts of 'REQ.LINE.AMOUNT(x)' cannot be read; write "

@@ -34,6 +34,17 @@ TEST(WordLists, RulesOfLintAreAsTheyWere) {
   test::expectKept("words/rules.txt", out.str());
 }
 
+TEST(WordLists, RulesOfImportAreAsTheyWere) {
+  std::ostringstream out;
+  for (const toolkit::ImportRule& rule : toolkit::importRules()) {
+    out << rule.id << " (" << wordOf(rule.severity) << "): " << rule.summary << "\n";
+  }
+  for (const toolkit::Dialect& dialect : toolkit::dialects()) {
+    out << "dialect " << dialect.word << ": " << dialect.summary << "\n";
+  }
+  test::expectKept("words/import.txt", out.str());
+}
+
 TEST(WordLists, KindsOfOutputAreAsTheyWere) {
   std::ostringstream out;
   for (const toolkit::GeneratorKind& kind : toolkit::generatorKinds()) {

@@ -21,6 +21,7 @@ const ReadingRow rows[] = {
     {"TwiceOnALine", {"COPY B. COPY B. C", {{"B", "D"}}}, "D D C"},
     {"QuotedName", {"COPY \"b.cpy\". COPY 'c d'.", {{"b.cpy", "D"}, {"c d", "E"}}}, "D E"},
     {"NameWithAPath", {"COPY x/b.cpy. A", {{"x/b.cpy", "D"}}}, "D A"},
+    {"NameWithAForeignPath", {"COPY 'x\\b'. A", {{"x\\b", "D"}}}, "D A"},
     {"Library", {"COPY B OF L. COPY B IN \"M\".", {{"L/B", "D"}, {"M/B", "E"}}}, "D E"},
     {"Suppress", {"COPY B SUPPRESS. COPY B SUPPRESS PRINTING. A", {{"B", "D"}}}, "D D A"},
     {"WithoutAPeriod", {"COPY B\n05 C.", {{"B", "D."}}}, "D . 05 C .", "copy-period main:1:1"},

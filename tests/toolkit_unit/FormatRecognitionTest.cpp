@@ -58,6 +58,7 @@ const Row rows[] = {
     {"NumbersWithDollars", "000100$XFD A\n", fixed},
     {"NumbersWithContinuations", "000100-A.\n", fixed},
     {"NumbersWithPages", "000100/A.\n", fixed},
+    {"ShortStatementCountsAsMuchAsAContinuation", "END\n      -    B\n", unknown},
     {"MoreThanSixDigits", "12345678\n", unknown},
     {"LetterInColumn7AtTheEnd", "ABC   D\n", fixed},
     {"WordBehindALetter", "    A DATE-OF\n", unknown},
@@ -111,6 +112,8 @@ const Row rows[] = {
      star + "       A '" + std::string(60, ' ').replace(0, 20, 20, '\xA4').append("' ") + "\n",
      fixed},
     {"RemarkFarBehindASentence", star + "       A." + std::string(75, ' ') + "B\n", fixed},
+    {"RemarkFarBehindASentenceUpToTheMargin", star + code(71) + "." + std::string(10, ' ') + "B\n",
+     fixed},
     {"BarBehindTheMargin", star + "       A. | it's " + std::string(80, 'x') + "'\n", fixed},
     {"UmlautsAreOneColumn", "\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4\xC3\xA4* A\n", fixed},
 };

@@ -65,9 +65,10 @@ TEST(PatternInspection, LetsThroughWhatLeavesNoChoice) {
 
 TEST(PatternInspection, RefusesWhatLeavesAChoice) {
   for (const char* pattern :
-       {"a|a",     "ab|ac",   "a?a",     "a*a",     "a*a*b",   "(a|b)?b",  ".*a",       "[a-c]*b",
-        "\\d*5",   "\\w+a",   "a{1,3}a", "(a|aa)b", "a?a?a?b", "[^a]*b",   "\\p{L}a|b", "[^\\w]*x",
-        "[\\d]*7", "\\n*\\s", "\\r?\\s", "\\t|\\s", "\\S*x",   "\\P{L}*1", "\\1*1"}) {
+       {"a|a",     "ab|ac",   "a?a",     "a*a",       "a*a*b",    "(a|b)?b", ".*a",
+        "[a-c]*b", "(a||b)a", "(|a|b)a", "(a|b|)a",   "\\d*5",    "\\w+a",   "a{1,3}a",
+        "(a|aa)b", "a?a?a?b", "[^a]*b",  "\\p{L}a|b", "[^\\w]*x", "[\\d]*7", "\\n*\\s",
+        "\\r?\\s", "\\t|\\s", "\\S*x",   "\\P{L}*1",  "\\1*1"}) {
     EXPECT_FALSE(leavesNoChoice(pattern)) << pattern;
   }
 }

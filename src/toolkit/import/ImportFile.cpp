@@ -29,10 +29,6 @@ namespace fs = std::filesystem;
 }
 
 std::string contentOf(const std::string& file) {
-  std::error_code failure;
-  if (fs::is_directory(file, failure)) {
-    refuse(file, std::make_error_code(std::errc::is_a_directory));
-  }
   const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
   if (descriptor < 0) refuse(file, {errno, std::generic_category()});
   std::string content;
