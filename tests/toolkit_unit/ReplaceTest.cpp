@@ -33,6 +33,7 @@ const ReadingRow copyRows[] = {
     copying("Trailing", "TRAILING ==-A== BY ==-C==", "B-A A-B -A", "B-C A-B - C"),
     copying("TrailingByNothing", "TRAILING ==-A== BY ====", "B-A X", "B X"),
     copying("WhatIsLeftStartsNoLine", "TRAILING ==-X== BY ====", "A TITLE-X B", "A TITLE B"),
+    copying("WhatReplacesStartsNoLine", "==A== BY ==TITLE==", "B A C", "B TITLE C"),
     copying("LeadingTag", "LEADING ==:T:-== BY ==W-==", ":T:-A", "W-A"),
     copying("Literals", "\"A\" BY \"C\"", "\"A\" 'A' \"a\" A X\"A\"", "\"C\" \"C\" \"a\" A X\"A\""),
     copying("LiteralsAreNotLookedInto", "==A== BY ==C==", "\"A\"", "\"A\""),
