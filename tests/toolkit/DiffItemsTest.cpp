@@ -58,6 +58,12 @@ const Row rows[] = {
      "item-added  -> R.W:  -> group of 4 bytes\n"
      "item-renamed R.A.B.O -> R.W.A.B.N: O -> N !\n"
      "item-removed R.A.C -> : group of 1 byte ->  +3 !\n"},
+    {"01 R. 05 A. 10 B. 15 O PIC X(3). 10 C. 15 D PIC X. 10 E PIC X.",
+     "01 R. 05 W. 10 A. 15 B. 20 N PIC X(3). 15 E PIC X. 10 X PIC X. 10 Y PIC X. 10 Z PIC X.",
+     "item-regrouped R.A -> R.W.A: R.A -> R.W.A !\n"
+     "item-added  -> R.W:  -> group of 7 bytes\n"
+     "item-renamed R.A.B.O -> R.W.A.B.N: O -> N !\n"
+     "item-removed R.A.C -> : group of 1 byte ->  +3 !\n"},
     // Between groups.
     {"01 R. 05 G. 10 A PIC X. 10 B PIC X(2). 05 H. 10 C PIC X.",
      "01 R. 05 G. 10 B PIC X(2). 05 H. 10 A PIC X. 10 C PIC X.",
