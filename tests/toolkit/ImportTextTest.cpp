@@ -254,6 +254,8 @@ TEST(ImportTexts, OfOddSourcesAreAsTheyWere) {
                                  "01 A PIC X ANY NUMBER.",
                                  "01 A PIC X DYNAMIC LENGTH.",
                                  "01 A GROUP-USAGE DISPLAY. 05 B PIC X.",
+                                 "01 A PIC 9(4) COMP SYNC EXTERNAL.",
+                                 "01 A PIC 9 BLANK WHEN ZERO.",
                                  "01 A BYTE-LENGTH 4 PIC X.",
                                  "01 A IDENTIFIED BY 'F' PIC X.",
                                  "01 A GROUP-USAGE NATIONAL EXTERNAL. 05 B PIC N.",

@@ -57,9 +57,7 @@ bool Replacer::matches(const Replacement& replacement) {
 
 void Replacer::put(TextWord word) {
   word.space = word.space || owesSpace_;
-  word.lineStart = word.lineStart || owesLineStart_;
   owesSpace_ = false;
-  owesLineStart_ = false;
   output_.push_back(word);
 }
 
@@ -70,14 +68,12 @@ void Replacer::replace(const Replacement& replacement) {
   output_.clear();
   given_ = 0;
   owesSpace_ = owesSpace_ || first.space;
-  owesLineStart_ = owesLineStart_ || first.lineStart;
   const auto putPart = [&](const TextWord& word, std::string_view text) {
     if (text.empty() || word.kind != TextWord::Kind::run) return;
     TextWord part = word;
     part.text = text;
     part.simple = isSimple(text);
     part.space = false;
-    part.lineStart = false;
     put(part);
   };
   if (replacement.part == Replacement::Part::trailing) {
@@ -87,7 +83,6 @@ void Replacer::replace(const Replacement& replacement) {
   for (std::size_t i = 0; i < replacement.by.size(); i++) {
     TextWord word = replacement.by[i];
     word.place = first.place;
-    word.lineStart = false;
     word.areaA = false;
     if (i == 0) word.space = false;
     bytes += word.text.size() + 1;

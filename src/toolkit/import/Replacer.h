@@ -44,7 +44,6 @@ class Replacer : public TextWordSource {
   std::size_t comparisons_ = 0;
   // Of replaced words without anything in their place.
   bool owesSpace_ = false;
-  bool owesLineStart_ = false;
 };
 
 }  // namespace as::toolkit

@@ -23,7 +23,7 @@ struct TextWord {
   SourcePlace place;
   Kind kind = Kind::end;
   bool space = false;      // Something separates it from the word before.
-  bool lineStart = false;  // The first of its line.
+  bool lineStart = false;  // The first of its line; of no account once it is replaced.
   bool simple = false;     // Of a run: only letters, digits, "-" and the like.
   bool areaA = false;      // The first of its line, and in columns 8 to 11 of a line that has some.
 
